@@ -1,0 +1,57 @@
+# What every target of the project has in common, and the three shapes a folder can take:
+# a library, a program, and a program of tests.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(telvix_options INTERFACE)
+target_compile_definitions(telvix_options INTERFACE
+  UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
+target_include_directories(telvix_options INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
+if(MSVC)
+  target_compile_options(telvix_options INTERFACE /W4 /WX /utf-8 /permissive-)
+else()
+  target_compile_options(telvix_options INTERFACE
+    $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Werror>)
+  target_link_options(telvix_options INTERFACE -static)
+  if(TELVIX_CHECKED)
+    target_compile_definitions(telvix_options INTERFACE _GLIBCXX_ASSERTIONS)
+    target_compile_options(telvix_options INTERFACE
+      $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined -fsanitize-undefined-trap-on-error -fstack-protector-strong -O1>)
+  else()
+    target_compile_options(telvix_options INTERFACE
+      $<$<COMPILE_LANGUAGE:CXX>:-Os -ffunction-sections -fdata-sections>)
+    target_link_options(telvix_options INTERFACE -Wl,--gc-sections -s)
+  endif()
+endif()
+target_link_libraries(telvix_options INTERFACE
+  ole32 oleaut32 uuid comctl32 comdlg32 gdi32 user32 advapi32)
+
+# telvix_library(NAME lib...): a static library of the folder's sources; the libraries it builds on follow.
+function(telvix_library name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC ${ARGN} telvix_options)
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${ARGN} telvix_options)
+  endif()
+endfunction()
+
+# telvix_program(NAME lib...): a program of the folder's sources (those named *.cpp and *.rc).
+function(telvix_program name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.rc)
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE ${ARGN} telvix_options)
+endfunction()
+
+# telvix_tests(NAME lib...): a program of tests over GoogleTest, run under the emulator by ctest.
+function(telvix_tests name)
+  telvix_program(${name} ${ARGN} test_support)
+  add_test(NAME ${name} COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}>)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 120)
+endfunction()

@@ -1,0 +1,146 @@
+#include "automation/Dates.h"
+
+#include "automation/Error.h"
+
+#include <cmath>
+
+#include <oleauto.h>
+
+namespace automation
+{
+
+namespace
+{
+
+std::wstring Padded(int number, size_t digits)
+{
+    std::wstring text = std::to_wstring(number);
+    return text.size() < digits ? std::wstring(digits - text.size(), L'0') + text : text;
+}
+
+// Seconds since the zero date, as one number that runs on evenly also before it (where a DATE's fraction
+// counts away from zero).
+double SecondsOf(Date date)
+{
+    const double day = std::trunc(date.days);
+    return std::round((day + std::abs(date.days - day)) * 86400.0);
+}
+
+Date DateOfSeconds(double seconds)
+{
+    const double day = std::floor(seconds / 86400.0);
+    const double fraction = (seconds - day * 86400.0) / 86400.0;
+    return {day < 0 ? day - fraction : day + fraction};
+}
+
+} // namespace
+
+Moment MomentOf(Date date)
+{
+    SYSTEMTIME time{};
+    if (VariantTimeToSystemTime(date.days, &time) == 0)
+    {
+        throw Error(DISP_E_OVERFLOW, L"date");
+    }
+    return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond};
+}
+
+Date DateOf(const Moment& moment)
+{
+    SYSTEMTIME time{};
+    time.wYear = static_cast<WORD>(moment.year);
+    time.wMonth = static_cast<WORD>(moment.month);
+    time.wDay = static_cast<WORD>(moment.day);
+    time.wHour = static_cast<WORD>(moment.hour);
+    time.wMinute = static_cast<WORD>(moment.minute);
+    time.wSecond = static_cast<WORD>(moment.second);
+    Date date;
+    if (SystemTimeToVariantTime(&time, &date.days) == 0)
+    {
+        throw Error(DISP_E_OVERFLOW, L"date");
+    }
+    return date;
+}
+
+std::wstring Formatted(Date date, std::wstring_view pattern)
+{
+    const Moment moment = MomentOf(date);
+    std::wstring result;
+    bool afterHour = false;
+    while (!pattern.empty())
+    {
+        size_t length = 2;
+        if (pattern.starts_with(L"yyyy"))
+        {
+            result += Padded(moment.year, length = 4);
+        }
+        else if (pattern.starts_with(L"mm"))
+        {
+            result += Padded(afterHour ? moment.minute : moment.month, 2);
+        }
+        else if (pattern.starts_with(L"dd"))
+        {
+            result += Padded(moment.day, 2);
+        }
+        else if (pattern.starts_with(L"hh"))
+        {
+            result += Padded(moment.hour, 2);
+            afterHour = true;
+        }
+        else if (pattern.starts_with(L"ss"))
+        {
+            result += Padded(moment.second, 2);
+        }
+        else
+        {
+            result += pattern.front();
+            length = 1;
+        }
+        pattern.remove_prefix(length);
+    }
+    return result;
+}
+
+Date DayOf(Date date)
+{
+    const Moment moment = MomentOf(date);
+    return DateOf(Moment{moment.year, moment.month, moment.day});
+}
+
+Date MinuteOfDay(Date date)
+{
+    const Moment moment = MomentOf(date);
+    return {(moment.hour * 60 + moment.minute) / 1440.0};
+}
+
+Date ToTheMinute(Date date)
+{
+    Moment moment = MomentOf(date);
+    moment.second = 0;
+    return DateOf(moment);
+}
+
+Date PlusMinutes(Date date, long minutes)
+{
+    return DateOfSeconds(SecondsOf(date) + 60.0 * static_cast<double>(minutes));
+}
+
+Date PlusTime(Date date, Date timeOfDay)
+{
+    return DateOfSeconds(SecondsOf(date) + SecondsOf(timeOfDay));
+}
+
+int WeekdayOf(Date date)
+{
+    // The zero date was a Saturday.
+    const double day = std::floor(SecondsOf(date) / 86400.0) + 6;
+    return static_cast<int>(day - 7 * std::floor(day / 7)) + 1;
+}
+
+Value WithoutNoDate(Date date)
+{
+    const double day = std::trunc(date.days);
+    return day == kOutlookNoDate.days || day == kZeroDate.days ? Value::Null() : Value(date);
+}
+
+} // namespace automation

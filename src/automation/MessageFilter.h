@@ -1,0 +1,30 @@
+// For the duration of a scope, calls that a busy server rejects ("call rejected", "retry later") are tried
+// again for a bounded time instead of failing, as the COM documentation asks of clients of Office. Installed
+// per thread; the filter that was there before is put back.
+#pragma once
+
+#include <windows.h>
+
+#include <objidl.h>
+#include <wrl/client.h>
+
+namespace automation
+{
+
+class MessageFilterScope
+{
+  public:
+    // How long one call is retried, in milliseconds.
+    static constexpr DWORD kPatience = 30000;
+
+    MessageFilterScope();
+    MessageFilterScope(const MessageFilterScope&) = delete;
+    MessageFilterScope& operator=(const MessageFilterScope&) = delete;
+    ~MessageFilterScope();
+
+  private:
+    Microsoft::WRL::ComPtr<IMessageFilter> mFilter;
+    Microsoft::WRL::ComPtr<IMessageFilter> mPrevious;
+};
+
+} // namespace automation

@@ -1,0 +1,170 @@
+#include "automation/Object.h"
+
+#include "automation/Error.h"
+
+#include <array>
+#include <vector>
+
+#include <dispex.h>
+#include <objbase.h>
+#include <oleauto.h>
+#include <wrl/client.h>
+
+namespace automation
+{
+
+namespace
+{
+
+using Microsoft::WRL::ComPtr;
+
+// The texts of an EXCEPINFO, freed when the call is over.
+struct ExceptionInfo : EXCEPINFO
+{
+    ExceptionInfo() : EXCEPINFO{} {}
+    ExceptionInfo(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+    ~ExceptionInfo()
+    {
+        SysFreeString(bstrSource);
+        SysFreeString(bstrDescription);
+        SysFreeString(bstrHelpFile);
+    }
+
+    Error AsError(HRESULT result, const wchar_t* member)
+    {
+        if (result != DISP_E_EXCEPTION)
+        {
+            return {result, member};
+        }
+        if (pfnDeferredFillIn != nullptr)
+        {
+            pfnDeferredFillIn(this);
+        }
+        const HRESULT code = FAILED(scode) ? scode : DISP_E_EXCEPTION;
+        return {code, member, std::wstring(bstrDescription, SysStringLen(bstrDescription))};
+    }
+};
+
+// Objects of script classes know their members only through IDispatchEx.
+HRESULT IdThroughDispatchEx(IDispatch& dispatch, const wchar_t* member, DISPID& id)
+{
+    ComPtr<IDispatchEx> extended;
+    if (FAILED(dispatch.QueryInterface(__uuidof(IDispatchEx), &extended)))
+    {
+        return E_NOTIMPL;
+    }
+    BSTR name = SysAllocString(member);
+    const HRESULT result = extended->GetDispID(name, fdexNameCaseInsensitive, &id);
+    SysFreeString(name);
+    return result;
+}
+
+} // namespace
+
+struct Object::Target
+{
+    explicit Target(IDispatch* given) : dispatch(given) {}
+
+    DISPID IdOf(const wchar_t* member)
+    {
+        for (const auto& [name, id] : ids)
+        {
+            if (name == member)
+            {
+                return id;
+            }
+        }
+        DISPID id = DISPID_UNKNOWN;
+        LPOLESTR name = const_cast<LPOLESTR>(member);
+        HRESULT result = dispatch->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_SYSTEM_DEFAULT, &id);
+        if (result == E_NOTIMPL)
+        {
+            result = IdThroughDispatchEx(*dispatch.Get(), member, id);
+        }
+        Check(result, member);
+        ids.emplace_back(member, id);
+        return id;
+    }
+
+    ComPtr<IDispatch> dispatch;
+    std::vector<std::pair<std::wstring, DISPID>> ids;
+};
+
+Object::Object(IDispatch* dispatch)
+    : mTarget(dispatch != nullptr ? std::make_shared<Target>(dispatch) : nullptr)
+{
+}
+
+Object Object::Create(const wchar_t* progId)
+{
+    CLSID classId;
+    Check(CLSIDFromProgID(progId, &classId), progId);
+    ComPtr<IDispatch> dispatch;
+    Check(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, __uuidof(IDispatch),
+                           &dispatch),
+          progId);
+    return Object(dispatch.Get());
+}
+
+IDispatch* Object::Dispatch() const noexcept
+{
+    return mTarget ? mTarget->dispatch.Get() : nullptr;
+}
+
+void Object::Put(const wchar_t* member, const Value& value) const
+{
+    Argument argument(value);
+    Invoke(member, DISPATCH_PROPERTYPUT, &argument, 1);
+}
+
+void Object::PutRef(const wchar_t* member, const Object& object) const
+{
+    Argument argument{Value(object)};
+    Invoke(member, DISPATCH_PROPERTYPUTREF, &argument, 1);
+}
+
+Value Object::Invoke(const wchar_t* member, WORD flags, Argument* arguments, size_t count) const
+{
+    if (mTarget == nullptr)
+    {
+        throw Error(E_POINTER, member, L"Object variable not set");
+    }
+    const std::shared_ptr<Target> target =
+        mTarget; // the call may replace the variable that holds this object
+    std::array<VARIANT, 16> reversed;
+    if (count > reversed.size())
+    {
+        throw Error(DISP_E_BADPARAMCOUNT, member);
+    }
+    for (size_t i = 0; i < count; ++i)
+    {
+        reversed[count - 1 - i] = arguments[i].Passed();
+    }
+    DISPID putId = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(count), 0};
+    const bool isWrite = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+    if (isWrite)
+    {
+        parameters.rgdispidNamedArgs = &putId;
+        parameters.cNamedArgs = 1;
+    }
+    const DISPID id = target->IdOf(member);
+    Value result;
+    ExceptionInfo exception;
+    UINT wrongArgument = 0;
+    const HRESULT code =
+        target->dispatch->Invoke(id, IID_NULL, LOCALE_SYSTEM_DEFAULT, flags, &parameters,
+                                 isWrite ? nullptr : result.Receive(), &exception, &wrongArgument);
+    if (FAILED(code))
+    {
+        throw exception.AsError(code, member);
+    }
+    for (size_t i = 0; i < count; ++i)
+    {
+        arguments[i].WriteBack();
+    }
+    return result;
+}
+
+} // namespace automation

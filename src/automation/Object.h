@@ -1,0 +1,53 @@
+// A counted reference to an automation object that is reached by member name (late binding). Copies share
+// the reference and what is known of its members: each member's DISPID is asked for once per object, which
+// saves a cross-process round trip on every later use. Used on the thread (apartment) that obtained it.
+#pragma once
+
+#include "automation/Value.h"
+
+#include <memory>
+
+namespace automation
+{
+
+class Argument;
+
+class Object
+{
+  public:
+    Object() noexcept = default; // nothing
+    // Takes a further reference on dispatch (which may be null: nothing).
+    explicit Object(IDispatch* dispatch);
+
+    // A new object of the class with this programmatic identifier, in process or out of it. Throws Error.
+    static Object Create(const wchar_t* progId);
+
+    explicit operator bool() const noexcept { return mTarget != nullptr; }
+    // The interface held, without a further reference; null for nothing.
+    IDispatch* Dispatch() const noexcept;
+
+    // The member's value or the method's result; arguments in the order in which the object's documentation
+    // lists them. Each throws Error when the call fails or the object is nothing.
+    template<typename... Arguments>
+    Value Get(const wchar_t* member, Arguments&&... arguments) const;
+    template<typename... Arguments>
+    Value Call(const wchar_t* member, Arguments&&... arguments) const;
+    // The same where the result is an object.
+    template<typename... Arguments>
+    Object GetObject(const wchar_t* member, Arguments&&... arguments) const;
+
+    void Put(const wchar_t* member, const Value& value) const;
+    // Sets a member that holds a reference to an object ("Set x.member = object").
+    void PutRef(const wchar_t* member, const Object& object) const;
+
+  private:
+    struct Target;
+
+    Value Invoke(const wchar_t* member, WORD flags, Argument* arguments, size_t count) const;
+
+    std::shared_ptr<Target> mTarget;
+};
+
+} // namespace automation
+
+#include "automation/ObjectCalls.h"

@@ -1,0 +1,33 @@
+// "Procedures trap their own errors": the one way in which a routine of the component turns a trapped error
+// into its failure value, and the diagnostic sink that hears of it.
+#pragma once
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace state
+{
+
+// The diagnostic sink. It discards its text in every build; it exists so that a developer can break here.
+void WriteLog(std::wstring_view text) noexcept;
+
+// Passes "Error" in the interface language to WriteLog.
+void LogError() noexcept;
+
+// Runs the body and returns its result; on any exception tells WriteLog and returns failure.
+template<typename Result, typename Body>
+Result Trapped(Result failure, Body&& body)
+{
+    try
+    {
+        return body();
+    }
+    catch (const std::exception&)
+    {
+        LogError();
+        return failure;
+    }
+}
+
+} // namespace state
