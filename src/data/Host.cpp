@@ -1,0 +1,121 @@
+#include "data/Host.h"
+
+#include "state/Failures.h"
+#include "state/SharedState.h"
+
+namespace data
+{
+
+using automation::ByRef;
+using automation::LongOf;
+using automation::Object;
+using automation::Recordset;
+using automation::TextOf;
+using automation::Value;
+
+Host::Host() : mDtc(state::Shared().gDTC) {}
+
+long Host::OpenRecordset(Recordset& recordset, const std::wstring& source, const std::wstring& filter) const
+{
+    Object filled = recordset.AsObject();
+    const Value status = filter.empty()
+                             ? mDtc.Call(L"OpenRecordset", ByRef(filled), source)
+                             : mDtc.Call(L"OpenRecordset", ByRef(filled), source, Value::Missing(), filter);
+    recordset = Recordset(filled);
+    return LongOf(status);
+}
+
+long Host::OpenRecordsetByString(Recordset& recordset, const std::wstring& sql) const
+{
+    Object filled = recordset.AsObject();
+    const Value status = mDtc.Call(L"OpenRecordsetByString", ByRef(filled), sql);
+    recordset = Recordset(filled);
+    return LongOf(status);
+}
+
+long Host::Insert(const std::wstring& table, std::wstring fields, std::wstring values,
+                  std::wstring text) const
+{
+    return LongOf(mDtc.Call(L"Insert", table, ByRef(fields), ByRef(values), ByRef(text)));
+}
+
+long Host::Update(const std::wstring& table, std::wstring setList, const std::wstring& condition) const
+{
+    return LongOf(mDtc.Call(L"Update", table, ByRef(setList), L"", condition));
+}
+
+long Host::Delete(const std::wstring& table, const std::wstring& condition) const
+{
+    return LongOf(mDtc.Call(L"Delete", table, condition));
+}
+
+std::wstring Host::NewGuid() const
+{
+    return TextOf(mDtc.Call(L"NewGuid"));
+}
+
+std::wstring Host::UserId() const
+{
+    return TextOf(mDtc.GetObject(L"MyInfo").Get(L"UID"));
+}
+
+long Host::PermissionOn(long module, long function, long right) const
+{
+    return LongOf(
+        mDtc.GetObject(L"MyInfo").Call(L"PermissionOn", ByRef(module), ByRef(function), ByRef(right)));
+}
+
+automation::Date Host::SysDateTime() const
+{
+    return automation::DateOf(mDtc.Get(L"SysDateTime"));
+}
+
+void Host::BeginTrans() const
+{
+    mDtc.Call(L"BeginTrans");
+}
+
+bool Host::InTransaction() const
+{
+    return automation::TruthOf(mDtc.Get(L"InTransaction"));
+}
+
+void Host::CommitTrans() const
+{
+    mDtc.Call(L"CommitTrans");
+}
+
+void Host::RollbackTrans() const
+{
+    mDtc.Call(L"RollbackTrans");
+}
+
+Transaction::Transaction(const Host& host) : mHost(host)
+{
+    mHost.BeginTrans();
+}
+
+Transaction::~Transaction()
+{
+    if (mPending)
+    {
+        state::Trapped(false, [&] {
+            if (mHost.InTransaction())
+            {
+                mHost.RollbackTrans();
+            }
+            return true;
+        });
+    }
+}
+
+void Transaction::Commit()
+{
+    if (mHost.InTransaction())
+    {
+        mHost.CommitTrans();
+    }
+    mPending = false;
+}
+
+} // namespace data

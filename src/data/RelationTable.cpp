@@ -1,0 +1,35 @@
+#include "data/RelationTable.h"
+
+#include "state/SharedState.h"
+
+namespace data
+{
+
+using automation::Recordset;
+using automation::TextOf;
+
+void RelationTable::Use(std::wstring statement, const automation::OpenOptions& options)
+{
+    mStatement = std::move(statement);
+    mOptions = options;
+    mRows.reset();
+}
+
+const std::vector<RelationRow>& RelationTable::Rows()
+{
+    if (!mRows)
+    {
+        Recordset relations = automation::OpenRecordset(mStatement, state::Shared().gCnnString, mOptions);
+        const automation::ClosesRecordset closes(relations);
+        std::vector<RelationRow> rows;
+        for (; !relations.AtEnd(); relations.MoveNext())
+        {
+            rows.push_back(
+                {TextOf(relations.ValueOf(L"EnglishName")), TextOf(relations.ValueOf(L"OutlookName"))});
+        }
+        mRows = std::move(rows);
+    }
+    return *mRows;
+}
+
+} // namespace data

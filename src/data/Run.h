@@ -1,0 +1,26 @@
+// Everything that belongs to one run of one category: it lives exactly as long as the run and is passed, not
+// global. The relation rows and the field catalogue are read on first use in an apply pass and kept until the
+// pass ends, since nothing that a pass writes can change them.
+#pragma once
+
+#include "automation/Recordset.h"
+#include "data/ChangeRecords.h"
+#include "data/FieldCatalogue.h"
+#include "data/RelationTable.h"
+#include "data/RunDisplay.h"
+
+namespace data
+{
+
+struct Run
+{
+    RunDisplay& Display;
+    automation::Recordset HostRows; // the category's host rows, opened by the run driver
+    automation::Object Folder;      // the chosen Outlook folder
+    automation::Object Items;       // its items, fetched once
+    Changes Pending;
+    RelationTable Relations;  // of the apply pass
+    FieldCatalogue Catalogue; // of the apply pass
+};
+
+} // namespace data
