@@ -33,7 +33,7 @@ const wchar_t* Choose(const wchar_t* chinese, const wchar_t* english);
 // The module (DLL or program) that these resources are linked into.
 HINSTANCE Module();
 
-// Fixes the language of the calling thread, or frees it again; for the tests, which need both in one process.
+// Fixes the language of the whole process, or frees it again; for tests and tools that need both languages.
 void OverrideLanguage(std::optional<Language> language);
 
 } // namespace resources
