@@ -21,6 +21,7 @@ else()
     target_compile_definitions(telvix_options INTERFACE _GLIBCXX_ASSERTIONS)
     target_compile_options(telvix_options INTERFACE
       $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined -fsanitize-undefined-trap-on-error -fstack-protector-strong -O1>)
+    target_link_options(telvix_options INTERFACE -fstack-protector-strong) # which brings its library
   else()
     target_compile_options(telvix_options INTERFACE
       $<$<COMPILE_LANGUAGE:CXX>:-Os -ffunction-sections -fdata-sections>)
