@@ -1,9 +1,9 @@
 #include "state/SharedState.h"
 
-#include <algorithm>
 #include <memory>
 #include <mutex>
 #include <new>
+#include <utility>
 #include <vector>
 
 namespace state
@@ -51,22 +51,25 @@ class Registry
         std::erase_if(mStates, [state](const auto& one) { return one.get() == state; });
     }
 
-    void FreeAll()
-    {
-        const std::lock_guard lock(mMutex);
-        mStates.clear();
-    }
-
   private:
     DWORD mSlot;
     std::mutex mMutex;
     std::vector<std::unique_ptr<SharedState>> mStates;
 };
 
+// Made on first use and never destroyed by the run-time library: at the end of the process the modules behind
+// the references may be gone already. The module's own unloading deletes it.
+std::mutex gRegistryMutex;
+Registry* gRegistry = nullptr;
+
 Registry& TheRegistry()
 {
-    static Registry registry;
-    return registry;
+    const std::lock_guard lock(gRegistryMutex);
+    if (gRegistry == nullptr)
+    {
+        gRegistry = new Registry;
+    }
+    return *gRegistry;
 }
 
 } // namespace
@@ -78,12 +81,15 @@ SharedState& Shared()
 
 void FreeStateOfThread() noexcept
 {
-    TheRegistry().FreeThread();
+    if (gRegistry != nullptr)
+    {
+        gRegistry->FreeThread();
+    }
 }
 
 void FreeStateOfAllThreads() noexcept
 {
-    TheRegistry().FreeAll();
+    delete std::exchange(gRegistry, nullptr);
 }
 
 } // namespace state

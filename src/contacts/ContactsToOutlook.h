@@ -1,0 +1,18 @@
+// Host contacts into Outlook's contacts folder. Which host column goes to which property comes from the field
+// relation table; how each property is written is fixed here.
+#pragma once
+
+#include "data/Run.h"
+
+namespace contacts
+{
+
+// The apply pass of a contact run towards Outlook: true when an error ended it.
+bool SynContactToOutlook(data::Run& run);
+
+// Writes the host contact on which the run's recordset stands into the item and saves it; mode 1 for a new
+// item, 2 for an existing one, which makes no difference here. Throws automation::Error when Outlook refuses
+// a value or the relation rows cannot be read.
+void SynSynContactToOlContact(data::Run& run, long mode, const automation::Object& item);
+
+} // namespace contacts
