@@ -70,3 +70,32 @@
 #define IDS_CONFIRM_INSTRUCTION 1049
 #define IDS_CONFIRM_ADDITIONS 1090
 #define IDS_CONFIRM_MODIFICATIONS 1091
+
+// Dialogs. The OK and Cancel roles are IDOK and IDCANCEL, so that Enter and Escape reach them.
+#define IDD_SYNCHRONIZEITEM 2000 // FrmSynchronizeItem
+#define IDC_SYNC_OPTION 2001     // SstbOption
+#define IDC_SYNC_CATEGORY 2002   // lvCategory
+#define IDC_SYNC_FRAME 2003      // Frame1
+#define IDC_SYNC_STATE 2004      // lblState
+#define IDC_SYNC_PROGRESS 2005   // prgbarSyn
+#define IDC_SYNC_START 2006      // CmdSynchronize
+#define IDC_SYNC_CONFIGURE 2007  // CmdConfigure
+
+#define IDD_MESSAGE 2100               // FrmMessage
+#define IDC_MESSAGE_TITLE 2101         // LblTitle
+#define IDC_MESSAGE_PICTURE 2102       // Picture1
+#define IDC_MESSAGE_TO_OL_TITLE 2103   // LblSynToOlTitle
+#define IDC_MESSAGE_TO_OL_NEW 2104     // LblSynToOlNew
+#define IDC_MESSAGE_TO_OL_MODIFY 2105  // LblSynToOlModify
+#define IDC_MESSAGE_TO_SYN_TITLE 2106  // LblOlToSynTitle
+#define IDC_MESSAGE_TO_SYN_NEW 2107    // LblOlToSynNew
+#define IDC_MESSAGE_TO_SYN_MODIFY 2108 // LblOlToSynModify
+
+#define IDD_SHOWERR 2200             // FrmShowErr
+#define IDC_SHOWERR_PICTURE 2201     // the error icon
+#define IDC_SHOWERR_TITLE 2202       // Txt_Title
+#define IDC_SHOWERR_DESCRIPTION 2203 // Txt_ErrDescription
+
+#define IDD_SHOWINFOR 2300             // FrmShowInfor
+#define IDC_SHOWINFOR_PICTURE 2301     // the information icon
+#define IDC_SHOWINFOR_DESCRIPTION 2302 // Txt_ErrDescription

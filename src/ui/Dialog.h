@@ -1,0 +1,82 @@
+// The base of every dialog: one class per dialog, a template by number, messages as virtual functions. An
+// object is made, shown modally and thrown away; its window exists only while it is shown. An exception that
+// a handler lets through ends the dialog and comes out of the call that showed it.
+#pragma once
+
+#include "ui/ModalScope.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+
+#include <windows.h>
+
+namespace ui
+{
+
+class Busy;
+
+class Dialog
+{
+  public:
+    explicit Dialog(UINT templateId) noexcept : mTemplateId(templateId) {}
+    Dialog(const Dialog&) = delete;
+    Dialog& operator=(const Dialog&) = delete;
+    virtual ~Dialog() = default;
+
+    // Shows the dialog and returns when it has closed, with the result given to Unload. Without an owner, the
+    // thread's other windows take no input meanwhile. Throws std::logic_error when a dialog of the same
+    // template is on this thread's screen already: each exists once.
+    INT_PTR ShowModal();
+    INT_PTR ShowModalOver(const Dialog& owner);
+
+    // Closes the dialog.
+    void Unload(INT_PTR result = IDCANCEL);
+
+    // The dialog of this template that is on the calling thread's screen, or null.
+    static Dialog* Shown(UINT templateId);
+
+    HWND Handle() const noexcept { return mWindow; }
+    UINT TemplateId() const noexcept { return mTemplateId; }
+    void SetCaption(const std::wstring& text);
+
+    // Makes the dialog higher, or lower for a negative number of pixels.
+    void GrowBy(int pixels);
+
+    // During a run: paints what has changed, lets the user move the dialog. Free when called often.
+    void KeepPainted();
+
+  protected:
+    // The window and its controls exist, nothing is shown yet.
+    virtual void OnInit() {}
+    // A control's notification (BN_CLICKED, ...), or a command of the keyboard (IDOK, IDCANCEL).
+    virtual void OnCommand(int id, int notification);
+    // A common control's notification; the result goes back to the control.
+    virtual LRESULT OnNotify(const NMHDR& notification);
+    // The close button or the system menu.
+    virtual void OnClose() { Unload(); }
+    // The window goes.
+    virtual void OnUnload() {}
+    // The control that has the focus at first; 0 for the first one in tab order.
+    virtual int FirstFocus() const { return 0; }
+
+  private:
+    friend class Busy;
+
+    INT_PTR Run(HWND owner);
+    INT_PTR HandleGuarded(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR HandleInit();
+    INT_PTR HandleNotify(const NMHDR& notification);
+    INT_PTR HandleSetCursor(WORD hitTest) const;
+    void CenterOverActiveBefore();
+    static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    UINT mTemplateId;
+    HWND mWindow = nullptr;
+    std::optional<ModalScope> mModal;
+    Busy* mBusy = nullptr;
+    std::exception_ptr mFailure;
+};
+
+} // namespace ui

@@ -1,0 +1,40 @@
+// A list view in report style. Each row may carry a key, by which the program knows it whatever it reads.
+#pragma once
+
+#include "ui/Control.h"
+
+#include <optional>
+#include <vector>
+
+namespace ui
+{
+
+class ListView : public Control
+{
+  public:
+    using Control::Control;
+
+    // Selects whole rows. Call once, before the rows are added.
+    void Prepare();
+    // Adds a column; the last one added takes the width that is left when FillWidth is called.
+    void AddColumn(const std::wstring& header, int width);
+    void FillWidth();
+
+    // Adds a row at the end; its index, from 0.
+    int Add(const std::wstring& text, const std::wstring& key = {});
+    int Count() const;
+    std::wstring TextOf(int row, int column = 0) const;
+    const std::wstring& KeyOf(int row) const;
+
+    std::optional<int> Selected() const;
+    void Select(int row);
+
+    // The row that this notification says the user has chosen, by mouse or keyboard, if it says so.
+    std::optional<int> NewlySelected(const NMHDR& notification) const;
+
+  private:
+    std::vector<std::wstring> mKeys; // row by row
+    int mColumns = 0;
+};
+
+} // namespace ui

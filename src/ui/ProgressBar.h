@@ -1,0 +1,25 @@
+// A progress bar that is told fractions and is touched only when its picture changes.
+#pragma once
+
+#include "ui/Control.h"
+
+namespace ui
+{
+
+class ProgressBar : public Control
+{
+  public:
+    using Control::Control;
+
+    // From 0 to 1; whatever is not a number between counts as the nearer end. True when the picture changed.
+    bool SetFraction(double fraction);
+
+    // The position on a scale of this many steps.
+    static int StepOf(double fraction, int steps) noexcept;
+
+  private:
+    int mSteps = 0; // the bar's width in pixels
+    int mStep = 0;
+};
+
+} // namespace ui
