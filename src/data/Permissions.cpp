@@ -3,7 +3,7 @@
 #include "data/Host.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
-#include "ui/MessageBox.h"
+#include "ui/ShowMessageBox.h"
 
 #include <algorithm>
 #include <iterator>
@@ -37,9 +37,12 @@ struct FunctionRow
 };
 
 constexpr FunctionRow kFunctions[] = {
-    {kAccountRecord, 0, 2},  {kAccountRecord, 1, 2},  {kAccountRecord, 2, 3},  {kAccountRecord, 3, 4},
-    {kContactRecord, 0, 2},  {kContactRecord, 1, 2},  {kContactRecord, 2, 3},  {kContactRecord, 3, 4},
-    {kActivityRecord, 0, 5}, {kActivityRecord, 1, 5}, {kActivityRecord, 6, 6}, {kActivityRecord, 2, 7},
+    {kAccountRecord, 0, 2},  {kAccountRecord, 1, 2},
+    {kAccountRecord, 2, 3},  {kAccountRecord, 3, 4},
+    {kContactRecord, 0, 2},  {kContactRecord, 1, 2},
+    {kContactRecord, 2, 3},  {kContactRecord, 3, 4},
+    {kActivityRecord, 0, 5}, {kActivityRecord, 1, 5},
+    {kActivityRecord, 6, 6}, {kActivityRecord, 2, 7},
     {kActivityRecord, 3, 8}, {kAccountCalendarRecord, kAnyScope, 9},
 };
 
@@ -62,13 +65,16 @@ struct RefusalRow
 };
 
 constexpr RefusalRow kRefusals[] = {
-    {kContactRecord, kAddOperation, L"You are not permit to add contact record(s)!", L"你没有添加联系人的权限!"},
+    {kContactRecord, kAddOperation, L"You are not permit to add contact record(s)!",
+     L"你没有添加联系人的权限!"},
     {kContactRecord, kModifyOperation, L"You are not permit to modify contact record(s)!",
      L"你没有修改联系人的权限!"},
-    {kActivityRecord, kAddOperation, L"You are not permit to add activity record(s)!", L"你没有添加任务的权限!"},
+    {kActivityRecord, kAddOperation, L"You are not permit to add activity record(s)!",
+     L"你没有添加任务的权限!"},
     {kActivityRecord, kModifyOperation, L"You are not permit to modify activity record(s)!",
      L"你没有修改任务的权限!"},
-    {kAccountRecord, kAddOperation, L"You are not permit to add account record(s)!", L"你没有添加单位的权限!"},
+    {kAccountRecord, kAddOperation, L"You are not permit to add account record(s)!",
+     L"你没有添加单位的权限!"},
     {kAccountRecord, kModifyOperation, L"You are not permit to modify account record(s)!",
      L"你没有修改单位的权限!"},
     {kAccountCalendarRecord, kAddOperation, L"You are not permit to add account calendar record(s)!",
@@ -87,7 +93,8 @@ long CodeIn(const Table& table, Fits fits, long Row::*code)
 
 long ModuleOf(long kind)
 {
-    return CodeIn(kModules, [=](const ModuleRow& row) { return row.kind == kind; }, &ModuleRow::module);
+    return CodeIn(
+        kModules, [=](const ModuleRow& row) { return row.kind == kind; }, &ModuleRow::module);
 }
 
 long FunctionOf(long kind, long scope)
@@ -100,7 +107,8 @@ long FunctionOf(long kind, long scope)
 
 long RightOf(long operation)
 {
-    return CodeIn(kRights, [=](const RightRow& row) { return row.operation == operation; }, &RightRow::right);
+    return CodeIn(
+        kRights, [=](const RightRow& row) { return row.operation == operation; }, &RightRow::right);
 }
 
 const wchar_t* RefusalOf(long kind, long operation)
@@ -130,7 +138,7 @@ bool CheckPermission(long kind, long scope, long operation)
     const bool permitted = HasPermission(kind, scope, operation);
     if (!permitted)
     {
-        ui::ShowMessageBox(RefusalOf(kind, operation), ui::kApplicationTitle, MB_ICONEXCLAMATION);
+        ui::ShowMessageBox(RefusalOf(kind, operation), MB_ICONEXCLAMATION);
     }
     return permitted;
 }
