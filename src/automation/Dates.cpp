@@ -130,6 +130,11 @@ Date PlusTime(Date date, Date timeOfDay)
     return DateOfSeconds(SecondsOf(date) + SecondsOf(timeOfDay));
 }
 
+bool IsEarlier(Date left, Date right)
+{
+    return SecondsOf(left) < SecondsOf(right);
+}
+
 int WeekdayOf(Date date)
 {
     // The zero date was a Saturday.

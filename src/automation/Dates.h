@@ -44,6 +44,9 @@ Date ToTheMinute(Date date);
 Date PlusMinutes(Date date, long minutes);
 // A time of day added to a date; rounded to the second.
 Date PlusTime(Date date, Date timeOfDay);
+// Whether left lies before right; holds before the zero date too, where a DATE's fraction counts away from
+// zero and the plain numbers compare wrongly.
+bool IsEarlier(Date left, Date right);
 // 1 for Sunday to 7 for Saturday.
 int WeekdayOf(Date date);
 

@@ -12,10 +12,12 @@
 namespace data
 {
 
+// A row as the table holds it. The two are read as numbers where they are used, so that a row that holds
+// none fails its own column only.
 struct FieldDescription
 {
-    long FieldType = 0; // 1 to 8
-    long FieldSize = 0; // for texts, in single-byte characters
+    automation::Value FieldType; // 1 to 8
+    automation::Value FieldSize; // of a text, in single-byte characters
 };
 
 class FieldCatalogue
@@ -24,14 +26,16 @@ class FieldCatalogue
     // Forgets what was read, so that the next use reads again.
     void Forget() { mFields.reset(); }
 
-    // The column's description, by exact name; null where the catalogue has none. Throws automation::Error
-    // when the catalogue cannot be read.
+    // The column's description, by exact name (the first row of that name); null where the catalogue has
+    // none. Throws automation::Error when the catalogue cannot be read.
     const FieldDescription* Find(const std::wstring& column);
 
   private:
-    void Read();
+    using Fields = std::map<std::wstring, FieldDescription>;
 
-    std::optional<std::map<std::wstring, FieldDescription>> mFields;
+    static Fields Read();
+
+    std::optional<Fields> mFields;
 };
 
 } // namespace data

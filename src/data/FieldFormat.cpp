@@ -1,0 +1,149 @@
+#include "data/FieldFormat.h"
+
+#include "automation/Dates.h"
+#include "automation/Text.h"
+#include "state/Failures.h"
+#include "ui/ShowMessageBox.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace data
+{
+
+using automation::Date;
+using automation::LongOf;
+using automation::Moment;
+using automation::Value;
+
+namespace
+{
+
+// The range of the host's date columns. Its end is the 30th of December, as the host contract has it.
+constexpr Moment kFirstMoment{1753, 1, 1};
+constexpr Moment kLastDay{9999, 12, 30};
+constexpr Moment kLastMoment{9999, 12, 30, 23, 59};
+
+std::wstring Quoted(const std::wstring& text)
+{
+    return L"'" + text + L"'";
+}
+
+Date Clamped(Date date, const Moment& last)
+{
+    const Date first = automation::DateOf(kFirstMoment);
+    const Date end = automation::DateOf(last);
+    return automation::IsEarlier(date, first) ? first : automation::IsEarlier(end, date) ? end : date;
+}
+
+bool IsNumber(const Value& value)
+{
+    constexpr VARTYPE kNumbers[] = {VT_I1,  VT_I2,  VT_I4, VT_I8, VT_INT, VT_UI1,     VT_UI2,
+                                    VT_UI4, VT_UI8, VT_R4, VT_R8, VT_CY,  VT_DECIMAL, VT_UINT};
+    return std::find(std::begin(kNumbers), std::end(kNumbers), value.Type()) != std::end(kNumbers);
+}
+
+// A number stands for itself; anything else must be readable as one, so that no text reaches a statement
+// without quotes.
+Value NumberLiteral(const Value& value, const FieldDescription& /*field*/)
+{
+    return IsNumber(value) ? value : Value(automation::DoubleOf(value));
+}
+
+// The doubled text is cut, so the cut may fall between the two halves of an apostrophe. A lone half would
+// quote the closing quote: it goes as well.
+Value TextLiteral(const Value& value, const FieldDescription& field)
+{
+    const std::wstring doubled = automation::Replaced(automation::TextOf(value), L"'", L"''");
+    std::wstring cut = TruncateToFieldSize(doubled, LongOf(field.FieldSize));
+    const size_t lastOther = cut.find_last_not_of(L'\'');
+    const size_t quotesAtEnd = cut.size() - (lastOther == std::wstring::npos ? 0 : lastOther + 1);
+    if (quotesAtEnd % 2 != 0)
+    {
+        cut.pop_back();
+    }
+    return Quoted(cut);
+}
+
+Value FlagLiteral(const Value& value, const FieldDescription& /*field*/)
+{
+    return automation::TruthOf(value) ? L"1" : L"0";
+}
+
+Value DateLiteral(const Value& value, const FieldDescription& /*field*/)
+{
+    return Quoted(automation::Formatted(Clamped(automation::DateOf(value), kLastDay), L"mm/dd/yyyy"));
+}
+
+Value TimeLiteral(const Value& value, const FieldDescription& /*field*/)
+{
+    return Quoted(automation::Formatted(automation::DateOf(value), L"hh:mm:00"));
+}
+
+Value DateTimeLiteral(const Value& value, const FieldDescription& /*field*/)
+{
+    const Date date = Clamped(automation::DateOf(value), kLastMoment);
+    return Quoted(automation::Formatted(date, L"mm/dd/yyyy hh:mm:00"));
+}
+
+using Formatter = Value (*)(const Value& value, const FieldDescription& field);
+
+// By FieldType, from 1 on.
+constexpr Formatter kFormatters[] = {
+    NumberLiteral, TextLiteral,     FlagLiteral,   DateLiteral,
+    TimeLiteral,   DateTimeLiteral, NumberLiteral, TextLiteral,
+};
+
+long Format(const FieldDescription& field, const std::wstring& column, Value& value)
+{
+    const long type = LongOf(field.FieldType);
+    if (type < 1 || type > static_cast<long>(std::size(kFormatters)))
+    {
+        ui::ShowMessageBox(L"Don't format:" + column, MB_OK, L"FormatFieldlValue");
+        return 0;
+    }
+    value = kFormatters[type - 1](value, field);
+    return 0;
+}
+
+long ReportUnknownColumn(const std::wstring& column)
+{
+    ui::ShowMessageBox(L"Don't find " + column + L"field in table 'SynFields', can't format ", MB_ICONERROR,
+                       L"GetFieldType");
+    state::LogError();
+    return -1;
+}
+
+bool IsPair(wchar_t first, wchar_t second)
+{
+    return IS_HIGH_SURROGATE(first) && IS_LOW_SURROGATE(second);
+}
+
+} // namespace
+
+long FormatFieldlValue(FieldCatalogue& catalogue, const std::wstring& column, Value& value)
+{
+    return state::Trapped(-1L, [&] {
+        const FieldDescription* const field = catalogue.Find(column);
+        return field == nullptr ? ReportUnknownColumn(column) : Format(*field, column, value);
+    });
+}
+
+std::wstring TruncateToFieldSize(const std::wstring& text, long size)
+{
+    constexpr wchar_t kLastSingleByte = 0xFF;
+    size_t end = 0;
+    long used = 0;
+    while (end < text.size())
+    {
+        used += text[end] > kLastSingleByte ? 2 : 1;
+        if (used > size)
+        {
+            break;
+        }
+        end += end + 1 < text.size() && IsPair(text[end], text[end + 1]) ? 2 : 1;
+    }
+    return text.substr(0, end);
+}
+
+} // namespace data

@@ -1,0 +1,23 @@
+// Values as SQL literals: the form follows from the column's row in the field catalogue, never from the
+// value. Every coercion is OLE Automation's own in a fixed locale, so that no literal depends on regional
+// settings.
+#pragma once
+
+#include "data/FieldCatalogue.h"
+
+#include <string>
+
+namespace data
+{
+
+// Replaces a value (neither Empty nor Null) by its literal for the column; returns 0. Returns -1, with the
+// value as it was, for a column that the catalogue does not have (a message box says so), a catalogue that
+// cannot be read and a value that cannot be coerced. A column of an unknown type shows a message box and
+// leaves the value as it is.
+long FormatFieldlValue(FieldCatalogue& catalogue, const std::wstring& column, automation::Value& value);
+
+// The text cut to a size in single-byte characters: a character beyond U+00FF counts two, and none is split
+// (a surrogate pair is one character).
+std::wstring TruncateToFieldSize(const std::wstring& text, long size);
+
+} // namespace data
