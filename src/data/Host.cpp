@@ -1,5 +1,6 @@
 #include "data/Host.h"
 
+#include "automation/Error.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 
@@ -88,6 +89,14 @@ void Host::CommitTrans() const
 void Host::RollbackTrans() const
 {
     mDtc.Call(L"RollbackTrans");
+}
+
+void Demand(bool accepted, const wchar_t* member)
+{
+    if (!accepted)
+    {
+        throw automation::Error(E_FAIL, member, L"The host reported a failure");
+    }
 }
 
 Transaction::Transaction(const Host& host) : mHost(host)

@@ -51,6 +51,10 @@ class Host
     automation::Object mDtc;
 };
 
+// Turns a status that the contract calls a failure into an automation::Error (E_FAIL) naming the member, so
+// that a refused call and one that raises an error leave a routine by the same road.
+void Demand(bool accepted, const wchar_t* member);
+
 // One host transaction, begun with the object: Commit ends it well, any other way out of the scope rolls it
 // back. Neither is asked of the host when the host says that no transaction is pending.
 class Transaction

@@ -1,0 +1,12 @@
+// The information row that every account of the host has beside its own.
+#pragma once
+
+#include <string>
+
+namespace data
+{
+
+// Adds the row of the account with this key to TBLACCINFO; returns 0, or -1 when the host refuses.
+long AddAccountInfo(const std::wstring& accountKey);
+
+} // namespace data

@@ -1,0 +1,30 @@
+// One value of one host row, by a key. The statements go to the host as the contract words them: keys are not
+// escaped, so a key with an apostrophe makes a statement that the host refuses, which is a failed lookup.
+#pragma once
+
+#include "automation/Value.h"
+
+#include <string>
+
+namespace data
+{
+
+// The types that LookupTypedValue knows a key by.
+inline constexpr wchar_t kTextKey[] = L"String";
+inline constexpr wchar_t kDateKey[] = L"Date";
+inline constexpr wchar_t kFlagKey[] = L"Boolean";
+
+// Puts the result column of the first row whose key column equals the key into result, the empty text where
+// there is none; returns 0, or -1 with the result as it was.
+long LookupValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
+                 const std::wstring& resultColumn, automation::Value& result);
+
+// As LookupValue; the key stands between single quotes when its type is "String" or "Date", else without.
+long LookupTypedValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
+                      const std::wstring& keyType, const std::wstring& resultColumn,
+                      automation::Value& result);
+
+// What both do, for callers that report the error themselves: throws automation::Error where they return -1.
+automation::Value ValueInFirstRow(const std::wstring& statement, const std::wstring& column);
+
+} // namespace data
