@@ -3,16 +3,13 @@
 // and the writer of one item.
 #pragma once
 
+#include "data/RecordMode.h"
 #include "data/Run.h"
 
 #include <string>
 
 namespace data
 {
-
-// Modes of the writers, in both directions.
-inline constexpr long kNewRecord = 1;
-inline constexpr long kExistingRecord = 2;
 
 // Outlook's OlItemType, as far as used.
 inline constexpr long kAppointmentItem = 1;

@@ -39,4 +39,16 @@ class ShowsProgress
     RunDisplay& mDisplay;
 };
 
+// Calls act for the positions 1 to count; the progress bar advances with each of them, whatever act does.
+template<typename Act>
+void WalkWithProgress(RunDisplay& display, long count, Act&& act)
+{
+    display.SetProgress(0);
+    for (long position = 1; position <= count; ++position)
+    {
+        act(position);
+        display.SetProgress(static_cast<double>(position) / static_cast<double>(count));
+    }
+}
+
 } // namespace data
