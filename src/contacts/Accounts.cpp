@@ -1,0 +1,180 @@
+#include "contacts/Accounts.h"
+
+#include "automation/Text.h"
+#include "data/AccountInfo.h"
+#include "data/FieldFormat.h"
+#include "data/Permissions.h"
+#include "data/SqlFragments.h"
+#include "resources/Strings.h"
+
+#include <optional>
+
+namespace contacts
+{
+
+using automation::Object;
+using automation::TextOrEmpty;
+using automation::Value;
+using data::Host;
+using data::RowColumns;
+
+namespace
+{
+
+// F_ACCCURRIDX of a new account, by interface language.
+constexpr long kChineseCurrency = 1;
+constexpr long kOtherCurrency = 2;
+
+struct AddressColumn
+{
+    const wchar_t* column;
+    const wchar_t* property;
+};
+
+constexpr AddressColumn kAddressColumns[] = {
+    {L"F_ADDRCOUNTRY", L"BusinessAddressCountry"},   {L"F_ADDRPROVINCE", L"BusinessAddressState"},
+    {L"F_ADDRCITY", L"BusinessAddressCity"},         {L"F_ADDRDETAIL", L"BusinessAddressStreet"},
+    {L"F_POSTALCODE", L"BusinessAddressPostalCode"},
+};
+
+// A company's account as the host knows it; empty keys where it has none, or the user may not make one.
+struct Links
+{
+    std::wstring account;
+    std::wstring address;
+};
+
+std::wstring Quoted(const std::wstring& key)
+{
+    return L"'" + key + L"'";
+}
+
+bool MayChangeAccounts(long operation)
+{
+    return data::CheckPermission(data::kAccountRecord, data::kUsualScope, operation);
+}
+
+// The keys come first, before what the fragment builders have listed.
+void InsertRow(const Host& host, const wchar_t* table, const std::wstring& keyFields,
+               const std::wstring& keyValues, const RowColumns& row)
+{
+    data::Demand(host.Insert(table, keyFields + L"," + row.Fields, keyValues + L"," + row.Values) >= 0,
+                 L"Insert");
+}
+
+void AddAddressColumns(const Object& item, RowColumns& address)
+{
+    for (const AddressColumn& one : kAddressColumns)
+    {
+        address.Add(one.column, item.Get(one.property));
+    }
+    address.Add(L"F_ISPRIMARY", true);
+}
+
+// The key of the account's new primary address, empty where the user may not add it.
+std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+                           const std::wstring& account)
+{
+    if (!MayChangeAccounts(data::kAddOperation))
+    {
+        return {};
+    }
+    RowColumns address(catalogue, data::kNewRecord);
+    AddAddressColumns(item, address);
+    const std::wstring key = host.NewGuid();
+    InsertRow(host, L"TBLADDRESS", L"F_ADDRID,F_ACCID", Quoted(key) + L"," + Quoted(account), address);
+    return key;
+}
+
+// The key of the address, empty where the user may not change it.
+std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+                              const std::wstring& key)
+{
+    if (!MayChangeAccounts(data::kModifyOperation))
+    {
+        return {};
+    }
+    RowColumns address(catalogue, data::kExistingRecord);
+    AddAddressColumns(item, address);
+    data::Demand(host.Update(L"TBLADDRESS", address.SetList, L"F_ADDRID=" + Quoted(key)) == 0, L"Update");
+    return key;
+}
+
+// An account stands under its company's name as its column holds it: apostrophes doubled and, for a name
+// longer than the column, cut as it was when the account was made.
+std::wstring AccountFilter(data::FieldCatalogue& catalogue, const std::wstring& companyName)
+{
+    Value literal = companyName;
+    data::Demand(data::FormatFieldlValue(catalogue, L"F_ACCSNAME", literal) == 0, L"F_ACCSNAME");
+    return L"F_ACCSNAME=" + automation::TextOf(literal);
+}
+
+Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+                        const std::wstring& companyName)
+{
+    if (!MayChangeAccounts(data::kAddOperation))
+    {
+        return {}; // and without an account there is nothing that an address could belong to
+    }
+    const std::wstring account = CreateAccount(host, catalogue, companyName);
+    return {account, CreateAddress(host, catalogue, item, account)};
+}
+
+Links LinksOfFoundAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+                          const automation::Recordset& accounts)
+{
+    const std::wstring account = automation::TextOf(accounts.ValueOf(L"F_ACCID"));
+    const std::wstring address = TextOrEmpty(accounts.ValueOf(L"M_ADDR_ID"));
+    return {account, address.empty() ? CreateAddress(host, catalogue, item, account)
+                                     : OverwriteAddress(host, catalogue, item, address)};
+}
+
+Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+                     const std::wstring& companyName)
+{
+    automation::Recordset accounts;
+    const automation::ClosesRecordset closes(accounts);
+    data::Demand(host.OpenRecordset(accounts, L"AccountMyAccount", AccountFilter(catalogue, companyName)) >=
+                     0,
+                 L"OpenRecordset");
+    return accounts.AtEnd() ? LinksOfNewAccount(host, catalogue, item, companyName)
+                            : LinksOfFoundAccount(host, catalogue, item, accounts);
+}
+
+// A link that could not be made for want of a right must not cost an existing contact the one that it has.
+void AddLink(RowColumns& contact, const wchar_t* column, const std::wstring& key)
+{
+    if (contact.Mode() == data::kNewRecord || !key.empty())
+    {
+        contact.Add(column, key);
+    }
+}
+
+} // namespace
+
+std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName)
+{
+    RowColumns account(catalogue, data::kNewRecord);
+    account.Add(L"F_ACCSNAME", companyName);
+    account.Add(L"F_ACCCURRIDX", resources::IsChinese() ? kChineseCurrency : kOtherCurrency);
+    const std::wstring key = host.NewGuid();
+    InsertRow(host, L"TBLACCOUNT", L"F_ACCID", Quoted(key), account);
+    data::Demand(data::AddAccountInfo(key) == 0, L"AddAccountInfo");
+    return key;
+}
+
+void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact)
+{
+    const std::wstring companyName = TextOrEmpty(item.Get(L"CompanyName"));
+    if (companyName.empty())
+    {
+        contact.Add(L"F_ACCID", Value::Null());
+        contact.Add(L"F_CNTADDRID", Value::Null());
+        return;
+    }
+    const Links links = LinksOfCompany(host, contact.Catalogue(), item, companyName);
+    AddLink(contact, L"F_ACCID", links.account);
+    AddLink(contact, L"F_CNTADDRID", links.address);
+}
+
+} // namespace contacts

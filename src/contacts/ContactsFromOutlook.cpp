@@ -1,0 +1,98 @@
+#include "contacts/ContactsFromOutlook.h"
+
+#include "contacts/Accounts.h"
+#include "contacts/ContactFieldsFromOutlook.h"
+#include "data/ApplyFromOutlook.h"
+#include "data/Host.h"
+#include "state/Failures.h"
+#include "ui/ShowMessageBox.h"
+
+namespace contacts
+{
+
+using automation::Object;
+using automation::Value;
+using data::Host;
+using data::RowColumns;
+
+namespace
+{
+
+constexpr data::PassFromOutlook kContacts{
+    L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'",
+    {automation::kCursorKeyset, automation::kLockReadOnly, automation::kCommandText},
+    SynOlContactToSynContact};
+
+// False when the item lacks a name and is not to be written.
+bool AddMappedColumns(data::RelationTable& relations, const Object& item, RowColumns& contact)
+{
+    ContactItem properties(item);
+    for (const data::RelationRow& relation : relations.Rows())
+    {
+        const std::optional<Value> value = HostValueOf(properties, relation.OutlookName);
+        if (!value)
+        {
+            return false;
+        }
+        if (!IsNoColumn(*value))
+        {
+            contact.Add(relation.EnglishName, *value);
+        }
+    }
+    return true;
+}
+
+void Insert(const Host& host, const Object& item, RowColumns& contact)
+{
+    AddAccountLinks(host, item, contact);
+    const std::wstring keys = L"'" + host.NewGuid() + L"','" + host.UserId() + L"',";
+    data::Demand(
+        host.Insert(L"TBLCONTACT", L"F_CNTCTID,F_CREATORID," + contact.Fields, keys + contact.Values) >= 0,
+        L"Insert");
+}
+
+void Update(const Host& host, const automation::Recordset& rows, const Object& item, RowColumns& contact)
+{
+    AddAccountLinks(host, item, contact);
+    if (!contact.SetList.empty())
+    {
+        const std::wstring id = automation::TextOf(rows.ValueOf(L"F_CNTCTID"));
+        data::Demand(host.Update(L"TBLCONTACT", contact.SetList, L"F_CNTCTID='" + id + L"'") == 0, L"Update");
+    }
+}
+
+void Write(const Host& host, const data::Run& run, const Object& item, RowColumns& contact)
+{
+    switch (contact.Mode())
+    {
+    case data::kNewRecord: Insert(host, item, contact); break;
+    case data::kExistingRecord: Update(host, run.HostRows, item, contact); break;
+    default:
+        ui::ShowMessageBox(L"Error: Invalid Operation", MB_ICONERROR, L"SynOlContactToSynContact");
+        break;
+    }
+}
+
+} // namespace
+
+bool SynContactFromOutlook(data::Run& run)
+{
+    return data::ApplyFromOutlook(run, kContacts);
+}
+
+long SynOlContactToSynContact(data::Run& run, long mode, const Object& item)
+{
+    return state::Trapped(-1L, [&] {
+        RowColumns contact(run.Catalogue, mode);
+        if (AddMappedColumns(run.Relations, item, contact))
+        {
+            const Host host;
+            data::Transaction transaction(host);
+            Write(host, run, item, contact);
+            transaction.Commit();
+        }
+        return 0L;
+    });
+}
+
+} // namespace contacts
