@@ -1,0 +1,33 @@
+// The stored form of the advanced options of the three kinds: what the dialogs write, free of their windows.
+// The codes are the indexes of the option buttons.
+#pragma once
+
+#include "state/SynParameter.h"
+
+#include <string>
+
+namespace config
+{
+
+// The number of days that a day box stands for: its leading number, 0 where there is none.
+short DaysIn(const std::wstring& text);
+
+// The set clauses that OK writes.
+std::wstring ContactSetClause(long conflictCode);
+std::wstring TaskSetClause(long conflictCode, long rangeCode);
+// The days are written only with the range "within days"; the columns otherwise keep what they have.
+std::wstring CalendarSetClause(long conflictCode, long rangeCode, short prior, short after);
+
+// Whether OK of the task dialog has anything to write.
+bool TaskOptionsDiffer(const state::SynParameter& record, long conflictCode, long rangeCode);
+
+// What the two day boxes show when the range "within days" is chosen: crosswise, so that days which are not
+// retyped are exchanged by OK. The host's users rely on it.
+struct DayBoxes
+{
+    std::wstring prior;
+    std::wstring after;
+};
+DayBoxes DayBoxesOf(const state::SynParameter& record);
+
+} // namespace config

@@ -1,0 +1,79 @@
+#include "automation/Text.h"
+#include "config/ParameterStore.h"
+#include "config/UserRows.h"
+#include "data/Host.h"
+#include "state/Failures.h"
+
+namespace config
+{
+
+namespace
+{
+
+using automation::Recordset;
+using automation::Value;
+
+std::wstring Bare(const Value& value)
+{
+    return automation::IsEmptyOrNull(value) ? L"NULL" : automation::TextOf(value);
+}
+
+std::wstring Quoted(const Value& value)
+{
+    return L"'" + automation::Replaced(automation::TextOrEmpty(value), L"'", L"''") + L"'";
+}
+
+std::wstring Flag(const Value& value)
+{
+    return IsSet(value) ? L"1" : L"0";
+}
+
+struct CopiedColumn
+{
+    const wchar_t* name;
+    std::wstring (*literal)(const Value& value);
+};
+
+// What is copied from a template, in this order, after the owner.
+constexpr CopiedColumn kCopied[] = {
+    {L"TransObjectID", &Bare},       {L"TransObject", &Quoted},      {L"TransObjectPic", &Quoted},
+    {L"TransType", &Bare},           {L"TransTypePic", &Quoted},     {L"TransConflictOption", &Bare},
+    {L"TransSourceConfig", &Quoted}, {L"TransSource", &Quoted},      {L"CalendarTransItem", &Bare},
+    {L"CalendarPrior", &Bare},       {L"CalendarAfter", &Bare},      {L"TaskTransItem", &Bare},
+    {L"TransNameEnglish", &Quoted},  {L"TransNameChinese", &Quoted}, {L"IsTrans", &Flag},
+};
+
+void CopyTemplate(const data::Host& host, const Recordset& templates, const std::wstring& userId)
+{
+    std::wstring columns = L"F_UID";
+    std::wstring values = userId;
+    for (const CopiedColumn& column : kCopied)
+    {
+        columns += L"," + std::wstring(column.name);
+        values += L"," + column.literal(templates.ValueOf(column.name));
+    }
+    RequireAccepted(host.Insert(kParameterTable, columns, values), L"Insert");
+}
+
+} // namespace
+
+Recordset CreateDefaultParameters()
+{
+    const std::wstring sql = L"Select * From " + std::wstring(kParameterTable) + L" Where F_UID=";
+    Recordset templates;
+    const automation::ClosesRecordset closes(templates);
+    return state::Trapped(Recordset(), [&] {
+        const data::Host host;
+        const std::wstring userId = host.UserId();
+        RequireAccepted(host.OpenRecordsetByString(templates, sql + L"0"), L"OpenRecordsetByString");
+        for (; !templates.AtEnd(); templates.MoveNext())
+        {
+            CopyTemplate(host, templates, userId);
+        }
+        Recordset rows;
+        RequireAccepted(host.OpenRecordsetByString(rows, sql + userId), L"OpenRecordsetByString");
+        return rows;
+    });
+}
+
+} // namespace config

@@ -1,0 +1,20 @@
+// The list of Outlook's mail profiles, which Outlook keeps as sub-keys of a per-user registry key. Called by
+// the main dialog before a run and by the translator dialog before it opens the folder picker or the profile
+// dialog.
+#pragma once
+
+#include "config/SysReg.h"
+
+namespace config
+{
+
+// Opens the profile key that belongs to the running system; 0 or -2 as TSysReg.
+long OpenProfileKey(TSysReg& registry);
+
+// False when at least one Outlook profile exists. True otherwise; the user has then been told.
+bool CheckOutlookProfiles();
+
+// Tells the user about a failed registry call: the text, which ends in "code ", followed by the call's code.
+void ShowRegistryFailure(const wchar_t* text, const TSysReg& registry);
+
+} // namespace config
