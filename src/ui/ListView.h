@@ -16,8 +16,8 @@ class ListView : public Control
 
     // Selects whole rows. Call once, before the rows are added.
     void Prepare();
-    // Adds a column; the last one added takes the width that is left when FillWidth is called.
-    void AddColumn(const std::wstring& header, int width);
+    // Adds a column of a width in pixels; the last one takes what is left when FillWidth is called.
+    void AddColumn(const std::wstring& header, int width = 0);
     void FillWidth();
 
     // Adds a row at the end; its index, from 0.

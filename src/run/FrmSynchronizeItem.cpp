@@ -1,0 +1,216 @@
+#include "run/FrmSynchronizeItem.h"
+
+#include "resources/Strings.h"
+#include "run/SynchronizeTexts.h"
+#include "state/Failures.h"
+#include "state/SharedState.h"
+#include "ui/Busy.h"
+#include "ui/Control.h"
+#include "ui/Dialog.h"
+#include "ui/ListView.h"
+#include "ui/ProgressBar.h"
+#include "ui/ShowMessage.h"
+#include "ui/ShowMessageBox.h"
+#include "ui/TabFrame.h"
+
+#include <optional>
+
+namespace run
+{
+
+namespace
+{
+
+constexpr int kListMargin = 4; // dialog units between the tabbed frame and the list
+
+struct CategoryRow
+{
+    const wchar_t* key;
+    UINT textId;
+    std::function<bool(data::RunDisplay&)> SynchronizeServices::*run;
+};
+
+// In the order of the list, which is also the order in which a chosen text is compared.
+constexpr CategoryRow kCategories[] = {
+    {L"Task", IDS_CATEGORY_TASK, &SynchronizeServices::RunTaskSync},
+    {L"Calendar", IDS_CATEGORY_CALENDAR, &SynchronizeServices::RunCalendarSync},
+    {L"Contact", IDS_CATEGORY_CONTACT, &SynchronizeServices::RunContactSync},
+};
+
+class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
+{
+  public:
+    explicit FrmSynchronizeItem(const SynchronizeServices& services)
+        : Dialog(IDD_SYNCHRONIZEITEM), mServices(services)
+    {
+    }
+
+  private:
+    void OnInit() override
+    {
+        state::Trapped(true, [&] {
+            WriteCaptions();
+            FillCategories();
+            return false;
+        });
+    }
+
+    void WriteCaptions()
+    {
+        using resources::Choose;
+        SetCaption(Choose(L"同步", L"Synchronization"));
+        SstbOption.AddTab(Choose(L"同步项", L"Synchronization Item"));
+        CmdConfigure.SetText(Choose(L"配置(&F)", L"Con&figuare"));
+        CmdSynchronize.SetText(Choose(L"同步(&S)", L"&Synchronization"));
+        cmdCancel.SetText(Choose(L"关闭(&C)", L"&Close"));
+    }
+
+    void FillCategories()
+    {
+        SstbOption.Fill(lvCategory, kListMargin);
+        lvCategory.Prepare();
+        lvCategory.AddColumn(resources::String(IDS_CATEGORY));
+        for (const CategoryRow& row : kCategories)
+        {
+            lvCategory.Add(resources::String(row.textId), row.key);
+        }
+        lvCategory.FillWidth();
+    }
+
+    LRESULT OnNotify(const NMHDR& notification) override
+    {
+        if (const auto row = lvCategory.NewlySelected(notification))
+        {
+            OnCategoryClick(*row);
+        }
+        return 0;
+    }
+
+    void OnCategoryClick(int row)
+    {
+        mCurrentCategory = row;
+        SetCaption(CategoryCaption(CategoryText()));
+        CmdConfigure.Enable(true);
+        CmdSynchronize.Enable(true);
+    }
+
+    void OnCommand(int id, int notification) override
+    {
+        switch (id)
+        {
+        case IDC_SYNC_CONFIGURE: mServices.ShowConfigure(); break;
+        case IDC_SYNC_START: OnSynchronize(); break;
+        default: Dialog::OnCommand(id, notification);
+        }
+    }
+
+    void OnSynchronize()
+    {
+        const bool failed = state::Trapped(true, [&] {
+            Synchronize();
+            return false;
+        });
+        if (failed)
+        {
+            SetStatus(OutcomeText(true));
+        }
+    }
+
+    void Synchronize()
+    {
+        if (mServices.CheckOutlookProfiles())
+        {
+            state::LogError();
+            SetStatus(resources::String(IDS_RUN_NO_PROFILE));
+        }
+        else if (!mCurrentCategory)
+        {
+            ui::ShowMessageBox(kNoCategoryChosen, MB_ICONINFORMATION);
+        }
+        else if (!LoadParameters().IsTrans)
+        {
+            ui::ShowMessage(resources::String(IDS_MESSAGE), 0, NotEnabledText());
+        }
+        else
+        {
+            const ui::Busy busy(*this);
+            SetStatus(OutcomeText(RunChosenCategory()));
+        }
+    }
+
+    const state::SynParameter& LoadParameters()
+    {
+        state::SynParameter& parameter = state::Shared().gSynParameter;
+        mServices.SetSynParamenter(parameter, lvCategory.KeyOf(*mCurrentCategory));
+        return parameter;
+    }
+
+    // By the row's text as it reads in the language of this moment, not by its key. True for failure.
+    bool RunChosenCategory()
+    {
+        const std::wstring text = CategoryText();
+        for (const CategoryRow& row : kCategories)
+        {
+            if (text == resources::String(row.textId))
+            {
+                return (mServices.*row.run)(*this);
+            }
+        }
+        ui::ShowMessageBox(kNothingToSynchronize, MB_ICONINFORMATION);
+        return false;
+    }
+
+    void OnUnload() override
+    {
+        state::SharedState& shared = state::Shared();
+        shared.gDTC = {};
+        shared.gOlNamespace = {};
+        shared.gOlApplication = {};
+    }
+
+    // What a run shows.
+    void SetStatus(const std::wstring& text) override
+    {
+        lblState.SetText(text);
+        lblState.Repaint();
+        KeepPainted();
+    }
+
+    void ShowProgress(bool visible) override
+    {
+        prgbarSyn.Show(visible);
+        KeepPainted();
+    }
+
+    void SetProgress(double fraction) override
+    {
+        if (prgbarSyn.SetFraction(fraction))
+        {
+            prgbarSyn.Repaint();
+        }
+        KeepPainted();
+    }
+
+    std::wstring CategoryText() const override { return lvCategory.TextOf(*mCurrentCategory); }
+
+    ui::TabFrame SstbOption{*this, IDC_SYNC_OPTION};
+    ui::ListView lvCategory{*this, IDC_SYNC_CATEGORY};
+    ui::Frame Frame1{*this, IDC_SYNC_FRAME};
+    ui::Label lblState{*this, IDC_SYNC_STATE};
+    ui::ProgressBar prgbarSyn{*this, IDC_SYNC_PROGRESS};
+    ui::Button CmdSynchronize{*this, IDC_SYNC_START};
+    ui::Button CmdConfigure{*this, IDC_SYNC_CONFIGURE};
+    ui::Button cmdCancel{*this, IDCANCEL};
+
+    const SynchronizeServices& mServices;
+    std::optional<int> mCurrentCategory; // the row last clicked
+};
+
+} // namespace
+
+void ShowSynchronizeItem(const SynchronizeServices& services)
+{
+    FrmSynchronizeItem(services).ShowModal();
+}
+
+} // namespace run

@@ -1,0 +1,36 @@
+// The main dialog, which SynLoad shows: the three kinds of data, one of which the user chooses, configures
+// and exchanges. It stays open from run to run and tells the outcome of the last one in its status line.
+#pragma once
+
+#include "data/RunDisplay.h"
+#include "state/SynParameter.h"
+
+#include <functional>
+#include <string>
+
+namespace run
+{
+
+// What the dialog asks of the rest of the component.
+struct SynchronizeServices
+{
+    // True when there is no Outlook profile; the user has been told.
+    std::function<bool()> CheckOutlookProfiles;
+    // Loads the parameters of a kind ("Task", "Calendar" or "Contact").
+    std::function<void(state::SynParameter& parameter, const std::wstring& objectName)> SetSynParamenter;
+    std::function<void()> ShowConfigure;
+    // One exchange each; true when it failed.
+    std::function<bool(data::RunDisplay& display)> RunTaskSync;
+    std::function<bool(data::RunDisplay& display)> RunCalendarSync;
+    std::function<bool(data::RunDisplay& display)> RunContactSync;
+};
+
+// The component's own.
+SynchronizeServices RealServices();
+
+// Shows the dialog without an owner and returns when the user has closed it; the host's and Outlook's objects
+// are released by then. Throws when it cannot be shown.
+void ShowSynchronizeItem(const SynchronizeServices& services);
+void ShowSynchronizeItem();
+
+} // namespace run
