@@ -1,0 +1,45 @@
+// For tests of dialogs: the test's own thread shows them, a robot uses them.
+#pragma once
+
+#include "sandbox/robot/Robot.h"
+
+#include <functional>
+#include <string>
+
+namespace test_support
+{
+
+using sandbox::Robot;
+using sandbox::ShownDialog;
+
+// Runs action on this thread while the script uses the dialogs that it shows; throws what the script threw.
+void Drive(Robot::Script script, const std::function<void()>& action);
+
+// Saves a picture of the dialog as NAME.png in the directory that the environment variable TELVIX_PICTURES
+// names; without the variable it does nothing.
+void Photograph(const ShownDialog& dialog, const std::string& name);
+
+// What every dialog owes its user, in the language and font that it is shown in: each visible text fits its
+// control, each control lies inside the dialog, no two visible controls share an accelerator. Failures are
+// reported as test failures.
+void ExpectReadable(const ShownDialog& dialog);
+
+// Runs functions on the thread that made it, whatever modal loop that thread is in.
+class MainThread
+{
+  public:
+    MainThread();
+    MainThread(const MainThread&) = delete;
+    MainThread& operator=(const MainThread&) = delete;
+    ~MainThread();
+
+    // Returns when the function has; for the script of a robot.
+    void Invoke(const std::function<void()>& function) const;
+    // Returns at once.
+    void Post(std::function<void()> function) const;
+
+  private:
+    HWND mWindow;
+};
+
+} // namespace test_support
