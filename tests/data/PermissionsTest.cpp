@@ -1,0 +1,164 @@
+#include "data/Permissions.h"
+
+#include "tests/data/RightsHost.h"
+#include "tests/support/MessageBoxes.h"
+#include "tests/support/WithLanguage.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using data::CheckPermission;
+using data::HasPermission;
+using test_support::MessagesDuring;
+using test_support::RightsAsked;
+using test_support::ShownMessage;
+
+class Permissions : public testing::Test
+{
+  protected:
+    Permissions() { state::Shared().gDTC = automation::Object(mHost.Get()); }
+    ~Permissions() override { state::Shared().gDTC = {}; }
+
+    test_support::RightsHost& Host() { return *mHost.Get(); }
+
+    // The codes that the host is asked for.
+    RightsAsked Codes(long kind, long scope, long operation)
+    {
+        Host().Asked.clear();
+        HasPermission(kind, scope, operation);
+        return Host().Asked.empty() ? RightsAsked{-1, -1, -1} : Host().Asked.front();
+    }
+
+    // The text of the one message that a refused check shows.
+    std::wstring Refusal(long kind, long operation)
+    {
+        Host().Answer = 1;
+        const auto shown = MessagesDuring([=] { EXPECT_FALSE(CheckPermission(kind, 1, operation)); });
+        EXPECT_EQ(shown.size(), 1u);
+        return shown.empty() ? L"(no message)" : shown.front().text;
+    }
+
+  private:
+    Microsoft::WRL::ComPtr<test_support::RightsHost> mHost{new test_support::RightsHost};
+};
+
+TEST_F(Permissions, KindsAndScopesBecomeTheHostsModulesAndFunctions)
+{
+    struct
+    {
+        long kind, scope, module, function;
+    } const kRows[] = {
+        {1, 0, 1, 2}, {1, 1, 1, 2}, {1, 2, 1, 3}, {1, 3, 1, 4}, {2, 0, 2, 2},  {2, 1, 2, 2},
+        {2, 2, 2, 3}, {2, 3, 2, 4}, {3, 0, 4, 5}, {3, 1, 4, 5}, {3, 6, 4, 6},  {3, 2, 4, 7},
+        {3, 3, 4, 8}, {4, 0, 6, 9}, {4, 1, 6, 9}, {4, 6, 6, 9}, {4, 99, 6, 9},
+    };
+    for (const auto& row : kRows)
+    {
+        EXPECT_EQ(Codes(row.kind, row.scope, 1), (RightsAsked{row.module, row.function, 1}))
+            << row.kind << " in scope " << row.scope;
+    }
+}
+
+TEST_F(Permissions, OperationsBecomeTheHostsRights)
+{
+    struct
+    {
+        long operation, right;
+    } const kRows[] = {{1, 1}, {2, 2}, {3, 2}, {4, 8}, {5, 4}, {0, 0}, {6, 0}, {8, 0}, {-1, 0}};
+    for (const auto& row : kRows)
+    {
+        EXPECT_EQ(Codes(2, 1, row.operation), (RightsAsked{2, 2, row.right})) << row.operation;
+    }
+}
+
+TEST_F(Permissions, AKindOrScopeOutsideTheTablesIsAskedForWithCodeZero)
+{
+    EXPECT_EQ(Codes(5, 1, 2), (RightsAsked{0, 0, 2}));
+    EXPECT_EQ(Codes(0, 1, 2), (RightsAsked{0, 0, 2}));
+    EXPECT_EQ(Codes(1, 6, 2), (RightsAsked{1, 0, 2}));
+    EXPECT_EQ(Codes(3, 4, 2), (RightsAsked{4, 0, 2}));
+}
+
+TEST_F(Permissions, ZeroAndThreePermitAndEveryOtherAnswerDenies)
+{
+    const std::pair<long, bool> kAnswers[] = {{0, true},  {3, true},  {1, false},
+                                              {2, false}, {4, false}, {-1, false}};
+    for (const auto& [answer, permitted] : kAnswers)
+    {
+        Host().Answer = answer;
+        EXPECT_EQ(HasPermission(2, 1, 2), permitted) << answer;
+    }
+}
+
+TEST_F(Permissions, OperationSevenNeverReachesTheHostAndNeverShowsAMessage)
+{
+    Host().Answer = 1;
+    EXPECT_TRUE(MessagesDuring([] { EXPECT_TRUE(CheckPermission(2, 1, 7)); }).empty());
+    EXPECT_TRUE(Host().Asked.empty());
+}
+
+TEST_F(Permissions, AnErrorRaisedByTheHostMeansThatTheRightIsMissing)
+{
+    Host().Fails = true;
+    EXPECT_FALSE(HasPermission(2, 1, 2));
+    const auto shown = MessagesDuring([] { EXPECT_FALSE(CheckPermission(2, 1, 2)); });
+    EXPECT_EQ(shown.size(), 1u);
+}
+
+TEST_F(Permissions, WithoutAHostTheRightIsMissing)
+{
+    state::Shared().gDTC = {};
+    EXPECT_FALSE(HasPermission(2, 1, 2));
+}
+
+TEST_F(Permissions, APermittedCheckShowsNothing)
+{
+    EXPECT_TRUE(MessagesDuring([] { EXPECT_TRUE(CheckPermission(2, 1, 5)); }).empty());
+}
+
+TEST_F(Permissions, ARefusalIsShownWithTheExclamationIconUnderTheApplicationsTitle)
+{
+    const test_support::WithLanguage english(resources::Language::English);
+    Host().Answer = 2;
+    const std::vector<ShownMessage> expected = {
+        {L"You are not permit to add contact record(s)!", L"Telvix", IDI_EXCLAMATION}};
+    EXPECT_EQ(MessagesDuring([] { EXPECT_FALSE(CheckPermission(2, 1, 2)); }), expected);
+}
+
+TEST_F(Permissions, TheRefusalSaysInEnglishWhichRightIsMissing)
+{
+    const test_support::WithLanguage english(resources::Language::English);
+    EXPECT_EQ(Refusal(2, 2), L"You are not permit to add contact record(s)!");
+    EXPECT_EQ(Refusal(2, 5), L"You are not permit to modify contact record(s)!");
+    EXPECT_EQ(Refusal(3, 2), L"You are not permit to add activity record(s)!");
+    EXPECT_EQ(Refusal(3, 5), L"You are not permit to modify activity record(s)!");
+    EXPECT_EQ(Refusal(1, 2), L"You are not permit to add account record(s)!");
+    EXPECT_EQ(Refusal(1, 5), L"You are not permit to modify account record(s)!");
+    EXPECT_EQ(Refusal(4, 2), L"You are not permit to add account calendar record(s)!");
+    EXPECT_EQ(Refusal(4, 5), L"You are not permit to modify account calendar record(s)!");
+}
+
+TEST_F(Permissions, TheRefusalSaysInChineseWhichRightIsMissing)
+{
+    const test_support::WithLanguage chinese(resources::Language::Chinese);
+    EXPECT_EQ(Refusal(2, 2), L"你没有添加联系人的权限!");
+    EXPECT_EQ(Refusal(2, 5), L"你没有修改联系人的权限!");
+    EXPECT_EQ(Refusal(3, 2), L"你没有添加任务的权限!");
+    EXPECT_EQ(Refusal(3, 5), L"你没有修改任务的权限!");
+    EXPECT_EQ(Refusal(1, 2), L"你没有添加单位的权限!");
+    EXPECT_EQ(Refusal(1, 5), L"你没有修改单位的权限!");
+    EXPECT_EQ(Refusal(4, 2), L"你没有添加日历的权限!");
+    EXPECT_EQ(Refusal(4, 5), L"你没有修改日历的权限!");
+}
+
+TEST_F(Permissions, ADeniedCheckForAnotherKindOrOperationShowsAnEmptyText)
+{
+    EXPECT_EQ(Refusal(5, 2), L"");
+    EXPECT_EQ(Refusal(0, 5), L"");
+    EXPECT_EQ(Refusal(2, 1), L"");
+    EXPECT_EQ(Refusal(2, 4), L"");
+}
+
+} // namespace

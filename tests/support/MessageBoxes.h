@@ -1,0 +1,58 @@
+// What message boxes say during a piece of work that is not expected to be stopped by them: each is recorded
+// and answered. For programs of tests that link sandbox_robot.
+#pragma once
+
+#include "sandbox/robot/Robot.h"
+
+#include <atomic>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace test_support
+{
+
+struct ShownMessage
+{
+    std::wstring text;
+    std::wstring caption;
+    const wchar_t* icon = nullptr; // IDI_ERROR, IDI_EXCLAMATION, ...; null for none
+
+    bool operator==(const ShownMessage&) const = default;
+};
+
+inline ShownMessage Seen(const sandbox::ShownDialog& box)
+{
+    ShownMessage seen{box.Message(), box.Caption()};
+    for (const wchar_t* icon : {IDI_ERROR, IDI_EXCLAMATION, IDI_INFORMATION, IDI_QUESTION})
+    {
+        seen.icon = box.ShowsIcon(icon) ? icon : seen.icon;
+    }
+    return seen;
+}
+
+// Does the work; the message boxes that came up, in their order, each answered by its first button.
+template<typename Work>
+std::vector<ShownMessage> MessagesDuring(Work&& work)
+{
+    std::vector<ShownMessage> seen;
+    std::atomic<bool> done{false};
+    sandbox::Robot robot([&](sandbox::Robot& self) {
+        while (!done)
+        {
+            for (const sandbox::ShownDialog& box : self.Dialogs())
+            {
+                seen.push_back(Seen(box));
+                box.Click(box.Buttons().at(0));
+                self.WaitUntilClosed(box);
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    });
+    work();
+    done = true;
+    robot.Finish();
+    return seen;
+}
+
+} // namespace test_support
