@@ -24,8 +24,11 @@ ChosenFolders LoadChosenFolders(const ObjectKind& kind)
         }
         for (; !rows.AtEnd(); rows.MoveNext())
         {
-            folders.push_back(
-                {automation::TextOrEmpty(rows.ValueOf(L"OutlookFolder")), IsSet(rows.ValueOf(L"IsDefault"))});
+            folders.push_back({automation::TextOrEmpty(rows.ValueOf(L"OutlookFolder")), false});
+            if (IsSet(rows.ValueOf(L"IsDefault"))) // of several, the last one counts
+            {
+                MakeDefault(folders, folders.size() - 1);
+            }
         }
         return true;
     });

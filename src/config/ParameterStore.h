@@ -5,6 +5,7 @@
 #pragma once
 
 #include "automation/Recordset.h"
+#include "config/OutlookFolders.h" // the module's routines for stored folder paths
 #include "state/SynParameter.h"
 
 #include <string>

@@ -1,0 +1,36 @@
+// Small pictures for list and tree views, in the size that the system uses for small icons at its resolution.
+// Lives as long as the dialog whose controls show it.
+#pragma once
+
+#include <memory>
+#include <type_traits>
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+namespace ui
+{
+
+// The width and height of a small icon, in pixels.
+int SmallPictureSize();
+
+class ImageList
+{
+  public:
+    // Throws std::bad_alloc when the system has no more.
+    ImageList();
+
+    // Adds a copy of an icon; its index, from 0.
+    int Add(HICON icon);
+    HIMAGELIST Handle() const noexcept { return mList.get(); }
+
+  private:
+    struct Destroyer
+    {
+        void operator()(HIMAGELIST list) const noexcept { ImageList_Destroy(list); }
+    };
+    std::unique_ptr<std::remove_pointer_t<HIMAGELIST>, Destroyer> mList;
+};
+
+} // namespace ui
