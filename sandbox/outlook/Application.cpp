@@ -1,0 +1,159 @@
+#include "sandbox/outlook/Application.h"
+
+#include "sandbox/outlook/Failures.h"
+#include "sandbox/outlook/Folders.h"
+#include "sandbox/outlook/OutlookItem.h"
+
+#include <cwchar>
+
+namespace sandbox::outlook
+{
+
+namespace
+{
+
+std::atomic<long> gLiveApplications{0};
+
+struct DefaultFolderRow
+{
+    long number;
+    ItemKind kind;
+};
+
+constexpr DefaultFolderRow kDefaultFolders[] = {
+    {6, ItemKind::Mail},  {9, ItemKind::Appointment}, {10, ItemKind::Contact},
+    {12, ItemKind::Note}, {13, ItemKind::Task},
+};
+
+constexpr ItemKind kItemTypes[] = {ItemKind::Mail, ItemKind::Appointment, ItemKind::Contact, ItemKind::Task,
+                                   ItemKind::Note};
+
+} // namespace
+
+ItemKind KindOfItemType(const Value& type)
+{
+    if (automation::IsEmptyOrNull(type) || type.Type() == VT_DISPATCH)
+    {
+        FailTypeMismatch(L"ItemType");
+    }
+    const auto kind = static_cast<ItemKind>(automation::LongOf(type));
+    if (std::ranges::find(kItemTypes, kind) == std::end(kItemTypes))
+    {
+        FailInvalid(L"ItemType", L"The item type is not valid.");
+    }
+    return kind;
+}
+
+ItemKind KindOfDefaultFolder(long number)
+{
+    const auto row = std::ranges::find(kDefaultFolders, number, &DefaultFolderRow::number);
+    if (row == std::end(kDefaultFolders))
+    {
+        FailInvalid(L"GetDefaultFolder", L"The folder type is not valid.");
+    }
+    return row->kind;
+}
+
+long LiveApplications() noexcept
+{
+    return gLiveApplications;
+}
+
+ApplicationObject::ApplicationObject(MailboxRef mailbox) : OutlookObject(std::move(mailbox))
+{
+    ++gLiveApplications;
+}
+
+ApplicationObject::~ApplicationObject()
+{
+    --gLiveApplications;
+}
+
+const MemberTable& ApplicationObject::Members() const
+{
+    static const MemberTable members = {
+        {L"GetNamespace", Reads(&ApplicationObject::GetNamespace), nullptr},
+        {L"Session", Reads(&ApplicationObject::Session), nullptr},
+        {L"CreateItem", Reads(&ApplicationObject::CreateItem), nullptr},
+        Constant(L"Name", L"Outlook"),
+        Constant(L"Version", L"16.0.0.0"),
+        Constant(L"Class", 0L),
+        Ignored(L"Quit"),
+    };
+    return members;
+}
+
+Value ApplicationObject::GetNamespace(const Call& call)
+{
+    const Value type = call.At(0);
+    if (type.Type() != VT_BSTR || _wcsicmp(automation::TextOf(type).c_str(), L"MAPI") != 0)
+    {
+        FailInvalid(L"GetNamespace", L"The only data source that can be accessed is MAPI.");
+    }
+    return MakeObject<NameSpaceObject>(Box());
+}
+
+Value ApplicationObject::Session(const Call&)
+{
+    return MakeObject<NameSpaceObject>(Box());
+}
+
+// The item will be saved to the default folder of its type.
+Value ApplicationObject::CreateItem(const Call& call)
+{
+    const ItemKind kind = KindOfItemType(call.At(0));
+    MailFolder* folder = Box()->DefaultFolder(kind);
+    if (folder == nullptr)
+    {
+        FailNotFound(L"CreateItem");
+    }
+    return ObjectOfNewItem(Box(), *folder, kind);
+}
+
+NameSpaceObject::NameSpaceObject(MailboxRef mailbox) : OutlookObject(std::move(mailbox)) {}
+
+const MemberTable& NameSpaceObject::Members() const
+{
+    static const MemberTable members = {
+        {L"Folders", Reads(&NameSpaceObject::Folders), nullptr},
+        {L"GetDefaultFolder", Reads(&NameSpaceObject::GetDefaultFolder), nullptr},
+        {L"GetItemFromID", Reads(&NameSpaceObject::GetItemFromId), nullptr},
+        Constant(L"Type", L"MAPI"),
+        Constant(L"Class", 1L),
+        Ignored(L"Logon"),
+        Ignored(L"Logoff"),
+    };
+    return members;
+}
+
+Value NameSpaceObject::Folders(const Call& call)
+{
+    return WithIndex(MakeObject<FoldersObject>(Box(), nullptr), call);
+}
+
+Value NameSpaceObject::GetDefaultFolder(const Call& call)
+{
+    const Value number = call.At(0);
+    if (automation::IsMissing(number) || automation::IsEmptyOrNull(number))
+    {
+        FailTypeMismatch(L"GetDefaultFolder");
+    }
+    MailFolder* folder = Box()->DefaultFolder(KindOfDefaultFolder(automation::LongOf(number)));
+    if (folder == nullptr)
+    {
+        FailNotFound(L"GetDefaultFolder");
+    }
+    return ObjectOfFolder(Box(), *folder);
+}
+
+Value NameSpaceObject::GetItemFromId(const Call& call)
+{
+    const StoredItemRef item = Box()->FindEntry(automation::TextOf(call.At(0)));
+    if (!item)
+    {
+        FailNotFound(L"GetItemFromID");
+    }
+    return ObjectOfItem(Box(), item);
+}
+
+} // namespace sandbox::outlook

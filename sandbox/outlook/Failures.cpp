@@ -1,0 +1,43 @@
+#include "sandbox/outlook/Failures.h"
+
+namespace sandbox::outlook
+{
+
+namespace
+{
+
+// MAPI's "not found", which Outlook hands through.
+constexpr HRESULT kNotFound = static_cast<HRESULT>(0x8004010F);
+// Visual Basic's error 13, as an object raises it: unlike DISP_E_TYPEMISMATCH it carries a description.
+constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
+
+} // namespace
+
+void FailNotFound(const wchar_t* member)
+{
+    throw automation::Error(kNotFound, member,
+                            L"The attempted operation failed. An object could not be found.");
+}
+
+void FailOutOfBounds(const wchar_t* member)
+{
+    throw automation::Error(E_INVALIDARG, member, L"Array index out of bounds.");
+}
+
+void FailTypeMismatch(const wchar_t* member)
+{
+    throw automation::Error(kTypeMismatch, member, std::wstring(L"Type mismatch: ") + member);
+}
+
+void FailInvalid(const wchar_t* member, const std::wstring& description)
+{
+    throw automation::Error(E_INVALIDARG, member, description);
+}
+
+void FailCondition(std::wstring_view rest)
+{
+    throw automation::Error(E_INVALIDARG, L"filter",
+                            L"Cannot parse condition. Error at \"" + std::wstring(rest) + L"\".");
+}
+
+} // namespace sandbox::outlook

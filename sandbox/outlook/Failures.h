@@ -1,0 +1,22 @@
+// The failures that Outlook's stand-in reports: codes and descriptions as a client of Outlook meets them.
+#pragma once
+
+#include "automation/Error.h"
+
+#include <string>
+
+namespace sandbox::outlook
+{
+
+// An item, folder or link that is not there.
+[[noreturn]] void FailNotFound(const wchar_t* member);
+// An index outside a collection.
+[[noreturn]] void FailOutOfBounds(const wchar_t* member);
+// A value of a type that the member does not take.
+[[noreturn]] void FailTypeMismatch(const wchar_t* member);
+// A value of the right type that the member does not take, or a call that does not fit the object's state.
+[[noreturn]] void FailInvalid(const wchar_t* member, const std::wstring& description);
+// A filter that cannot be read from here on.
+[[noreturn]] void FailCondition(std::wstring_view rest);
+
+} // namespace sandbox::outlook

@@ -1,0 +1,408 @@
+#include "sandbox/outlook/Mailbox.h"
+
+#include "sandbox/outlook/Failures.h"
+#include "sandbox/outlook/ItemDraft.h"
+#include "sandbox/outlook/PropertyValues.h"
+
+#include <cwchar>
+
+namespace sandbox::outlook
+{
+
+namespace
+{
+
+constexpr wchar_t kSeparator = L'\\';
+
+struct MessageClassRow
+{
+    ItemKind kind;
+    const wchar_t* messageClass;
+};
+
+constexpr MessageClassRow kMessageClasses[] = {
+    {ItemKind::Mail, L"IPM.Note"},       {ItemKind::Appointment, L"IPM.Appointment"},
+    {ItemKind::Contact, L"IPM.Contact"}, {ItemKind::Task, L"IPM.Task"},
+    {ItemKind::Note, L"IPM.StickyNote"},
+};
+
+struct DefaultFolderName
+{
+    ItemKind type;
+    const wchar_t* english;
+    const wchar_t* chinese;
+};
+
+constexpr DefaultFolderName kDefaultFolderNames[] = {
+    {ItemKind::Mail, L"Inbox", L"收件箱"},       {ItemKind::Appointment, L"Calendar", L"日历"},
+    {ItemKind::Contact, L"Contacts", L"联系人"}, {ItemKind::Task, L"Tasks", L"任务"},
+    {ItemKind::Note, L"Notes", L"便笺"},
+};
+
+bool HasDefaultName(const MailFolder& folder)
+{
+    return std::ranges::any_of(kDefaultFolderNames, [&](const DefaultFolderName& row) {
+        return row.type == folder.Type() && (folder.Name() == row.english || folder.Name() == row.chinese);
+    });
+}
+
+std::wstring ParentPath(const std::wstring& path)
+{
+    const size_t at = path.rfind(kSeparator);
+    return at == std::wstring::npos ? std::wstring() : path.substr(0, at);
+}
+
+std::wstring LastName(const std::wstring& path)
+{
+    const size_t at = path.rfind(kSeparator);
+    return at == std::wstring::npos ? path : path.substr(at + 1);
+}
+
+// What every item states, whoever wrote it.
+void Complete(StoredItem& item)
+{
+    if (item.properties.Find(PropertyId::MessageClass) == nullptr)
+    {
+        item.properties.Put(PropertyId::MessageClass, MessageClassOf(item.kind));
+    }
+    if (item.properties.Find(PropertyId::OutlookVersion) == nullptr)
+    {
+        item.properties.Put(PropertyId::OutlookVersion, kOutlookVersion);
+    }
+}
+
+// A hash of the path (FNV-1a), so that an item keeps its entry id from one session to the next.
+std::wstring HashOf(const std::wstring& path)
+{
+    unsigned long long hash = 14695981039346656037ull;
+    for (const wchar_t character : path)
+    {
+        hash = (hash ^ character) * 1099511628211ull;
+    }
+    wchar_t digits[17];
+    std::swprintf(digits, std::size(digits), L"%016llX", hash);
+    return digits;
+}
+
+StoredItemRef ItemOfRows(MailFolder& folder, long index, ItemRows&& rows)
+{
+    auto item = std::make_shared<StoredItem>();
+    item->folder = &folder;
+    item->index = index;
+    item->kind = folder.Type();
+    for (const auto& [name, text] : rows.properties)
+    {
+        if (name == L"MessageClass")
+        {
+            item->kind = KindOfMessageClass(text, folder.Type());
+        }
+    }
+    for (const auto& [name, text] : rows.properties)
+    {
+        const auto id = FindProperty(item->kind, name);
+        auto value = id ? ValueOfFileText(PropertyOf(*id).type, text) : std::nullopt;
+        if (value)
+        {
+            item->properties.Put(*id, std::move(*value));
+        }
+    }
+    item->links = std::move(rows.links);
+    Complete(*item);
+    return item;
+}
+
+PropertyRows RowsOf(const PropertyBag& properties)
+{
+    PropertyRows rows;
+    for (const auto& [id, value] : properties)
+    {
+        rows.emplace_back(PropertyOf(id).name,
+                          value.Type() == VT_EMPTY ? std::nullopt : std::optional(FileText(value)));
+    }
+    return rows;
+}
+
+} // namespace
+
+ItemKind KindOfMessageClass(std::wstring_view messageClass, ItemKind otherwise)
+{
+    for (const MessageClassRow& row : kMessageClasses)
+    {
+        const std::wstring_view known = row.messageClass;
+        const bool isPrefix = _wcsnicmp(messageClass.data(), row.messageClass,
+                                        std::min(known.size(), messageClass.size())) == 0;
+        if (isPrefix && messageClass.size() >= known.size() &&
+            (messageClass.size() == known.size() || messageClass[known.size()] == L'.'))
+        {
+            return row.kind;
+        }
+    }
+    return otherwise;
+}
+
+const wchar_t* MessageClassOf(ItemKind kind)
+{
+    return std::ranges::find(kMessageClasses, kind, &MessageClassRow::kind)->messageClass;
+}
+
+MailFolder::MailFolder(std::wstring path, ItemKind type, MailFolder* parent)
+    : mPath(std::move(path)), mName(LastName(mPath)), mType(type), mParent(parent)
+{
+}
+
+Mailbox::Mailbox(std::unique_ptr<MailboxStore> store) : mStore(std::move(store))
+{
+    if (mStore)
+    {
+        for (const auto& [path, type] : mStore->ReadFolders())
+        {
+            Adopt(path, type);
+        }
+    }
+}
+
+MailFolder* Mailbox::FindFolder(const std::wstring& path) const
+{
+    const auto found = mFolders.find(path);
+    return found == mFolders.end() ? nullptr : found->second.get();
+}
+
+// Takes a folder into the tree. Rows may be in any order and parents may be missing, so that a parent seen
+// later only brings its type.
+MailFolder& Mailbox::Adopt(const std::wstring& path, ItemKind type)
+{
+    if (MailFolder* known = FindFolder(path))
+    {
+        known->mType = type;
+        return *known;
+    }
+    const std::wstring above = ParentPath(path);
+    MailFolder* known = FindFolder(above);
+    MailFolder* parent = above.empty() || known != nullptr ? known : &Adopt(above, ItemKind::Mail);
+    auto& folder = mFolders[path] = std::make_unique<MailFolder>(path, type, parent);
+    (parent != nullptr ? parent->mChildren : mStores).push_back(folder.get());
+    return *folder;
+}
+
+MailFolder& Mailbox::AddFolder(const std::wstring& path, ItemKind type)
+{
+    const std::lock_guard hold(mLock);
+    if (MailFolder* known = FindFolder(path))
+    {
+        return *known;
+    }
+    const std::wstring above = ParentPath(path);
+    if (!above.empty())
+    {
+        AddFolder(above);
+    }
+    if (mStore)
+    {
+        mStore->AddFolder(path, type);
+    }
+    return Adopt(path, type);
+}
+
+MailFolder* Mailbox::DefaultFolder(ItemKind type) const
+{
+    MailFolder* first = nullptr;
+    if (!mStores.empty())
+    {
+        for (MailFolder* folder : mStores.front()->Children())
+        {
+            if (folder->Type() == type && HasDefaultName(*folder))
+            {
+                return folder;
+            }
+            if (folder->Type() == type && first == nullptr)
+            {
+                first = folder;
+            }
+        }
+    }
+    return first;
+}
+
+const std::vector<StoredItemRef>& Mailbox::Items(MailFolder& folder)
+{
+    if (mStore && !folder.mIsRead)
+    {
+        for (auto& [index, rows] : mStore->ReadItems(folder.Path()))
+        {
+            folder.mItems.push_back(ItemOfRows(folder, index, std::move(rows)));
+        }
+    }
+    folder.mIsRead = true;
+    return folder.mItems;
+}
+
+StoredItemRef Mailbox::Save(MailFolder& folder, StoredItemRef item, ItemKind kind,
+                            const PropertyBag& properties, const std::vector<std::wstring>* links)
+{
+    const auto& items = Items(folder);
+    const long index = item ? item->index : items.empty() ? 1 : items.back()->index + 1;
+    if (mStore)
+    {
+        mStore->WriteItem(folder.Path(), index, RowsOf(properties), links);
+    }
+    if (!item)
+    {
+        item = std::make_shared<StoredItem>();
+        item->folder = &folder;
+        item->index = index;
+        item->kind = kind;
+        folder.mItems.push_back(item);
+    }
+    for (const auto& [id, value] : properties)
+    {
+        value.Type() == VT_EMPTY ? item->properties.Remove(id) : item->properties.Put(id, value);
+    }
+    Complete(*item);
+    if (links != nullptr)
+    {
+        item->links = *links;
+    }
+    return item;
+}
+
+void Mailbox::Delete(const StoredItemRef& item)
+{
+    if (item->folder == nullptr)
+    {
+        return;
+    }
+    if (mStore)
+    {
+        mStore->DeleteItem(item->folder->Path(), item->index);
+    }
+    std::erase(item->folder->mItems, item);
+    item->folder = nullptr;
+    ++mDeletions;
+}
+
+std::wstring Mailbox::EntryIdOf(const StoredItem& item)
+{
+    wchar_t digits[9];
+    std::swprintf(digits, std::size(digits), L"%08lX", static_cast<unsigned long>(item.index));
+    return HashOf(item.folder->Path()) + digits;
+}
+
+StoredItemRef Mailbox::FindEntry(const std::wstring& entryId)
+{
+    for (const auto& [path, folder] : mFolders)
+    {
+        const std::wstring hash = HashOf(path);
+        if (entryId.starts_with(hash))
+        {
+            const std::wstring digits = entryId.substr(hash.size());
+            return FindIndex(*folder, static_cast<long>(std::wcstoul(digits.c_str(), nullptr, 16)));
+        }
+    }
+    return nullptr;
+}
+
+StoredItemRef Mailbox::FindIndex(MailFolder& folder, long index)
+{
+    const auto& items = Items(folder);
+    const auto at = std::ranges::lower_bound(items, index, {}, [](const auto& item) { return item->index; });
+    return at != items.end() && (*at)->index == index ? *at : nullptr;
+}
+
+std::wstring Mailbox::LinkTo(const StoredItem& item)
+{
+    return item.folder->Path() + kSeparator + std::to_wstring(item.index);
+}
+
+StoredItemRef Mailbox::Follow(const std::wstring& link)
+{
+    MailFolder* folder = FindFolder(ParentPath(link));
+    const std::wstring last = LastName(link);
+    if (folder == nullptr || last.empty() || last.find_first_not_of(L"0123456789") != std::wstring::npos)
+    {
+        return nullptr;
+    }
+    return FindIndex(*folder, std::wcstol(last.c_str(), nullptr, 10));
+}
+
+const StoredItemRef& Mailbox::ItemAt(const std::wstring& path, long position)
+{
+    MailFolder* folder = FindFolder(path);
+    if (folder == nullptr)
+    {
+        FailNotFound(L"Folder");
+    }
+    const auto& items = Items(*folder);
+    if (position < 1 || position > static_cast<long>(items.size()))
+    {
+        FailOutOfBounds(L"Item");
+    }
+    return items[static_cast<size_t>(position) - 1];
+}
+
+long Mailbox::AddItem(const std::wstring& path, const NamedValues& properties)
+{
+    const std::lock_guard hold(mLock);
+    MailFolder* folder = FindFolder(path);
+    if (folder == nullptr)
+    {
+        FailNotFound(L"Folder");
+    }
+    ItemKind kind = folder->Type();
+    for (const auto& [name, value] : properties)
+    {
+        kind = name == L"MessageClass" ? KindOfMessageClass(automation::TextOf(value), kind) : kind;
+    }
+    PropertyBag bag;
+    for (const auto& [name, value] : properties)
+    {
+        const auto id = FindProperty(kind, name);
+        if (!id)
+        {
+            FailNotFound(name.c_str());
+        }
+        bag.Put(*id, Converted(PropertyOf(*id), value));
+    }
+    Save(*folder, nullptr, kind, bag, nullptr);
+    return static_cast<long>(Items(*folder).size());
+}
+
+void Mailbox::AddLink(const std::wstring& path, long position, const std::wstring& contactPath,
+                      long contactPosition)
+{
+    const std::lock_guard hold(mLock);
+    const StoredItemRef item = ItemAt(path, position);
+    auto links = item->links;
+    links.push_back(LinkTo(*ItemAt(contactPath, contactPosition)));
+    Save(*item->folder, item, item->kind, {}, &links);
+}
+
+long Mailbox::ItemCount(const std::wstring& path)
+{
+    const std::lock_guard hold(mLock);
+    MailFolder* folder = FindFolder(path);
+    if (folder == nullptr)
+    {
+        FailNotFound(L"Folder");
+    }
+    return static_cast<long>(Items(*folder).size());
+}
+
+Value Mailbox::ItemProperty(const std::wstring& path, long position, const std::wstring& name)
+{
+    const std::lock_guard hold(mLock);
+    const StoredItemRef& item = ItemAt(path, position);
+    const auto id = FindProperty(item->kind, name);
+    if (!id)
+    {
+        FailNotFound(name.c_str());
+    }
+    return ItemDraft(*this, item).Read(*id);
+}
+
+std::vector<std::wstring> Mailbox::ItemLinks(const std::wstring& path, long position)
+{
+    const std::lock_guard hold(mLock);
+    return ItemAt(path, position)->links;
+}
+
+} // namespace sandbox::outlook

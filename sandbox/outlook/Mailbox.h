@@ -1,0 +1,124 @@
+// The mailbox behind Outlook's stand-in: folders of items, each item a bag of typed properties and a list of
+// links. It lives as long as an object of the stand-in (or a test) refers to it. Its lock is held during
+// every call that a client makes, so that clients on several threads may share a mailbox.
+#pragma once
+
+#include "sandbox/outlook/MailboxStore.h"
+#include "sandbox/outlook/PropertyBag.h"
+
+#include <memory>
+#include <mutex>
+#include <unordered_map>
+
+namespace sandbox::outlook
+{
+
+class MailFolder;
+
+struct StoredItem
+{
+    MailFolder* folder = nullptr; // null once the item is deleted
+    long index = 0;               // its number in the mailbox file; not its position, which closes gaps
+    ItemKind kind = ItemKind::Mail;
+    PropertyBag properties;
+    std::vector<std::wstring> links; // see Mailbox::LinkTo
+};
+
+using StoredItemRef = std::shared_ptr<StoredItem>;
+
+class MailFolder
+{
+  public:
+    MailFolder(std::wstring path, ItemKind type, MailFolder* parent);
+
+    const std::wstring& Path() const noexcept { return mPath; }
+    const std::wstring& Name() const noexcept { return mName; }
+    ItemKind Type() const noexcept { return mType; }
+    // Null for a top-level store.
+    MailFolder* Parent() const noexcept { return mParent; }
+    const std::vector<MailFolder*>& Children() const noexcept { return mChildren; }
+
+  private:
+    friend class Mailbox;
+
+    std::wstring mPath;
+    std::wstring mName;
+    ItemKind mType;
+    MailFolder* mParent;
+    std::vector<MailFolder*> mChildren;
+    bool mIsRead = false;
+    std::vector<StoredItemRef> mItems; // by index
+};
+
+class Mailbox
+{
+  public:
+    using NamedValues = std::vector<std::pair<std::wstring, Value>>;
+
+    // Without a store the mailbox lives in memory only. Throws automation::Error when the store cannot be
+    // read.
+    explicit Mailbox(std::unique_ptr<MailboxStore> store = nullptr);
+
+    std::recursive_mutex& Lock() noexcept { return mLock; }
+
+    // --- Building and inspecting a mailbox; paths are folder names joined by "\", positions count from 1.
+
+    // Adds a folder, and those above it that are missing; an existing one stays as it is.
+    MailFolder& AddFolder(const std::wstring& path, ItemKind type = ItemKind::Mail);
+    // Adds an item of the folder's type (or that of its "MessageClass") with these properties, and returns
+    // its position. Values are taken as they are, without the couplings that a client would meet.
+    long AddItem(const std::wstring& path, const NamedValues& properties);
+    void AddLink(const std::wstring& path, long position, const std::wstring& contactPath,
+                 long contactPosition);
+    // Throw automation::Error for a folder or an item that is not there.
+    long ItemCount(const std::wstring& path);
+    Value ItemProperty(const std::wstring& path, long position, const std::wstring& name);
+    std::vector<std::wstring> ItemLinks(const std::wstring& path, long position);
+
+    // --- For the objects of the stand-in.
+
+    const std::vector<MailFolder*>& Stores() const noexcept { return mStores; }
+    // Null where there is none.
+    MailFolder* FindFolder(const std::wstring& path) const;
+    // The first store's folder for items of this type, by preference the one with Outlook's own name for it;
+    // null where there is none.
+    MailFolder* DefaultFolder(ItemKind type) const;
+    const std::vector<StoredItemRef>& Items(MailFolder& folder);
+    // Writes properties (and links, where given) of an item; a null item becomes a new one at the folder's
+    // end. Returns the item.
+    StoredItemRef Save(MailFolder& folder, StoredItemRef item, ItemKind kind, const PropertyBag& properties,
+                       const std::vector<std::wstring>* links);
+    void Delete(const StoredItemRef& item);
+
+    // How many items have been deleted so far: tells a collection whether to look for those that it lost.
+    long Deletions() const noexcept { return mDeletions; }
+    static std::wstring EntryIdOf(const StoredItem& item);
+    // Null where there is none.
+    StoredItemRef FindEntry(const std::wstring& entryId);
+
+    // A link is written as the path of the linked item's folder, "\", and the item's index.
+    static std::wstring LinkTo(const StoredItem& item);
+    // The item that a link leads to; null for one that leads nowhere (any more).
+    StoredItemRef Follow(const std::wstring& link);
+
+  private:
+    MailFolder& Adopt(const std::wstring& path, ItemKind type);
+    StoredItemRef FindIndex(MailFolder& folder, long index);
+    const StoredItemRef& ItemAt(const std::wstring& path, long position);
+
+    std::recursive_mutex mLock;
+    std::unique_ptr<MailboxStore> mStore;
+    std::unordered_map<std::wstring, std::unique_ptr<MailFolder>> mFolders;
+    std::vector<MailFolder*> mStores;
+    long mDeletions = 0;
+};
+
+using MailboxRef = std::shared_ptr<Mailbox>;
+
+// The kind that a message class names ("IPM.Task" and "IPM.Task.Special" are tasks); otherwise as given.
+ItemKind KindOfMessageClass(std::wstring_view messageClass, ItemKind otherwise);
+const wchar_t* MessageClassOf(ItemKind kind);
+// The version that marks an item as created by this Outlook.
+inline constexpr const wchar_t* kOutlookVersion = L"16.0";
+
+} // namespace sandbox::outlook

@@ -1,0 +1,196 @@
+#include "sandbox/outlook/OutlookItem.h"
+
+#include "sandbox/outlook/Failures.h"
+#include "sandbox/outlook/Folders.h"
+#include "sandbox/outlook/Links.h"
+#include "sandbox/outlook/PatternRules.h"
+#include "sandbox/outlook/RecurrencePattern.h"
+
+namespace sandbox::outlook
+{
+
+namespace
+{
+
+// Answered by the stand-in's own items only, to tell them from what a client may put before them.
+constexpr GUID kOutlookItemId = {
+    0x5a1e0f7c, 0x3b52, 0x4f0e, {0x9d, 0x3c, 0x62, 0x1b, 0x0e, 0x8f, 0x47, 0xa1}};
+
+struct KindRow
+{
+    ItemKind kind;
+    const wchar_t* className;
+    long classNumber; // OlObjectClass
+};
+
+constexpr KindRow kKinds[] = {
+    {ItemKind::Mail, L"MailItem", 43},       {ItemKind::Appointment, L"AppointmentItem", 26},
+    {ItemKind::Contact, L"ContactItem", 40}, {ItemKind::Task, L"TaskItem", 48},
+    {ItemKind::Note, L"NoteItem", 44},
+};
+
+const KindRow& RowOf(ItemKind kind)
+{
+    return *std::ranges::find(kKinds, kind, &KindRow::kind);
+}
+
+ItemDraft& DraftOf(DispatchObject& self)
+{
+    return const_cast<ItemDraft&>(static_cast<OutlookItem&>(self).Draft());
+}
+
+Member MemberOf(PropertyId id)
+{
+    return {PropertyOf(id).name, [id](DispatchObject& self, const Call&) { return DraftOf(self).Read(id); },
+            [id](DispatchObject& self, const Call& call) { DraftOf(self).Assign(id, call.Assigned()); }};
+}
+
+} // namespace
+
+MemberTable MembersOfKind(ItemKind kind)
+{
+    MemberTable members;
+    for (const PropertyId id : PropertiesOf(kind))
+    {
+        if (!IsOfPattern(id))
+        {
+            members.push_back(MemberOf(id));
+        }
+    }
+    members.insert(members.end(), {{L"EntryID", Reads(&OutlookItem::EntryId), nullptr},
+                                   {L"Parent", Reads(&OutlookItem::Parent), nullptr},
+                                   {L"Saved", Reads(&OutlookItem::Saved), nullptr},
+                                   {L"Links", Reads(&OutlookItem::Links), nullptr},
+                                   {L"Save", Reads(&OutlookItem::Save), nullptr},
+                                   {L"Delete", Reads(&OutlookItem::Delete), nullptr},
+                                   {L"Close", Reads(&OutlookItem::Close), nullptr},
+                                   Ignored(L"Display"),
+                                   Constant(L"Class", RowOf(kind).classNumber)});
+    if (kind == ItemKind::Appointment)
+    {
+        members.push_back({L"GetRecurrencePattern", Reads(&OutlookItem::GetRecurrencePattern), nullptr});
+        members.push_back({L"ClearRecurrencePattern", Reads(&OutlookItem::ClearRecurrencePattern), nullptr});
+    }
+    return members;
+}
+
+OutlookItem::OutlookItem(MailboxRef mailbox, std::shared_ptr<ItemDraft> draft)
+    : OutlookObject(std::move(mailbox)), mDraft(std::move(draft))
+{
+}
+
+STDMETHODIMP OutlookItem::QueryInterface(REFIID id, void** result)
+{
+    if (id == kOutlookItemId)
+    {
+        *result = static_cast<IDispatch*>(this);
+        AddRef();
+        return S_OK;
+    }
+    return DispatchObject::QueryInterface(id, result);
+}
+
+const wchar_t* OutlookItem::ClassName() const
+{
+    return RowOf(mDraft->Kind()).className;
+}
+
+const MemberTable& OutlookItem::Members() const
+{
+    static const MemberTable mail = MembersOfKind(ItemKind::Mail);
+    static const MemberTable appointment = MembersOfKind(ItemKind::Appointment);
+    static const MemberTable contact = MembersOfKind(ItemKind::Contact);
+    static const MemberTable task = MembersOfKind(ItemKind::Task);
+    static const MemberTable note = MembersOfKind(ItemKind::Note);
+    switch (mDraft->Kind())
+    {
+    case ItemKind::Appointment: return appointment;
+    case ItemKind::Contact: return contact;
+    case ItemKind::Task: return task;
+    case ItemKind::Note: return note;
+    default: return mail;
+    }
+}
+
+// Given when the item is first saved.
+Value OutlookItem::EntryId(const Call&)
+{
+    const StoredItemRef& stored = mDraft->Stored();
+    return stored && stored->folder != nullptr ? Mailbox::EntryIdOf(*stored) : std::wstring();
+}
+
+Value OutlookItem::Parent(const Call&)
+{
+    return ObjectOfFolder(Box(), mDraft->Folder());
+}
+
+Value OutlookItem::Saved(const Call&)
+{
+    return !mDraft->HasChanges();
+}
+
+Value OutlookItem::Links(const Call& call)
+{
+    return WithIndex(MakeObject<LinksObject>(Box(), mDraft), call);
+}
+
+Value OutlookItem::Save(const Call&)
+{
+    mDraft->Save();
+    return {};
+}
+
+Value OutlookItem::Delete(const Call&)
+{
+    mDraft->Delete();
+    return {};
+}
+
+// OlInspectorClose: 0 saves; 1 discards and 2 would ask, with nobody there to answer.
+Value OutlookItem::Close(const Call& call)
+{
+    if (automation::LongOf(call.At(0)) == 0)
+    {
+        mDraft->Save();
+    }
+    return {};
+}
+
+Value OutlookItem::GetRecurrencePattern(const Call&)
+{
+    StartPattern(*mDraft);
+    return MakeObject<RecurrencePattern>(Box(), mDraft);
+}
+
+Value OutlookItem::ClearRecurrencePattern(const Call&)
+{
+    ClearPattern(*mDraft);
+    return {};
+}
+
+automation::Object ObjectOfItem(const MailboxRef& mailbox, const StoredItemRef& item)
+{
+    return MakeObject<OutlookItem>(mailbox, std::make_shared<ItemDraft>(*mailbox, item));
+}
+
+automation::Object ObjectOfNewItem(const MailboxRef& mailbox, MailFolder& folder, ItemKind kind)
+{
+    return MakeObject<OutlookItem>(mailbox, std::make_shared<ItemDraft>(*mailbox, folder, kind));
+}
+
+StoredItemRef ItemBehind(Mailbox& mailbox, const automation::Object& object)
+{
+    if (!object)
+    {
+        return nullptr;
+    }
+    Microsoft::WRL::ComPtr<IDispatch> own;
+    if (SUCCEEDED(object.Dispatch()->QueryInterface(kOutlookItemId, &own)))
+    {
+        const StoredItemRef& stored = static_cast<OutlookItem*>(own.Get())->Draft().Stored();
+        return stored && stored->folder != nullptr ? stored : nullptr;
+    }
+    return mailbox.FindEntry(automation::TextOf(object.Get(L"EntryID")));
+}
+
+} // namespace sandbox::outlook

@@ -1,0 +1,166 @@
+// Every property that an item of the mailbox can hold: one table for all kinds of items, so that names are
+// resolved to ids once and an item is nothing but a bag of ids with values.
+#pragma once
+
+#include "automation/Value.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace sandbox::outlook
+{
+
+using automation::Value;
+
+// OlItemType, as far as the stand-in keeps such items.
+enum class ItemKind
+{
+    Mail = 0,
+    Appointment = 1,
+    Contact = 2,
+    Task = 3,
+    Note = 5,
+};
+
+enum class PropertyType
+{
+    Text,
+    Number,
+    Truth,
+    Moment, // a date with its time of day
+    Day,    // a date whose time of day is dropped on assignment
+};
+
+enum class PropertyId : unsigned short
+{
+    // of every item
+    Subject,
+    Body,
+    Categories,
+    Companies,
+    Importance,
+    Sensitivity,
+    MessageClass,
+    OutlookVersion,
+    CreationTime,
+    LastModificationTime,
+    BillingInformation,
+    Mileage,
+    UnRead,
+    // contacts
+    Title,
+    FirstName,
+    MiddleName,
+    LastName,
+    Suffix,
+    FullName,
+    FileAs,
+    NickName,
+    Spouse,
+    Birthday,
+    Anniversary,
+    CompanyName,
+    JobTitle,
+    Department,
+    OfficeLocation,
+    Profession,
+    ManagerName,
+    AssistantName,
+    AssistantTelephoneNumber,
+    Email1Address,
+    Email2Address,
+    Email3Address,
+    HomeTelephoneNumber,
+    HomeFaxNumber,
+    MobileTelephoneNumber,
+    BusinessTelephoneNumber,
+    BusinessFaxNumber,
+    OtherTelephoneNumber,
+    PagerNumber,
+    HomeAddressStreet,
+    HomeAddressCity,
+    HomeAddressState,
+    HomeAddressPostalCode,
+    HomeAddressCountry,
+    BusinessAddressStreet,
+    BusinessAddressCity,
+    BusinessAddressState,
+    BusinessAddressPostalCode,
+    BusinessAddressCountry,
+    WebPage,
+    // tasks
+    StartDate,
+    DueDate,
+    DateCompleted,
+    Status,
+    Complete,
+    PercentComplete,
+    ReminderTime,
+    TotalWork,
+    ActualWork,
+    ContactNames,
+    Owner,
+    // tasks and appointments
+    ReminderSet,
+    // appointments
+    Start,
+    End,
+    Duration,
+    AllDayEvent,
+    ReminderMinutesBeforeStart,
+    BusyStatus,
+    Location,
+    IsRecurring,
+    // the recurrence pattern of an appointment, kept with the appointment's own properties
+    RecurrenceType,
+    RecurrenceInterval,
+    RecurrenceDayOfWeekMask,
+    RecurrenceDayOfMonth,
+    RecurrenceMonthOfYear,
+    RecurrenceInstance,
+    RecurrenceStartTime,
+    RecurrenceEndTime,
+    RecurrenceDuration,
+    RecurrencePatternStartDate,
+    RecurrencePatternEndDate,
+    RecurrenceNoEndDate,
+    RecurrenceOccurrences,
+    RecurrenceEndsByDate,
+    // mails
+    To,
+    Cc,
+    SenderName,
+    ReceivedTime,
+    Count, // not a property: how many there are
+};
+
+struct Property
+{
+    PropertyId id;
+    const wchar_t* name; // as clients and the mailbox file write it
+    PropertyType type;
+    unsigned kinds; // a set of MaskOf(ItemKind)
+    // What an item without a value of its own has: a number or truth value; texts are empty then, and dates
+    // 4501-01-01.
+    long byDefault = 0;
+    long lowest = LONG_MIN; // the range of a number
+    long highest = LONG_MAX;
+    bool readOnly = false;
+};
+
+constexpr unsigned MaskOf(ItemKind kind)
+{
+    return 1u << static_cast<unsigned>(kind);
+}
+
+const Property& PropertyOf(PropertyId id);
+// The property of this name (in any case) that items of a kind have; nothing where there is none.
+std::optional<PropertyId> FindProperty(ItemKind kind, std::wstring_view name);
+// The properties of a kind, those of its recurrence pattern included.
+const std::vector<PropertyId>& PropertiesOf(ItemKind kind);
+// True for the members of the recurrence pattern, which are no members of the item itself.
+bool IsOfPattern(PropertyId id);
+const Value& DefaultOf(PropertyId id);
+
+} // namespace sandbox::outlook

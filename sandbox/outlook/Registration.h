@@ -1,0 +1,25 @@
+// The stand-in's entries in the registry: programmatic identifiers, the server program, and which mailbox it
+// serves. All of them are of the current user, in the sandbox's own prefix.
+#pragma once
+
+#include <string>
+
+#include <windows.h>
+
+namespace sandbox::outlook
+{
+
+// Makes the programmatic identifier name the class, as far as it does not yet. Throws automation::Error.
+void RegisterProgId(const wchar_t* progId, const CLSID& id);
+// Registers the program at this path as the server of the stand-in's classes, and takes that back. Throws
+// automation::Error.
+void RegisterServer(const std::wstring& program);
+void UnregisterServer();
+
+// The mailbox file that the server serves: the value "Mailbox" of the current user's key
+// "Software\TelvixSandbox", else the environment variable TELVIX_SANDBOX_MAILBOX; empty where neither is set.
+std::wstring ChosenMailbox();
+// Sets the registry value; an empty path removes it. Throws automation::Error.
+void ChooseMailbox(const std::wstring& path);
+
+} // namespace sandbox::outlook
