@@ -1,0 +1,180 @@
+#include "sandbox/ado/Recordset.h"
+
+#include "automation/Error.h"
+#include "sandbox/ado/Cursor.h"
+#include "sandbox/ado/Fields.h"
+
+namespace sandbox
+{
+
+namespace
+{
+
+using automation::Error;
+using automation::LongOf;
+using automation::TextOf;
+
+constexpr long kStateClosed = 0;
+constexpr long kStateOpen = 1;
+constexpr long kCommandTable = 2;
+constexpr long kServerCursor = 2;
+constexpr long kForwardOnly = 0;
+constexpr long kReadOnly = 1;
+
+long LongOr(const Value& value, long otherwise)
+{
+    return automation::IsMissing(value) ? otherwise : LongOf(value);
+}
+
+class Recordset : public DispatchObject
+{
+  public:
+    Recordset() : mCursor(std::make_shared<Cursor>()) {}
+    explicit Recordset(ResultSet rows) : Recordset() { mCursor->Open(std::move(rows)); }
+
+  private:
+    Value Open(const Call& call)
+    {
+        RefuseWhileOpen();
+        const std::wstring source = TextOf(call.At(0));
+        mCursorType = LongOr(call.At(2), kForwardOnly);
+        mLockType = LongOr(call.At(3), kReadOnly);
+        const bool isTable = LongOr(call.At(4), 1) == kCommandTable;
+        Connection connection(TextOf(call.At(1)));
+        mCursor->Open(connection.Query(isTable ? L"SELECT * FROM " + source : source));
+        return {};
+    }
+
+    Value Close(const Call&)
+    {
+        mCursor->Count(); // refuses when it is closed already
+        mCursor->Close();
+        return {};
+    }
+
+    Value State(const Call&) { return mCursor->IsOpen() ? kStateOpen : kStateClosed; }
+    Value AtEnd(const Call&) { return mCursor->AtEnd(); }
+    Value AtStart(const Call&) { return mCursor->AtStart(); }
+    Value RecordCount(const Call&) { return mCursor->Count(); }
+
+    Value MoveFirst(const Call&)
+    {
+        mCursor->GoTo(1);
+        return {};
+    }
+
+    Value MoveLast(const Call&)
+    {
+        mCursor->GoTo(mCursor->Count());
+        return {};
+    }
+
+    Value MoveNext(const Call&)
+    {
+        mCursor->MoveBy(1);
+        return {};
+    }
+
+    Value MovePrevious(const Call&)
+    {
+        mCursor->MoveBy(-1);
+        return {};
+    }
+
+    Value Move(const Call& call)
+    {
+        const long rows = LongOf(call.At(0));
+        const Value start = call.At(1);
+        if (automation::IsMissing(start))
+        {
+            mCursor->MoveBy(rows);
+        }
+        else
+        {
+            mCursor->MoveBy(rows, LongOf(start));
+        }
+        return {};
+    }
+
+    Value GetAbsolutePosition(const Call&) { return mCursor->Position(); }
+    void PutAbsolutePosition(const Call& call) { mCursor->GoTo(LongOf(call.Assigned())); }
+
+    // The bookmark of a client cursor is the row's position, as a double.
+    Value GetBookmark(const Call&)
+    {
+        const long position = mCursor->Position();
+        if (position < 1)
+        {
+            mCursor->Current(0); // refuses: there is no current record
+        }
+        return static_cast<double>(position);
+    }
+
+    Value GetFields(const Call& call)
+    {
+        return call.Count() == 0 ? MakeFields(mCursor) : MakeField(mCursor, call.At(0));
+    }
+
+    Value GetCursorLocation(const Call&) { return mCursorLocation; }
+    void PutCursorLocation(const Call& call)
+    {
+        RefuseWhileOpen();
+        mCursorLocation = LongOf(call.Assigned());
+    }
+    Value GetCursorType(const Call&) { return mCursorType; }
+    Value GetLockType(const Call&) { return mLockType; }
+
+    void RefuseWhileOpen() const
+    {
+        if (mCursor->IsOpen())
+        {
+            throw Error(kObjectOpen, L"Recordset", L"Operation is not allowed when the object is open.");
+        }
+    }
+
+    const wchar_t* ClassName() const override { return L"Recordset"; }
+    int DefaultMember() const override { return 0; }
+    const MemberTable& Members() const override
+    {
+        static const MemberTable table{
+            {L"Fields", Reads(&Recordset::GetFields), nullptr},
+            {L"Open", Reads(&Recordset::Open), nullptr},
+            {L"Close", Reads(&Recordset::Close), nullptr},
+            {L"State", Reads(&Recordset::State), nullptr},
+            {L"EOF", Reads(&Recordset::AtEnd), nullptr},
+            {L"BOF", Reads(&Recordset::AtStart), nullptr},
+            {L"RecordCount", Reads(&Recordset::RecordCount), nullptr},
+            {L"MoveFirst", Reads(&Recordset::MoveFirst), nullptr},
+            {L"MoveLast", Reads(&Recordset::MoveLast), nullptr},
+            {L"MoveNext", Reads(&Recordset::MoveNext), nullptr},
+            {L"MovePrevious", Reads(&Recordset::MovePrevious), nullptr},
+            {L"Move", Reads(&Recordset::Move), nullptr},
+            {L"AbsolutePosition", Reads(&Recordset::GetAbsolutePosition),
+             Writes(&Recordset::PutAbsolutePosition)},
+            {L"Bookmark", Reads(&Recordset::GetBookmark), Writes(&Recordset::PutAbsolutePosition)},
+            {L"CursorLocation", Reads(&Recordset::GetCursorLocation), Writes(&Recordset::PutCursorLocation)},
+            {L"CursorType", Reads(&Recordset::GetCursorType), nullptr},
+            {L"LockType", Reads(&Recordset::GetLockType), nullptr},
+        };
+        return table;
+    }
+
+    std::shared_ptr<Cursor> mCursor;
+    long mCursorLocation = kServerCursor;
+    long mCursorType = kForwardOnly;
+    long mLockType = kReadOnly;
+};
+
+} // namespace
+
+automation::Object MakeRecordset()
+{
+    return MakeObject<Recordset>();
+}
+
+automation::Object MakeRecordset(ResultSet rows)
+{
+    return MakeObject<Recordset>(std::move(rows));
+}
+
+} // namespace sandbox

@@ -1,0 +1,27 @@
+// The stand-in for ADO's Recordset with a client-side cursor: its rows are fetched whole when it is opened,
+// then walked. Members and errors are those that ADO publishes, as far as the component and its host use
+// them.
+#pragma once
+
+#include "sandbox/database/Connection.h"
+#include "sandbox/dispatch/DispatchObject.h"
+
+#include <memory>
+
+namespace sandbox
+{
+
+// ADO's ErrorValueEnum as HRESULTs, as far as used.
+inline constexpr HRESULT kNoCurrentRecord = static_cast<HRESULT>(0x800A0BCD); // 3021
+inline constexpr HRESULT kItemNotFound = static_cast<HRESULT>(0x800A0CC1);    // 3265
+inline constexpr HRESULT kObjectClosed = static_cast<HRESULT>(0x800A0E78);    // 3704
+inline constexpr HRESULT kObjectOpen = static_cast<HRESULT>(0x800A0E79);      // 3705
+inline constexpr HRESULT kInvalidArgument = static_cast<HRESULT>(0x800A0BB9); // 3001
+
+// A closed recordset, as CreateObject("ADODB.Recordset") gives it.
+automation::Object MakeRecordset();
+
+// A recordset that is open over rows fetched already, on the first of them.
+automation::Object MakeRecordset(ResultSet rows);
+
+} // namespace sandbox
