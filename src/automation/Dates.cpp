@@ -120,7 +120,7 @@ Date ToTheMinute(Date date)
     return DateOf(moment);
 }
 
-Date PlusMinutes(Date date, long minutes)
+Date PlusMinutes(Date date, long long minutes)
 {
     return DateOfSeconds(SecondsOf(date) + 60.0 * static_cast<double>(minutes));
 }

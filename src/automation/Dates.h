@@ -41,7 +41,7 @@ Date MinuteOfDay(Date date);
 // Date and time without seconds ("yyyy/mm/dd hh:mm" and back).
 Date ToTheMinute(Date date);
 // The date so many minutes later, or earlier for a negative number; rounded to the second.
-Date PlusMinutes(Date date, long minutes);
+Date PlusMinutes(Date date, long long minutes);
 // A time of day added to a date; rounded to the second.
 Date PlusTime(Date date, Date timeOfDay);
 // Whether left lies before right; holds before the zero date too, where a DATE's fraction counts away from

@@ -1,10 +1,7 @@
 #include "contacts/ContactFieldsFromOutlook.h"
 
-#include "automation/Dates.h"
+#include "data/MappingFromOutlook.h"
 #include "resources/Strings.h"
-
-#include <algorithm>
-#include <iterator>
 
 namespace contacts
 {
@@ -14,107 +11,76 @@ using automation::Value;
 namespace
 {
 
-using HostValue = std::optional<Value>;
-using Handling = HostValue (*)(ContactItem& item, const std::wstring& outlookName);
-
-HostValue Plain(ContactItem& item, const std::wstring& outlookName)
-{
-    return item.ValueOf(outlookName);
-}
+using data::HostValue;
+using data::ReadAsIs;
+using data::SourceProperty;
 
 // Outside the Chinese interface the host keeps the two names the other way round; contacts to Outlook make
 // the same exchange.
-HostValue Name(ContactItem& item, const std::wstring& outlookName)
+HostValue ReadName(const SourceProperty& property)
 {
-    if (item.IsEmpty(outlookName))
+    if (property.Item.IsEmpty(property.Name))
     {
         return std::nullopt;
     }
-    const wchar_t* const exchanged = outlookName == L"LastName" ? L"FirstName" : L"LastName";
-    return item.ValueOf(resources::IsChinese() ? outlookName : exchanged);
+    const wchar_t* const exchanged = property.Name == L"LastName" ? L"FirstName" : L"LastName";
+    return property.Item.ValueOf(resources::IsChinese() ? property.Name : exchanged);
 }
 
-HostValue WhenFilled(bool inThisLanguage, ContactItem& item, const std::wstring& outlookName)
+HostValue ReadWhenFilled(bool inThisLanguage, const SourceProperty& property)
 {
-    return inThisLanguage && !item.IsEmpty(outlookName) ? item.ValueOf(outlookName) : Value(kNoColumn);
+    return inThisLanguage && !property.Item.IsEmpty(property.Name) ? property.Item.ValueOf(property.Name)
+                                                                   : Value(data::kNoColumn);
 }
 
-HostValue InChineseWhenFilled(ContactItem& item, const std::wstring& outlookName)
+HostValue ReadInChineseWhenFilled(const SourceProperty& property)
 {
-    return WhenFilled(resources::IsChinese(), item, outlookName);
+    return ReadWhenFilled(resources::IsChinese(), property);
 }
 
-HostValue InEnglishWhenFilled(ContactItem& item, const std::wstring& outlookName)
+HostValue ReadInEnglishWhenFilled(const SourceProperty& property)
 {
-    return WhenFilled(resources::IsEnglish(), item, outlookName);
+    return ReadWhenFilled(resources::IsEnglish(), property);
 }
 
-HostValue DateOrNull(ContactItem& item, const std::wstring& outlookName)
+HostValue ReadDate(const SourceProperty& property)
 {
-    const Value& date = item.ValueOf(outlookName);
-    return automation::IsEmptyOrNull(date) ? Value::Null()
-                                           : automation::WithoutNoDate(automation::DateOf(date));
+    return property.Item.DateOrNull(property.Name);
 }
-
-struct MappingRow
-{
-    const wchar_t* outlookName;
-    Handling handling;
-};
 
 // Company and business address are not here: they reach the host through the account and address links.
-constexpr MappingRow kMapping[] = {
-    {L"LastName", Name},
-    {L"FirstName", Name},
-    {L"Suffix", InChineseWhenFilled},
-    {L"Title", InEnglishWhenFilled},
-    {L"Birthday", DateOrNull},
-    {L"Anniversary", DateOrNull},
-    {L"NickName", Plain},
-    {L"Spouse", Plain},
-    {L"HomeAddressCountry", Plain},
-    {L"HomeAddressState", Plain},
-    {L"HomeAddressCity", Plain},
-    {L"HomeAddressStreet", Plain},
-    {L"HomeAddressPostalCode", Plain},
-    {L"JobTitle", Plain},
-    {L"Department", Plain},
-    {L"AssistantName", Plain},
-    {L"BusinessTelephoneNumber", Plain},
-    {L"BusinessFaxNumber", Plain},
-    {L"MobileTelephoneNumber", Plain},
-    {L"HomeTelephoneNumber", Plain},
-    {L"AssistantTelephoneNumber", Plain},
-    {L"Email1Address", Plain},
+constexpr data::PropertyFromOutlook kMapping[] = {
+    {L"LastName", ReadName},
+    {L"FirstName", ReadName},
+    {L"Suffix", ReadInChineseWhenFilled},
+    {L"Title", ReadInEnglishWhenFilled},
+    {L"Birthday", ReadDate},
+    {L"Anniversary", ReadDate},
+    {L"NickName", ReadAsIs},
+    {L"Spouse", ReadAsIs},
+    {L"HomeAddressCountry", ReadAsIs},
+    {L"HomeAddressState", ReadAsIs},
+    {L"HomeAddressCity", ReadAsIs},
+    {L"HomeAddressStreet", ReadAsIs},
+    {L"HomeAddressPostalCode", ReadAsIs},
+    {L"JobTitle", ReadAsIs},
+    {L"Department", ReadAsIs},
+    {L"AssistantName", ReadAsIs},
+    {L"BusinessTelephoneNumber", ReadAsIs},
+    {L"BusinessFaxNumber", ReadAsIs},
+    {L"MobileTelephoneNumber", ReadAsIs},
+    {L"HomeTelephoneNumber", ReadAsIs},
+    {L"AssistantTelephoneNumber", ReadAsIs},
+    {L"Email1Address", ReadAsIs},
 };
 
 } // namespace
 
-const Value& ContactItem::ValueOf(const std::wstring& property)
+bool AddContactColumns(data::RelationTable& relations, const automation::Object& item,
+                       data::RowColumns& contact)
 {
-    auto value = mValues.find(property);
-    if (value == mValues.end())
-    {
-        value = mValues.emplace(property, mItem.Get(property.c_str())).first;
-    }
-    return value->second;
-}
-
-bool ContactItem::IsEmpty(const std::wstring& property)
-{
-    return automation::TextOrEmpty(ValueOf(property)).empty();
-}
-
-bool IsNoColumn(const Value& value)
-{
-    return value.Type() == VT_BSTR && automation::TextOf(value) == kNoColumn;
-}
-
-std::optional<Value> HostValueOf(ContactItem& item, const std::wstring& outlookName)
-{
-    const auto row = std::find_if(std::begin(kMapping), std::end(kMapping),
-                                  [&](const MappingRow& one) { return outlookName == one.outlookName; });
-    return row == std::end(kMapping) ? Value(kNoColumn) : row->handling(item, outlookName);
+    data::ItemProperties properties(item);
+    return data::AddRelatedColumns(relations, kMapping, data::kNoColumn, properties, contact);
 }
 
 } // namespace contacts

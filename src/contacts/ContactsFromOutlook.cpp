@@ -11,7 +11,6 @@ namespace contacts
 {
 
 using automation::Object;
-using automation::Value;
 using data::Host;
 using data::RowColumns;
 
@@ -22,25 +21,6 @@ constexpr data::PassFromOutlook kContacts{
     L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'",
     {automation::kCursorKeyset, automation::kLockReadOnly, automation::kCommandText},
     SynOlContactToSynContact};
-
-// False when the item lacks a name and is not to be written.
-bool AddMappedColumns(data::RelationTable& relations, const Object& item, RowColumns& contact)
-{
-    ContactItem properties(item);
-    for (const data::RelationRow& relation : relations.Rows())
-    {
-        const std::optional<Value> value = HostValueOf(properties, relation.OutlookName);
-        if (!value)
-        {
-            return false;
-        }
-        if (!IsNoColumn(*value))
-        {
-            contact.Add(relation.EnglishName, *value);
-        }
-    }
-    return true;
-}
 
 void Insert(const Host& host, const Object& item, RowColumns& contact)
 {
@@ -84,7 +64,7 @@ long SynOlContactToSynContact(data::Run& run, long mode, const Object& item)
 {
     return state::Trapped(-1L, [&] {
         RowColumns contact(run.Catalogue, mode);
-        if (AddMappedColumns(run.Relations, item, contact))
+        if (AddContactColumns(run.Relations, item, contact))
         {
             const Host host;
             data::Transaction transaction(host);

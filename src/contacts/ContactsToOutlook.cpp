@@ -1,11 +1,8 @@
 #include "contacts/ContactsToOutlook.h"
 
-#include "automation/Dates.h"
 #include "data/ApplyToOutlook.h"
+#include "data/MappingToOutlook.h"
 #include "resources/Strings.h"
-
-#include <algorithm>
-#include <iterator>
 
 namespace contacts
 {
@@ -13,8 +10,9 @@ namespace contacts
 namespace
 {
 
-using automation::Object;
-using automation::Value;
+using data::PutAsIs;
+using data::PutDate;
+using data::TargetProperty;
 
 constexpr data::PassToOutlook kPass{
     .ItemType = data::kContactItem,
@@ -23,58 +21,40 @@ constexpr data::PassToOutlook kPass{
     .Write = SynSynContactToOlContact,
 };
 
-using Writer = void (*)(const Object& item, const wchar_t* property, const Value& value);
-
-void PutAsIs(const Object& item, const wchar_t* property, const Value& value)
-{
-    item.Put(property, value);
-}
-
 // Outside the Chinese interface the host's and Outlook's first and last names are exchanged, deliberately.
-void PutFirstName(const Object& item, const wchar_t* /*property*/, const Value& value)
+void PutFirstName(const TargetProperty& property)
 {
-    item.Put(resources::IsChinese() ? L"FirstName" : L"LastName", value);
+    property.Item.Put(resources::IsChinese() ? L"FirstName" : L"LastName", property.HostValue);
 }
 
-void PutLastName(const Object& item, const wchar_t* /*property*/, const Value& value)
+void PutLastName(const TargetProperty& property)
 {
-    item.Put(resources::IsChinese() ? L"LastName" : L"FirstName", value);
+    property.Item.Put(resources::IsChinese() ? L"LastName" : L"FirstName", property.HostValue);
 }
 
-void PutInChinese(const Object& item, const wchar_t* property, const Value& value)
+void PutInChinese(const TargetProperty& property)
 {
     if (resources::IsChinese())
     {
-        item.Put(property, value);
+        PutAsIs(property);
     }
 }
 
-void PutInEnglish(const Object& item, const wchar_t* property, const Value& value)
+void PutInEnglish(const TargetProperty& property)
 {
     if (resources::IsEnglish())
     {
-        item.Put(property, value);
+        PutAsIs(property);
     }
 }
 
-void PutDate(const Object& item, const wchar_t* property, const Value& value)
+void PutCompany(const TargetProperty& property)
 {
-    item.Put(property, automation::IsEmptyOrNull(value) ? Value(automation::kOutlookNoDate) : value);
+    property.Item.Put(L"CompanyName", property.HostValue);
+    property.Item.Put(L"Companies", property.HostValue);
 }
 
-void PutCompany(const Object& item, const wchar_t* /*property*/, const Value& value)
-{
-    item.Put(L"CompanyName", value);
-    item.Put(L"Companies", value);
-}
-
-struct MappingRow
-{
-    const wchar_t* OutlookName;
-    Writer Write;
-};
-
-constexpr MappingRow kMapping[] = {
+constexpr data::PropertyToOutlook kMapping[] = {
     {L"FirstName", PutFirstName},
     {L"LastName", PutLastName},
     {L"Suffix", PutInChinese},
@@ -112,21 +92,9 @@ bool SynContactToOutlook(data::Run& run)
     return data::ApplyToOutlook(run, kPass);
 }
 
-void SynSynContactToOlContact(data::Run& run, long /*mode*/, const Object& item)
+void SynSynContactToOlContact(data::Run& run, long /*mode*/, const automation::Object& item)
 {
-    for (const data::RelationRow& relation : run.Relations.Rows())
-    {
-        const Value stored = run.HostRows.ValueOf(relation.EnglishName);
-        const auto row =
-            std::find_if(std::begin(kMapping), std::end(kMapping), [&](const MappingRow& candidate) {
-                return relation.OutlookName == candidate.OutlookName;
-            });
-        if (row != std::end(kMapping))
-        {
-            row->Write(item, row->OutlookName, automation::IsEmptyOrNull(stored) ? Value() : stored);
-        }
-    }
-    item.Call(L"Save");
+    data::WriteRelatedProperties(run, kMapping, item, data::Saves::OnceAtTheEnd);
 }
 
 } // namespace contacts

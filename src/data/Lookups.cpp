@@ -12,31 +12,39 @@ using automation::Value;
 namespace
 {
 
-// The condition follows "WHERE " as it is.
-long LookupByCondition(const std::wstring& table, const std::wstring& condition,
-                       const std::wstring& resultColumn, Value& result)
+// The condition follows "WHERE " as it is. Throws where the host refuses.
+Value FindByCondition(const std::wstring& table, const std::wstring& condition,
+                      const std::wstring& resultColumn)
 {
-    return state::Trapped(-1L, [&] {
-        result = ValueInFirstRow(L"SELECT " + resultColumn + L"\r\nFROM " + table + L"\r\nWHERE " + condition,
-                                 resultColumn);
-        return 0L;
-    });
+    return ValueInFirstRow(L"SELECT " + resultColumn + L"\r\nFROM " + table + L"\r\nWHERE " + condition,
+                           resultColumn);
 }
 
 } // namespace
 
+Value FindValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
+                const std::wstring& resultColumn)
+{
+    return FindByCondition(table, keyColumn + L"= '" + key + L"'", resultColumn);
+}
+
 long LookupValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
                  const std::wstring& resultColumn, Value& result)
 {
-    return LookupByCondition(table, keyColumn + L"= '" + key + L"'", resultColumn, result);
+    return state::Trapped(-1L, [&] {
+        result = FindValue(table, keyColumn, key, resultColumn);
+        return 0L;
+    });
 }
 
 long LookupTypedValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
                       const std::wstring& keyType, const std::wstring& resultColumn, Value& result)
 {
     const bool quoted = keyType == kTextKey || keyType == kDateKey;
-    return LookupByCondition(table, keyColumn + L"=" + (quoted ? L"'" + key + L"'" : key), resultColumn,
-                             result);
+    return state::Trapped(-1L, [&] {
+        result = FindByCondition(table, keyColumn + L"=" + (quoted ? L"'" + key + L"'" : key), resultColumn);
+        return 0L;
+    });
 }
 
 Value ValueInFirstRow(const std::wstring& statement, const std::wstring& column)

@@ -24,7 +24,12 @@ long LookupTypedValue(const std::wstring& table, const std::wstring& keyColumn, 
                       const std::wstring& keyType, const std::wstring& resultColumn,
                       automation::Value& result);
 
-// What both do, for callers that report the error themselves: throws automation::Error where they return -1.
+// LookupValue for callers that report the error themselves: throws automation::Error where that returns -1.
+automation::Value FindValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
+                            const std::wstring& resultColumn);
+
+// The column's value in the first row of a statement, the empty text where it has no row. Throws
+// automation::Error when the host refuses.
 automation::Value ValueInFirstRow(const std::wstring& statement, const std::wstring& column);
 
 } // namespace data

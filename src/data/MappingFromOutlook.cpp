@@ -1,0 +1,47 @@
+#include "data/MappingFromOutlook.h"
+
+#include <algorithm>
+
+namespace data
+{
+
+using automation::Value;
+
+namespace
+{
+
+bool IsNoColumn(const Value& value)
+{
+    return value.Type() == VT_BSTR && automation::TextOf(value) == kNoColumn;
+}
+
+} // namespace
+
+HostValue ReadAsIs(const SourceProperty& property)
+{
+    return property.Item.ValueOf(property.Name);
+}
+
+bool AddRelatedColumns(RelationTable& relations, std::span<const PropertyFromOutlook> mapping,
+                       const Value& valueOfOthers, ItemProperties& item, RowColumns& record)
+{
+    for (const RelationRow& relation : relations.Rows())
+    {
+        const auto row = std::ranges::find_if(mapping, [&](const PropertyFromOutlook& candidate) {
+            return relation.OutlookName == candidate.OutlookName;
+        });
+        const HostValue value =
+            row == mapping.end() ? valueOfOthers : row->Read({item, relation.OutlookName, record});
+        if (!value)
+        {
+            return false;
+        }
+        if (!IsNoColumn(*value))
+        {
+            record.Add(relation.EnglishName, *value);
+        }
+    }
+    return true;
+}
+
+} // namespace data

@@ -1,0 +1,47 @@
+// The walk over the relation rows towards Outlook, once for all kinds of data: each row's host value goes to
+// the Outlook property that the row names, in the way that the category's mapping table says. Called by the
+// writers of one item.
+#pragma once
+
+#include "data/Run.h"
+
+#include <span>
+
+namespace data
+{
+
+// What the handling of one property works with; valid for the call only.
+struct TargetProperty
+{
+    const automation::Recordset& HostRows; // on the row being written
+    const automation::Object& Item;
+    const wchar_t* Name;
+    const automation::Value& HostValue; // Empty where the host has Null
+
+    void Put(const automation::Value& value) const { Item.Put(Name, value); }
+};
+
+struct PropertyToOutlook
+{
+    const wchar_t* OutlookName; // compared with regard to letter case
+    void (*Write)(const TargetProperty& property);
+};
+
+// Handlings that several categories share.
+void PutAsIs(const TargetProperty& property);
+// A date; Outlook's date for "none" where the host has no value.
+void PutDate(const TargetProperty& property);
+
+enum class Saves
+{
+    OnceAtTheEnd,
+    AfterEachRowToo,
+};
+
+// Writes the host row on which the run's recordset stands into the item and saves it. Relation rows that name
+// no property of the mapping write nothing. Throws automation::Error when a row or a column cannot be read,
+// or Outlook refuses a value.
+void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping,
+                            const automation::Object& item, Saves saves);
+
+} // namespace data
