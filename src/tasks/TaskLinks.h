@@ -1,0 +1,27 @@
+// The links of a task or calendar entry to a host contact and a host account, as fragments of the lists of an
+// insert or of an update: what a link becomes depends on the user's rights and on what the host knows. Called
+// by the record writers inside their transaction. Each returns 0, or -1 when the host has failed; a message
+// box titled by the routine has then shown why.
+#pragma once
+
+#include "automation/Object.h"
+#include "data/FieldCatalogue.h"
+
+#include <string>
+
+namespace tasks
+{
+
+// F_CNTCTID by the item's ContactNames: the contact's key, or NULL where there is none, the item was made by
+// an Outlook without links, or the user may not modify contacts.
+long ChangeNewTaskContact(const automation::Object& item, std::wstring& fields, std::wstring& values);
+long ChangeEditTaskContact(const automation::Object& item, std::wstring& setList);
+
+// F_ACCID by the item's Companies: the account's key, with the account created where the host has none; NULL
+// for an item without a company. Nothing is added when the user has no right to either.
+long ChangeAddTaskAccount(data::FieldCatalogue& catalogue, const automation::Object& item,
+                          std::wstring& fields, std::wstring& values);
+long ChangeEditTaskAccount(data::FieldCatalogue& catalogue, const automation::Object& item,
+                           std::wstring& setList);
+
+} // namespace tasks
