@@ -4,10 +4,50 @@
 #include "automation/Text.h"
 #include "sandbox/database/Statement.h"
 
+#include <algorithm>
 #include <cwchar>
 
 namespace sandbox
 {
+
+namespace
+{
+
+// Under Wine the driver is the system's own and knows no drives: it takes the path that Wine maps a file to.
+std::wstring PathForDriver(const std::wstring& path)
+{
+    using GetUnixFileName = char*(CDECL*)(const wchar_t*);
+    const auto getUnixFileName = reinterpret_cast<GetUnixFileName>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
+    if (getUnixFileName == nullptr || path.starts_with(L'/'))
+    {
+        return path;
+    }
+    char* name = getUnixFileName(path.c_str());
+    if (name == nullptr)
+    {
+        throw automation::Error(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND), path);
+    }
+    std::wstring result = automation::FromUtf8(name);
+    HeapFree(GetProcessHeap(), 0, name);
+    return result;
+}
+
+std::wstring StringForDriver(const std::wstring& connectionString)
+{
+    constexpr std::wstring_view kKey = L"DATABASE=";
+    const size_t key = automation::UpperCased(connectionString).find(kKey);
+    if (key == std::wstring::npos)
+    {
+        return connectionString;
+    }
+    const size_t start = key + kKey.size();
+    const size_t length = std::min(connectionString.find(L';', start), connectionString.size()) - start;
+    return std::wstring(connectionString)
+        .replace(start, length, PathForDriver(connectionString.substr(start, length)));
+}
+
+} // namespace
 
 size_t ResultSet::IndexOf(const std::wstring& name) const
 {
@@ -52,10 +92,9 @@ Connection::Connection(const std::wstring& connectionString)
     SQLSetEnvAttr(handles.environment, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
     CheckSql(SQLAllocHandle(SQL_HANDLE_DBC, handles.environment, &handles.connection), SQL_HANDLE_ENV,
              handles.environment);
-    std::wstring text = connectionString;
-    CheckSql(SQLDriverConnectW(handles.connection, nullptr, text.data(),
-                               static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr,
-                               SQL_DRIVER_NOPROMPT),
+    TextForDriver text(StringForDriver(connectionString));
+    CheckSql(SQLDriverConnect(handles.connection, nullptr, text.Data(), SQL_NTS, nullptr, 0, nullptr,
+                              SQL_DRIVER_NOPROMPT),
              SQL_HANDLE_DBC, handles.connection);
     handles.isConnected = true;
     // A file that is no database is refused here and not at the first use; the sandbox's data need not
@@ -94,8 +133,8 @@ Value Connection::QueryValue(const std::wstring& sql, const Row& parameters)
 
 void Connection::Begin()
 {
-    CheckSql(SQLSetConnectAttrW(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
-                                reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), 0),
+    CheckSql(SQLSetConnectAttr(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
+                               reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), 0),
              SQL_HANDLE_DBC, mHandles->connection);
     mInTransaction = true;
 }
@@ -105,8 +144,8 @@ void Connection::Commit()
     CheckSql(SQLEndTran(SQL_HANDLE_DBC, mHandles->connection, SQL_COMMIT), SQL_HANDLE_DBC,
              mHandles->connection);
     mInTransaction = false;
-    SQLSetConnectAttrW(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
-                       reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_ON), 0);
+    SQLSetConnectAttr(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
+                      reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_ON), 0);
 }
 
 void Connection::Rollback()
@@ -114,38 +153,13 @@ void Connection::Rollback()
     mInTransaction = false;
     CheckSql(SQLEndTran(SQL_HANDLE_DBC, mHandles->connection, SQL_ROLLBACK), SQL_HANDLE_DBC,
              mHandles->connection);
-    SQLSetConnectAttrW(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
-                       reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_ON), 0);
+    SQLSetConnectAttr(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
+                      reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_ON), 0);
 }
-
-namespace
-{
-
-// Under Wine the driver is the system's own and knows no drives: it takes the path that Wine maps a file to.
-std::wstring PathForDriver(const std::wstring& path)
-{
-    using GetUnixFileName = char*(CDECL*)(const wchar_t*);
-    const auto getUnixFileName = reinterpret_cast<GetUnixFileName>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
-    if (getUnixFileName == nullptr || path.starts_with(L'/'))
-    {
-        return path;
-    }
-    char* name = getUnixFileName(path.c_str());
-    if (name == nullptr)
-    {
-        throw automation::Error(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND), path);
-    }
-    std::wstring result = automation::FromUtf8(name);
-    HeapFree(GetProcessHeap(), 0, name);
-    return result;
-}
-
-} // namespace
 
 std::wstring ConnectionStringOf(const std::wstring& path)
 {
-    return L"Driver=SQLite3;Timeout=3000;Database=" + PathForDriver(path);
+    return L"Driver=SQLite3;Timeout=1000;Database=" + path;
 }
 
 } // namespace sandbox

@@ -2,6 +2,7 @@
 
 #include "automation/Dates.h"
 #include "automation/Error.h"
+#include "automation/Text.h"
 
 #include <cwchar>
 #include <deque>
@@ -69,6 +70,11 @@ Value DateOfText(const std::wstring& text)
     return automation::DateOf(moment);
 }
 
+std::wstring TextOfDriver(const SQLCHAR* text)
+{
+    return automation::FromUtf8(reinterpret_cast<const char*>(text));
+}
+
 bool IsLong(double number)
 {
     return number >= std::numeric_limits<long>::min() && number <= std::numeric_limits<long>::max();
@@ -103,15 +109,15 @@ void CheckSql(SQLRETURN result, SQLSMALLINT handleType, SQLHANDLE handle)
     {
         return;
     }
-    SQLWCHAR state[6] = {};
-    SQLWCHAR text[1024] = {};
+    SQLCHAR state[6] = {};
+    SQLCHAR text[1024] = {};
     SQLINTEGER native = 0;
     SQLSMALLINT length = 0;
     const bool hasText =
         handle != nullptr &&
-        SQL_SUCCEEDED(SQLGetDiagRecW(handleType, handle, 1, state, &native, text, ARRAYSIZE(text), &length));
+        SQL_SUCCEEDED(SQLGetDiagRec(handleType, handle, 1, state, &native, text, ARRAYSIZE(text), &length));
     throw Error(E_FAIL, L"database",
-                hasText ? std::wstring(text) : std::wstring(L"The database cannot be reached"));
+                hasText ? TextOfDriver(text) : std::wstring(L"The database cannot be reached"));
 }
 
 Statement::Statement(SQLHDBC connection)
@@ -137,8 +143,8 @@ void Statement::Execute(const std::wstring& sql, const Row& parameters)
         Check(SQLBindParameter(mStatement, static_cast<SQLUSMALLINT>(i + 1), SQL_PARAM_INPUT, SQL_C_WCHAR,
                                SQL_WVARCHAR, text.empty() ? 1 : text.size(), 0, text.data(), 0, &length));
     }
-    std::wstring mutableSql = sql;
-    Check(SQLExecDirectW(mStatement, mutableSql.data(), static_cast<SQLINTEGER>(mutableSql.size())));
+    TextForDriver text(sql);
+    Check(SQLExecDirect(mStatement, text.Data(), SQL_NTS));
 }
 
 long Statement::ChangedRows()
@@ -155,15 +161,15 @@ std::vector<Column> Statement::DescribeColumns()
     std::vector<Column> columns;
     for (SQLSMALLINT i = 1; i <= count; ++i)
     {
-        SQLWCHAR name[256] = {};
+        SQLCHAR name[256] = {};
         SQLSMALLINT length = 0;
         SQLSMALLINT type = 0;
         SQLULEN size = 0;
         SQLSMALLINT digits = 0;
         SQLSMALLINT nullable = 0;
-        Check(SQLDescribeColW(mStatement, static_cast<SQLUSMALLINT>(i), name, ARRAYSIZE(name), &length, &type,
-                              &size, &digits, &nullable));
-        columns.push_back({name, TypeOf(type)});
+        Check(SQLDescribeCol(mStatement, static_cast<SQLUSMALLINT>(i), name, ARRAYSIZE(name), &length, &type,
+                             &size, &digits, &nullable));
+        columns.push_back({TextOfDriver(name), TypeOf(type)});
     }
     return columns;
 }
