@@ -16,6 +16,7 @@ struct ObjectKind
     long TransObjectID;
     const wchar_t* Picture;  // picture key
     long OutlookItemType;    // Outlook's OlItemType of the kind's items
+    UINT Caption;            // resource string: the kind's name
     UINT FolderPickerPrompt; // resource string
 };
 

@@ -99,3 +99,52 @@
 #define IDD_SHOWINFOR 2300             // FrmShowInfor
 #define IDC_SHOWINFOR_PICTURE 2301     // the information icon
 #define IDC_SHOWINFOR_DESCRIPTION 2302 // Txt_ErrDescription
+
+#define IDD_CONFIGURE 2400         // FrmConfigure
+#define IDC_CONFIGURE_LABEL 2401   // over the list
+#define IDC_CONFIGURE_LIST 2402    // lvTran
+#define IDC_CONFIGURE_CHOOSE 2403  // cmdChoose
+#define IDC_CONFIGURE_ADVANCE 2404 // cmdAdvance
+
+#define IDD_SYNCHOOSE 2500 // FrmSynChoose
+#define IDC_CHOOSE_PROMPT 2501
+#define IDC_CHOOSE_TRANSLATORS_LABEL 2502
+#define IDC_CHOOSE_TRANSLATORS 2503 // lstTran
+#define IDC_CHOOSE_OPERATION 2504   // the frame around the options
+#define IDC_CHOOSE_DIRECTION 2505   // OptSynType(1), and the two numbers that follow
+#define IDC_CHOOSE_FOLDER_LABEL 2508
+#define IDC_CHOOSE_FOLDER 2509 // txtFolder
+#define IDC_CHOOSE_BROWSE 2510 // cmdBrowse
+#define IDC_CHOOSE_OPTION 2511 // cmdOption
+#define IDC_CHOOSE_APPLY 2512  // chkApply
+
+#define IDD_SYNCONTENT 2600 // FrmSynContent
+#define IDC_CONTENT_PROMPT 2601
+#define IDC_CONTENT_TREE_LABEL 2602
+#define IDC_CONTENT_TREE 2603    // tvOlFolder
+#define IDC_CONTENT_ADD 2604     // cmdAdd
+#define IDC_CONTENT_REMOVE 2605  // cmdRemove
+#define IDC_CONTENT_DEFAULT 2606 // cmdDefault
+#define IDC_CONTENT_LIST_LABEL 2607
+#define IDC_CONTENT_LIST 2608 // lvSelItems
+
+// The three advanced option dialogs number what they share alike.
+#define IDD_ADVCONTACTS 2700 // FrmAdvContacts
+#define IDC_ADV_TABS 2701
+#define IDC_ADV_CONFLICT_EXPLANATION 2702
+#define IDC_ADV_CONFLICT_FRAME 2703
+#define IDC_ADV_CONFLICT 2704 // option 1, and the four numbers that follow
+#define IDC_ADV_RANGE_EXPLANATION 2711
+#define IDC_ADV_RANGE_FRAME 2712
+#define IDC_ADV_RANGE 2713   // option 0, and the two numbers that follow (tasks: one)
+#define IDD_ADVCALENDAR 2800 // FrmAdvCalendar
+#define IDC_ADVCALENDAR_PRIOR_LABEL 2801
+#define IDC_ADVCALENDAR_PRIOR 2802 // txtPrior
+#define IDC_ADVCALENDAR_AFTER_LABEL 2803
+#define IDC_ADVCALENDAR_AFTER 2804 // txtAfter
+#define IDD_ADVACTIVITES 2900      // FrmAdvActivites
+
+#define IDD_OUTLOOKOPTION 3000 // FrmOutLookOption
+#define IDC_OUTLOOKOPTION_EXPLANATION 3001
+#define IDC_OUTLOOKOPTION_LABEL 3002
+#define IDC_OUTLOOKOPTION_PROFILE 3003 // CmbProfile

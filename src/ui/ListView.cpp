@@ -18,9 +18,14 @@ void ListView::Prepare()
 {
     constexpr LPARAM kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
+    Clear();
+    mColumns = 0;
+}
+
+void ListView::Clear()
+{
     Send(LVM_DELETEALLITEMS);
     mKeys.clear();
-    mColumns = 0;
 }
 
 void ListView::AddColumn(const std::wstring& header, int width)

@@ -22,6 +22,8 @@ class ListView : public Control
 
     // Adds a row at the end; its index, from 0.
     int Add(const std::wstring& text, const std::wstring& key = {});
+    // Takes all rows away; the columns stay.
+    void Clear();
     int Count() const;
     std::wstring TextOf(int row, int column = 0) const;
     const std::wstring& KeyOf(int row) const;

@@ -1,0 +1,65 @@
+#include "config/FrmAdvActivites.h"
+
+#include "config/AdvancedOptions.h"
+#include "resources/Strings.h"
+
+namespace config
+{
+
+namespace
+{
+
+constexpr int kRangeCount = 2;
+
+} // namespace
+
+FrmAdvActivites::FrmAdvActivites()
+    : FrmAdvanced(IDD_ADVACTIVITES, L"Task"),
+      lblRange(*this, IDC_ADV_RANGE_EXPLANATION),
+      fraRange(*this, IDC_ADV_RANGE_FRAME),
+      OptTransRange(*this, IDC_ADV_RANGE, kRangeCount, state::kAllTasks)
+{
+}
+
+const wchar_t* FrmAdvActivites::Caption() const
+{
+    return resources::Choose(L"任务高级设置", L"Advanced Settings for Activities");
+}
+
+void FrmAdvActivites::AddRangePage(ui::TabPages& tabs)
+{
+    lblRange.SetText(resources::String(IDS_RANGE_EXPLANATION));
+    fraRange.SetText(resources::String(IDS_OPTIONS));
+    OptTransRange.SetText(state::kAllTasks, resources::String(IDS_TASKS_ALL));
+    OptTransRange.SetText(state::kPendingTasks, resources::String(IDS_TASKS_PENDING));
+    tabs.AddPage(resources::Choose(L"任务", L"Activities"),
+                 {{IDC_ADV_RANGE_EXPLANATION, IDC_ADV_RANGE + kRangeCount - 1}});
+}
+
+void FrmAdvActivites::LoadRange(const automation::Recordset& row)
+{
+    Record().TaskTransItem = automation::LongOf(row.ValueOf(L"TaskTransItem"));
+    mRangeCode = Record().TaskTransItem;
+    OptTransRange.Select(mRangeCode);
+}
+
+void FrmAdvActivites::OnRange(int id, int notification)
+{
+    if (const auto code = OptTransRange.Clicked(id, notification))
+    {
+        mRangeCode = *code;
+    }
+}
+
+void FrmAdvActivites::Store()
+{
+    if (!TaskOptionsDiffer(Record(), ConflictCode(), mRangeCode))
+    {
+        return;
+    }
+    UpdateRow(TaskSetClause(ConflictCode(), mRangeCode));
+    Record().TransConflictOption = ConflictCode();
+    Record().TaskTransItem = mRangeCode;
+}
+
+} // namespace config

@@ -1,0 +1,106 @@
+#include "config/FrmAdvCalendar.h"
+
+#include "config/AdvancedOptions.h"
+#include "resources/Strings.h"
+
+namespace config
+{
+
+namespace
+{
+
+constexpr UINT kRangeCaptions[] = {IDS_CALENDAR_ALL, IDS_CALENDAR_FUTURE, IDS_CALENDAR_RANGE};
+constexpr int kRangeCount = static_cast<int>(std::size(kRangeCaptions));
+constexpr int kMostDigits = 4; // whatever is typed fits the column
+
+} // namespace
+
+FrmAdvCalendar::FrmAdvCalendar()
+    : FrmAdvanced(IDD_ADVCALENDAR, L"Calendar"),
+      lblRange(*this, IDC_ADV_RANGE_EXPLANATION),
+      fraRange(*this, IDC_ADV_RANGE_FRAME),
+      OptTransItems(*this, IDC_ADV_RANGE, kRangeCount, state::kAllEntries),
+      lblPrior(*this, IDC_ADVCALENDAR_PRIOR_LABEL),
+      txtPrior(*this, IDC_ADVCALENDAR_PRIOR),
+      lblAfter(*this, IDC_ADVCALENDAR_AFTER_LABEL),
+      txtAfter(*this, IDC_ADVCALENDAR_AFTER)
+{
+}
+
+const wchar_t* FrmAdvCalendar::Caption() const
+{
+    return resources::Choose(L"日历高级设置", L"Advanced Settings for Calendar");
+}
+
+void FrmAdvCalendar::AddRangePage(ui::TabPages& tabs)
+{
+    lblRange.SetText(resources::String(IDS_RANGE_EXPLANATION));
+    fraRange.SetText(resources::String(IDS_OPTIONS));
+    for (int i = 0; i < kRangeCount; ++i)
+    {
+        OptTransItems.SetText(state::kAllEntries + i, resources::String(kRangeCaptions[i]));
+    }
+    lblPrior.SetText(resources::String(IDS_CALENDAR_PRIOR));
+    lblAfter.SetText(resources::String(IDS_CALENDAR_AFTER));
+    txtPrior.Prepare(kMostDigits, ui::DigitBox::EnterKey::MovesFocusOn);
+    txtAfter.Prepare(kMostDigits, ui::DigitBox::EnterKey::ActsOnDefaultButton);
+    tabs.AddPage(resources::Choose(L"日期范围", L"Date Range"),
+                 {{IDC_ADV_RANGE_EXPLANATION, IDC_ADV_RANGE + kRangeCount - 1},
+                  {IDC_ADVCALENDAR_PRIOR_LABEL, IDC_ADVCALENDAR_AFTER}});
+}
+
+void FrmAdvCalendar::LoadRange(const automation::Recordset& row)
+{
+    Record().CalendarTransItem = automation::LongOf(row.ValueOf(L"CalendarTransItem"));
+    if (Record().CalendarTransItem == state::kEntriesWithinDays)
+    {
+        Record().CalendarPrior = automation::ShortOf(row.ValueOf(L"CalendarPrior"));
+        Record().CalendarAfter = automation::ShortOf(row.ValueOf(L"CalendarAfter"));
+    }
+    OptTransItems.Select(Record().CalendarTransItem);
+    ChooseRange(Record().CalendarTransItem);
+}
+
+void FrmAdvCalendar::OnRange(int id, int notification)
+{
+    if (const auto code = OptTransItems.Clicked(id, notification))
+    {
+        ChooseRange(*code);
+    }
+}
+
+void FrmAdvCalendar::ChooseRange(long code)
+{
+    mRangeCode = code;
+    if (code != state::kEntriesWithinDays)
+    {
+        EnableDays(false);
+    }
+    else if (!txtPrior.IsEnabled())
+    {
+        EnableDays(true);
+        const DayBoxes boxes = DayBoxesOf(Record());
+        txtPrior.SetText(boxes.prior);
+        txtAfter.SetText(boxes.after);
+    }
+}
+
+void FrmAdvCalendar::EnableDays(bool enabled)
+{
+    txtPrior.Enable(enabled);
+    txtAfter.Enable(enabled);
+}
+
+void FrmAdvCalendar::Store()
+{
+    const bool hasDays = mRangeCode == state::kEntriesWithinDays;
+    const short after = hasDays ? DaysIn(txtAfter.Text()) : short{0};
+    const short prior = hasDays ? DaysIn(txtPrior.Text()) : short{0};
+    Record().CalendarAfter = after;
+    Record().CalendarPrior = prior;
+    UpdateRow(CalendarSetClause(ConflictCode(), mRangeCode, prior, after));
+    Record().TransConflictOption = ConflictCode();
+    Record().CalendarTransItem = mRangeCode;
+}
+
+} // namespace config

@@ -1,0 +1,22 @@
+#include "config/FrmAdvContacts.h"
+
+#include "config/AdvancedOptions.h"
+#include "resources/Strings.h"
+
+namespace config
+{
+
+FrmAdvContacts::FrmAdvContacts() : FrmAdvanced(IDD_ADVCONTACTS, L"Contact") {}
+
+const wchar_t* FrmAdvContacts::Caption() const
+{
+    return resources::Choose(L"联系人高级设置", L"Advanced settings for contact");
+}
+
+void FrmAdvContacts::Store()
+{
+    UpdateRow(ContactSetClause(ConflictCode()));
+    Record().TransConflictOption = ConflictCode();
+}
+
+} // namespace config

@@ -1,0 +1,191 @@
+#include "config/FrmConfigure.h"
+
+#include "config/FrmAdvanced.h"
+#include "config/FrmSynChoose.h"
+#include "config/ObjectKinds.h"
+#include "config/ParameterStore.h"
+#include "config/UserRows.h"
+#include "resources/Strings.h"
+#include "state/Failures.h"
+#include "state/SharedState.h"
+
+#include <utility>
+
+namespace config
+{
+
+namespace
+{
+
+constexpr int kArrowColumn = 1;
+constexpr int kArrowColumnWidth = 10; // dialog units; the column then takes what is left
+
+state::SynParameter& Record()
+{
+    return state::Shared().gConfigureParameter;
+}
+
+// The row's own picture, or that of its kind where the row names none that there is.
+int PictureOfKind(const Translation& row)
+{
+    const int picture = Pictures::IndexOf(row.TransObjectPic);
+    const ObjectKind* kind = FindObjectKind(row.TransObject);
+    return picture >= 0 || kind == nullptr ? picture : Pictures::IndexOf(kind->Picture);
+}
+
+} // namespace
+
+FrmConfigure::FrmConfigure()
+    : Dialog(IDD_CONFIGURE),
+      lblTran(*this, IDC_CONFIGURE_LABEL),
+      lvTran(*this, IDC_CONFIGURE_LIST),
+      cmdChoose(*this, IDC_CONFIGURE_CHOOSE),
+      cmdAdvance(*this, IDC_CONFIGURE_ADVANCE),
+      CmdOk(*this, IDOK),
+      cmdCancel(*this, IDCANCEL)
+{
+}
+
+void FrmConfigure::OnInit()
+{
+    SetCaption(resources::Choose(L"配置同步传输", L"Config Translation"));
+    lblTran.SetText(resources::Choose(L"本系统同步项目:", L"Quenlar Applications"));
+    cmdAdvance.SetText(resources::Choose(L"高级(&A)...", L"&Advanced..."));
+    cmdChoose.SetText(resources::Choose(L"选择(&S)...", L"Choo&se..."));
+    CmdOk.SetText(resources::String(IDS_OK));
+    cmdCancel.SetText(resources::String(IDS_CANCEL));
+    lvTran.Prepare();
+    lvTran.UsePictures(mPictures.List());
+    lvTran.UseCheckBoxes();
+    state::Trapped(false, [&] {
+        FillList();
+        SelectKindOfRecord();
+        return true;
+    });
+}
+
+void FrmConfigure::FillList()
+{
+    mRows = LoadTranslations();
+    lvTran.AddColumn(resources::String(IDS_CATEGORY), 0);
+    lvTran.AddColumn(resources::String(IDS_CHOOSE_OPERATION), kArrowColumnWidth);
+    for (size_t i = 0; i < mRows.size(); ++i)
+    {
+        const int row = lvTran.Add(mRows[i].Name, mRows[i].TransObject);
+        lvTran.SetPicture(row, 0, PictureOfKind(mRows[i]));
+        Redraw(row);
+    }
+    lvTran.FitFirstColumn();
+    lvTran.FillWidth();
+}
+
+void FrmConfigure::SelectKindOfRecord()
+{
+    for (size_t i = 0; i < mRows.size(); ++i)
+    {
+        if (mRows[i].TransObject == Record().TransObject)
+        {
+            lvTran.Select(static_cast<int>(i));
+            return;
+        }
+    }
+}
+
+// The stored values, with what has been edited here and is not stored yet.
+void FrmConfigure::DescribeSelected(int row)
+{
+    const Translation& translation = mRows.at(static_cast<size_t>(row));
+    SetSynParamenter(Record(), translation.TransObject);
+    Record().TransObject = translation.TransObject;
+    if (const ObjectKind* kind = FindObjectKind(translation.TransObject); kind != nullptr)
+    {
+        Record().TransObjectPic = kind->Picture;
+    }
+    ApplyTo(Record(), translation);
+    cmdChoose.Enable(true);
+    cmdAdvance.Enable(true);
+}
+
+void FrmConfigure::Redraw(int row)
+{
+    const Translation& translation = mRows.at(static_cast<size_t>(row));
+    const bool drawingBefore = std::exchange(mDrawing, true);
+    lvTran.Check(row, translation.Checked);
+    lvTran.SetPicture(row, kArrowColumn, Pictures::IndexOf(translation.Arrow()));
+    mDrawing = drawingBefore;
+}
+
+void FrmConfigure::TakeCheckMark(int row)
+{
+    SetChecked(mRows.at(static_cast<size_t>(row)), lvTran.IsChecked(row));
+    Redraw(row);
+    if (lvTran.Selected() == row)
+    {
+        ApplyTo(Record(), mRows[static_cast<size_t>(row)]);
+    }
+}
+
+LRESULT FrmConfigure::OnNotify(const NMHDR& notification)
+{
+    return state::Trapped(LRESULT{0}, [&] {
+        if (const auto selected = lvTran.NewlySelected(notification))
+        {
+            DescribeSelected(*selected);
+        }
+        else if (const auto toggled = lvTran.Toggled(notification); toggled && !mDrawing)
+        {
+            TakeCheckMark(*toggled);
+        }
+        return LRESULT{0};
+    });
+}
+
+void FrmConfigure::OnCommand(int id, int notification)
+{
+    state::Trapped(false, [&] {
+        switch (id)
+        {
+        case IDC_CONFIGURE_CHOOSE: OnChoose(); break;
+        case IDC_CONFIGURE_ADVANCE: OnAdvance(); break;
+        case IDOK: OnOk(); break;
+        default: Dialog::OnCommand(id, notification); break;
+        }
+        return true;
+    });
+}
+
+void FrmConfigure::OnChoose()
+{
+    const auto row = lvTran.Selected();
+    if (!row)
+    {
+        return;
+    }
+    FrmSynChoose().ShowModal();
+    TakeFrom(mRows.at(static_cast<size_t>(*row)), Record());
+    Redraw(*row);
+}
+
+void FrmConfigure::OnAdvance()
+{
+    ShowAdvancedOptions(Record().TransObject);
+}
+
+void FrmConfigure::OnOk()
+{
+    for (const Translation& row : mRows)
+    {
+        UpdateUserRows(TranslationSetClause(row), kParameterTable, L"TransObject='" + row.TransObject + L"'");
+    }
+    Unload(IDOK);
+}
+
+void ShowConfigure()
+{
+    state::Trapped(false, [] {
+        FrmConfigure().ShowModal();
+        return true;
+    });
+}
+
+} // namespace config

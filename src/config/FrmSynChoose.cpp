@@ -1,0 +1,177 @@
+#include "config/FrmSynChoose.h"
+
+#include "config/FrmOutLookOption.h"
+#include "config/FrmSynContent.h"
+#include "config/ObjectKinds.h"
+#include "config/OutlookProfiles.h"
+#include "config/ParameterStore.h"
+#include "config/Translation.h"
+#include "resources/Strings.h"
+#include "state/Failures.h"
+#include "state/SharedState.h"
+
+namespace config
+{
+
+namespace
+{
+
+// Rows of lstTran.
+constexpr int kNone = 0;
+constexpr int kOutlook = 1;
+constexpr wchar_t kOutlookSource[] = L"Outlook";
+
+constexpr int kDirectionCount = 3;
+
+state::SynParameter& Record()
+{
+    return state::Shared().gConfigureParameter;
+}
+
+} // namespace
+
+FrmSynChoose::FrmSynChoose()
+    : Dialog(IDD_SYNCHOOSE),
+      lblPrompt(*this, IDC_CHOOSE_PROMPT),
+      lblTranslators(*this, IDC_CHOOSE_TRANSLATORS_LABEL),
+      lstTran(*this, IDC_CHOOSE_TRANSLATORS),
+      fraOperation(*this, IDC_CHOOSE_OPERATION),
+      OptSynType(*this, IDC_CHOOSE_DIRECTION, kDirectionCount, state::kOutlookToQuenlar),
+      lblFolder(*this, IDC_CHOOSE_FOLDER_LABEL),
+      txtFolder(*this, IDC_CHOOSE_FOLDER),
+      cmdBrowse(*this, IDC_CHOOSE_BROWSE),
+      cmdOption(*this, IDC_CHOOSE_OPTION),
+      CmdOk(*this, IDOK),
+      cmdCancel(*this, IDCANCEL)
+{
+}
+
+void FrmSynChoose::OnInit()
+{
+    SetCaptions();
+    lstTran.Add(L"<None>");
+    lstTran.Add(L"Ms Outlook");
+    state::Trapped(false, [&] {
+        TakeFromRecord();
+        LoadDefaultFolder(Record(), Record().TransObject);
+        ShowFolder();
+        return true;
+    });
+}
+
+void FrmSynChoose::SetCaptions()
+{
+    if (const ObjectKind* kind = FindObjectKind(Record().TransObject); kind != nullptr)
+    {
+        SetCaption(resources::String(kind->Caption));
+    }
+    lblPrompt.SetText(resources::String(IDS_CHOOSE_PROMPT));
+    lblTranslators.SetText(resources::String(IDS_CHOOSE_TRANSLATORS));
+    fraOperation.SetText(resources::String(IDS_CHOOSE_OPERATION));
+    for (const Direction& direction : Directions())
+    {
+        OptSynType.SetText(direction.TransType, resources::String(direction.Caption));
+    }
+    lblFolder.SetText(resources::String(IDS_CHOOSE_FOLDER));
+    cmdBrowse.SetText(resources::String(IDS_CHOOSE_BROWSE));
+    cmdOption.SetText(resources::String(IDS_CHOOSE_OPTION));
+    CmdOk.SetText(resources::String(IDS_OK));
+    cmdCancel.SetText(resources::String(IDS_CANCEL));
+}
+
+void FrmSynChoose::TakeFromRecord()
+{
+    mTransType = Record().TransType;
+    mTransTypePic = Record().TransTypePic;
+    mTransSource = Record().TransSource;
+    OptSynType.Select(mTransType);
+    lstTran.Select(mTransSource.empty() ? kNone : kOutlook);
+}
+
+void FrmSynChoose::ShowFolder()
+{
+    txtFolder.SetText(mTransSource.empty() ? std::wstring() : Record().CurrentFolder);
+}
+
+void FrmSynChoose::OnCommand(int id, int notification)
+{
+    state::Trapped(false, [&] {
+        if (const auto direction = OptSynType.Clicked(id, notification))
+        {
+            OnDirection(*direction);
+            return true;
+        }
+        switch (id)
+        {
+        case IDC_CHOOSE_TRANSLATORS:
+            if (notification == LBN_SELCHANGE)
+            {
+                OnTranslator();
+            }
+            break;
+        case IDC_CHOOSE_BROWSE: OnBrowse(); break;
+        case IDC_CHOOSE_OPTION: OnOption(); break;
+        case IDOK: OnOk(); break;
+        default: Dialog::OnCommand(id, notification); break;
+        }
+        return true;
+    });
+}
+
+void FrmSynChoose::OnTranslator()
+{
+    if (lstTran.Selected() != kOutlook)
+    {
+        mTransSource.clear();
+        txtFolder.SetText(L"");
+        return;
+    }
+    mTransSource = kOutlookSource;
+    const std::wstring& current = Record().CurrentFolder;
+    txtFolder.SetText(current.empty() ? Record().DefaultFolder : current);
+    if (!mDirectionChosen) // or the picture would contradict the option that the user sees set
+    {
+        mTransTypePic = Record().TransTypePic;
+    }
+}
+
+void FrmSynChoose::OnDirection(long transType)
+{
+    if (const Direction* direction = FindDirection(transType); direction != nullptr)
+    {
+        mTransType = direction->TransType;
+        mTransTypePic = direction->TransTypePic;
+        mDirectionChosen = true;
+    }
+}
+
+void FrmSynChoose::OnBrowse()
+{
+    if (CheckOutlookProfiles())
+    {
+        return;
+    }
+    FrmSynContent(Record()).ShowModalOver(*this);
+    ShowFolder();
+}
+
+void FrmSynChoose::OnOption()
+{
+    if (CheckOutlookProfiles())
+    {
+        return;
+    }
+    FrmOutLookOption().ShowModal();
+    ShowFolder();
+}
+
+void FrmSynChoose::OnOk()
+{
+    Record().TransSource = mTransSource;
+    Record().TransType = mTransType;
+    Record().TransTypePic = mTransTypePic;
+    Record().IsTrans = !mTransSource.empty();
+    Unload(IDOK);
+}
+
+} // namespace config

@@ -1,0 +1,57 @@
+// The folder picker: the tree of the current profile's folders, reduced to what suits one kind of data, and
+// the folders chosen from it, one of them the default. Opened by FrmSynChoose as its owner; on OK it replaces
+// the user's stored folders of the kind and tells the record given which one is current.
+#pragma once
+
+#include "config/ChosenFolders.h"
+#include "config/FolderTree.h"
+#include "config/Pictures.h"
+#include "state/SynParameter.h"
+#include "ui/Control.h"
+#include "ui/Dialog.h"
+#include "ui/PictureListView.h"
+#include "ui/TreeView.h"
+
+namespace config
+{
+
+class FrmSynContent : public ui::Dialog
+{
+  public:
+    // The record names the kind and outlives the dialog.
+    explicit FrmSynContent(state::SynParameter& record);
+
+  private:
+    void OnInit() override;
+    void OnCommand(int id, int notification) override;
+    LRESULT OnNotify(const NMHDR& notification) override;
+
+    void SetCaptions();
+    void FillTree();
+    HTREEITEM AddNodes(HTREEITEM parent, const FolderNode& folder);
+    void OpenNode(HTREEITEM node);
+    void ShowChosen(size_t selected);
+    void OnAdd();
+    void OnRemove();
+    void OnDefault();
+    void OnOk();
+
+    ui::Label lblPrompt;
+    ui::Label lblTree;
+    ui::TreeView tvOlFolder;
+    ui::Button cmdAdd;
+    ui::Button cmdRemove;
+    ui::Button cmdDefault;
+    ui::Label lblList;
+    ui::PictureListView lvSelItems;
+    ui::Button CmdOk;
+    ui::Button cmdCancel;
+
+    state::SynParameter& mRecord;
+    const ObjectKind* mKind; // null for a kind that there is not: nothing is shown or written
+    Pictures mPictures;
+    std::vector<FolderNode> mNodes; // by the number that the tree's nodes carry
+    ChosenFolders mChosen;
+};
+
+} // namespace config
