@@ -1,6 +1,7 @@
 #include "sandbox/outlook/Outlook.h"
 
 #include "sandbox/outlook/Application.h"
+#include "sandbox/outlook/DatabaseStore.h"
 #include "sandbox/outlook/Registration.h"
 
 namespace sandbox
@@ -15,6 +16,17 @@ MailboxRef MakeMailbox()
     mailbox->AddFolder(L"Personal Folders\\Tasks", ItemKind::Task);
     mailbox->AddFolder(L"Personal Folders\\Notes", ItemKind::Note);
     return mailbox;
+}
+
+MailboxRef OpenMailbox(const std::wstring& path)
+{
+    return std::make_shared<Mailbox>(std::make_unique<outlook::DatabaseStore>(path));
+}
+
+MailboxRef CreateMailbox(const std::wstring& path)
+{
+    outlook::DatabaseStore::Create(path);
+    return OpenMailbox(path);
 }
 
 automation::Object MakeOutlook(const MailboxRef& mailbox)

@@ -18,6 +18,12 @@ using outlook::MailboxRef;
 // "Calendar", "Contacts", "Tasks" and "Notes".
 MailboxRef MakeMailbox();
 
+// The mailbox kept in this file, a Windows path. Throws automation::Error when the file is not there or
+// cannot be read.
+MailboxRef OpenMailbox(const std::wstring& path);
+// The same, with the file and its tables made where they are missing; it has no folders then.
+MailboxRef CreateMailbox(const std::wstring& path);
+
 // The application object over a mailbox.
 automation::Object MakeOutlook(const MailboxRef& mailbox);
 

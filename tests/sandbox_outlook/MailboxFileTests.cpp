@@ -1,0 +1,193 @@
+#include "tests/sandbox_outlook/OutlookTest.h"
+
+#include "sandbox/database/Connection.h"
+
+#include <windows.h>
+
+namespace sandbox
+{
+
+class MailboxFile : public testing::Test
+{
+  protected:
+    MailboxFile()
+    {
+        wchar_t directory[MAX_PATH];
+        GetTempPathW(ARRAYSIZE(directory), directory);
+        mPath =
+            std::wstring(directory) + L"telvix-mailbox-" + std::to_wstring(GetCurrentProcessId()) + L".db";
+        DeleteFileW(mPath.c_str());
+        const auto mailbox = CreateMailbox(mPath);
+        mailbox->AddFolder(L"邮箱\\Contacts", ItemKind::Contact);
+        mailbox->AddFolder(L"邮箱\\Tasks", ItemKind::Task);
+        mailbox->AddFolder(L"邮箱\\Calendar", ItemKind::Appointment);
+    }
+
+    ~MailboxFile() override { DeleteFileW(mPath.c_str()); }
+
+    automation::Object Folder(const automation::Object& outlook, long number) const
+    {
+        return outlook.GetObject(L"Session").GetObject(L"GetDefaultFolder", number);
+    }
+
+    // A value of the file, as another reader sees it at this moment.
+    std::wstring Stored(long index, const wchar_t* name) const
+    {
+        return automation::TextOrEmpty(Connection(ConnectionStringOf(mPath))
+                                           .QueryValue(L"SELECT Value FROM ItemProperty WHERE ItemIndex = ? "
+                                                       L"AND Name = ?",
+                                                       {index, name}));
+    }
+
+    void Run(const wchar_t* sql, const Row& parameters = {}) const
+    {
+        Connection(ConnectionStringOf(mPath)).Execute(sql, parameters);
+    }
+
+    void AddRow(const wchar_t* folder, long index, const wchar_t* name, const wchar_t* value) const
+    {
+        Run(L"INSERT INTO ItemProperty VALUES (?, ?, ?, ?)", {folder, index, name, value});
+    }
+
+    std::wstring mPath;
+};
+
+TEST_F(MailboxFile, ASavedItemIsInTheFileAtOnce)
+{
+    const auto outlook = MakeOutlook(OpenMailbox(mPath));
+    const auto contact = Folder(outlook, 10).GetObject(L"Items").GetObject(L"Add");
+    contact.Put(L"LastName", L"王");
+    contact.Put(L"Birthday", Day(1975, 3, 4));
+    EXPECT_EQ(L"", Stored(1, L"LastName"));
+    contact.Call(L"Save");
+    EXPECT_EQ(L"王", Stored(1, L"LastName"));
+    EXPECT_EQ(L"1975-03-04 00:00:00", Stored(1, L"Birthday"));
+    EXPECT_EQ(L"IPM.Contact", Stored(1, L"MessageClass"));
+    contact.Put(L"LastName", {});
+    contact.Call(L"Save");
+    EXPECT_EQ(L"", Stored(1, L"LastName"));
+    EXPECT_EQ(L"1975-03-04 00:00:00", Stored(1, L"Birthday"));
+}
+
+TEST_F(MailboxFile, AnotherSessionReadsWhatWasSaved)
+{
+    {
+        const auto outlook = MakeOutlook(OpenMailbox(mPath));
+        const auto contact = Folder(outlook, 10).GetObject(L"Items").GetObject(L"Add");
+        contact.Put(L"FirstName", L"小明");
+        contact.Put(L"LastName", L"王");
+        contact.Call(L"Save");
+        const auto task = Folder(outlook, 13).GetObject(L"Items").GetObject(L"Add");
+        task.Put(L"Complete", true);
+        task.GetObject(L"Links").Call(L"Add", contact);
+        task.Call(L"Save");
+    }
+    const auto outlook = MakeOutlook(OpenMailbox(mPath));
+    const auto task = Folder(outlook, 13).GetObject(L"Items").GetObject(L"Item", 1);
+    EXPECT_TRUE(Truth(task, L"Complete"));
+    EXPECT_EQ(2, Number(task, L"Status"));
+    EXPECT_EQ(L"王小明", Text(task, L"ContactNames"));
+}
+
+TEST_F(MailboxFile, RowsAddedByHandAreItemsWithDefaultsForWhatTheyLeaveOut)
+{
+    AddRow(L"邮箱\\Tasks", 7, L"Subject", L"Call 李雷");
+    AddRow(L"邮箱\\Tasks", 7, L"Complete", L"1");
+    AddRow(L"邮箱\\Tasks", 3, L"Subject", L"First");
+    AddRow(L"邮箱\\Tasks", 3, L"StartDate", L"2003-05-06 00:00:00");
+    AddRow(L"邮箱\\Tasks", 3, L"OutlookVersion", L"8.5");
+    const auto items = Folder(MakeOutlook(OpenMailbox(mPath)), 13).GetObject(L"Items");
+    ASSERT_EQ(2, Number(items, L"Count"));
+    const auto first = items.GetObject(L"Item", 1);
+    EXPECT_EQ(L"First", Text(first, L"Subject"));
+    EXPECT_EQ(L"2003-05-06 00:00", At(first.Get(L"StartDate")));
+    EXPECT_EQ(L"4501-01-01 00:00", At(first.Get(L"DueDate")));
+    EXPECT_EQ(L"8.5", Text(first, L"OutlookVersion"));
+    const auto second = items.GetObject(L"Item", 2);
+    EXPECT_EQ(L"Call 李雷", Text(second, L"Subject"));
+    EXPECT_TRUE(Truth(second, L"Complete"));
+    EXPECT_EQ(1, Number(second, L"Importance"));
+}
+
+TEST_F(MailboxFile, ARowThatCannotBeReadCountsAsAbsent)
+{
+    AddRow(L"邮箱\\Tasks", 1, L"Subject", L"x");
+    AddRow(L"邮箱\\Tasks", 1, L"DueDate", L"some day");
+    AddRow(L"邮箱\\Tasks", 1, L"PercentComplete", L"half");
+    AddRow(L"邮箱\\Tasks", 1, L"Shoe size", L"44");
+    const auto task = Folder(MakeOutlook(OpenMailbox(mPath)), 13).GetObject(L"Items").GetObject(L"Item", 1);
+    EXPECT_EQ(L"4501-01-01 00:00", At(task.Get(L"DueDate")));
+    EXPECT_EQ(0, Number(task, L"PercentComplete"));
+    task.Put(L"PercentComplete", 50);
+    task.Call(L"Save");
+    EXPECT_EQ(L"50", Stored(1, L"PercentComplete"));
+    EXPECT_EQ(L"44", Stored(1, L"Shoe size"));
+}
+
+TEST_F(MailboxFile, ANewItemComesAfterTheHighestIndex)
+{
+    AddRow(L"邮箱\\Contacts", 40, L"LastName", L"Smith");
+    const auto items = Folder(MakeOutlook(OpenMailbox(mPath)), 10).GetObject(L"Items");
+    const auto contact = items.GetObject(L"Add");
+    contact.Put(L"LastName", L"Jones");
+    contact.Call(L"Save");
+    EXPECT_EQ(L"Jones", Stored(41, L"LastName"));
+    EXPECT_EQ(L"Jones", Text(items.GetObject(L"Item", 2), L"LastName"));
+}
+
+TEST_F(MailboxFile, ALinkThatLeadsNowhereIsANameWithoutAnItem)
+{
+    AddRow(L"邮箱\\Tasks", 1, L"Subject", L"x");
+    Run(L"INSERT INTO ItemLink VALUES (?, 1, ?)", {L"邮箱\\Tasks", L"Mary Smith"});
+    const auto task = Folder(MakeOutlook(OpenMailbox(mPath)), 13).GetObject(L"Items").GetObject(L"Item", 1);
+    const auto link = task.GetObject(L"Links").GetObject(L"Item", 1);
+    EXPECT_EQ(L"Mary Smith", Text(link, L"Name"));
+    EXPECT_EQ(L"Mary Smith", Text(task, L"ContactNames"));
+    EXPECT_THROW(link.Get(L"Item"), automation::Error);
+}
+
+TEST_F(MailboxFile, ADeletedItemLeavesTheFile)
+{
+    AddRow(L"邮箱\\Contacts", 1, L"LastName", L"Smith");
+    Folder(MakeOutlook(OpenMailbox(mPath)), 10).GetObject(L"Items").GetObject(L"Item", 1).Call(L"Delete");
+    EXPECT_EQ(L"", Stored(1, L"LastName"));
+}
+
+TEST_F(MailboxFile, AFolderWithoutARowForItsParentIsInTheTreeAllTheSame)
+{
+    Run(L"DELETE FROM Folder WHERE Path = ?", {L"邮箱"});
+    const auto session = MakeOutlook(OpenMailbox(mPath)).GetObject(L"Session");
+    const auto store = session.GetObject(L"Folders").GetObject(L"Item", L"邮箱");
+    EXPECT_EQ(3, Number(store.GetObject(L"Folders"), L"Count"));
+}
+
+TEST_F(MailboxFile, AFolderThatIsAddedIsInTheFile)
+{
+    const auto session = MakeOutlook(OpenMailbox(mPath)).GetObject(L"Session");
+    const auto contacts = session.GetObject(L"GetDefaultFolder", 10);
+    contacts.GetObject(L"Folders").Call(L"Add", L"客户");
+    const auto folder = OpenMailbox(mPath)->FindFolder(L"邮箱\\Contacts\\客户");
+    ASSERT_NE(nullptr, folder);
+    EXPECT_EQ(ItemKind::Contact, folder->Type());
+}
+
+TEST_F(MailboxFile, AnItemThatCannotBeWrittenIsReportedAndStaysUnsaved)
+{
+    const auto outlook = MakeOutlook(OpenMailbox(mPath));
+    const auto items = Folder(outlook, 10).GetObject(L"Items");
+    const auto contact = items.GetObject(L"Add");
+    contact.Put(L"LastName", L"Smith");
+    Run(L"DROP TABLE ItemProperty");
+    EXPECT_NE(L"", FailureOf([&] { contact.Call(L"Save"); }));
+    EXPECT_FALSE(Truth(contact, L"Saved"));
+}
+
+TEST_F(MailboxFile, AFileThatIsMissingOrNoMailboxIsRefused)
+{
+    EXPECT_NE(std::wstring::npos, FailureOf([&] { OpenMailbox(mPath + L".none"); }).find(L"cannot be found"));
+    EXPECT_EQ(INVALID_FILE_ATTRIBUTES, GetFileAttributesW((mPath + L".none").c_str()));
+    Run(L"DROP TABLE Folder");
+    EXPECT_NE(L"", FailureOf([&] { OpenMailbox(mPath); }));
+}
+
+} // namespace sandbox
