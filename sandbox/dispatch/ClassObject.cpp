@@ -103,13 +103,13 @@ std::wstring ClassKey(const CLSID& id)
 void SetClassText(const std::wstring& key, const wchar_t* name, const std::wstring& text)
 {
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-    Check(RegSetKeyValueW(HKEY_CURRENT_USER, (kClasses + key).c_str(), name, REG_SZ, text.c_str(), size),
+    Check(RegSetKeyValueW(HKEY_LOCAL_MACHINE, (kClasses + key).c_str(), name, REG_SZ, text.c_str(), size),
           key);
 }
 
 void DeleteClassKey(const std::wstring& key)
 {
-    const LSTATUS status = RegDeleteTreeW(HKEY_CURRENT_USER, (kClasses + key).c_str());
+    const LSTATUS status = RegDeleteTreeW(HKEY_LOCAL_MACHINE, (kClasses + key).c_str());
     if (status != ERROR_FILE_NOT_FOUND)
     {
         Check(status, key);
@@ -121,7 +121,7 @@ void RegisterProgId(const wchar_t* progId, const CLSID& id)
     const std::wstring key = std::wstring(progId) + L"\\CLSID";
     wchar_t present[64] = {};
     DWORD size = sizeof present;
-    RegGetValueW(HKEY_CURRENT_USER, (kClasses + key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, present,
+    RegGetValueW(HKEY_LOCAL_MACHINE, (kClasses + key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, present,
                  &size);
     if (TextOfId(id) != present)
     {

@@ -40,8 +40,8 @@ class RegisteredClass
 // The key of a class below "Software\Classes": "CLSID\{...}".
 std::wstring ClassKey(const CLSID& id);
 
-// Entries of the current user below "Software\Classes"; all throw automation::Error. A null name is the key's
-// default value.
+// Entries of the machine below "Software\Classes" (Wine looks for classes nowhere else); all throw
+// automation::Error. A null name is the key's default value.
 void SetClassText(const std::wstring& key, const wchar_t* name, const std::wstring& text);
 void DeleteClassKey(const std::wstring& key);
 
