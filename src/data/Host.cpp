@@ -1,6 +1,7 @@
 #include "data/Host.h"
 
 #include "automation/Error.h"
+#include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 
@@ -95,7 +96,8 @@ void Demand(bool accepted, const wchar_t* member)
 {
     if (!accepted)
     {
-        throw automation::Error(E_FAIL, member, L"The host reported a failure");
+        throw automation::Error(E_FAIL, member,
+                                resources::Choose(L"主系统报告操作失败", L"The host reported a failure"));
     }
 }
 

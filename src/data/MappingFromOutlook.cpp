@@ -1,5 +1,7 @@
 #include "data/MappingFromOutlook.h"
 
+#include "resources/Strings.h"
+
 #include <algorithm>
 
 namespace data
@@ -22,11 +24,23 @@ HostValue ReadAsIs(const SourceProperty& property)
     return property.Item.ValueOf(property.Name);
 }
 
+HostValue ReadUnlessEmpty(const SourceProperty& property)
+{
+    return property.Item.IsEmpty(property.Name) ? HostValue() : ReadAsIs(property);
+}
+
+HostValue ReadCategories(const SourceProperty& property)
+{
+    return property.Item.IsEmpty(property.Name) ? Value(resources::Choose(L"(未指定)", L"(Unspecified)"))
+                                                : property.Item.ValueOf(property.Name);
+}
+
 bool AddRelatedColumns(RelationTable& relations, std::span<const PropertyFromOutlook> mapping,
                        const Value& valueOfOthers, ItemProperties& item, RowColumns& record)
 {
     for (const RelationRow& relation : relations.Rows())
     {
+        record.Column = relation.EnglishName;
         const auto row = std::ranges::find_if(mapping, [&](const PropertyFromOutlook& candidate) {
             return relation.OutlookName == candidate.OutlookName;
         });

@@ -30,8 +30,11 @@ struct PropertyFromOutlook
     HostValue (*Read)(const SourceProperty& property);
 };
 
-// A reading that several categories share: the property's own value.
+// Readings that several categories share: the property's own value; the same of a property without which the
+// item is not to be written; and a category, which the host never leaves empty.
 HostValue ReadAsIs(const SourceProperty& property);
+HostValue ReadUnlessEmpty(const SourceProperty& property);
+HostValue ReadCategories(const SourceProperty& property);
 
 // The value that stands for "this row contributes no column".
 inline constexpr wchar_t kNoColumn[] = L"Don't Addtion Field";

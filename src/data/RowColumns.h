@@ -22,6 +22,8 @@ class RowColumns
     FieldCatalogue& Catalogue() const noexcept { return mCatalogue; }
     long Mode() const noexcept { return mMode; }
 
+    // The host column of the relation row being worked on, for messages; stays at the last one.
+    std::wstring Column;
     // The lists as the host takes them: the first two of an insert, the third of an update.
     std::wstring Fields;
     std::wstring Values;

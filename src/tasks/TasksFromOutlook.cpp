@@ -5,7 +5,6 @@
 #include "data/Host.h"
 #include "data/MappingFromOutlook.h"
 #include "data/SqlFragments.h"
-#include "resources/Strings.h"
 #include "state/Failures.h"
 #include "tasks/TaskLinks.h"
 #include "tasks/TaskRelations.h"
@@ -31,11 +30,6 @@ constexpr data::PassFromOutlook kPass{
     .RelationOptions = kRelationOptions,
     .Write = SynOlTaskToSynTask,
 };
-
-HostValue ReadSubject(const SourceProperty& property)
-{
-    return property.Item.IsEmpty(property.Name) ? HostValue() : ReadAsIs(property);
-}
 
 Value DayOrNull(const Value& date)
 {
@@ -64,12 +58,6 @@ HostValue ReadPercentage(const SourceProperty& property)
     return Value(automation::DoubleOf(property.Item.ValueOf(property.Name)) / 100);
 }
 
-HostValue ReadCategories(const SourceProperty& property)
-{
-    return property.Item.IsEmpty(property.Name) ? Value(resources::Choose(L"(未指定)", L"(Unspecified)"))
-                                                : property.Item.ValueOf(property.Name);
-}
-
 // The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high.
 HostValue ReadImportance(const SourceProperty& property)
 {
@@ -92,13 +80,13 @@ HostValue ReadReminder(const SourceProperty& property)
 
 // Contact and company are not here: they reach the host through the links.
 constexpr data::PropertyFromOutlook kMapping[] = {
-    {L"Subject", ReadSubject},
+    {L"Subject", data::ReadUnlessEmpty},
     {L"StartDate", ReadDay},
     {L"DueDate", ReadDay},
     {L"DateCompleted", ReadDayWhenComplete},
     {L"CreationTime", ReadDateAndTime},
     {L"PercentComplete", ReadPercentage},
-    {L"Categories", ReadCategories},
+    {L"Categories", data::ReadCategories},
     {L"Importance", ReadImportance},
     {L"Status", ReadAsIs},
     {L"Complete", ReadStatus},

@@ -1,0 +1,80 @@
+#include "calendar/Recurrence.h"
+
+#include "automation/Dates.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace calendar
+{
+
+using automation::Date;
+using automation::Object;
+using automation::Value;
+
+namespace
+{
+
+void PutWeekday(const Object& pattern, Date reference)
+{
+    pattern.Put(L"DayOfWeekMask", WeekdayToDayMask(static_cast<short>(automation::WeekdayOf(reference))));
+}
+
+void PutDay(const Object& pattern, Date reference)
+{
+    pattern.Put(L"DayOfMonth", automation::MomentOf(reference).day);
+}
+
+void PutMonthAndDay(const Object& pattern, Date reference)
+{
+    pattern.Put(L"MonthOfYear", automation::MomentOf(reference).month);
+    PutDay(pattern, reference);
+}
+
+constexpr long kNoInterval = 0;
+
+struct RepeatRule
+{
+    const wchar_t* Name; // the host's own text, in both interface languages
+    long RecurrenceType;
+    long Interval;                                             // not set when kNoInterval
+    void (*PutFurther)(const Object& pattern, Date reference); // null for none
+};
+
+// Outlook knows neither quarters nor half-years: they are months with an interval.
+constexpr RepeatRule kRules[] = {
+    {L"每天", kDailyPattern, 1, nullptr},                   // daily
+    {L"每周", kWeeklyPattern, 1, PutWeekday},               // weekly
+    {L"每月", kMonthlyPattern, 1, PutDay},                  // monthly
+    {L"每季", kMonthlyPattern, 3, PutDay},                  // quarterly
+    {L"每半年", kMonthlyPattern, 6, PutDay},                // half-yearly
+    {L"每年", kYearlyPattern, kNoInterval, PutMonthAndDay}, // yearly
+};
+
+} // namespace
+
+short WeekdayToDayMask(short weekday)
+{
+    return weekday >= 1 && weekday <= 7 ? static_cast<short>(1 << (weekday - 1)) : short{0};
+}
+
+long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const Value& reference)
+{
+    const auto rule = std::ranges::find_if(kRules, [&](const RepeatRule& each) { return name == each.Name; });
+    if (rule == std::end(kRules))
+    {
+        return 0;
+    }
+    pattern.Put(L"RecurrenceType", rule->RecurrenceType);
+    if (rule->Interval != kNoInterval)
+    {
+        pattern.Put(L"Interval", rule->Interval);
+    }
+    if (rule->PutFurther != nullptr)
+    {
+        rule->PutFurther(pattern, automation::DateOf(reference));
+    }
+    return 0;
+}
+
+} // namespace calendar
