@@ -65,7 +65,8 @@ Value ReadDuration(const ItemDraft& item)
 void WriteStart(ItemDraft& item, const Value& converted)
 {
     FailIfRecurring(item, Start);
-    const Date start = automation::DateOf(converted);
+    const Date given = automation::DateOf(converted);
+    const Date start = item.Truth(AllDayEvent) ? automation::DayOf(given) : given;
     PutBounds(item, start, automation::PlusMinutes(start, item.Number(Duration)));
 }
 

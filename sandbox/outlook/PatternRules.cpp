@@ -14,8 +14,6 @@ namespace
 using enum PropertyId;
 using automation::Date;
 
-// What Outlook shows as the end of a pattern that has none.
-constexpr Date kNoPatternEnd{949869}; // 4500-08-31
 constexpr long kMinutesOfDay = 1440;
 
 constexpr unsigned BitOf(RecurrenceKind kind)
@@ -252,7 +250,7 @@ Value ReadPatternEnd(const ItemDraft& item)
 {
     if (item.Truth(RecurrenceNoEndDate))
     {
-        return kNoPatternEnd;
+        return kLastRecurrenceDay;
     }
     const Value* own = item.Find(RecurrencePatternEndDate);
     if (EndsByDate(item) && own != nullptr)

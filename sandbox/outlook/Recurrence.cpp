@@ -80,8 +80,6 @@ class Walk
     }
 
   private:
-    static constexpr double kLastDay = 949869; // 4500-08-31
-
     bool FillPeriod(long period)
     {
         const long step = period * std::max(1L, mRecurrence.interval);
@@ -98,7 +96,7 @@ class Walk
     bool FillDay(double day)
     {
         mDays.push_back({day});
-        return day <= kLastDay;
+        return day <= kLastRecurrenceDay.days;
     }
 
     bool FillWeek(double sunday)
@@ -110,7 +108,7 @@ class Walk
                 mDays.push_back({sunday + weekday});
             }
         }
-        return sunday <= kLastDay && !mDays.empty();
+        return sunday <= kLastRecurrenceDay.days && !mDays.empty();
     }
 
     bool FillMonth(long month)

@@ -17,6 +17,10 @@ enum RecurrenceKind : long
     kYearNth = 6,
 };
 
+// The last day on which anything recurs, and what Outlook shows as the end of a pattern that has none:
+// 4500-08-31.
+inline constexpr automation::Date kLastRecurrenceDay{949875};
+
 struct Recurrence
 {
     long kind = kWeekly;

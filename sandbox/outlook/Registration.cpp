@@ -11,6 +11,8 @@ namespace sandbox::outlook
 namespace
 {
 
+// Per machine, since Wine looks programmatic identifiers up there only.
+const HKEY kClassesRoot = HKEY_LOCAL_MACHINE;
 constexpr const wchar_t* kClasses = L"Software\\Classes\\";
 constexpr const wchar_t* kSettings = L"Software\\TelvixSandbox";
 constexpr const wchar_t* kMailboxValue = L"Mailbox";
@@ -36,24 +38,23 @@ std::wstring TextOf(const CLSID& id)
     return text;
 }
 
-void SetText(const std::wstring& key, const wchar_t* name, const std::wstring& text)
+void SetText(HKEY root, const std::wstring& key, const wchar_t* name, const std::wstring& text)
 {
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-    Check(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name, REG_SZ, text.c_str(), size), key);
+    Check(RegSetKeyValueW(root, key.c_str(), name, REG_SZ, text.c_str(), size), key);
 }
 
-std::wstring ReadText(const std::wstring& key, const wchar_t* name)
+std::wstring ReadText(HKEY root, const std::wstring& key, const wchar_t* name)
 {
     wchar_t text[MAX_PATH * 4];
     DWORD size = sizeof text;
-    const LSTATUS status =
-        RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
+    const LSTATUS status = RegGetValueW(root, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
     return status == ERROR_SUCCESS ? std::wstring(text) : std::wstring();
 }
 
 void DeleteKey(const std::wstring& key)
 {
-    const LSTATUS status = RegDeleteTreeW(HKEY_CURRENT_USER, key.c_str());
+    const LSTATUS status = RegDeleteTreeW(kClassesRoot, key.c_str());
     if (status != ERROR_FILE_NOT_FOUND)
     {
         Check(status, key);
@@ -70,9 +71,9 @@ std::wstring ClassKey(const CLSID& id)
 void RegisterProgId(const wchar_t* progId, const CLSID& id)
 {
     const std::wstring key = std::wstring(kClasses) + progId + L"\\CLSID";
-    if (ReadText(key, nullptr) != TextOf(id))
+    if (ReadText(kClassesRoot, key, nullptr) != TextOf(id))
     {
-        SetText(key, nullptr, TextOf(id));
+        SetText(kClassesRoot, key, nullptr, TextOf(id));
     }
 }
 
@@ -81,8 +82,8 @@ void RegisterServer(const std::wstring& program)
     for (const ServedClass& served : kServedClasses)
     {
         RegisterProgId(served.progId, served.id);
-        SetText(ClassKey(served.id) + L"\\LocalServer32", nullptr, L"\"" + program + L"\"");
-        SetText(ClassKey(served.id) + L"\\ProgID", nullptr, served.progId);
+        SetText(kClassesRoot, ClassKey(served.id) + L"\\LocalServer32", nullptr, L"\"" + program + L"\"");
+        SetText(kClassesRoot, ClassKey(served.id) + L"\\ProgID", nullptr, served.progId);
     }
 }
 
@@ -97,7 +98,7 @@ void UnregisterServer()
 
 std::wstring ChosenMailbox()
 {
-    const std::wstring chosen = ReadText(kSettings, kMailboxValue);
+    const std::wstring chosen = ReadText(HKEY_CURRENT_USER, kSettings, kMailboxValue);
     if (!chosen.empty())
     {
         return chosen;
@@ -111,7 +112,7 @@ void ChooseMailbox(const std::wstring& path)
 {
     if (!path.empty())
     {
-        SetText(kSettings, kMailboxValue, path);
+        SetText(HKEY_CURRENT_USER, kSettings, kMailboxValue, path);
         return;
     }
     const LSTATUS status = RegDeleteKeyValueW(HKEY_CURRENT_USER, kSettings, kMailboxValue);

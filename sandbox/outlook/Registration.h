@@ -1,5 +1,5 @@
 // The stand-in's entries in the registry: programmatic identifiers, the server program, and which mailbox it
-// serves. All of them are of the current user, in the sandbox's own prefix.
+// serves. They belong to the sandbox's own prefix.
 #pragma once
 
 #include <string>
