@@ -1,7 +1,7 @@
 #include "data/Permissions.h"
 
-#include "tests/data/RightsHost.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/RecordingHost.h"
 #include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>
@@ -12,52 +12,49 @@ namespace
 using data::CheckPermission;
 using data::HasPermission;
 using test_support::MessagesDuring;
-using test_support::RightsAsked;
 using test_support::ShownMessage;
 
 class Permissions : public testing::Test
 {
   protected:
-    Permissions() { state::Shared().gDTC = automation::Object(mHost.Get()); }
-    ~Permissions() override { state::Shared().gDTC = {}; }
-
-    test_support::RightsHost& Host() { return *mHost.Get(); }
-
-    // The codes that the host is asked for.
-    RightsAsked Codes(long kind, long scope, long operation)
+    // What the host is asked for: "module|function|right".
+    std::wstring Codes(long kind, long scope, long operation)
     {
-        Host().Asked.clear();
+        Host->Calls.clear();
         HasPermission(kind, scope, operation);
-        return Host().Asked.empty() ? RightsAsked{-1, -1, -1} : Host().Asked.front();
+        const std::wstring kAsked = L"PermissionOn(";
+        const std::wstring last = Host->Calls.empty() ? L"" : Host->Calls.back();
+        return last.starts_with(kAsked) ? last.substr(kAsked.size(), last.size() - kAsked.size() - 1)
+                                        : L"(nothing)";
     }
 
     // The text of the one message that a refused check shows.
     std::wstring Refusal(long kind, long operation)
     {
-        Host().Answer = 1;
+        Host->Permission = 1;
         const auto shown = MessagesDuring([=] { EXPECT_FALSE(CheckPermission(kind, 1, operation)); });
         EXPECT_EQ(shown.size(), 1u);
         return shown.empty() ? L"(no message)" : shown.front().text;
     }
 
-  private:
-    Microsoft::WRL::ComPtr<test_support::RightsHost> mHost{new test_support::RightsHost};
+    test_support::WithRecordingHost Host;
 };
 
 TEST_F(Permissions, KindsAndScopesBecomeTheHostsModulesAndFunctions)
 {
     struct
     {
-        long kind, scope, module, function;
+        long kind, scope;
+        const wchar_t* codes;
     } const kRows[] = {
-        {1, 0, 1, 2}, {1, 1, 1, 2}, {1, 2, 1, 3}, {1, 3, 1, 4}, {2, 0, 2, 2},  {2, 1, 2, 2},
-        {2, 2, 2, 3}, {2, 3, 2, 4}, {3, 0, 4, 5}, {3, 1, 4, 5}, {3, 6, 4, 6},  {3, 2, 4, 7},
-        {3, 3, 4, 8}, {4, 0, 6, 9}, {4, 1, 6, 9}, {4, 6, 6, 9}, {4, 99, 6, 9},
+        {1, 0, L"1|2|1"}, {1, 1, L"1|2|1"},  {1, 2, L"1|3|1"}, {1, 3, L"1|4|1"}, {2, 0, L"2|2|1"},
+        {2, 1, L"2|2|1"}, {2, 2, L"2|3|1"},  {2, 3, L"2|4|1"}, {3, 0, L"4|5|1"}, {3, 1, L"4|5|1"},
+        {3, 6, L"4|6|1"}, {3, 2, L"4|7|1"},  {3, 3, L"4|8|1"}, {4, 0, L"6|9|1"}, {4, 1, L"6|9|1"},
+        {4, 6, L"6|9|1"}, {4, 99, L"6|9|1"},
     };
     for (const auto& row : kRows)
     {
-        EXPECT_EQ(Codes(row.kind, row.scope, 1), (RightsAsked{row.module, row.function, 1}))
-            << row.kind << " in scope " << row.scope;
+        EXPECT_EQ(Codes(row.kind, row.scope, 1), row.codes) << row.kind << " in scope " << row.scope;
     }
 }
 
@@ -69,16 +66,16 @@ TEST_F(Permissions, OperationsBecomeTheHostsRights)
     } const kRows[] = {{1, 1}, {2, 2}, {3, 2}, {4, 8}, {5, 4}, {0, 0}, {6, 0}, {8, 0}, {-1, 0}};
     for (const auto& row : kRows)
     {
-        EXPECT_EQ(Codes(2, 1, row.operation), (RightsAsked{2, 2, row.right})) << row.operation;
+        EXPECT_EQ(Codes(2, 1, row.operation), L"2|2|" + std::to_wstring(row.right)) << row.operation;
     }
 }
 
 TEST_F(Permissions, AKindOrScopeOutsideTheTablesIsAskedForWithCodeZero)
 {
-    EXPECT_EQ(Codes(5, 1, 2), (RightsAsked{0, 0, 2}));
-    EXPECT_EQ(Codes(0, 1, 2), (RightsAsked{0, 0, 2}));
-    EXPECT_EQ(Codes(1, 6, 2), (RightsAsked{1, 0, 2}));
-    EXPECT_EQ(Codes(3, 4, 2), (RightsAsked{4, 0, 2}));
+    EXPECT_EQ(Codes(5, 1, 2), L"0|0|2");
+    EXPECT_EQ(Codes(0, 1, 2), L"0|0|2");
+    EXPECT_EQ(Codes(1, 6, 2), L"1|0|2");
+    EXPECT_EQ(Codes(3, 4, 2), L"4|0|2");
 }
 
 TEST_F(Permissions, ZeroAndThreePermitAndEveryOtherAnswerDenies)
@@ -87,21 +84,21 @@ TEST_F(Permissions, ZeroAndThreePermitAndEveryOtherAnswerDenies)
                                               {2, false}, {4, false}, {-1, false}};
     for (const auto& [answer, permitted] : kAnswers)
     {
-        Host().Answer = answer;
+        Host->Permission = answer;
         EXPECT_EQ(HasPermission(2, 1, 2), permitted) << answer;
     }
 }
 
 TEST_F(Permissions, OperationSevenNeverReachesTheHostAndNeverShowsAMessage)
 {
-    Host().Answer = 1;
+    Host->Permission = 1;
     EXPECT_TRUE(MessagesDuring([] { EXPECT_TRUE(CheckPermission(2, 1, 7)); }).empty());
-    EXPECT_TRUE(Host().Asked.empty());
+    EXPECT_TRUE(Host->Calls.empty());
 }
 
 TEST_F(Permissions, AnErrorRaisedByTheHostMeansThatTheRightIsMissing)
 {
-    Host().Fails = true;
+    Host->Failing = {L"PermissionOn"};
     EXPECT_FALSE(HasPermission(2, 1, 2));
     const auto shown = MessagesDuring([] { EXPECT_FALSE(CheckPermission(2, 1, 2)); });
     EXPECT_EQ(shown.size(), 1u);
@@ -121,7 +118,7 @@ TEST_F(Permissions, APermittedCheckShowsNothing)
 TEST_F(Permissions, ARefusalIsShownWithTheExclamationIconUnderTheApplicationsTitle)
 {
     const test_support::WithLanguage english(resources::Language::English);
-    Host().Answer = 2;
+    Host->Permission = 2;
     const std::vector<ShownMessage> expected = {
         {L"You are not permit to add contact record(s)!", L"Telvix", IDI_EXCLAMATION}};
     EXPECT_EQ(MessagesDuring([] { EXPECT_FALSE(CheckPermission(2, 1, 2)); }), expected);

@@ -1,0 +1,65 @@
+#include "data/RelationTable.h"
+
+#include "automation/Error.h"
+#include "tests/data/CatalogueDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class Relations : public testing::Test
+{
+  protected:
+    Relations()
+    {
+        Database.Execute(L"CREATE TABLE SynRelation (QuenlarTblName VARCHAR(50), EnglishName VARCHAR(50), "
+                         L"OutlookName VARCHAR(50))");
+        Database.Execute(L"INSERT INTO SynRelation VALUES ('TBLCONTACT', 'F_SURNAME', 'LastName'), "
+                         L"('TBLACTIVITY', 'F_ACTNAME', 'Subject'), ('TBLCONTACT', 'F_SEX', 'Gender')");
+        Table.Use(L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'", {});
+    }
+
+    std::wstring Rows()
+    {
+        std::wstring text;
+        for (const data::RelationRow& row : Table.Rows())
+        {
+            text += row.EnglishName + L"=" + row.OutlookName + L";";
+        }
+        return text;
+    }
+
+    test_support::CatalogueDatabase Database;
+    data::RelationTable Table;
+};
+
+TEST_F(Relations, TheRowsOfTheStatementComeInTheOrderOfTheDatabase)
+{
+    EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;");
+}
+
+TEST_F(Relations, TheyAreReadOnceUntilThePassAfter)
+{
+    Rows();
+    Database.Execute(L"DELETE FROM SynRelation WHERE EnglishName='F_SEX'");
+    EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;");
+    Table.Use(L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'", {});
+    EXPECT_EQ(Rows(), L"F_SURNAME=LastName;");
+}
+
+TEST_F(Relations, AFailedReadIsNotKept)
+{
+    Database.Execute(L"ALTER TABLE SynRelation RENAME TO Elsewhere");
+    EXPECT_THROW(Table.Rows(), automation::Error);
+    Database.Execute(L"ALTER TABLE Elsewhere RENAME TO SynRelation");
+    EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;");
+}
+
+TEST_F(Relations, NoRowsAreNoFailure)
+{
+    Database.Execute(L"DELETE FROM SynRelation");
+    EXPECT_EQ(Rows(), L"");
+}
+
+} // namespace

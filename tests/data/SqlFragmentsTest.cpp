@@ -1,0 +1,112 @@
+#include "data/SqlFragments.h"
+
+#include "automation/Dates.h"
+#include "tests/data/CatalogueDatabase.h"
+#include "tests/support/MessageBoxes.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using automation::Value;
+using data::AddInsertField;
+using data::AddUpdateField;
+using test_support::MessagesDuring;
+
+class SqlFragments : public testing::Test
+{
+  protected:
+    long Insert(const std::wstring& column, const Value& value)
+    {
+        return AddInsertField(Database.Catalogue, Fields, column, Values, value);
+    }
+
+    long Update(const std::wstring& column, const Value& value)
+    {
+        return AddUpdateField(Database.Catalogue, SetList, column, value);
+    }
+
+    test_support::CatalogueDatabase Database;
+    std::wstring Fields;
+    std::wstring Values;
+    std::wstring SetList;
+};
+
+TEST_F(SqlFragments, TheFirstColumnCarriesNoLeadingCommaAndLaterOnesDo)
+{
+    EXPECT_EQ(Insert(L"F_NAME", L"O'Brien"), 0);
+    EXPECT_EQ(Fields, L"F_NAME");
+    EXPECT_EQ(Values, L"'O''Brien'");
+    EXPECT_EQ(Insert(L"F_NUMBER", 1.5), 0);
+    EXPECT_EQ(Insert(L"F_FLAG", true), 0);
+    EXPECT_EQ(Fields, L"F_NAME,F_NUMBER,F_FLAG");
+    EXPECT_EQ(Values, L"'O''Brien',1.5,1");
+}
+
+TEST_F(SqlFragments, AnUpdateListsColumnAndLiteral)
+{
+    EXPECT_EQ(Update(L"F_NAME", L"O'Brien"), 0);
+    EXPECT_EQ(SetList, L"F_NAME='O''Brien'");
+    EXPECT_EQ(Update(L"F_DATE", automation::DateOf(automation::Moment{2003, 5, 6})), 0);
+    EXPECT_EQ(SetList, L"F_NAME='O''Brien',F_DATE='05/06/2003'");
+}
+
+TEST_F(SqlFragments, EmptyNullAndTheEmptyTextAreWrittenAsNull)
+{
+    for (const Value& absent : {Value(), Value::Null(), Value(L"")})
+    {
+        EXPECT_EQ(Insert(L"F_NAME", absent), 0);
+        EXPECT_EQ(Update(L"F_NAME", absent), 0);
+    }
+    EXPECT_EQ(Fields, L"F_NAME,F_NAME,F_NAME");
+    EXPECT_EQ(Values, L"NULL,NULL,NULL");
+    EXPECT_EQ(SetList, L"F_NAME=NULL,F_NAME=NULL,F_NAME=NULL");
+}
+
+TEST_F(SqlFragments, AnAbsentValueNeedsNoCatalogueRow)
+{
+    EXPECT_EQ(Insert(L"F_ELSE", Value::Null()), 0);
+    EXPECT_EQ(Update(L"F_ELSE", L""), 0);
+    EXPECT_EQ(Fields, L"F_ELSE");
+    EXPECT_EQ(SetList, L"F_ELSE=NULL");
+}
+
+TEST_F(SqlFragments, AColumnWithoutThePrefixIsNeverWrittenAndCountsAsSuccess)
+{
+    for (const wchar_t* column : {L"ACC_SNAME", L"f_NAME", L"F", L"", L"XF_NAME"})
+    {
+        EXPECT_EQ(Insert(column, L"x"), 0) << column;
+        EXPECT_EQ(Insert(column, Value::Null()), 0) << column;
+        EXPECT_EQ(Update(column, L"x"), 0) << column;
+    }
+    EXPECT_EQ(Fields + Values + SetList, L"");
+}
+
+TEST_F(SqlFragments, AValueThatCannotBeFormattedFailsAndLeavesTheListsAlone)
+{
+    Insert(L"F_NAME", L"x");
+    Update(L"F_NAME", L"x");
+    EXPECT_EQ(Insert(L"F_DATE", L"someday"), -1);
+    EXPECT_EQ(Update(L"F_DATE", L"someday"), -1);
+    MessagesDuring([&] {
+        EXPECT_EQ(Insert(L"F_ELSE", L"x"), -1);
+        EXPECT_EQ(Update(L"F_ELSE", L"x"), -1);
+    });
+    EXPECT_EQ(Fields, L"F_NAME");
+    EXPECT_EQ(Values, L"'x'");
+    EXPECT_EQ(SetList, L"F_NAME='x'");
+}
+
+TEST_F(SqlFragments, AColumnOfUnknownTypeIsWrittenUnformatted)
+{
+    Database.AddField(L"F_PICTURE", L"9", L"10");
+    MessagesDuring([&] {
+        EXPECT_EQ(Insert(L"F_PICTURE", 5L), 0);
+        EXPECT_EQ(Update(L"F_PICTURE", 0.5), 0);
+    });
+    EXPECT_EQ(Values, L"5");
+    EXPECT_EQ(SetList, L"F_PICTURE=0.5");
+}
+
+} // namespace
