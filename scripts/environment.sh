@@ -98,3 +98,12 @@ prepare_wine() {
     fi
     timeout 120 wine wineboot >/dev/null 2>&1 </dev/null
 }
+
+# register_sandbox BUILD: registers the component and the stand-ins of a build in the prefix, as an
+# installation would.
+register_sandbox() {
+    timeout 60 wine regsvr32 /s "$(winepath -w "$1/SandboxAdo.dll")" >/dev/null 2>&1 </dev/null &&
+        timeout 60 wine "$1/OutlookServer.exe" /register >/dev/null 2>&1 </dev/null &&
+        timeout 60 wine regsvr32 /s "$(winepath -w "$1/Telvix.dll")" >/dev/null 2>&1 </dev/null ||
+        fail "the component or the sandbox could not be registered"
+}

@@ -15,12 +15,12 @@ namespace data
 struct Run
 {
     RunDisplay& Display;
-    automation::Recordset HostRows; // the category's host rows, opened by the run driver
-    automation::Object Folder;      // the chosen Outlook folder
-    automation::Object Items;       // its items, fetched once
-    Changes Pending;
-    RelationTable Relations;  // of the apply pass
-    FieldCatalogue Catalogue; // of the apply pass
+    automation::Recordset HostRows{}; // the category's host rows, opened by the run driver
+    automation::Object Folder{};      // the chosen Outlook folder
+    automation::Object Items{};       // its items, fetched once
+    Changes Pending{};
+    RelationTable Relations{};  // of the apply pass
+    FieldCatalogue Catalogue{}; // of the apply pass
 };
 
 } // namespace data

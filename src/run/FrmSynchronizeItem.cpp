@@ -133,7 +133,6 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
         }
         else
         {
-            const ui::Busy busy(*this);
             SetStatus(OutcomeText(RunChosenCategory()));
         }
     }
@@ -148,6 +147,7 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
     // By the row's text as it reads in the language of this moment, not by its key. True for failure.
     bool RunChosenCategory()
     {
+        const ui::Busy busy(*this); // over before the outcome is written: who reads it may go on
         const std::wstring text = CategoryText();
         for (const CategoryRow& row : kCategories)
         {

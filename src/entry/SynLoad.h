@@ -1,0 +1,16 @@
+// The body of ClsSynOutlook.SynLoad.
+#pragma once
+
+#include "automation/Object.h"
+
+#include <string>
+
+namespace entry
+{
+
+// Keeps the host's objects in the shared state, starts Outlook, and shows the synchronization dialog until
+// the user closes it. True when an argument is missing (nothing was done), False otherwise, also when Outlook
+// cannot be reached.
+bool SynLoad(const automation::Object& dtc, const std::wstring& connection);
+
+} // namespace entry

@@ -1,0 +1,39 @@
+// Change collection: works out what a run has to change before anything is written. The result is that of a
+// plain walk of the one side for each record of the other, record for record and in the same order.
+#pragma once
+
+#include "run/Category.h"
+#include "run/LazyIndex.h"
+
+namespace run
+{
+
+// The collection procedures of one category and one run. The two directions of a two-way run share what they
+// have read.
+class ChangeCollection
+{
+  public:
+    // category and run outlive the collection; the run's host rows and items are open.
+    ChangeCollection(const Category& category, data::Run& run);
+
+    // Collect...ChangesToOutlook and Collect...ChangesFromOutlook of the category: true when an error ended
+    // the procedure.
+    bool CollectToOutlook();
+    bool CollectFromOutlook();
+
+  private:
+    bool KeepsRow(long row);
+    bool KeepsItem(long item);
+    void ProposeRow(long row, long partner);
+    void ProposeItem(long item, long partner, bool mayAdd, bool mayModify);
+
+    const Category& mCategory;
+    data::Run& mRun;
+    Filters mFilters;
+    ItemKeys mItems;
+    RowKeys mRows;
+    LazyIndex mItemIndex;
+    LazyIndex mRowIndex;
+};
+
+} // namespace run

@@ -1,0 +1,145 @@
+#include "run/MatchRule.h"
+
+#include "automation/Dates.h"
+#include "automation/Text.h"
+#include "state/SharedState.h"
+
+namespace run
+{
+
+namespace
+{
+
+using automation::Date;
+using automation::Object;
+using automation::Recordset;
+using automation::Value;
+
+// Between the parts of a key that are compared one by one; no text that a user types holds it.
+constexpr wchar_t kSeparator = L'\x1F';
+
+std::wstring Comparable(const Value& value)
+{
+    return automation::UpperCased(automation::Trimmed(automation::TextOrEmpty(value)));
+}
+
+// What the host stores for a record without a category stands for no category.
+std::wstring ComparableCategory(const Value& value)
+{
+    const std::wstring text = Comparable(value);
+    return text == L"(UNSPECIFIED)" || text == L"(未指定)" ? std::wstring() : text;
+}
+
+// The date in a pattern; the empty text for no date.
+std::wstring ComparableDate(const Value& value, const wchar_t* pattern)
+{
+    if (automation::IsEmptyOrNull(value))
+    {
+        return {};
+    }
+    const Date date = automation::DateOf(value);
+    return automation::IsEmptyOrNull(automation::WithoutNoDate(date)) ? std::wstring()
+                                                                      : automation::Formatted(date, pattern);
+}
+
+std::wstring ContactNameOfItem(const Object& item)
+{
+    // Joined without a separator, as the contract has it: Li Ming and Lim Ing are one name.
+    const std::wstring lastName = Comparable(item.Get(L"LastName"));
+    return lastName + Comparable(item.Get(L"FirstName"));
+}
+
+std::wstring ContactNameOfRow(const Recordset& rows)
+{
+    const Value surname = rows.ValueOf(L"F_SURNAME");
+    const Value givenName = rows.ValueOf(L"F_GIVENNAME");
+    if (automation::IsEmptyOrNull(surname) || automation::IsEmptyOrNull(givenName))
+    {
+        return {};
+    }
+    return Comparable(surname) + Comparable(givenName);
+}
+
+std::wstring CompanyOfContact(const Object& item)
+{
+    return Comparable(item.Get(L"CompanyName"));
+}
+
+std::wstring AccountOfRow(const Recordset& rows)
+{
+    return Comparable(rows.ValueOf(L"ACC_SNAME"));
+}
+
+std::wstring KeyOfTaskItem(const Object& item)
+{
+    const std::wstring subject = Comparable(item.Get(L"Subject"));
+    const std::wstring category = ComparableCategory(item.Get(L"Categories"));
+    return subject + kSeparator + category + kSeparator +
+           ComparableDate(item.Get(L"StartDate"), L"yyyy/mm/dd");
+}
+
+std::wstring KeyOfTaskRow(const Recordset& rows)
+{
+    const std::wstring name = Comparable(rows.ValueOf(L"F_ACTNAME"));
+    const std::wstring type = ComparableCategory(rows.ValueOf(L"F_ACTTYPE"));
+    return name + kSeparator + type + kSeparator +
+           ComparableDate(rows.ValueOf(L"F_ACTPSTIME"), L"yyyy/mm/dd");
+}
+
+std::wstring CompaniesOfTask(const Object& item)
+{
+    return Comparable(item.Get(L"Companies"));
+}
+
+// An all-day appointment starts at midnight in Outlook, and is stored in the host with the start of the
+// working day; it matches that. Only an appointment that starts at midnight is asked whether it is one.
+Value StartOfItem(const Object& item)
+{
+    const Value value = item.Get(L"Start");
+    if (automation::IsEmptyOrNull(value))
+    {
+        return value;
+    }
+    const Date start = automation::DateOf(value);
+    const bool isMidnight = automation::MinuteOfDay(start) == Date{};
+    return isMidnight && automation::TruthOf(item.Get(L"AllDayEvent"))
+               ? automation::PlusTime(start, state::Shared().gCalendarStartTime)
+               : start;
+}
+
+std::wstring KeyOfAppointment(const Object& item)
+{
+    const std::wstring subject = Comparable(item.Get(L"Subject"));
+    const std::wstring category = ComparableCategory(item.Get(L"Categories"));
+    return subject + kSeparator + category + kSeparator +
+           ComparableDate(StartOfItem(item), L"yyyy/mm/dd hh:mm:00");
+}
+
+// The start of a calendar row: its day and its time of day, which stand in columns of their own.
+Value StartOfRow(const Recordset& rows)
+{
+    const Value day = rows.ValueOf(L"F_ACTESDATE");
+    const Value time = rows.ValueOf(L"F_ACTESTIME");
+    if (automation::IsEmptyOrNull(day))
+    {
+        return Value::Null();
+    }
+    const Date timeOfDay =
+        automation::IsEmptyOrNull(time) ? Date{} : automation::MinuteOfDay(automation::DateOf(time));
+    return automation::PlusTime(automation::DayOf(automation::DateOf(day)), timeOfDay);
+}
+
+std::wstring KeyOfCalendarRow(const Recordset& rows)
+{
+    const std::wstring name = Comparable(rows.ValueOf(L"F_ACTNAME"));
+    const std::wstring type = ComparableCategory(rows.ValueOf(L"F_ACTTYPE"));
+    return name + kSeparator + type + kSeparator + ComparableDate(StartOfRow(rows), L"yyyy/mm/dd hh:mm:00");
+}
+
+} // namespace
+
+const MatchRule kMatchContact{ContactNameOfItem, CompanyOfContact, ContactNameOfRow, AccountOfRow};
+const MatchRule kMatchTask{KeyOfTaskItem, CompaniesOfTask, KeyOfTaskRow, AccountOfRow};
+const MatchRule kMatchAppointment{KeyOfAppointment, nullptr, KeyOfCalendarRow, nullptr};
+
+} // namespace run

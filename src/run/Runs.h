@@ -1,0 +1,15 @@
+// The run procedures, one per kind of data: each takes the loaded parameters (gSynParameter) and carries out
+// one exchange, from the host's rows and the Outlook folder to the confirmed changes on both sides.
+#pragma once
+
+#include "data/RunDisplay.h"
+
+namespace run
+{
+
+// True when the run failed, False when it succeeded or ended without doing anything. Never throw.
+bool RunTaskSync(data::RunDisplay& display);
+bool RunCalendarSync(data::RunDisplay& display);
+bool RunContactSync(data::RunDisplay& display);
+
+} // namespace run

@@ -1,0 +1,53 @@
+// The two sides of a collection as plain data behind real automation objects: an Items collection and a
+// recordset, with values that may be Null, Empty, or fail when they are read.
+#pragma once
+
+#include "automation/Recordset.h"
+#include "sandbox/dispatch/DispatchObject.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace test_support
+{
+
+using automation::Value;
+
+// Property or column name to value; a name that is absent fails when it is read.
+using Record = std::map<std::wstring, Value>;
+using Records = std::vector<Record>;
+
+// Folder.Items over the records. Shares them with the caller, who may change them between calls.
+automation::Object MakeItems(std::shared_ptr<const Records> records);
+
+// A recordset over the records: EOF, BOF, MoveFirst, MoveNext, Move from a position, AbsolutePosition,
+// RecordCount, Fields, State, Close.
+automation::Recordset MakeRows(std::shared_ptr<const Records> records);
+
+// Counts the calls of this process's stand-ins by "Class.Member" for the length of a scope.
+class CallCounter : public sandbox::CallObserver
+{
+  public:
+    CallCounter() : mPrevious(sandbox::Observe(this)) {}
+    ~CallCounter() override { sandbox::Observe(mPrevious); }
+    CallCounter(const CallCounter&) = delete;
+    CallCounter& operator=(const CallCounter&) = delete;
+
+    void OnCall(const wchar_t* className, const wchar_t* member) override
+    {
+        ++mCounts[std::wstring(className) + L"." + member];
+    }
+    long Of(const std::wstring& member) const
+    {
+        const auto found = mCounts.find(member);
+        return found == mCounts.end() ? 0 : found->second;
+    }
+
+  private:
+    CallObserver* mPrevious;
+    std::map<std::wstring, long> mCounts;
+};
+
+} // namespace test_support
