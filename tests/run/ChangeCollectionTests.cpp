@@ -210,7 +210,8 @@ TEST_F(ContactCollection, ATwoWayRunReadsEachMatchKeyOnce)
     EXPECT_EQ(40, counter.Of(L"Item.LastName"));
     EXPECT_EQ(40, counter.Of(L"Item.FirstName"));
     EXPECT_EQ(20, counter.Of(L"Item.CompanyName"));
-    EXPECT_EQ(60, counter.Of(L"Items.Item")); // once for the names, once more for a company
+    // Once for the names, once more for a company, unless the item is still at hand.
+    EXPECT_EQ(40 + 19, counter.Of(L"Items.Item"));
     EXPECT_EQ(40 * 2 + 20, counter.Of(L"Field.Value"));
 }
 
@@ -254,7 +255,9 @@ TEST_F(ContactCollection, EqualsThePlainNestedWalkOverRandomData)
             for (long direction = 1; direction <= 3; ++direction)
             {
                 const std::string expected = Walk(rule, direction);
-                ASSERT_EQ(expected, Collect(rule, direction)) << "round " << round << ", rule " << rule;
+                ASSERT_EQ(expected, Collect(rule, direction))
+                    << "round " << round << ", rule " << rule << ", direction " << direction << " items "
+                    << Items->size() << " rows " << Rows->size();
                 proposed += expected.empty() ? 0 : 1;
             }
         }

@@ -142,8 +142,8 @@ class FakeRecordset : public DispatchObject
     Value AtStart(const Call&) { return Size() == 0; }
     Value MoveFirst(const Call&)
     {
-        mCursor->Current();
         mCursor->at = 0;
+        mCursor->Current(); // refused where there is no row
         return {};
     }
     Value MoveNext(const Call&)
