@@ -15,6 +15,7 @@ namespace
 
 std::atomic<long> gLiveObjects{0};
 std::atomic<CallObserver*> gObserver{nullptr};
+std::atomic<void (*)()> gLastObjectHandler{nullptr};
 
 HRESULT Report(const automation::Error& error, EXCEPINFO* exception)
 {
@@ -41,6 +42,11 @@ CallObserver* Observe(CallObserver* observer) noexcept
 long LiveObjects() noexcept
 {
     return gLiveObjects;
+}
+
+void WhenLastObjectGoes(void (*handler)()) noexcept
+{
+    gLastObjectHandler = handler;
 }
 
 const VARIANT& Call::Raw(size_t index) const
@@ -99,7 +105,11 @@ DispatchObject::DispatchObject() noexcept
 
 DispatchObject::~DispatchObject()
 {
-    --gLiveObjects;
+    void (*const handler)() = gLastObjectHandler;
+    if (--gLiveObjects == 0 && handler != nullptr)
+    {
+        handler();
+    }
 }
 
 STDMETHODIMP DispatchObject::QueryInterface(REFIID id, void** result)

@@ -72,6 +72,10 @@ CallObserver* Observe(CallObserver* observer) noexcept;
 // Stand-in objects alive in this process.
 long LiveObjects() noexcept;
 
+// Called whenever the last of them has gone, on the thread that released it: a server program ends then. Null
+// for nobody.
+void WhenLastObjectGoes(void (*handler)()) noexcept;
+
 class DispatchObject : public IDispatch
 {
   public:

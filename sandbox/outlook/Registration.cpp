@@ -92,7 +92,6 @@ void UnregisterServer()
     for (const ServedClass& served : kServedClasses)
     {
         DeleteKey(ClassKey(served.id));
-        DeleteKey(std::wstring(kClasses) + served.progId);
     }
 }
 

@@ -1,56 +1,9 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
-
-#include "sandbox/database/Connection.h"
-
-#include <windows.h>
+#include "tests/sandbox_outlook/MailboxFileFixture.h"
 
 namespace sandbox
 {
 
-class MailboxFile : public testing::Test
-{
-  protected:
-    MailboxFile()
-    {
-        wchar_t directory[MAX_PATH];
-        GetTempPathW(ARRAYSIZE(directory), directory);
-        mPath =
-            std::wstring(directory) + L"telvix-mailbox-" + std::to_wstring(GetCurrentProcessId()) + L".db";
-        DeleteFileW(mPath.c_str());
-        const auto mailbox = CreateMailbox(mPath);
-        mailbox->AddFolder(L"邮箱\\Contacts", ItemKind::Contact);
-        mailbox->AddFolder(L"邮箱\\Tasks", ItemKind::Task);
-        mailbox->AddFolder(L"邮箱\\Calendar", ItemKind::Appointment);
-    }
-
-    ~MailboxFile() override { DeleteFileW(mPath.c_str()); }
-
-    automation::Object Folder(const automation::Object& outlook, long number) const
-    {
-        return outlook.GetObject(L"Session").GetObject(L"GetDefaultFolder", number);
-    }
-
-    // A value of the file, as another reader sees it at this moment.
-    std::wstring Stored(long index, const wchar_t* name) const
-    {
-        return automation::TextOrEmpty(Connection(ConnectionStringOf(mPath))
-                                           .QueryValue(L"SELECT Value FROM ItemProperty WHERE ItemIndex = ? "
-                                                       L"AND Name = ?",
-                                                       {index, name}));
-    }
-
-    void Run(const wchar_t* sql, const Row& parameters = {}) const
-    {
-        Connection(ConnectionStringOf(mPath)).Execute(sql, parameters);
-    }
-
-    void AddRow(const wchar_t* folder, long index, const wchar_t* name, const wchar_t* value) const
-    {
-        Run(L"INSERT INTO ItemProperty VALUES (?, ?, ?, ?)", {folder, index, name, value});
-    }
-
-    std::wstring mPath;
-};
+using MailboxFile = MailboxFileTest;
 
 TEST_F(MailboxFile, ASavedItemIsInTheFileAtOnce)
 {

@@ -1,0 +1,78 @@
+#include "sandbox/outlook/server/ControlObject.h"
+
+#include "automation/Error.h"
+#include "sandbox/outlook/server/Server.h"
+
+namespace sandbox::outlook
+{
+
+const MemberTable& ControlObject::Members() const
+{
+    static const MemberTable members = {
+        {L"CallCount", Reads(&ControlObject::CallCount), nullptr},
+        {L"CallTable", Reads(&ControlObject::CallTable), nullptr},
+        {L"ObjectCount", Reads(&ControlObject::ObjectCount), nullptr},
+        {L"ProcessId", Reads(&ControlObject::ProcessId), nullptr},
+        {L"Reset", Reads(&ControlObject::Reset), nullptr},
+        {L"Terminate", Reads(&ControlObject::Terminate), nullptr},
+        {L"TerminateAfter", Reads(&ControlObject::TerminateAfter), nullptr},
+        {L"FailCall", Reads(&ControlObject::FailCall), nullptr},
+        {L"RejectCallsFor", Reads(&ControlObject::RejectCallsFor), nullptr},
+    };
+    return members;
+}
+
+Value ControlObject::CallCount(const Call&)
+{
+    return mServer.Calls().Total();
+}
+
+Value ControlObject::CallTable(const Call&)
+{
+    return mServer.Calls().Table();
+}
+
+// The objects that clients hold, without this one.
+Value ControlObject::ObjectCount(const Call&)
+{
+    return LiveObjects() - 1;
+}
+
+Value ControlObject::ProcessId(const Call&)
+{
+    return static_cast<long>(GetCurrentProcessId());
+}
+
+Value ControlObject::Reset(const Call&)
+{
+    mServer.Calls().Reset();
+    return {};
+}
+
+Value ControlObject::Terminate(const Call&)
+{
+    mServer.Terminate();
+}
+
+Value ControlObject::TerminateAfter(const Call& call)
+{
+    mServer.Calls().BeforeCall(automation::LongOf(call.At(0)) + 1,
+                               [&server = mServer] { server.Terminate(); });
+    return {};
+}
+
+Value ControlObject::FailCall(const Call& call)
+{
+    mServer.Calls().BeforeCall(automation::LongOf(call.At(0)), [] {
+        throw automation::Error(E_FAIL, L"call", L"The call was made to fail.");
+    });
+    return {};
+}
+
+Value ControlObject::RejectCallsFor(const Call& call)
+{
+    mServer.RejectCallsFor(automation::LongOf(call.At(0)));
+    return {};
+}
+
+} // namespace sandbox::outlook
