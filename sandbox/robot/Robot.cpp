@@ -74,6 +74,7 @@ void Robot::RunScript(const Script& script)
     try
     {
         script(*this);
+        WaitUntil("the dialogs to be left", [this] { return mFinishing.load(); });
     }
     catch (...)
     {

@@ -1,0 +1,226 @@
+#include "ui/Dialog.h"
+
+#include "resources/Strings.h"
+#include "tests/support/Drive.h"
+#include "tests/ui/Interface.h"
+#include "ui/ApplyFormFont.h"
+#include "ui/Control.h"
+#include "ui/ProgressBar.h"
+#include "ui/ShowMessageBox.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace
+{
+
+using namespace ui_tests;
+using test_support::Drive;
+using test_support::MainThread;
+using test_support::Robot;
+using test_support::ShownDialog;
+
+// The error dialog's template with handlers of the test's own.
+class Probe : public ui::Dialog
+{
+  public:
+    explicit Probe(std::function<void()> onCommand = {})
+        : Dialog(IDD_SHOWERR), mOnCommand(std::move(onCommand))
+    {
+    }
+    std::function<void()> Init;
+    int Unloaded = 0;
+
+  private:
+    void OnInit() override
+    {
+        if (Init)
+        {
+            Init();
+        }
+    }
+    void OnCommand(int id, int notification) override
+    {
+        if (id == IDOK && mOnCommand)
+        {
+            mOnCommand();
+        }
+        Dialog::OnCommand(id, notification);
+    }
+    void OnUnload() override { ++Unloaded; }
+
+    std::function<void()> mOnCommand;
+};
+
+LOGFONTW FontOf(const ShownDialog& dialog, HWND window)
+{
+    LOGFONTW font = {};
+    GetObjectW(reinterpret_cast<HFONT>(dialog.Ask(window, WM_GETFONT)), sizeof(font), &font);
+    return font;
+}
+
+int PixelsOf(long points)
+{
+    const HDC screen = GetDC(nullptr);
+    const int pixels = MulDiv(static_cast<int>(points), GetDeviceCaps(screen, LOGPIXELSY), 72);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+TEST(ApplyFormFont, EveryControlOfADialogHasTheFontOfTheSharedState)
+{
+    state::Shared().gFontName = L"Tahoma";
+    state::Shared().gFontSize = 14;
+    Probe probe;
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog();
+            for (const int id : {IDOK, IDC_SHOWERR_TITLE, IDC_SHOWERR_DESCRIPTION})
+            {
+                const LOGFONTW font = FontOf(dialog, dialog.Control(id));
+                EXPECT_STREQ(L"Tahoma", font.lfFaceName);
+                EXPECT_EQ(PixelsOf(14), abs(font.lfHeight));
+            }
+            dialog.Close();
+        },
+        [&] { probe.ShowModal(); });
+    state::Shared() = {};
+}
+
+TEST(ApplyFormFont, ALargerFontMakesALargerDialog)
+{
+    int heights[2] = {};
+    for (const int i : {0, 1})
+    {
+        state::Shared().gFontName = L"Arial";
+        state::Shared().gFontSize = i == 0 ? 8 : 16;
+        Probe probe;
+        Drive(
+            [&](Robot& robot) {
+                const ShownDialog dialog = robot.WaitForDialog();
+                RECT client = {};
+                GetClientRect(dialog.Handle(), &client);
+                heights[i] = static_cast<int>(client.bottom);
+                dialog.Close();
+            },
+            [&] { probe.ShowModal(); });
+    }
+    EXPECT_GT(heights[1], heights[0] * 3 / 2);
+    state::Shared() = {};
+}
+
+TEST(ApplyFormFont, ANameOrSizeThatIsNotUsableGivesThePlatformsFont)
+{
+    state::Shared() = {};
+    EXPECT_EQ(L"MS Shell Dlg", ui::FontOfForms().Name);
+    EXPECT_EQ(8, ui::FontOfForms().Size);
+    state::Shared().gFontSize = -3;
+    EXPECT_EQ(8, ui::FontOfForms().Size);
+    state::Shared().gFontName.assign(100, L'x');
+    EXPECT_EQ(static_cast<size_t>(LF_FACESIZE - 1), ui::FontOfForms().Name.size());
+    state::Shared() = {};
+}
+
+TEST(ApplyFormFont, BytesThatAreNoDialogTemplateAreRefused)
+{
+    const std::vector<std::byte> zeros(64);
+    EXPECT_THROW(ui::ApplyFormFont(zeros, {L"Arial", 8}), std::invalid_argument);
+    EXPECT_THROW(ui::ApplyFormFont(std::span(zeros).first(3), {L"Arial", 8}), std::invalid_argument);
+}
+
+TEST(Dialog, AnExceptionOfAHandlerEndsTheDialogAndComesOutOfTheCallThatShowedIt)
+{
+    Probe probe([] { throw std::runtime_error("from the handler"); });
+    Drive([](Robot& robot) { robot.WaitForDialog().Click(IDOK); },
+          [&] { EXPECT_THROW(probe.ShowModal(), std::runtime_error); });
+    EXPECT_EQ(1, probe.Unloaded);
+}
+
+TEST(Dialog, AnExceptionOfTheLoadStepComesOutBeforeAnythingIsShown)
+{
+    Probe probe;
+    probe.Init = [] { throw std::runtime_error("from the load step"); };
+    EXPECT_THROW(probe.ShowModal(), std::runtime_error);
+}
+
+TEST(Dialog, TheSameDialogCannotBeShownTwiceAtATime)
+{
+    const MainThread main;
+    Probe probe;
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog();
+            main.Invoke([] { EXPECT_THROW(Probe().ShowModal(), std::logic_error); });
+            EXPECT_TRUE(dialog.TakesInput());
+            dialog.Close();
+        },
+        [&] { probe.ShowModal(); });
+}
+
+TEST(Dialog, CanBeShownAgainAfterItHasClosed)
+{
+    Probe probe;
+    for (int i = 1; i <= 2; ++i)
+    {
+        Drive([](Robot& robot) { robot.WaitForDialog().Close(); }, [&] { probe.ShowModal(); });
+        EXPECT_EQ(i, probe.Unloaded);
+        EXPECT_EQ(nullptr, probe.Handle());
+    }
+}
+
+TEST(Dialog, WithAnOwnerTheOwnerTakesNoInputMeanwhile)
+{
+    class Second : public ui::Dialog
+    {
+      public:
+        Second() : Dialog(IDD_SHOWINFOR) {}
+    };
+    Probe owner;
+    owner.Init = [] {};
+    Probe* const ownerPointer = &owner;
+    const MainThread main;
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog first = robot.WaitForDialog();
+            main.Post([=] { Second().ShowModalOver(*ownerPointer); });
+            const ShownDialog second = robot.WaitForDialogAfter(first);
+            EXPECT_EQ(first.Handle(), GetWindow(second.Handle(), GW_OWNER));
+            EXPECT_FALSE(first.TakesInput());
+            second.Close();
+            robot.WaitUntil("the owner to take input again", [&] { return first.TakesInput(); });
+            first.Close();
+        },
+        [&] { owner.ShowModal(); });
+}
+
+TEST(ShowMessageBox, HasTheApplicationsTitleAndTheIconAndButtonsAsked)
+{
+    int answer = 0;
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog box = robot.WaitForDialog(L"Telvix");
+            EXPECT_TRUE(box.IsMessageBox());
+            EXPECT_EQ(L"Go on?", box.Message());
+            EXPECT_TRUE(box.ShowsIcon(IDI_QUESTION));
+            EXPECT_FALSE(box.ShowsIcon(IDI_INFORMATION));
+            EXPECT_EQ((std::vector<int>{IDYES, IDNO}), box.Buttons());
+            box.Click(IDNO);
+        },
+        [&] { answer = ui::ShowMessageBox(L"Go on?", MB_YESNO | MB_ICONQUESTION); });
+    EXPECT_EQ(IDNO, answer);
+}
+
+TEST(ProgressBar, AFractionBecomesAStepAndWhatIsNoFractionTheNearerEnd)
+{
+    using ui::ProgressBar;
+    EXPECT_EQ(0, ProgressBar::StepOf(0, 200));
+    EXPECT_EQ(100, ProgressBar::StepOf(0.5, 200));
+    EXPECT_EQ(199, ProgressBar::StepOf(0.999, 200));
+    EXPECT_EQ(200, ProgressBar::StepOf(1, 200));
+    EXPECT_EQ(200, ProgressBar::StepOf(1e9, 200));
+    EXPECT_EQ(0, ProgressBar::StepOf(-1, 200));
+    EXPECT_EQ(0, ProgressBar::StepOf(std::numeric_limits<double>::quiet_NaN(), 200));
+}
+
+} // namespace
