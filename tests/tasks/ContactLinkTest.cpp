@@ -1,0 +1,188 @@
+#include "tasks/ContactLink.h"
+
+#include "automation/Error.h"
+#include "state/SharedState.h"
+#include "tasks/TasksToOutlook.h"
+#include "tests/tasks/CallCounter.h"
+#include "tests/tasks/TaskTest.h"
+
+namespace
+{
+
+using automation::Object;
+using automation::TextOf;
+using automation::Value;
+using test_support::CallCounter;
+using test_support::kContacts;
+using test_support::kTasks;
+
+class ContactLink : public test_support::TaskTest
+{
+  protected:
+    ContactLink() { Relate({{L"F_ACTNAME", L"Subject"}, {L"CONTACT_SURNAME", L"ContactNames"}}); }
+
+    void AddHostTaskWith(const wchar_t* surname, const wchar_t* givenName) const
+    {
+        AddHostTask(
+            {{L"F_ACTNAME", L"'Call'"}, {L"CONTACT_SURNAME", surname}, {L"CONTACT_GIVENNAME", givenName}});
+    }
+
+    long AddContact(const wchar_t* first, const wchar_t* last) const
+    {
+        return mMailbox->AddItem(kContacts, {{L"FirstName", first}, {L"LastName", last}});
+    }
+
+    std::wstring ContactProperty(long position, const wchar_t* name) const
+    {
+        return TextOf(mMailbox->ItemProperty(kContacts, position, name));
+    }
+
+    std::vector<std::wstring> Links(long task) const { return mMailbox->ItemLinks(kTasks, task); }
+};
+
+bool Refuse(const Object& /*contact*/)
+{
+    return false;
+}
+
+bool IsNotOfOutlook8(const Object& contact)
+{
+    return !tasks::IsOfOutlook8(contact);
+}
+
+} // namespace
+
+TEST_F(ContactLink, TheContactOfTheNameIsLinked)
+{
+    AddContact(L"Hua", L"Li");
+    AddContact(L"Wei", L"Zhang");
+    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    const Object task = WriteNewTask();
+    EXPECT_EQ(2, CountContacts());
+    ASSERT_EQ(1u, Links(1).size());
+    EXPECT_EQ(L"Wei",
+              TextOf(task.GetObject(L"Links").GetObject(L"Item", 1L).GetObject(L"Item").Get(L"FirstName")));
+}
+
+TEST_F(ContactLink, AContactThatIsNotFoundIsCreatedWithJustItsNameAndLinked)
+{
+    AddContact(L"Zhang", L"Wei"); // the other way round is another person
+    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    const Object task = WriteNewTask();
+    ASSERT_EQ(2, CountContacts());
+    EXPECT_EQ(L"Wei", ContactProperty(2, L"FirstName"));
+    EXPECT_EQ(L"Zhang", ContactProperty(2, L"LastName"));
+    EXPECT_EQ(L"", ContactProperty(2, L"CompanyName"));
+    EXPECT_EQ(1u, Links(1).size());
+    EXPECT_NE(std::wstring::npos, TextOf(task.Get(L"ContactNames")).find(L"Zhang"));
+}
+
+TEST_F(ContactLink, WithoutASurnameOrAGivenNameNothingIsLinked)
+{
+    AddHostTaskWith(L"'Zhang'", L"NULL");
+    WriteNewTask();
+    Execute(L"UPDATE Activities SET CONTACT_SURNAME=NULL, CONTACT_GIVENNAME='Wei'");
+    WriteNewTask();
+    EXPECT_EQ(0, CountContacts());
+    EXPECT_TRUE(Links(1).empty());
+    EXPECT_TRUE(Links(2).empty());
+}
+
+TEST_F(ContactLink, AnExistingTaskGetsOneMoreLinkEachTimeItIsWritten)
+{
+    AddContact(L"Wei", L"Zhang");
+    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    WriteNewTask();
+    WriteExistingTask();
+    EXPECT_EQ(2u, Links(1).size());
+    WriteExistingTask();
+    EXPECT_EQ(3u, Links(1).size());
+    EXPECT_EQ(1, CountContacts());
+}
+
+TEST_F(ContactLink, TwoTasksOfANewContactInOnePassShareIt)
+{
+    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    data::Run run = NewRun();
+    run.Pending.NewHostRecords.Add(1L, 0);
+    run.Pending.NewHostRecords.Add(2L, 0);
+    EXPECT_FALSE(tasks::SynTaskToOutlook(run));
+    EXPECT_EQ(1, CountContacts());
+    EXPECT_EQ(Links(1), Links(2));
+    EXPECT_EQ(1u, Links(2).size());
+}
+
+TEST_F(ContactLink, ADoubleQuoteInANameEndsThePassWithNothingHalfOpen)
+{
+    for (const auto& [surname, givenName] :
+         {std::pair(L"'Zh\"ang'", L"'Wei'"), std::pair(L"'Zhang'", L"'W\"ei'")})
+    {
+        Execute(L"DELETE FROM Activities");
+        AddHostTaskWith(surname, givenName);
+        AddHostTaskWith(L"'Li'", L"'Hua'");
+        const long before = CountTasks();
+        data::Run run = NewRun();
+        run.Pending.NewHostRecords.Add(1L, 0);
+        run.Pending.NewHostRecords.Add(2L, 0);
+        const CallCounter calls;
+        EXPECT_TRUE(tasks::SynTaskToOutlook(run));
+        EXPECT_EQ(0, CountContacts());
+        EXPECT_EQ(before + 1, CountTasks()); // the first row had saved it, the second task was not begun
+        EXPECT_TRUE(Links(before + 1).empty());
+        EXPECT_EQ(calls.Of(L"Recordset.Open"), calls.Of(L"Recordset.Close"));
+        EXPECT_EQ(L"(hidden)", mDisplay.Shown.back());
+    }
+}
+
+TEST_F(ContactLink, AnApostropheInANameIsAPlainCharacter)
+{
+    AddContact(L"Pat", L"O'Brien");
+    AddHostTaskWith(L"'O''Brien'", L"'Pat'");
+    WriteNewTask();
+    EXPECT_EQ(1, CountContacts());
+    EXPECT_EQ(1u, Links(1).size());
+}
+
+TEST_F(ContactLink, OnlyPlainContactsOfTheDefaultFolderAreCandidates)
+{
+    mMailbox->AddItem(
+        kContacts,
+        {{L"MessageClass", L"IPM.Contact.Special"}, {L"FirstName", L"Wei"}, {L"LastName", L"Zhang"}});
+    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    WriteNewTask();
+    EXPECT_EQ(2, CountContacts());
+}
+
+TEST_F(ContactLink, AConditionIsAskedOfTheContactFoundAndMayRefuseIt)
+{
+    mMailbox->AddItem(kContacts,
+                      {{L"FirstName", L"Wei"}, {L"LastName", L"Zhang"}, {L"OutlookVersion", L"8.5"}});
+    AddContact(L"Hua", L"Li");
+    AddOutlookTask({{L"Subject", L"Call"}});
+    const Object task = TaskAt(1);
+    tasks::LinkContact(task, L"Zhang", L"Wei", IsNotOfOutlook8);
+    EXPECT_EQ(0, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
+    tasks::LinkContact(task, L"Li", L"Hua", IsNotOfOutlook8);
+    EXPECT_EQ(1, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
+    EXPECT_EQ(2, CountContacts());
+}
+
+TEST_F(ContactLink, AConditionIsNotAskedOfAContactThatIsCreated)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    const Object task = TaskAt(1);
+    tasks::LinkContact(task, L"Zhang", L"Wei", Refuse);
+    EXPECT_EQ(1, CountContacts());
+    EXPECT_EQ(1, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
+}
+
+TEST_F(ContactLink, TheItemItselfIsLeftToItsWriterToSave)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    const Object task = TaskAt(1);
+    const CallCounter calls;
+    tasks::LinkContact(task, L"Zhang", L"Wei");
+    EXPECT_EQ(0, calls.Of(L"TaskItem.Save"));
+    EXPECT_EQ(1, calls.Of(L"ContactItem.Save"));
+}

@@ -1,0 +1,237 @@
+#include "tasks/TaskLinks.h"
+
+#include "tasks/TasksFromOutlook.h"
+#include "tests/support/MessageBoxes.h"
+#include "tests/support/WithLanguage.h"
+#include "tests/tasks/TaskTest.h"
+
+namespace
+{
+
+using automation::Value;
+using resources::Language;
+using test_support::MessagesDuring;
+using test_support::RecordingHost;
+using test_support::ShownMessage;
+using test_support::WithLanguage;
+using Calls = std::vector<std::wstring>;
+
+constexpr const wchar_t* kLookupContact =
+    L"SELECT F_CNTCTID\r\nFROM TBLCONTACT\r\nWHERE F_SURNAME+F_GIVENNAME= '张伟'";
+constexpr const wchar_t* kLookupAccount = L"SELECT F_ACCID\r\nFROM TBLACCOUNT\r\nWHERE F_ACCSNAME= 'Quenlar'";
+
+// The host's codes for the rights that the builders ask for.
+const RecordingHost::Right kModifyContacts{2, 2, 4};
+const RecordingHost::Right kModifyAccounts{1, 2, 4};
+const RecordingHost::Right kAddAccounts{1, 2, 2};
+
+class TaskLinks : public test_support::TaskTest
+{
+  protected:
+    std::wstring InsertedContact()
+    {
+        std::wstring fields;
+        std::wstring values;
+        EXPECT_EQ(0, tasks::ChangeNewTaskContact(TaskAt(1), fields, values));
+        return fields + L"|" + values;
+    }
+
+    std::wstring UpdatedContact()
+    {
+        std::wstring setList;
+        EXPECT_EQ(0, tasks::ChangeEditTaskContact(TaskAt(1), setList));
+        return setList;
+    }
+
+    std::wstring InsertedAccount()
+    {
+        std::wstring fields;
+        std::wstring values;
+        EXPECT_EQ(0, tasks::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
+        return fields + L"|" + values;
+    }
+
+    std::wstring UpdatedAccount()
+    {
+        std::wstring setList;
+        EXPECT_EQ(0, tasks::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
+        return setList;
+    }
+
+    void ExpectNoContactAndNoQuestion()
+    {
+        EXPECT_EQ(L"F_CNTCTID|NULL", InsertedContact());
+        EXPECT_EQ(L"F_CNTCTID=NULL", UpdatedContact());
+        EXPECT_TRUE(Host().Calls.empty());
+    }
+
+    data::FieldCatalogue mCatalogue;
+};
+
+std::vector<ShownMessage> Failure(const wchar_t* builder)
+{
+    return {{L"-2147467259:no such table", builder, IDI_ERROR}};
+}
+
+} // namespace
+
+TEST_F(TaskLinks, AContactIsLookedUpByItsJoinedNameAndLinkedByItsKey)
+{
+    AddOutlookTask({{L"ContactNames", L"张伟"}});
+    Host().Found[kLookupContact] = L"C1";
+    EXPECT_EQ(L"F_CNTCTID|'C1'", InsertedContact());
+    EXPECT_EQ(L"F_CNTCTID='C1'", UpdatedContact());
+    EXPECT_EQ((Calls{std::wstring(L"OpenRecordsetByString ") + kLookupContact,
+                     std::wstring(L"OpenRecordsetByString ") + kLookupContact}),
+              Host().Calls);
+    EXPECT_EQ((std::vector<RecordingHost::Right>{kModifyContacts, kModifyContacts}), Host().Asked);
+}
+
+TEST_F(TaskLinks, AFragmentAfterOthersCarriesAComma)
+{
+    AddOutlookTask({{L"ContactNames", L"张伟"}});
+    Host().Found[kLookupContact] = L"C1";
+    std::wstring fields = L"F_ACTNAME";
+    std::wstring values = L"'Call'";
+    EXPECT_EQ(0, tasks::ChangeNewTaskContact(TaskAt(1), fields, values));
+    EXPECT_EQ(0, tasks::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
+    EXPECT_EQ(L"F_ACTNAME,F_CNTCTID,F_ACCID", fields);
+    EXPECT_EQ(L"'Call','C1',NULL", values);
+    std::wstring setList = L"F_ACTNAME='Call'";
+    EXPECT_EQ(0, tasks::ChangeEditTaskContact(TaskAt(1), setList));
+    EXPECT_EQ(0, tasks::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
+    EXPECT_EQ(L"F_ACTNAME='Call',F_CNTCTID='C1',F_ACCID=NULL", setList);
+}
+
+TEST_F(TaskLinks, AContactThatTheHostDoesNotKnowIsNull)
+{
+    AddOutlookTask({{L"ContactNames", L"张伟"}});
+    EXPECT_EQ(L"F_CNTCTID|NULL", InsertedContact());
+    EXPECT_EQ(L"F_CNTCTID=NULL", UpdatedContact());
+}
+
+TEST_F(TaskLinks, ATaskWithoutContactsIsNotLookedUp)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    ExpectNoContactAndNoQuestion();
+}
+
+TEST_F(TaskLinks, ATaskOfAnOutlookWhoseVersionBeginsWithEightHasNoContact)
+{
+    AddOutlookTask({{L"ContactNames", L"张伟"}, {L"OutlookVersion", L"8.5"}});
+    ExpectNoContactAndNoQuestion();
+}
+
+TEST_F(TaskLinks, AnEightLaterInTheVersionIsNoMatter)
+{
+    AddOutlookTask({{L"ContactNames", L"张伟"}, {L"OutlookVersion", L"10.8"}});
+    Host().Found[kLookupContact] = L"C1";
+    EXPECT_EQ(L"F_CNTCTID|'C1'", InsertedContact());
+}
+
+TEST_F(TaskLinks, WithoutTheRightToModifyContactsTheContactIsNullWithoutAMessage)
+{
+    AddOutlookTask({{L"ContactNames", L"张伟"}});
+    Host().Denied = {kModifyContacts};
+    EXPECT_TRUE(MessagesDuring([&] { ExpectNoContactAndNoQuestion(); }).empty());
+}
+
+TEST_F(TaskLinks, AnAccountIsLookedUpByItsShortNameAndLinkedByItsKey)
+{
+    AddOutlookTask({{L"Companies", L"Quenlar"}});
+    Host().Found[kLookupAccount] = L"A1";
+    EXPECT_EQ(L"F_ACCID|'A1'", InsertedAccount());
+    EXPECT_EQ(L"F_ACCID='A1'", UpdatedAccount());
+    EXPECT_EQ((std::vector<RecordingHost::Right>{kAddAccounts, kAddAccounts}), Host().Asked);
+}
+
+TEST_F(TaskLinks, AnAccountThatTheHostDoesNotKnowIsCreatedWithItsInformationRow)
+{
+    AddOutlookTask({{L"Companies", L"Quenlar"}});
+    Host().Found[L"SELECT F_AITID FROM TBLSYSINFO"] = L"TYPE";
+    const WithLanguage english(Language::English);
+    EXPECT_EQ(L"F_ACCID|'KEY1'", InsertedAccount());
+    EXPECT_EQ((Calls{std::wstring(L"OpenRecordsetByString ") + kLookupAccount,
+                     L"Insert TBLACCOUNT|F_ACCID,F_ACCSNAME,F_ACCCURRIDX|'KEY1','Quenlar',2|",
+                     L"OpenRecordsetByString SELECT F_AITID FROM TBLSYSINFO",
+                     L"Insert TBLACCINFO|F_AIID, F_AITID, F_ACCID|'KEY2', 'TYPE', 'KEY1'|"}),
+              Host().Calls);
+}
+
+TEST_F(TaskLinks, ATaskWithoutACompanyHasNoAccount)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    EXPECT_EQ(L"F_ACCID|NULL", InsertedAccount());
+    EXPECT_EQ(L"F_ACCID=NULL", UpdatedAccount());
+    EXPECT_TRUE(Host().Calls.empty());
+    EXPECT_EQ((std::vector<RecordingHost::Right>{kModifyAccounts, kModifyAccounts}), Host().Asked);
+}
+
+TEST_F(TaskLinks, WithoutEitherRightTheAccountIsLeftAlone)
+{
+    Host().Denied = {kModifyAccounts, kAddAccounts};
+    AddOutlookTask({{L"Subject", L"Call"}});
+    EXPECT_EQ(L"|", InsertedAccount());
+    EXPECT_EQ(L"", UpdatedAccount());
+}
+
+TEST_F(TaskLinks, ACompanyNeedsTheRightToAddAccountsAlone)
+{
+    AddOutlookTask({{L"Companies", L"Quenlar"}});
+    Host().Found[kLookupAccount] = L"A1";
+    Host().Denied = {kModifyAccounts};
+    EXPECT_EQ(L"F_ACCID='A1'", UpdatedAccount());
+    Host().Denied = {kAddAccounts};
+    EXPECT_EQ(L"", UpdatedAccount());
+}
+
+TEST_F(TaskLinks, AFailedLookupIsShownUnderTheNameOfItsBuilderAndIsAFailure)
+{
+    AddOutlookTask({{L"ContactNames", L"张伟"}, {L"Companies", L"Quenlar"}});
+    Host().Failing = {{kLookupContact, L"no such table"}, {kLookupAccount, L"no such table"}};
+    const auto task = TaskAt(1);
+    std::wstring fields = L"F_ACTNAME";
+    std::wstring values = L"'Call'";
+    std::wstring setList = L"F_ACTNAME='Call'";
+    const auto shown = [](auto&& build) { return MessagesDuring([&] { EXPECT_EQ(-1, build()); }); };
+    EXPECT_EQ(Failure(L"ChangeNewTaskContact"),
+              shown([&] { return tasks::ChangeNewTaskContact(task, fields, values); }));
+    EXPECT_EQ(Failure(L"ChangeEditTaskContact"),
+              shown([&] { return tasks::ChangeEditTaskContact(task, setList); }));
+    EXPECT_EQ(Failure(L"ChangeAddTaskAccount"),
+              shown([&] { return tasks::ChangeAddTaskAccount(mCatalogue, task, fields, values); }));
+    EXPECT_EQ(Failure(L"ChangeEditTaskAccount"),
+              shown([&] { return tasks::ChangeEditTaskAccount(mCatalogue, task, setList); }));
+    EXPECT_EQ(L"F_ACTNAME", fields);
+    EXPECT_EQ(L"'Call'", values);
+    EXPECT_EQ(L"F_ACTNAME='Call'", setList);
+}
+
+TEST_F(TaskLinks, ATaskWhoseLinkFailsIsRolledBackAndThePassGoesOn)
+{
+    AddOutlookTask({{L"Subject", L"One"}, {L"ContactNames", L"张伟"}});
+    AddOutlookTask({{L"Subject", L"Two"}});
+    Host().Failing = {{kLookupContact, L"no such table"}};
+    data::Run run = NewRun();
+    run.Pending.NewOutlookItems.Add(L"1", 0);
+    run.Pending.NewOutlookItems.Add(L"2", 0);
+    const auto messages = MessagesDuring([&] { EXPECT_FALSE(tasks::SynTaskFromOutlook(run)); });
+    EXPECT_EQ(Failure(L"ChangeNewTaskContact"), messages);
+    EXPECT_EQ((Calls{L"BeginTrans", std::wstring(L"OpenRecordsetByString ") + kLookupContact,
+                     L"RollbackTrans", L"BeginTrans",
+                     L"Insert TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
+                     L"NULL,NULL,7,7,'KEY1'|KEY1",
+                     L"CommitTrans"}),
+              Host().Calls);
+}
+
+TEST_F(TaskLinks, AnAccountThatCannotBeCreatedFailsTheTaskWithAllThatCameBefore)
+{
+    AddOutlookTask({{L"Subject", L"One"}, {L"Companies", L"Quenlar"}});
+    Host().Found[L"SELECT F_AITID FROM TBLSYSINFO"] = L"TYPE";
+    Host().Results[L"TBLACCINFO"] = -1;
+    const auto messages = MessagesDuring([&] { InsertFirstTask(); });
+    ASSERT_EQ(1u, messages.size());
+    EXPECT_EQ(L"ChangeAddTaskAccount", messages[0].caption);
+    EXPECT_EQ(L"RollbackTrans", Host().Calls.back());
+}

@@ -1,0 +1,87 @@
+// What the tests of tasks share: a host database with relation rows, a field catalogue and a few host tasks,
+// a mailbox with Outlook's default folders, and a run over both.
+#pragma once
+
+#include "automation/Dates.h"
+#include "data/Run.h"
+#include "sandbox/ado/Ado.h"
+#include "sandbox/database/Connection.h"
+#include "sandbox/outlook/Outlook.h"
+#include "tests/tasks/RecordingHost.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace test_support
+{
+
+inline constexpr const wchar_t* kTasks = L"Personal Folders\\Tasks";
+inline constexpr const wchar_t* kContacts = L"Personal Folders\\Contacts";
+
+inline automation::Date Day(int year, int month, int day, int hour = 0, int minute = 0, int second = 0)
+{
+    return automation::DateOf(automation::Moment{year, month, day, hour, minute, second});
+}
+
+// What a run shows, as texts in their order.
+class RecordingDisplay : public data::RunDisplay
+{
+  public:
+    void SetStatus(const std::wstring& text) override { Shown.push_back(text); }
+    void ShowProgress(bool visible) override { Shown.push_back(visible ? L"(shown)" : L"(hidden)"); }
+    void SetProgress(double fraction) override
+    {
+        Shown.push_back(std::to_wstring(static_cast<int>(fraction * 100)) + L"%");
+    }
+    std::wstring CategoryText() const override { return L"Task"; }
+
+    std::vector<std::wstring> Shown;
+};
+
+class TaskTest : public testing::Test
+{
+  protected:
+    // Column and literal, or host column and Outlook property.
+    using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
+
+    TaskTest();
+    ~TaskTest() override;
+
+    void Execute(const std::wstring& sql) const;
+    // Makes these the relation rows of tasks, in this order.
+    void Relate(const Pairs& rows) const;
+    // Adds a host task; columns that are not named are NULL. Values are SQL literals.
+    void AddHostTask(const Pairs& columns) const;
+    // Adds a task to the mailbox as it is, without what Outlook makes of its properties; its position.
+    long AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const;
+
+    // A run over the host tasks and the task folder as they are now.
+    data::Run NewRun();
+    // Writes host task 1 as a new task, or over the folder's task 1, and returns that task.
+    automation::Object WriteNewTask();
+    automation::Object WriteExistingTask();
+    // Writes the folder's task 1 into the host as a new row, or over host task 1.
+    void InsertFirstTask();
+    void UpdateFirstTask();
+
+    automation::Object Namespace() const;
+    automation::Object TaskAt(long position) const;
+    automation::Value TaskProperty(long position, const wchar_t* name) const;
+    long CountTasks() const { return mMailbox->ItemCount(kTasks); }
+    long CountContacts() const { return mMailbox->ItemCount(kContacts); }
+
+    sandbox::AdoInProcess mAdo;
+    sandbox::MailboxRef mMailbox = sandbox::MakeMailbox();
+    automation::Object mOutlook = sandbox::MakeOutlook(mMailbox);
+    RecordingHost& Host() const { return *mHost.Get(); }
+    RecordingDisplay mDisplay;
+
+  private:
+    Microsoft::WRL::ComPtr<RecordingHost> mHost;
+    std::wstring mPath;
+};
+
+} // namespace test_support

@@ -1,0 +1,322 @@
+#include "tasks/TasksFromOutlook.h"
+
+#include "data/RecordMode.h"
+#include "tasks/TaskRelations.h"
+#include "tests/support/MessageBoxes.h"
+#include "tests/support/WithLanguage.h"
+#include "tests/tasks/TaskTest.h"
+
+namespace
+{
+
+using automation::kOutlookNoDate;
+using automation::Object;
+using automation::Value;
+using resources::Language;
+using test_support::Day;
+using test_support::MessagesDuring;
+using test_support::ShownMessage;
+using test_support::WithLanguage;
+using Calls = std::vector<std::wstring>;
+
+class TasksFromOutlook : public test_support::TaskTest
+{
+  protected:
+    // The literal that the task's property becomes in the host.
+    std::wstring Stored(const wchar_t* property, const wchar_t* column)
+    {
+        Relate({{column, property}});
+        Host().Calls.clear();
+        InsertFirstTask();
+        const std::wstring& insert = Host().Calls.at(1);
+        const std::wstring begin = std::wstring(L"Insert TBLACTIVITY|") + column +
+                                   L",F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|";
+        EXPECT_EQ(begin, insert.substr(0, begin.size()));
+        return insert.substr(begin.size(), insert.find(L",NULL,NULL,7,7,") - begin.size());
+    }
+
+    // A run that inserts the folder's tasks.
+    bool InsertAll()
+    {
+        data::Run run = NewRun();
+        for (long i = 1; i <= CountTasks(); ++i)
+        {
+            run.Pending.NewOutlookItems.Add(std::to_wstring(i), 0);
+        }
+        return tasks::SynTaskFromOutlook(run);
+    }
+
+    static long CountOf(const Calls& calls, const std::wstring& begin)
+    {
+        return static_cast<long>(
+            std::ranges::count_if(calls, [&](const std::wstring& call) { return call.starts_with(begin); }));
+    }
+};
+
+} // namespace
+
+TEST_F(TasksFromOutlook, WithoutRelationRowsTheInsertIsTheLinksAndTheKeys)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    InsertFirstTask();
+    EXPECT_EQ((Calls{L"BeginTrans",
+                     L"Insert TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
+                     L"NULL,NULL,7,7,'KEY1'|KEY1",
+                     L"CommitTrans"}),
+              Host().Calls);
+}
+
+TEST_F(TasksFromOutlook, AnUpdateWritesTheMappedColumnsAndTheLinksOfItsRow)
+{
+    Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTSTATUS", L"Status"}, {L"CONTACT_SURNAME", L"ContactNames"}});
+    AddHostTask({{L"F_ACTNAME", L"'Old'"}});
+    AddOutlookTask({{L"Subject", L"Call O'Brien"}, {L"Status", 1}});
+    UpdateFirstTask();
+    EXPECT_EQ((Calls{L"BeginTrans",
+                     L"Update TBLACTIVITY|F_ACTNAME='Call O''Brien',F_ACTSTATUS=1,F_CNTCTID=NULL,F_ACCID=NULL"
+                     L"||F_ACTID='ACT1'",
+                     L"CommitTrans"}),
+              Host().Calls);
+}
+
+TEST_F(TasksFromOutlook, ATaskWithoutASubjectNeverReachesTheHost)
+{
+    Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTNAME", L"Subject"}});
+    AddOutlookTask({{L"Body", L"nothing to call it by"}});
+    AddOutlookTask({{L"Subject", L"Call"}});
+    EXPECT_FALSE(InsertAll());
+    EXPECT_EQ((Calls{L"BeginTrans",
+                     L"Insert TBLACTIVITY|F_ACTSTATUS,F_ACTNAME,F_CNTCTID,F_ACCID,F_ACTORID "
+                     L",F_CREATORID,F_ACTID|0,'Call',NULL,NULL,7,7,'KEY1'|KEY1",
+                     L"CommitTrans"}),
+              Host().Calls);
+}
+
+TEST_F(TasksFromOutlook, ATaskWithoutAStartDateStoresNullAndNoReminder)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"StartDate", kOutlookNoDate}, {L"ReminderSet", true}});
+    EXPECT_EQ(L"NULL", Stored(L"StartDate", L"F_ACTPSTIME"));
+    EXPECT_EQ(L"0", Stored(L"ReminderSet", L"F_ACTREMIND"));
+}
+
+TEST_F(TasksFromOutlook, ATaskWithAStartDateStoresItsReminder)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"StartDate", Day(2003, 5, 6)}, {L"ReminderSet", true}});
+    EXPECT_EQ(L"1", Stored(L"ReminderSet", L"F_ACTREMIND"));
+    TaskAt(1).Put(L"ReminderSet", false); // not saved: the stored task keeps its reminder
+    EXPECT_EQ(L"1", Stored(L"ReminderSet", L"F_ACTREMIND"));
+}
+
+TEST_F(TasksFromOutlook, StartAndDueDateAreStoredWithoutTheirTimeOfDay)
+{
+    AddOutlookTask({{L"Subject", L"Call"},
+                    {L"StartDate", Day(2003, 5, 6, 9, 30)},
+                    {L"DueDate", Day(2003, 5, 8, 17, 45)}});
+    EXPECT_EQ(L"'05/06/2003 00:00:00'", Stored(L"StartDate", L"F_ACTPSTIME"));
+    EXPECT_EQ(L"'05/08/2003 00:00:00'", Stored(L"DueDate", L"F_ACTMADE"));
+}
+
+TEST_F(TasksFromOutlook, TheZeroDateIsNoDateEither)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"DueDate", automation::kZeroDate}});
+    EXPECT_EQ(L"NULL", Stored(L"DueDate", L"F_ACTPETIME"));
+}
+
+TEST_F(TasksFromOutlook, AnUncompletedTaskStoresNoCompletionDateEvenIfOutlookHoldsOne)
+{
+    for (const long status : {0, 1, 3, 4})
+    {
+        mMailbox = sandbox::MakeMailbox();
+        mOutlook = sandbox::MakeOutlook(mMailbox);
+        AddOutlookTask({{L"Subject", L"Call"}, {L"Status", status}, {L"DateCompleted", Day(2003, 5, 6)}});
+        EXPECT_EQ(L"NULL", Stored(L"DateCompleted", L"F_ACTCDATE")) << status;
+    }
+}
+
+TEST_F(TasksFromOutlook, ACompletedTaskStoresTheDayOfItsCompletion)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"Status", 2}, {L"DateCompleted", Day(2003, 5, 6, 11, 20)}});
+    EXPECT_EQ(L"'05/06/2003 00:00:00'", Stored(L"DateCompleted", L"F_ACTMADE"));
+}
+
+TEST_F(TasksFromOutlook, ACompletedTaskWithoutACompletionDateStoresNull)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"Status", 2}});
+    EXPECT_EQ(L"NULL", Stored(L"DateCompleted", L"F_ACTCDATE"));
+}
+
+TEST_F(TasksFromOutlook, TheCreationTimeKeepsItsTimeOfDay)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"CreationTime", Day(2003, 5, 6, 9, 30)}});
+    EXPECT_EQ(L"'05/06/2003 09:30:00'", Stored(L"CreationTime", L"F_ACTMADE"));
+}
+
+TEST_F(TasksFromOutlook, ATaskWithoutCategoriesIsUnspecifiedInTheInterfaceLanguage)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    {
+        const WithLanguage english(Language::English);
+        EXPECT_EQ(L"'(Unspecified)'", Stored(L"Categories", L"F_ACTTYPE"));
+    }
+    const WithLanguage chinese(Language::Chinese);
+    EXPECT_EQ(L"'(未指定)'", Stored(L"Categories", L"F_ACTTYPE"));
+}
+
+TEST_F(TasksFromOutlook, CategoriesAreStoredAsTheyAre)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"Categories", L"Phone, 电话"}});
+    EXPECT_EQ(L"'Phone, 电话'", Stored(L"Categories", L"F_ACTTYPE"));
+}
+
+TEST_F(TasksFromOutlook, NumbersAreConvertedToTheHostsScale)
+{
+    AddOutlookTask({{L"Subject", L"Call"},
+                    {L"PercentComplete", 50},
+                    {L"Importance", 0},
+                    {L"Status", 3},
+                    {L"TotalWork", 480},
+                    {L"ActualWork", 90}});
+    EXPECT_EQ(L"0.5", Stored(L"PercentComplete", L"F_ACTPERCENT"));
+    EXPECT_EQ(L"1", Stored(L"Importance", L"F_ACTLEVEL"));
+    EXPECT_EQ(L"3", Stored(L"Status", L"F_ACTSTATUS"));
+    EXPECT_EQ(L"480", Stored(L"TotalWork", L"F_ACTTOTAL"));
+    EXPECT_EQ(L"90", Stored(L"ActualWork", L"F_ACTUAL"));
+}
+
+TEST_F(TasksFromOutlook, CompleteStoresTheStatusNumberAndNotTheFlag)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"Status", 2}, {L"Complete", true}});
+    EXPECT_EQ(L"2", Stored(L"Complete", L"F_ACTCOMPLETED"));
+}
+
+TEST_F(TasksFromOutlook, AnUnknownPropertyStoresNullInItsColumn)
+{
+    AddOutlookTask({{L"Subject", L"Call"}, {L"Body", L"text"}});
+    EXPECT_EQ(L"NULL", Stored(L"Body", L"F_ACTNAME"));
+    EXPECT_EQ(L"NULL", Stored(L"subject", L"F_ACTNAME"));
+}
+
+TEST_F(TasksFromOutlook, AColumnThatIsNotTheHostTablesOwnIsLeftOut)
+{
+    Relate({{L"CONTACT_SURNAME", L"ContactNames"}, {L"ACC_SNAME", L"Companies"}});
+    AddOutlookTask({{L"Subject", L"Call"}});
+    InsertFirstTask();
+    EXPECT_EQ(
+        L"Insert TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|NULL,NULL,7,7,'KEY1'|KEY1",
+        Host().Calls.at(1));
+}
+
+TEST_F(TasksFromOutlook, AColumnThatCannotBeFormattedAbandonsTheTaskBeforeItsTransaction)
+{
+    Relate({{L"F_UNHEARD", L"Subject"}});
+    AddOutlookTask({{L"Subject", L"Call"}});
+    const auto messages = MessagesDuring([&] { InsertFirstTask(); });
+    EXPECT_EQ((std::vector<ShownMessage>{{L"Don't find F_UNHEARDfield in table 'SynFields', can't format ",
+                                          L"GetFieldType", IDI_ERROR}}),
+              messages);
+    EXPECT_TRUE(Host().Calls.empty());
+}
+
+TEST_F(TasksFromOutlook, AnInsertThatTheHostRefusesIsRolledBackAndThePassGoesOn)
+{
+    Relate({{L"F_ACTNAME", L"Subject"}});
+    AddOutlookTask({{L"Subject", L"One"}});
+    AddOutlookTask({{L"Subject", L"Two"}});
+    Host().Results[L"TBLACTIVITY"] = -1;
+    EXPECT_FALSE(InsertAll());
+    EXPECT_EQ(2, CountOf(Host().Calls, L"Insert"));
+    EXPECT_EQ(2, CountOf(Host().Calls, L"RollbackTrans"));
+    EXPECT_EQ(0, CountOf(Host().Calls, L"CommitTrans"));
+}
+
+TEST_F(TasksFromOutlook, APositiveResultOfAnInsertCountsAsWrittenOfAnUpdateAsFailed)
+{
+    AddHostTask({{L"F_ACTNAME", L"'Old'"}});
+    AddOutlookTask({{L"Subject", L"Call"}});
+    Host().Results[L"TBLACTIVITY"] = 1;
+    InsertFirstTask();
+    EXPECT_EQ(L"CommitTrans", Host().Calls.back());
+    UpdateFirstTask();
+    EXPECT_EQ(L"RollbackTrans", Host().Calls.back());
+}
+
+TEST_F(TasksFromOutlook, WithoutAPendingTransactionNeitherEndIsAsked)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    Host().HasTransactions = false;
+    InsertFirstTask();
+    Host().Results[L"TBLACTIVITY"] = -1;
+    InsertFirstTask();
+    EXPECT_EQ(2, CountOf(Host().Calls, L"Insert"));
+    EXPECT_EQ(0, CountOf(Host().Calls, L"CommitTrans") + CountOf(Host().Calls, L"RollbackTrans"));
+}
+
+TEST_F(TasksFromOutlook, TheWriterSaysWhetherTheTaskWasWritten)
+{
+    Relate({{L"F_ACTNAME", L"Subject"}});
+    AddOutlookTask({{L"Subject", L"Call"}});
+    AddOutlookTask({});
+    data::Run run = NewRun();
+    run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
+    EXPECT_EQ(0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
+    EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(2)));
+    Host().Results[L"TBLACTIVITY"] = -1;
+    EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
+}
+
+TEST_F(TasksFromOutlook, AnyOtherModeSaysSoInEnglishInBothLanguagesAndWritesNothing)
+{
+    Relate({{L"F_ACTNAME", L"Subject"}});
+    AddOutlookTask({{L"Subject", L"Call"}});
+    data::Run run = NewRun();
+    run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
+    for (const Language language : {Language::English, Language::Chinese})
+    {
+        const WithLanguage withLanguage(language);
+        const auto messages = MessagesDuring([&] { tasks::SynOlTaskToSynTask(run, 3, TaskAt(1)); });
+        ASSERT_EQ(1u, messages.size());
+        EXPECT_EQ(L"Error:Don't this Item.", messages[0].text);
+        EXPECT_EQ(nullptr, messages[0].icon);
+    }
+    EXPECT_EQ(0, CountOf(Host().Calls, L"Insert") + CountOf(Host().Calls, L"Update"));
+    EXPECT_EQ(2, CountOf(Host().Calls, L"CommitTrans") + CountOf(Host().Calls, L"RollbackTrans"));
+}
+
+TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
+{
+    AddHostTask({});
+    AddHostTask({});
+    AddOutlookTask({{L"Subject", L"One"}});
+    data::Run run = NewRun();
+    run.Pending.ChangedHostRecords.Add(1L, 0);
+    run.Pending.ChangedOutlookItems.Add(L"1", 1);
+    run.Pending.ChangedHostRecords.Add(2L, 1); // the mark of the item decides
+    run.Pending.ChangedOutlookItems.Add(L"1", 0);
+    const WithLanguage english(Language::English);
+    EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
+    EXPECT_EQ((Calls{L"BeginTrans", L"Update TBLACTIVITY|F_CNTCTID=NULL,F_ACCID=NULL||F_ACTID='ACT2'",
+                     L"CommitTrans"}),
+              Host().Calls);
+    EXPECT_EQ((std::vector<std::wstring>{L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"50%",
+                                         L"100%", L"(hidden)"}),
+              mDisplay.Shown);
+}
+
+TEST_F(TasksFromOutlook, AnItemThatIsGoneEndsThePass)
+{
+    AddOutlookTask({{L"Subject", L"One"}});
+    data::Run run = NewRun();
+    run.Pending.NewOutlookItems.Add(L"7", 0);
+    run.Pending.NewOutlookItems.Add(L"1", 0);
+    EXPECT_TRUE(tasks::SynTaskFromOutlook(run));
+    EXPECT_TRUE(Host().Calls.empty());
+    EXPECT_EQ(L"(hidden)", mDisplay.Shown.back());
+}
+
+TEST_F(TasksFromOutlook, RelationRowsThatCannotBeReadFailEachTaskWithoutATransaction)
+{
+    Execute(L"DROP TABLE SynRelation");
+    AddOutlookTask({{L"Subject", L"One"}});
+    EXPECT_FALSE(InsertAll());
+    EXPECT_TRUE(Host().Calls.empty());
+}
