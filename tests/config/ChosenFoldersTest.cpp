@@ -1,0 +1,112 @@
+#include "config/ChosenFolders.h"
+
+#include "tests/config_host/HostTest.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using config::ChosenFolders;
+using config::FindObjectKind;
+using Texts = std::vector<std::wstring>;
+
+class ChosenFoldersTest : public config_tests::HostTest
+{
+};
+
+TEST(ChosenFolders, TheFirstFolderAddedIsTheDefault)
+{
+    ChosenFolders folders;
+    EXPECT_TRUE(config::AddFolder(folders, L"Store\\A"));
+    EXPECT_TRUE(config::AddFolder(folders, L"Store\\B"));
+    EXPECT_EQ((ChosenFolders{{L"Store\\A", true}, {L"Store\\B", false}}), folders);
+}
+
+TEST(ChosenFolders, AFolderThatIsListedAlreadyIsIgnored)
+{
+    ChosenFolders folders = {{L"Store\\A", false}};
+    EXPECT_FALSE(config::AddFolder(folders, L"Store\\A"));
+    EXPECT_EQ((ChosenFolders{{L"Store\\A", false}}), folders);
+}
+
+TEST(ChosenFolders, OnlyOneFolderIsTheDefault)
+{
+    ChosenFolders folders = {{L"A", true}, {L"B", false}};
+    config::MakeDefault(folders, 1);
+    EXPECT_EQ((ChosenFolders{{L"A", false}, {L"B", true}}), folders);
+}
+
+TEST(ChosenFolders, ValuesBeginWithTheNumberOfTheKind)
+{
+    EXPECT_EQ(L"10,'Store\\A',1", config::FolderValueList(*FindObjectKind(L"Contact"), {L"Store\\A", true}));
+    EXPECT_EQ(L"20,'Store\\A',0", config::FolderValueList(*FindObjectKind(L"Task"), {L"Store\\A", false}));
+    EXPECT_EQ(L"30,'Store\\A',0",
+              config::FolderValueList(*FindObjectKind(L"Calendar"), {L"Store\\A", false}));
+    EXPECT_EQ(nullptr, FindObjectKind(L"contact"));
+}
+
+TEST(ChosenFolders, PathsWithAnApostropheAreWrittenUnescaped)
+{
+    EXPECT_EQ(L"10,'Anna's folder',0",
+              config::FolderValueList(*FindObjectKind(L"Contact"), {L"Anna's folder", false}));
+}
+
+TEST(TakeCurrentFolder, TheOnlyFolderIsCurrentElseTheSelectedOne)
+{
+    state::SynParameter record;
+    record.DefaultFolder = L"kept";
+    config::TakeCurrentFolder(record, {{L"A", true}}, std::nullopt);
+    EXPECT_EQ(L"A", record.CurrentFolder);
+    config::TakeCurrentFolder(record, {{L"A", true}, {L"B", false}}, 1);
+    EXPECT_EQ(L"B", record.CurrentFolder);
+    EXPECT_EQ(L"kept", record.DefaultFolder);
+}
+
+TEST(TakeCurrentFolder, WithoutAFolderBothAreEmpty)
+{
+    state::SynParameter record;
+    record.CurrentFolder = record.DefaultFolder = L"earlier";
+    config::TakeCurrentFolder(record, {}, std::nullopt);
+    EXPECT_EQ(L"", record.CurrentFolder);
+    EXPECT_EQ(L"", record.DefaultFolder);
+}
+
+TEST_F(ChosenFoldersTest, TheUsersFoldersOfTheKindAreReplaced)
+{
+    GiveFolder(10, L"Store\\Old", true);
+    GiveFolder(20, L"Store\\Tasks", true);
+    Execute(L"INSERT INTO T_POutlookSyncFolder VALUES (8, 10, 'Store\\Others', 1)");
+    EXPECT_FALSE(config::StoreChosenFolders(*FindObjectKind(L"Contact"),
+                                            {{L"Store\\New", false}, {L"Store\\Newer", true}}));
+    EXPECT_EQ((Texts{L"20|Store\\Tasks|1", L"10|Store\\New|0", L"10|Store\\Newer|1"}), Folders());
+    EXPECT_EQ(Texts{L"Store\\Others"}, Rows(L"SELECT OutlookFolder FROM T_POutlookSyncFolder WHERE F_UID=8"));
+    EXPECT_EQ(Texts{L"Delete(T_POutlookSyncFolder; TransObjectID=10 And F_UID=7)"}, mLog.CallsOf(L"Delete"));
+}
+
+TEST_F(ChosenFoldersTest, AnEmptyListDeletesAllOfTheKindsRows)
+{
+    GiveFolder(10, L"Store\\Old", true);
+    EXPECT_FALSE(config::StoreChosenFolders(*FindObjectKind(L"Contact"), {}));
+    EXPECT_TRUE(Folders().empty());
+}
+
+TEST_F(ChosenFoldersTest, ARefusedDeleteWritesNothing)
+{
+    GiveFolder(10, L"Store\\Old", true);
+    RefuseEvery(L"Delete");
+    EXPECT_TRUE(config::StoreChosenFolders(*FindObjectKind(L"Contact"), {{L"Store\\New", true}}));
+    EXPECT_EQ(Texts{L"10|Store\\Old|1"}, Folders());
+    EXPECT_TRUE(mLog.CallsOf(L"Insert").empty());
+}
+
+TEST_F(ChosenFoldersTest, StoredFoldersAreLoadedWithOneDefaultAtMost)
+{
+    GiveFolder(10, L"A", true);
+    GiveFolder(10, L"B", true);
+    GiveFolder(20, L"C", true);
+    EXPECT_EQ((ChosenFolders{{L"A", false}, {L"B", true}}),
+              config::LoadChosenFolders(*FindObjectKind(L"Contact")));
+}
+
+} // namespace
