@@ -2,7 +2,10 @@
 
 #include "automation/Error.h"
 
+#include <cstddef>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include <objidl.h>
 
@@ -15,6 +18,10 @@ namespace
 {
 
 constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+
+constexpr DWORD kCaptureInterval = 20; // milliseconds
+constexpr int kAlikeCaptures = 3;      // in a row
+constexpr int kMostCaptures = 100;
 
 class GdiPlus
 {
@@ -56,13 +63,37 @@ Bitmap Capture(HWND window)
     return bitmap;
 }
 
+std::vector<std::byte> PixelsOf(HBITMAP bitmap)
+{
+    BITMAP size = {};
+    GetObjectW(bitmap, sizeof(size), &size);
+    std::vector<std::byte> pixels(static_cast<size_t>(size.bmWidthBytes) *
+                                  static_cast<size_t>(size.bmHeight));
+    GetBitmapBits(bitmap, static_cast<LONG>(pixels.size()), pixels.data());
+    return pixels;
+}
+
+// The window's own thread may be painting: what it shows counts when it has not changed for a while.
+Bitmap CaptureAtRest(HWND window)
+{
+    Bitmap last = Capture(window);
+    for (int alike = 0, tries = 0; alike < kAlikeCaptures && tries < kMostCaptures; ++tries)
+    {
+        Sleep(kCaptureInterval);
+        Bitmap next = Capture(window);
+        alike = PixelsOf(next.get()) == PixelsOf(last.get()) ? alike + 1 : 0;
+        last = std::move(next);
+    }
+    return last;
+}
+
 } // namespace
 
 void SavePicture(const ShownDialog& dialog, const std::wstring& path)
 {
     RedrawWindow(dialog.Handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    const Bitmap captured = Capture(dialog.Handle());
+    const Bitmap captured = CaptureAtRest(dialog.Handle());
     const GdiPlus gdiPlus;
     Gdiplus::Bitmap picture(captured.get(), nullptr);
     if (picture.Save(path.c_str(), &kPngEncoder, nullptr) != Gdiplus::Ok)
