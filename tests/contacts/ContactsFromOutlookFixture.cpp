@@ -1,0 +1,105 @@
+#include "tests/contacts/ContactsFromOutlookFixture.h"
+
+#include "data/Host.h"
+#include "state/SharedState.h"
+
+namespace test_support
+{
+
+using automation::Object;
+
+namespace
+{
+
+constexpr const wchar_t* kFolder = L"Personal Folders\\Contacts";
+constexpr long kContactsFolder = 10; // olFolderContacts
+
+} // namespace
+
+ContactsFromOutlookFixture::ContactsFromOutlookFixture()
+{
+    state::Shared().gDTC = TheHost.Dtc();
+    state::Shared().gCnnString = TheHost.ConnectionString();
+}
+
+ContactsFromOutlookFixture::~ContactsFromOutlookFixture()
+{
+    state::Shared().gDTC = {};
+    state::Shared().gCnnString.clear();
+}
+
+long ContactsFromOutlookFixture::AddItem(const Properties& properties)
+{
+    return Mailbox->AddItem(kFolder, properties);
+}
+
+long ContactsFromOutlookFixture::AddNamedItem(Properties properties)
+{
+    properties.emplace_back(L"LastName", L"Miller");
+    properties.emplace_back(L"FirstName", L"Ann");
+    return AddItem(properties);
+}
+
+data::Run ContactsFromOutlookFixture::NewRun()
+{
+    const Object folder =
+        Outlook.GetObject(L"GetNamespace", L"MAPI").GetObject(L"GetDefaultFolder", kContactsFolder);
+    automation::Recordset rows;
+    data::Host().OpenRecordset(rows, L"ContactMyContact");
+    return {Display, rows, folder, folder.GetObject(L"Items"), {}, {}, {}};
+}
+
+bool ContactsFromOutlookFixture::Import(const std::vector<long>& positions)
+{
+    data::Run run = NewRun();
+    for (const long position : positions)
+    {
+        run.Pending.NewOutlookItems.Add(std::to_wstring(position), 0);
+    }
+    return contacts::SynContactFromOutlook(run);
+}
+
+bool ContactsFromOutlookFixture::Overwrite(const std::vector<std::pair<long, long>>& pairs)
+{
+    data::Run run = NewRun();
+    for (const auto& [item, row] : pairs)
+    {
+        run.Pending.ChangedOutlookItems.Add(std::to_wstring(item), 0);
+        run.Pending.ChangedHostRecords.Add(row, 0);
+    }
+    return contacts::SynContactFromOutlook(run);
+}
+
+long ContactsFromOutlookFixture::Write(long mode, long position)
+{
+    data::Run run = NewRun();
+    run.Relations.Use(L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'", {});
+    return contacts::SynOlContactToSynContact(run, mode, run.Items.GetObject(L"Item", position));
+}
+
+void ContactsFromOutlookFixture::Relate(const std::vector<std::pair<std::wstring, std::wstring>>& rows)
+{
+    Execute(L"DELETE FROM SynRelation WHERE QuenlarTblName='TBLCONTACT'");
+    for (const auto& [column, property] : rows)
+    {
+        Execute(L"INSERT INTO SynRelation (QuenlarTblName, EnglishName, OutlookName) VALUES ('TBLCONTACT','" +
+                column + L"','" + property + L"')");
+    }
+}
+
+std::wstring ContactsFromOutlookFixture::Found(const std::wstring& sql)
+{
+    const automation::Value value = TheHost.Database().QueryValue(sql);
+    return automation::IsEmptyOrNull(value) ? L"NULL"
+           : value.Type() == VT_DATE
+               ? automation::Formatted(automation::DateOf(value), L"yyyy/mm/dd hh:mm:ss")
+               : automation::TextOf(value);
+}
+
+bool ContactsFromOutlookFixture::NothingWritten()
+{
+    return !TheHost.Database().InTransaction() && Count(L"TBLCONTACT") == 0 && Count(L"TBLACCOUNT") == 0 &&
+           Count(L"TBLACCINFO") == 0 && Count(L"TBLADDRESS") == 0;
+}
+
+} // namespace test_support

@@ -1,0 +1,70 @@
+// What the tests of contacts from Outlook share: the host with its catalogue and no rows of its own, an empty
+// mailbox, the English interface, and runs over both.
+#pragma once
+
+#include "automation/Dates.h"
+#include "contacts/ContactsFromOutlook.h"
+#include "data/Run.h"
+#include "sandbox/ado/Ado.h"
+#include "sandbox/host/Host.h"
+#include "sandbox/outlook/Outlook.h"
+#include "tests/support/RecordingDisplay.h"
+#include "tests/support/WithLanguage.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace test_support
+{
+
+inline automation::Date Day(int year, int month, int day, int hour = 0, int minute = 0)
+{
+    return automation::DateOf(automation::Moment{year, month, day, hour, minute});
+}
+
+class ContactsFromOutlookFixture : public testing::Test
+{
+  protected:
+    using Properties = sandbox::Mailbox::NamedValues;
+
+    ContactsFromOutlookFixture();
+    ~ContactsFromOutlookFixture() override;
+
+    // Adds a contact item and returns its position.
+    long AddItem(const Properties& properties);
+    // Adds a contact item that has a first and a last name, and these properties.
+    long AddNamedItem(Properties properties);
+
+    data::Run NewRun();
+    // The apply pass with these items as additions, in this order; its result.
+    bool Import(const std::vector<long>& positions);
+    // The apply pass with these pairs of an item and the position of its host row as modifications.
+    bool Overwrite(const std::vector<std::pair<long, long>>& pairs);
+    // The writer alone, on an item.
+    long Write(long mode, long position);
+
+    // Makes these the relation rows of contacts: host column and Outlook property.
+    void Relate(const std::vector<std::pair<std::wstring, std::wstring>>& rows);
+    void Execute(const std::wstring& sql) { TheHost.Database().Execute(sql); }
+    // The first value of a query as text; "NULL" for Null and for no row.
+    std::wstring Found(const std::wstring& sql);
+    long Count(const std::wstring& table) { return std::stol(Found(L"SELECT COUNT(*) FROM " + table)); }
+    // Nothing in any table that an import writes to, and no open transaction.
+    bool NothingWritten();
+
+    void Deny(long operationRight) { TheHost.SetRight(1, 2, operationRight, 1); }
+
+    sandbox::AdoInProcess Ado;
+    sandbox::Host TheHost;
+    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
+    automation::Object Outlook = sandbox::MakeOutlook(Mailbox);
+    RecordingDisplay Display;
+
+  private:
+    WithLanguage mEnglish{resources::Language::English};
+};
+
+} // namespace test_support
