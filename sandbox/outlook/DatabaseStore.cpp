@@ -72,6 +72,20 @@ std::wstring Repeated(const std::wstring& text, size_t count)
     return list;
 }
 
+// What tells a file from another one in its place; 0 for a file that is not there.
+unsigned long long FileId(const std::wstring& path)
+{
+    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    BY_HANDLE_FILE_INFORMATION information{};
+    if (file != INVALID_HANDLE_VALUE)
+    {
+        GetFileInformationByHandle(file, &information);
+        CloseHandle(file);
+    }
+    return static_cast<unsigned long long>(information.nFileIndexHigh) << 32 | information.nFileIndexLow;
+}
+
 const std::wstring& Existing(const std::wstring& path)
 {
     if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES)
@@ -84,7 +98,24 @@ const std::wstring& Existing(const std::wstring& path)
 
 } // namespace
 
-DatabaseStore::DatabaseStore(const std::wstring& path) : mConnection(ConnectionStringOf(Existing(path))) {}
+DatabaseStore::DatabaseStore(const std::wstring& path)
+    : mPath(path),
+      mConnection(ConnectionStringOf(Existing(path))),
+      mFileId(FileId(path)),
+      mDataVersion(DataVersion())
+{
+}
+
+// SQLite's count of the changes that other connections have made.
+long DatabaseStore::DataVersion()
+{
+    return automation::LongOf(mConnection.QueryValue(L"PRAGMA data_version"));
+}
+
+bool DatabaseStore::HasChangedElsewhere()
+{
+    return FileId(mPath) != mFileId || DataVersion() != mDataVersion;
+}
 
 void DatabaseStore::Create(const std::wstring& path)
 {

@@ -24,13 +24,19 @@ class DatabaseStore : public MailboxStore
     void WriteItem(const std::wstring& path, long index, const PropertyRows& properties,
                    const std::vector<std::wstring>* links) override;
     void DeleteItem(const std::wstring& path, long index) override;
+    bool HasChangedElsewhere() override;
 
   private:
     void RemoveProperties(const std::wstring& path, long index, const PropertyRows& properties);
     void AddProperties(const std::wstring& path, long index, const PropertyRows& properties);
     void WriteLinks(const std::wstring& path, long index, const std::vector<std::wstring>& links);
 
+    long DataVersion();
+
+    std::wstring mPath;
     Connection mConnection;
+    unsigned long long mFileId;
+    long mDataVersion;
 };
 
 } // namespace sandbox::outlook

@@ -399,6 +399,12 @@ Value Mailbox::ItemProperty(const std::wstring& path, long position, const std::
     return ItemDraft(*this, item).Read(*id);
 }
 
+bool Mailbox::HasChangedElsewhere()
+{
+    const std::lock_guard hold(mLock);
+    return mStore && mStore->HasChangedElsewhere();
+}
+
 std::vector<std::wstring> Mailbox::ItemLinks(const std::wstring& path, long position)
 {
     const std::lock_guard hold(mLock);

@@ -75,6 +75,9 @@ class Mailbox
     Value ItemProperty(const std::wstring& path, long position, const std::wstring& name);
     std::vector<std::wstring> ItemLinks(const std::wstring& path, long position);
 
+    // True when the mailbox file is no longer what this mailbox has read and written.
+    bool HasChangedElsewhere();
+
     // --- For the objects of the stand-in.
 
     const std::vector<MailFolder*>& Stores() const noexcept { return mStores; }

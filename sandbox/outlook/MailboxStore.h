@@ -37,6 +37,9 @@ class MailboxStore
     virtual void WriteItem(const std::wstring& path, long index, const PropertyRows& properties,
                            const std::vector<std::wstring>* links) = 0;
     virtual void DeleteItem(const std::wstring& path, long index) = 0;
+    // True when somebody else has written to the mailbox, or put another file in its place, since it was
+    // opened.
+    virtual bool HasChangedElsewhere() = 0;
 };
 
 } // namespace sandbox::outlook

@@ -135,6 +135,19 @@ TEST_F(MailboxFile, AnItemThatCannotBeWrittenIsReportedAndStaysUnsaved)
     EXPECT_FALSE(Truth(contact, L"Saved"));
 }
 
+TEST_F(MailboxFile, KnowsWhetherSomebodyElseHasChangedIt)
+{
+    const auto mailbox = OpenMailbox(mPath);
+    mailbox->AddItem(L"邮箱\\Contacts", {{L"LastName", L"Smith"}});
+    EXPECT_FALSE(mailbox->HasChangedElsewhere());
+    AddRow(L"邮箱\\Contacts", 9, L"LastName", L"Brown");
+    EXPECT_TRUE(mailbox->HasChangedElsewhere());
+    const auto again = OpenMailbox(mPath);
+    EXPECT_FALSE(again->HasChangedElsewhere());
+    DeleteFileW(mPath.c_str());
+    EXPECT_TRUE(again->HasChangedElsewhere());
+}
+
 TEST_F(MailboxFile, AFileThatIsMissingOrNoMailboxIsRefused)
 {
     EXPECT_NE(std::wstring::npos, FailureOf([&] { OpenMailbox(mPath + L".none"); }).find(L"cannot be found"));

@@ -196,6 +196,27 @@ TEST_F(OutlookServerLife, IsNotToBeHadWithoutAReadableMailbox)
     DeleteFileW(broken.c_str());
 }
 
+TEST_F(OutlookServer, ReadsAMailboxAgainThatChangedWhileADeadClientsObjectsAreLeft)
+{
+    const auto left = Outlook();
+    EXPECT_EQ(0, Number(Folder(left, 10).GetObject(L"Items"), L"Count"));
+    AddRow(L"邮箱\\Contacts", 5, L"LastName", L"Smith");
+    const auto outlook = Outlook();
+    EXPECT_EQ(1, Number(Folder(outlook, 10).GetObject(L"Items"), L"Count"));
+}
+
+TEST_F(OutlookServer, ClientsAtTheSameTimeShareTheMailbox)
+{
+    const auto one = Outlook();
+    const auto contact = Folder(one, 10).GetObject(L"Items").GetObject(L"Add");
+    contact.Put(L"LastName", L"Smith");
+    contact.Call(L"Save");
+    const auto other = Outlook();
+    contact.Put(L"LastName", L"Brown");
+    contact.Call(L"Save");
+    EXPECT_EQ(L"Brown", Text(Folder(other, 10).GetObject(L"Items").GetObject(L"Item", 1), L"LastName"));
+}
+
 TEST_F(OutlookServer, CountsTheCallsThatItReceives)
 {
     const auto outlook = Outlook();

@@ -70,12 +70,13 @@ void Server::Run()
 }
 
 // A mailbox is read when the first application object is asked for, and again when the setting names another
-// one: a server that outlives a client must not serve that client's mailbox to the next.
+// one or the file has changed: a client that died may have left its objects, and with them this server,
+// behind.
 MailboxRef Server::CurrentMailbox()
 {
     const std::wstring path = ChosenMailbox();
     MailboxRef mailbox = path == mMailboxPath && LiveApplications() > 0 ? mMailbox.lock() : nullptr;
-    if (!mailbox)
+    if (!mailbox || mailbox->HasChangedElsewhere())
     {
         mailbox = OpenMailbox(path);
         mMailbox = mailbox;
