@@ -3,7 +3,8 @@
 #include <atomic>
 #include <span>
 
-extern "C" IMAGE_DOS_HEADER __ImageBase; // the linker's name for the start of this module
+// The linker's name for the start of this module.
+extern "C" IMAGE_DOS_HEADER __ImageBase; // NOLINT(bugprone-reserved-identifier): the linker chose it
 
 namespace resources
 {
