@@ -33,8 +33,8 @@ Microsoft::WRL::ComPtr<IFontDisp> NewFont(std::wstring name, long points)
 
 void SetSharedDefaults(state::SharedState& shared)
 {
-    shared.gCalendarStartTime = automation::DateOf(kStart);
-    shared.gCalendarEndTime = automation::DateOf(kEnd);
+    shared.gCalendarStartTime = automation::MinuteOfDay(automation::DateOf(kStart));
+    shared.gCalendarEndTime = automation::MinuteOfDay(automation::DateOf(kEnd));
     shared.gCalendarPreviewAlarmTime = kReminderMinutes;
     shared.gFontName = resources::Choose(L"宋体", L"Arial");
     shared.gFontSize = resources::IsChinese() ? 9 : 8;

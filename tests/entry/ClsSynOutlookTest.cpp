@@ -1,0 +1,225 @@
+#include "entry/ClsSynOutlook.h"
+
+#include "automation/Dates.h"
+#include "automation/Object.h"
+#include "state/SharedState.h"
+#include "tests/support/StandIns.h"
+#include "tests/support/WithLanguage.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+using automation::ByRef;
+using automation::Date;
+using automation::DateOf;
+using automation::LongOf;
+using automation::Object;
+using automation::TextOf;
+using automation::Value;
+using Microsoft::WRL::ComPtr;
+using resources::Language;
+using test_support::WithLanguage;
+
+namespace
+{
+
+ComPtr<_ClsSynOutlook> NewInstance()
+{
+    return new entry::ClsSynOutlook;
+}
+
+Object LateBound(const ComPtr<_ClsSynOutlook>& instance)
+{
+    return Object(instance.Get());
+}
+
+ComPtr<IFontDisp> NewFont(const wchar_t* name, double points)
+{
+    std::wstring text = name;
+    FONTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.lpstrName = text.data();
+    description.cySize.int64 = static_cast<LONGLONG>(points * 10000);
+    description.sWeight = FW_NORMAL;
+    ComPtr<IFontDisp> font;
+    OleCreateFontIndirect(&description, __uuidof(IFontDisp), reinterpret_cast<void**>(font.GetAddressOf()));
+    return font;
+}
+
+class PublicClass : public testing::Test
+{
+  protected:
+    void TearDown() override { state::FreeStateOfThread(); }
+
+    Date Moment(int hour, int minute, int second = 0)
+    {
+        return DateOf(automation::Moment{2024, 5, 1, hour, minute, second});
+    }
+};
+
+} // namespace
+
+TEST_F(PublicClass, WritingATimeKeepsHoursAndMinutesOnly)
+{
+    const auto instance = NewInstance();
+    DATE end = Moment(17, 45, 59).days;
+    ASSERT_EQ(S_OK, instance->put_CalendarEndTime(&end));
+    DATE read = 0;
+    ASSERT_EQ(S_OK, instance->get_CalendarEndTime(&read));
+    EXPECT_EQ((17 * 60 + 45) / 1440.0, read);
+
+    LateBound(instance).Put(L"CalendarStartTime", Moment(8, 5, 30));
+    EXPECT_EQ((8 * 60 + 5) / 1440.0, DateOf(LateBound(instance).Get(L"CalendarStartTime")).days);
+}
+
+TEST_F(PublicClass, TheDefaultsAreSixToHalfPastFiveAndTwentyMinutes)
+{
+    const Object instance = LateBound(NewInstance());
+    EXPECT_EQ(0.25, DateOf(instance.Get(L"CalendarStartTime")).days);
+    EXPECT_EQ((17 * 60 + 30) / 1440.0, DateOf(instance.Get(L"CalendarEndTime")).days);
+    EXPECT_EQ(20, LongOf(instance.Get(L"CalendarPreviewAlarmTime")));
+}
+
+TEST_F(PublicClass, TheReminderLeadTimeIsStoredUnchecked)
+{
+    const Object instance = LateBound(NewInstance());
+    instance.Put(L"CalendarPreviewAlarmTime", -5L);
+    EXPECT_EQ(-5, LongOf(instance.Get(L"CalendarPreviewAlarmTime")));
+}
+
+TEST_F(PublicClass, ANewInstanceResetsTheValuesThatAllInstancesShare)
+{
+    const Object first = LateBound(NewInstance());
+    first.Put(L"CalendarPreviewAlarmTime", 45L);
+    first.Put(L"FontName", L"Courier New");
+    first.Put(L"FontSize", 14L);
+    first.Put(L"CalendarEndTime", Moment(20, 0));
+    const Object second = LateBound(NewInstance());
+    for (const Object& instance : {first, second})
+    {
+        EXPECT_EQ(20, LongOf(instance.Get(L"CalendarPreviewAlarmTime")));
+        EXPECT_EQ(L"Arial", TextOf(instance.Get(L"FontName")));
+        EXPECT_EQ(8, LongOf(instance.Get(L"FontSize")));
+        EXPECT_EQ((17 * 60 + 30) / 1440.0, DateOf(instance.Get(L"CalendarEndTime")).days);
+    }
+}
+
+TEST_F(PublicClass, AChineseInstanceReportsSongtiNineAndAnEnglishOneArialEight)
+{
+    {
+        const WithLanguage chinese(Language::Chinese);
+        const Object instance = LateBound(NewInstance());
+        EXPECT_EQ(L"宋体", TextOf(instance.Get(L"FontName")));
+        EXPECT_EQ(9, LongOf(instance.Get(L"FontSize")));
+    }
+    const WithLanguage english(Language::English);
+    const Object instance = LateBound(NewInstance());
+    EXPECT_EQ(L"Arial", TextOf(instance.Get(L"FontName")));
+    EXPECT_EQ(8, LongOf(instance.Get(L"FontSize")));
+}
+
+TEST_F(PublicClass, WritingAFontOfNothingChangesNothing)
+{
+    const auto instance = NewInstance();
+    const Object lateBound = LateBound(instance);
+    const Object before = lateBound.GetObject(L"Font");
+    lateBound.PutRef(L"Font", Object());
+    EXPECT_EQ(S_OK, instance->putref_Font(nullptr));
+    EXPECT_EQ(L"Arial", TextOf(lateBound.Get(L"FontName")));
+    EXPECT_EQ(8, LongOf(lateBound.Get(L"FontSize")));
+    EXPECT_EQ(before.Dispatch(), lateBound.GetObject(L"Font").Dispatch());
+}
+
+TEST_F(PublicClass, AFontOfTenAndAHalfPointsGivesSizeTenAndKeepsItsOwnUntilFontSizeIsWritten)
+{
+    const Object instance = LateBound(NewInstance());
+    const Object font(NewFont(L"Tahoma", 10.5).Get());
+    instance.PutRef(L"Font", font);
+    EXPECT_EQ(10, LongOf(instance.Get(L"FontSize")));
+    EXPECT_EQ(L"Tahoma", TextOf(instance.Get(L"FontName")));
+    EXPECT_EQ(10.5, automation::DoubleOf(font.Get(L"Size")));
+    instance.Put(L"FontSize", 12L);
+    EXPECT_EQ(12, automation::DoubleOf(font.Get(L"Size")));
+}
+
+TEST_F(PublicClass, TheFontThatTheHostHandedInIsChangedByLaterNamesAndSizes)
+{
+    const Object instance = LateBound(NewInstance());
+    const Object font(NewFont(L"Tahoma", 9).Get());
+    instance.Put(L"Font", font); // without Set, the same member
+    instance.Put(L"FontName", L"Wingdings");
+    EXPECT_EQ(L"Wingdings", TextOf(font.Get(L"Name")));
+    EXPECT_EQ(font.Dispatch(), instance.GetObject(L"Font").Dispatch());
+}
+
+TEST_F(PublicClass, EachThreadHasItsOwnValues)
+{
+    const Object instance = LateBound(NewInstance());
+    instance.Put(L"CalendarPreviewAlarmTime", 45L);
+    long ofOther = 0;
+    std::thread other([&] {
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        ofOther = LongOf(LateBound(NewInstance()).Get(L"CalendarPreviewAlarmTime"));
+        state::FreeStateOfThread();
+        CoUninitialize();
+    });
+    other.join();
+    EXPECT_EQ(20, ofOther);
+    EXPECT_EQ(45, LongOf(instance.Get(L"CalendarPreviewAlarmTime")));
+}
+
+TEST_F(PublicClass, LateBoundCallersMayPassPlainVariantsByReference)
+{
+    const auto instance = NewInstance();
+    const Object lateBound = LateBound(instance);
+    const Value minutes(33L);
+    VARIANTARG reference;
+    VariantInit(&reference);
+    reference.vt = VT_BYREF | VT_VARIANT;
+    reference.pvarVal = const_cast<VARIANT*>(&minutes.Raw());
+    DISPID put = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{&reference, &put, 1, 1};
+    LPOLESTR name = const_cast<LPOLESTR>(L"CalendarPreviewAlarmTime");
+    DISPID id = 0;
+    ASSERT_EQ(S_OK, instance->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id));
+    ASSERT_EQ(S_OK, instance->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &parameters,
+                                     nullptr, nullptr, nullptr));
+    EXPECT_EQ(33, LongOf(lateBound.Get(L"CalendarPreviewAlarmTime")));
+}
+
+TEST_F(PublicClass, TheMembersStandInTheTypeLibraryInTheirOrder)
+{
+    const auto instance = NewInstance();
+    ComPtr<ITypeInfo> info;
+    ASSERT_EQ(S_OK, instance->GetTypeInfo(0, LOCALE_USER_DEFAULT, &info));
+    const wchar_t* const kMembers[] = {L"CalendarEndTime",
+                                       L"CalendarEndTime",
+                                       L"CalendarStartTime",
+                                       L"CalendarStartTime",
+                                       L"CalendarPreviewAlarmTime",
+                                       L"CalendarPreviewAlarmTime",
+                                       L"FontName",
+                                       L"FontName",
+                                       L"FontSize",
+                                       L"FontSize",
+                                       L"Font",
+                                       L"Font",
+                                       L"SynLoad"};
+    UINT at = 0;
+    for (UINT i = 0; at < ARRAYSIZE(kMembers); ++i)
+    {
+        FUNCDESC* function = nullptr;
+        ASSERT_EQ(S_OK, info->GetFuncDesc(i, &function));
+        BSTR name = nullptr;
+        UINT count = 0;
+        info->GetNames(function->memid, &name, 1, &count);
+        const bool isOwn = function->memid < 0x60000000;
+        if (isOwn)
+        {
+            EXPECT_STREQ(kMembers[at++], name);
+        }
+        SysFreeString(name);
+        info->ReleaseFuncDesc(function);
+    }
+}

@@ -1,0 +1,117 @@
+#include "entry/ClsSynOutlook.h"
+
+#include "automation/Object.h"
+#include "sandbox/outlook/Outlook.h"
+#include "sandbox/robot/Robot.h"
+#include "state/SharedState.h"
+#include "tests/support/StandIns.h"
+
+#include <gtest/gtest.h>
+
+using automation::ByRef;
+using automation::Object;
+using automation::TruthOf;
+using automation::Value;
+using Microsoft::WRL::ComPtr;
+using state::Shared;
+
+namespace
+{
+
+// A data-access object that is never asked anything.
+class SilentDtc : public sandbox::DispatchObject
+{
+    const wchar_t* ClassName() const override { return L"DTC"; }
+    const sandbox::MemberTable& Members() const override
+    {
+        static const sandbox::MemberTable table;
+        return table;
+    }
+};
+
+class SynLoadCall : public testing::Test
+{
+  protected:
+    SynLoadCall() : Instance(ComPtr<IDispatch>(new entry::ClsSynOutlook).Get()) {}
+    void TearDown() override
+    {
+        Instance = {};
+        state::FreeStateOfThread();
+    }
+
+    // Calls SynLoad by a caller's own way and has a user close the dialog that it shows.
+    void ExpectShownAndClosed(const std::function<Value()>& call)
+    {
+        bool heldWhileShown = false;
+        sandbox::Robot robot([&](sandbox::Robot& user) {
+            const sandbox::ShownDialog dialog = user.WaitForDialog(L"Synchronization");
+            heldWhileShown = true;
+            dialog.Click(IDCANCEL);
+        });
+        EXPECT_FALSE(TruthOf(call()));
+        robot.Finish();
+        EXPECT_TRUE(heldWhileShown);
+        EXPECT_FALSE(Shared().gDTC);
+        EXPECT_FALSE(Shared().gOlNamespace);
+        EXPECT_FALSE(Shared().gOlApplication);
+        EXPECT_EQ(L"Driver=x", Shared().gCnnString);
+    }
+
+    Object Instance;
+    Object Dtc = sandbox::MakeObject<SilentDtc>();
+};
+
+class SynLoadWithOutlook : public SynLoadCall
+{
+  protected:
+    sandbox::OutlookInProcess Outlook{sandbox::MakeMailbox()};
+};
+
+} // namespace
+
+TEST_F(SynLoadCall, WithoutAConnectionStringItIsRefusedAndOutlookIsNotStarted)
+{
+    EXPECT_TRUE(TruthOf(Instance.Call(L"SynLoad", ByRef(Dtc), L"")));
+    EXPECT_FALSE(Shared().gDTC);
+    EXPECT_FALSE(Shared().gOlApplication);
+}
+
+TEST_F(SynLoadCall, WithoutADataAccessObjectItIsRefused)
+{
+    Object nothing;
+    EXPECT_TRUE(TruthOf(Instance.Call(L"SynLoad", ByRef(nothing), L"Driver=x")));
+    EXPECT_TRUE(TruthOf(Instance.Call(L"SynLoad", nothing, L"Driver=x")));
+    EXPECT_EQ(L"", Shared().gCnnString);
+}
+
+TEST_F(SynLoadWithOutlook, ShowsTheDialogAndReleasesItsObjectsWhenTheUserClosesIt)
+{
+    ExpectShownAndClosed([&] { return Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=x"); });
+}
+
+TEST_F(SynLoadWithOutlook, TakesTheObjectByValueToo)
+{
+    ExpectShownAndClosed([&] { return Instance.Call(L"SynLoad", Dtc, L"Driver=x"); });
+}
+
+TEST_F(SynLoadWithOutlook, ServesAnEarlyBoundCallerThroughTheInterface)
+{
+    ComPtr<_ClsSynOutlook> early;
+    ASSERT_EQ(S_OK, Instance.Dispatch()->QueryInterface(IID_PPV_ARGS(&early)));
+    ExpectShownAndClosed([&] {
+        IDispatch* dtc = Dtc.Dispatch();
+        BSTR connection = SysAllocString(L"Driver=x");
+        VARIANT_BOOL refused = VARIANT_TRUE;
+        EXPECT_EQ(S_OK, early->SynLoad(&dtc, connection, &refused));
+        SysFreeString(connection);
+        return Value(refused != VARIANT_FALSE);
+    });
+}
+
+TEST_F(SynLoadWithOutlook, MayBeCalledAgainOnTheSameInstance)
+{
+    for (int i = 0; i < 2; ++i)
+    {
+        ExpectShownAndClosed([&] { return Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=x"); });
+    }
+}
