@@ -47,6 +47,37 @@ ComPtr<IFontDisp> NewFont(const wchar_t* name, double points)
     return font;
 }
 
+struct FontValues
+{
+    std::wstring name = L"Tahoma";
+    double size = 9;
+};
+
+// A font object of the host's own: unlike the system's, it keeps the name of a font that is not installed.
+class HostFont : public sandbox::DispatchObject
+{
+  public:
+    explicit HostFont(std::shared_ptr<FontValues> values) : mValues(std::move(values)) {}
+
+  private:
+    Value GetName(const sandbox::Call&) { return mValues->name; }
+    void PutName(const sandbox::Call& call) { mValues->name = TextOf(call.Assigned()); }
+    Value GetSize(const sandbox::Call&) { return mValues->size; }
+    void PutSize(const sandbox::Call& call) { mValues->size = automation::DoubleOf(call.Assigned()); }
+
+    const wchar_t* ClassName() const override { return L"Font"; }
+    const sandbox::MemberTable& Members() const override
+    {
+        static const sandbox::MemberTable table{
+            {L"Name", sandbox::Reads(&HostFont::GetName), sandbox::Writes(&HostFont::PutName)},
+            {L"Size", sandbox::Reads(&HostFont::GetSize), sandbox::Writes(&HostFont::PutSize)},
+        };
+        return table;
+    }
+
+    std::shared_ptr<FontValues> mValues;
+};
+
 class PublicClass : public testing::Test
 {
   protected:
@@ -145,11 +176,24 @@ TEST_F(PublicClass, AFontOfTenAndAHalfPointsGivesSizeTenAndKeepsItsOwnUntilFontS
 
 TEST_F(PublicClass, TheFontThatTheHostHandedInIsChangedByLaterNamesAndSizes)
 {
+    const auto instance = NewInstance();
+    const auto values = std::make_shared<FontValues>();
+    const Object font = sandbox::MakeObject<HostFont>(values);
+    ASSERT_EQ(S_OK, instance->putref_Font(static_cast<IFontDisp*>(font.Dispatch())));
+    EXPECT_EQ(L"Tahoma", TextOf(LateBound(instance).Get(L"FontName")));
+    LateBound(instance).Put(L"FontName", L"Wingdings");
+    LateBound(instance).Put(L"FontSize", 14L);
+    EXPECT_EQ(L"Wingdings", values->name);
+    EXPECT_EQ(14, values->size);
+    instance->putref_Font(NewFont(L"Tahoma", 8).Get());
+}
+
+TEST_F(PublicClass, AFontWithoutSetReachesTheSameMember)
+{
     const Object instance = LateBound(NewInstance());
-    const Object font(NewFont(L"Tahoma", 9).Get());
-    instance.Put(L"Font", font); // without Set, the same member
-    instance.Put(L"FontName", L"Wingdings");
-    EXPECT_EQ(L"Wingdings", TextOf(font.Get(L"Name")));
+    const Object font(NewFont(L"Tahoma", 11).Get());
+    instance.Put(L"Font", font);
+    EXPECT_EQ(11, LongOf(instance.Get(L"FontSize")));
     EXPECT_EQ(font.Dispatch(), instance.GetObject(L"Font").Dispatch());
 }
 
