@@ -5,6 +5,7 @@
 #include "sandbox/host/Rejection.h"
 
 #include <cwchar>
+#include <tuple>
 
 namespace sandbox
 {
@@ -58,6 +59,28 @@ std::optional<Moment> Scan(const DateForm& form, const std::wstring& text)
     return moment;
 }
 
+std::wstring InStoredForm(const Moment& moment)
+{
+    return automation::Formatted(automation::DateOf(moment), L"yyyy-mm-dd hh:mm:ss");
+}
+
+// A day or an hour too many would be carried over into the next one: such a moment comes back as another.
+bool Exists(const Moment& moment)
+{
+    try
+    {
+        const Moment back = automation::MomentOf(automation::DateOf(moment));
+        const auto fields = [](const Moment& m) {
+            return std::tie(m.year, m.month, m.day, m.hour, m.minute, m.second);
+        };
+        return fields(back) == fields(moment);
+    }
+    catch (const automation::Error&)
+    {
+        return false;
+    }
+}
+
 // A quoted number is one: the user's id is written with quotes into contacts.
 Value StoredNumber(const HostColumn& column, const Literal& literal)
 {
@@ -96,14 +119,7 @@ std::optional<std::wstring> StoredDate(const std::wstring& text)
     {
         if (const std::optional<Moment> moment = Scan(form, text))
         {
-            try
-            {
-                return automation::Formatted(automation::DateOf(*moment), L"yyyy-mm-dd hh:mm:ss");
-            }
-            catch (const automation::Error&)
-            {
-                return std::nullopt;
-            }
+            return Exists(*moment) ? std::optional(InStoredForm(*moment)) : std::nullopt;
         }
     }
     return std::nullopt;
