@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <set>
+#include <string_view>
 
 namespace
 {
@@ -169,10 +171,24 @@ TEST(InterfaceLanguage, TheLanguageTestsFollowStringZero)
     EXPECT_STREQ(L"en", resources::Choose(L"中", L"en"));
 }
 
-TEST(InterfaceLanguage, WithoutAnOverrideItIsThatOfTheThreadsUserInterface)
+// What the environment says under Wine, where it decides the user interface's language.
+bool IsEnvironmentChinese()
 {
-    const bool chinese = PRIMARYLANGID(GetThreadUILanguage()) == LANG_CHINESE;
+    for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+    {
+        if (const char* const value = std::getenv(name); value != nullptr && *value != '\0')
+        {
+            return std::string_view(value).substr(0, 2) == "zh";
+        }
+    }
+    return false;
+}
+
+TEST(InterfaceLanguage, WithoutAnOverrideItIsThatOfTheUserInterface)
+{
+    const bool chinese = IsEnvironmentChinese();
     EXPECT_EQ(chinese ? Language::Chinese : Language::English, resources::InterfaceLanguage());
+    EXPECT_EQ(chinese ? L"错误" : L"Error", resources::String(IDS_ERROR));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "run/FrmSynchronizeItem.h"
 
+#include "data/FrmMessage.h"
 #include "sandbox/dispatch/DispatchObject.h"
 #include "tests/support/Drive.h"
 #include "tests/support/StandIns.h"
@@ -338,8 +339,31 @@ TEST(FrmSynchronizeItem, DuringARunNothingStartsASecondOneOrClosesTheDialog)
         WaitForStatus(robot, dialog, L"Synchronize Succeed.");
         EXPECT_TRUE(dialog.TakesInput());
         EXPECT_EQ(L"SynchroniztionTask", dialog.Caption());
+        EXPECT_EQ(kTaskRow, dialog.Ask(dialog.Control(IDC_SYNC_CATEGORY), LVM_GETNEXTITEM,
+                                       static_cast<WPARAM>(-1), LVNI_SELECTED));
     });
     EXPECT_EQ(L"tasks ", recorder.Ran);
+}
+
+TEST(FrmSynchronizeItem, DuringARunTheConfirmationTakesInputAsAlways)
+{
+    const Interface english(Language::English);
+    Recorder recorder;
+    std::atomic<bool> accepted{false};
+    recorder.DuringRun = [&](data::RunDisplay& display) {
+        data::ShowConfirmation(display.CategoryText(), {});
+        accepted = state::Shared().gChangesAccepted;
+    };
+    Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
+        ChooseAndStart(dialog, kCalendarRow);
+        const ShownDialog confirmation = robot.WaitForDialogAfter(dialog);
+        EXPECT_EQ(L"Confirm Calendar Change", confirmation.Caption());
+        EXPECT_FALSE(dialog.TakesInput());
+        confirmation.Press(VK_RETURN);
+        WaitForStatus(robot, dialog, L"Synchronize Succeed.");
+        EXPECT_TRUE(dialog.TakesInput());
+    });
+    EXPECT_TRUE(accepted);
 }
 
 TEST(FrmSynchronizeItem, DuringARunThePointerIsAnHourglassAndAfterItAnArrow)
