@@ -13,6 +13,7 @@ namespace
 
 using automation::Error;
 
+constexpr long kUnknown = -1;     // adPosUnknown
 constexpr long kBeforeFirst = -2; // adPosBOF
 constexpr long kBehindLast = -3;  // adPosEOF
 
@@ -26,9 +27,10 @@ constexpr long kBehindLast = -3;  // adPosEOF
 
 } // namespace
 
-void Cursor::Open(ResultSet rows)
+void Cursor::Open(ResultSet rows, bool isForwardOnly)
 {
     mResult = std::move(rows);
+    mIsForwardOnly = isForwardOnly;
     mIsOpen = true;
     mPosition = 1;
 }
@@ -47,37 +49,82 @@ void Cursor::CheckOpen() const
     }
 }
 
+void Cursor::CheckFree() const
+{
+    CheckOpen();
+    if (mIsForwardOnly)
+    {
+        throw Error(kNotCapable, L"Recordset",
+                    L"Object or provider is not capable of performing requested operation.");
+    }
+}
+
 bool Cursor::AtEnd() const
 {
     CheckOpen();
-    return mPosition > Count();
+    return mPosition > RowCount();
 }
 
 bool Cursor::AtStart() const
 {
     CheckOpen();
-    return mPosition < 1 || Count() == 0;
+    return mPosition < 1 || RowCount() == 0;
+}
+
+long Cursor::RowCount() const
+{
+    return static_cast<long>(mResult.rows.size());
 }
 
 long Cursor::Count() const
 {
     CheckOpen();
-    return static_cast<long>(mResult.rows.size());
+    return mIsForwardOnly ? kUnknown : RowCount();
 }
 
 long Cursor::Position() const
 {
+    CheckOpen();
+    if (mIsForwardOnly || RowCount() == 0)
+    {
+        return kUnknown;
+    }
     return AtStart() ? kBeforeFirst : AtEnd() ? kBehindLast : mPosition;
+}
+
+long Cursor::Bookmark() const
+{
+    CheckFree();
+    if (AtStart() || AtEnd())
+    {
+        RefuseWithoutRecord();
+    }
+    return mPosition;
+}
+
+void Cursor::GoToFirst()
+{
+    CheckOpen();
+    if (RowCount() == 0)
+    {
+        RefuseWithoutRecord();
+    }
+    mPosition = 1;
+}
+
+void Cursor::GoToLast()
+{
+    GoTo(RowCount());
 }
 
 void Cursor::GoTo(long position)
 {
-    CheckOpen();
-    if (Count() == 0)
+    CheckFree();
+    if (RowCount() == 0)
     {
         RefuseWithoutRecord();
     }
-    if (position < 1 || position > Count())
+    if (position < 1 || position > RowCount())
     {
         throw Error(
             kInvalidArgument, L"Recordset",
@@ -89,12 +136,17 @@ void Cursor::GoTo(long position)
 
 void Cursor::MoveBy(long rows)
 {
+    CheckOpen();
+    if (rows < 0)
+    {
+        CheckFree();
+    }
     const bool leavesTheRows = (rows > 0 && AtEnd()) || (rows < 0 && AtStart());
-    if (Count() == 0 || leavesTheRows)
+    if (RowCount() == 0 || leavesTheRows)
     {
         RefuseWithoutRecord();
     }
-    mPosition = std::clamp(mPosition + rows, 0L, Count() + 1);
+    mPosition = std::clamp(mPosition + rows, 0L, RowCount() + 1);
 }
 
 void Cursor::MoveBy(long rows, long bookmark)

@@ -18,7 +18,10 @@ constexpr long kStateClosed = 0;
 constexpr long kStateOpen = 1;
 constexpr long kCommandTable = 2;
 constexpr long kServerCursor = 2;
+constexpr long kClientCursor = 3;
+constexpr long kUnspecified = -1;
 constexpr long kForwardOnly = 0;
+constexpr long kStatic = 3;
 constexpr long kReadOnly = 1;
 
 long LongOr(const Value& value, long otherwise)
@@ -26,22 +29,40 @@ long LongOr(const Value& value, long otherwise)
     return automation::IsMissing(value) ? otherwise : LongOf(value);
 }
 
+// The cursor that ADO gives for the one asked for.
+long CursorTypeFor(long asked, long location)
+{
+    return location == kClientCursor ? kStatic : asked == kUnspecified ? kForwardOnly : asked;
+}
+
 class Recordset : public DispatchObject
 {
   public:
     Recordset() : mCursor(std::make_shared<Cursor>()) {}
-    explicit Recordset(ResultSet rows) : Recordset() { mCursor->Open(std::move(rows)); }
+    explicit Recordset(ResultSet rows) : Recordset()
+    {
+        mCursorLocation = kClientCursor;
+        mCursorType = kStatic;
+        mCursor->Open(std::move(rows), false);
+    }
 
   private:
     Value Open(const Call& call)
     {
         RefuseWhileOpen();
+        if (automation::IsMissing(call.At(1)))
+        {
+            throw Error(kNoConnection, L"Recordset",
+                        L"The connection cannot be used to perform this operation. It is either closed or "
+                        L"invalid in this context.");
+        }
         const std::wstring source = TextOf(call.At(0));
-        mCursorType = LongOr(call.At(2), kForwardOnly);
+        mCursorType = CursorTypeFor(LongOr(call.At(2), kUnspecified), mCursorLocation);
         mLockType = LongOr(call.At(3), kReadOnly);
         const bool isTable = LongOr(call.At(4), 1) == kCommandTable;
         Connection connection(TextOf(call.At(1)));
-        mCursor->Open(connection.Query(isTable ? L"SELECT * FROM " + source : source));
+        mCursor->Open(connection.Query(isTable ? L"SELECT * FROM " + source : source),
+                      mCursorType == kForwardOnly);
         return {};
     }
 
@@ -59,13 +80,13 @@ class Recordset : public DispatchObject
 
     Value MoveFirst(const Call&)
     {
-        mCursor->GoTo(1);
+        mCursor->GoToFirst();
         return {};
     }
 
     Value MoveLast(const Call&)
     {
-        mCursor->GoTo(mCursor->Count());
+        mCursor->GoToLast();
         return {};
     }
 
@@ -100,15 +121,7 @@ class Recordset : public DispatchObject
     void PutAbsolutePosition(const Call& call) { mCursor->GoTo(LongOf(call.Assigned())); }
 
     // The bookmark of a client cursor is the row's position, as a double.
-    Value GetBookmark(const Call&)
-    {
-        const long position = mCursor->Position();
-        if (position < 1)
-        {
-            mCursor->Current(0); // refuses: there is no current record
-        }
-        return static_cast<double>(position);
-    }
+    Value GetBookmark(const Call&) { return static_cast<double>(mCursor->Bookmark()); }
 
     Value GetFields(const Call& call)
     {

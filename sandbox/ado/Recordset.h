@@ -13,15 +13,17 @@ namespace sandbox
 
 // ADO's ErrorValueEnum as HRESULTs, as far as used.
 inline constexpr HRESULT kNoCurrentRecord = static_cast<HRESULT>(0x800A0BCD); // 3021
+inline constexpr HRESULT kNotCapable = static_cast<HRESULT>(0x800A0CB3);      // 3251
 inline constexpr HRESULT kItemNotFound = static_cast<HRESULT>(0x800A0CC1);    // 3265
 inline constexpr HRESULT kObjectClosed = static_cast<HRESULT>(0x800A0E78);    // 3704
 inline constexpr HRESULT kObjectOpen = static_cast<HRESULT>(0x800A0E79);      // 3705
+inline constexpr HRESULT kNoConnection = static_cast<HRESULT>(0x800A0E7D);    // 3709
 inline constexpr HRESULT kInvalidArgument = static_cast<HRESULT>(0x800A0BB9); // 3001
 
 // A closed recordset, as CreateObject("ADODB.Recordset") gives it.
 automation::Object MakeRecordset();
 
-// A recordset that is open over rows fetched already, on the first of them.
+// A recordset that is open over rows fetched already, on the first of them: a client's static cursor.
 automation::Object MakeRecordset(ResultSet rows);
 
 } // namespace sandbox

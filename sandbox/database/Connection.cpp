@@ -26,25 +26,46 @@ std::wstring PathForDriver(const std::wstring& path)
     char* name = getUnixFileName(path.c_str());
     if (name == nullptr)
     {
-        throw automation::Error(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND), path);
+        throw automation::Error(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND), L"database");
     }
     std::wstring result = automation::FromUtf8(name);
     HeapFree(GetProcessHeap(), 0, name);
     return result;
 }
 
-std::wstring StringForDriver(const std::wstring& connectionString)
+// Where the database's path stands in a connection string; a length of 0 for one that names no database.
+struct PathSpan
+{
+    size_t start = 0;
+    size_t length = 0;
+};
+
+PathSpan PathIn(const std::wstring& connectionString)
 {
     constexpr std::wstring_view kKey = L"DATABASE=";
     const size_t key = automation::UpperCased(connectionString).find(kKey);
     if (key == std::wstring::npos)
     {
-        return connectionString;
+        return {};
     }
     const size_t start = key + kKey.size();
-    const size_t length = std::min(connectionString.find(L';', start), connectionString.size()) - start;
-    return std::wstring(connectionString)
-        .replace(start, length, PathForDriver(connectionString.substr(start, length)));
+    return {start, std::min(connectionString.find(L';', start), connectionString.size()) - start};
+}
+
+std::wstring StringForDriver(std::wstring connectionString)
+{
+    const PathSpan path = PathIn(connectionString);
+    return path.length == 0
+               ? connectionString
+               : connectionString.replace(path.start, path.length,
+                                          PathForDriver(connectionString.substr(path.start, path.length)));
+}
+
+// What a message calls the database: its path, else the whole connection string.
+std::wstring NameOf(const std::wstring& connectionString)
+{
+    const PathSpan path = PathIn(connectionString);
+    return path.length == 0 ? connectionString : connectionString.substr(path.start, path.length);
 }
 
 } // namespace
@@ -87,12 +108,25 @@ struct Connection::Handles
 Connection::Connection(const std::wstring& connectionString)
     : mHandles(std::make_unique<Handles>()), mConnectionString(connectionString)
 {
+    try
+    {
+        Open();
+    }
+    catch (const automation::Error& error)
+    {
+        throw automation::Error(error.Code(), error.Member(),
+                                NameOf(connectionString) + L": " + error.Description());
+    }
+}
+
+void Connection::Open()
+{
     Handles& handles = *mHandles;
     CheckSql(SQLAllocHandle(SQL_HANDLE_ENV, SQL_NULL_HANDLE, &handles.environment), SQL_HANDLE_ENV, nullptr);
     SQLSetEnvAttr(handles.environment, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
     CheckSql(SQLAllocHandle(SQL_HANDLE_DBC, handles.environment, &handles.connection), SQL_HANDLE_ENV,
              handles.environment);
-    TextForDriver text(StringForDriver(connectionString));
+    TextForDriver text(StringForDriver(mConnectionString));
     CheckSql(SQLDriverConnect(handles.connection, nullptr, text.Data(), SQL_NTS, nullptr, 0, nullptr,
                               SQL_DRIVER_NOPROMPT),
              SQL_HANDLE_DBC, handles.connection);
@@ -133,9 +167,7 @@ Value Connection::QueryValue(const std::wstring& sql, const Row& parameters)
 
 void Connection::Begin()
 {
-    CheckSql(SQLSetConnectAttr(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
-                               reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), 0),
-             SQL_HANDLE_DBC, mHandles->connection);
+    SetAutocommit(false);
     mInTransaction = true;
 }
 
@@ -144,17 +176,23 @@ void Connection::Commit()
     CheckSql(SQLEndTran(SQL_HANDLE_DBC, mHandles->connection, SQL_COMMIT), SQL_HANDLE_DBC,
              mHandles->connection);
     mInTransaction = false;
-    SQLSetConnectAttr(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
-                      reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_ON), 0);
+    SetAutocommit(true);
 }
 
 void Connection::Rollback()
 {
+    const SQLRETURN result = SQLEndTran(SQL_HANDLE_DBC, mHandles->connection, SQL_ROLLBACK);
     mInTransaction = false;
-    CheckSql(SQLEndTran(SQL_HANDLE_DBC, mHandles->connection, SQL_ROLLBACK), SQL_HANDLE_DBC,
-             mHandles->connection);
-    SQLSetConnectAttr(mHandles->connection, SQL_ATTR_AUTOCOMMIT,
-                      reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_ON), 0);
+    SetAutocommit(true);
+    CheckSql(result, SQL_HANDLE_DBC, mHandles->connection);
+}
+
+void Connection::SetAutocommit(bool isOn)
+{
+    const SQLULEN value = isOn ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF;
+    CheckSql(SQLSetConnectAttr(mHandles->connection, SQL_ATTR_AUTOCOMMIT, reinterpret_cast<SQLPOINTER>(value),
+                               SQL_IS_UINTEGER),
+             SQL_HANDLE_DBC, mHandles->connection);
 }
 
 std::wstring ConnectionStringOf(const std::wstring& path)

@@ -58,6 +58,7 @@ class Connection
     // The first value of the first row; Null where there is none.
     Value QueryValue(const std::wstring& sql, const Row& parameters = {});
 
+    // A commit that fails leaves the transaction pending, for another try or a rollback.
     void Begin();
     void Commit();
     void Rollback();
@@ -67,6 +68,9 @@ class Connection
 
   private:
     struct Handles;
+
+    void Open();
+    void SetAutocommit(bool isOn);
 
     std::unique_ptr<Handles> mHandles;
     std::wstring mConnectionString;
