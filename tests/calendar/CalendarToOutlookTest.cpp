@@ -1,0 +1,272 @@
+#include "calendar/CalendarToOutlook.h"
+
+#include "resources/Strings.h"
+#include "tests/calendar/CalendarTest.h"
+#include "tests/support/WithLanguage.h"
+
+namespace test_support
+{
+
+using CalendarToOutlook = CalendarTest;
+
+namespace
+{
+
+std::wstring BoundsOf(const Object& appointment)
+{
+    return At(appointment.Get(L"Start")) + L" - " + At(appointment.Get(L"End"));
+}
+
+// Counts the calls of one member of the stand-ins for the length of a scope.
+class CountsCalls : public sandbox::CallObserver
+{
+  public:
+    explicit CountsCalls(std::wstring member) : mMember(std::move(member)), mPrevious(sandbox::Observe(this))
+    {
+    }
+    CountsCalls(const CountsCalls&) = delete;
+    CountsCalls& operator=(const CountsCalls&) = delete;
+    ~CountsCalls() override { sandbox::Observe(mPrevious); }
+
+    void OnCall(const wchar_t* className, const wchar_t* member) override
+    {
+        Count += std::wstring(className) + L"." + member == mMember ? 1 : 0;
+    }
+
+    long Count = 0;
+
+  private:
+    std::wstring mMember;
+    sandbox::CallObserver* mPrevious;
+};
+
+} // namespace
+
+TEST_F(CalendarToOutlook, AnEntryLastsFromItsStartForItsDuration)
+{
+    AddEntry();
+    EXPECT_EQ(L"2003-05-06 09:30 - 2003-05-06 11:00", BoundsOf(WriteNewAppointment()));
+}
+
+TEST_F(CalendarToOutlook, WithoutADurationStartAndEndCoincide)
+{
+    AddEntry({{L"ACT_DURATION", L"NULL"}});
+    EXPECT_EQ(L"2003-05-06 09:30 - 2003-05-06 09:30", BoundsOf(WriteNewAppointment()));
+}
+
+TEST_F(CalendarToOutlook, WithoutAStartTimeTheAppointmentStartsAtMidnight)
+{
+    AddEntry({{L"F_ACTESTIME", L"NULL"}});
+    EXPECT_EQ(L"2003-05-06 00:00 - 2003-05-06 01:30", BoundsOf(WriteNewAppointment()));
+}
+
+TEST_F(CalendarToOutlook, OnlyTheDayOfTheDateAndTheMinutesOfTheTimesCount)
+{
+    AddEntry({{L"F_ACTESDATE", L"'2003-05-06 13:14:15'"},
+              {L"F_ACTESTIME", L"'2001-01-01 09:30:45'"},
+              {L"ACT_DURATION", L"'1899-12-30 01:30:59'"}});
+    EXPECT_EQ(L"2003-05-06 09:30 - 2003-05-06 11:00", BoundsOf(WriteNewAppointment()));
+}
+
+TEST_F(CalendarToOutlook, AnEntryOverMidnightEndsOnTheNextDay)
+{
+    AddEntry({{L"F_ACTESTIME", L"'1899-12-30 22:00:00'"}, {L"ACT_DURATION", L"'1899-12-30 03:00:00'"}});
+    EXPECT_EQ(L"2003-05-06 22:00 - 2003-05-07 01:00", BoundsOf(WriteNewAppointment()));
+}
+
+TEST_F(CalendarToOutlook, OnTheDaysWhenTheClocksChangeTheLocalTimesStay)
+{
+    AddEntry({{L"F_ACTESDATE", L"'2003-03-30 00:00:00'"}, {L"F_ACTESTIME", L"'1899-12-30 01:30:00'"}});
+    AddEntry({{L"F_ACTESDATE", L"'2003-10-26 00:00:00'"}, {L"F_ACTESTIME", L"'1899-12-30 01:30:00'"}});
+    EXPECT_FALSE(WriteAllEntries());
+    EXPECT_EQ(L"2003-03-30 01:30 - 2003-03-30 03:00", BoundsOf(AppointmentAt(1)));
+    EXPECT_EQ(L"2003-10-26 01:30 - 2003-10-26 03:00", BoundsOf(AppointmentAt(2)));
+}
+
+TEST_F(CalendarToOutlook, TheLastDayOfFebruaryEndsInMarch)
+{
+    AddEntry({{L"F_ACTESDATE", L"'2004-02-29 00:00:00'"}, {L"F_ACTESTIME", L"'1899-12-30 23:00:00'"}});
+    EXPECT_EQ(L"2004-02-29 23:00 - 2004-03-01 00:30", BoundsOf(WriteNewAppointment()));
+}
+
+TEST_F(CalendarToOutlook, AnExistingAppointmentMovesToTheEntrysTimes)
+{
+    AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 20));
+    AddEntry();
+    EXPECT_EQ(L"2003-05-06 09:30 - 2003-05-06 11:00", BoundsOf(WriteExistingAppointment()));
+    EXPECT_EQ(1, CountAppointments());
+}
+
+TEST_F(CalendarToOutlook, SubjectAndCategoriesAreWrittenAsTheyAreAndNullClearsThem)
+{
+    AddEntry({{L"F_ACTNAME", L"'会议 & Co'"}, {L"F_ACTTYPE", L"'Visit'"}});
+    const Object appointment = WriteNewAppointment();
+    EXPECT_EQ(L"会议 & Co", Text(appointment, L"Subject"));
+    EXPECT_EQ(L"Visit", Text(appointment, L"Categories"));
+    Execute(L"UPDATE Entries SET F_ACTTYPE=NULL");
+    EXPECT_EQ(L"", Text(WriteExistingAppointment(), L"Categories"));
+}
+
+TEST_F(CalendarToOutlook, AReminderComesTheLeadTimeBeforeTheStart)
+{
+    AddEntry({{L"F_ACTREMIND", L"1"}});
+    const Object appointment = WriteNewAppointment();
+    EXPECT_TRUE(Truth(appointment, L"ReminderSet"));
+    EXPECT_EQ(20, Number(appointment, L"ReminderMinutesBeforeStart"));
+}
+
+TEST_F(CalendarToOutlook, WithoutAReminderTheLeadTimeStaysOutlooksOwn)
+{
+    AddEntry({{L"F_ACTREMIND", L"0"}});
+    AddEntry({{L"F_ACTREMIND", L"NULL"}});
+    EXPECT_FALSE(WriteAllEntries());
+    for (const long position : {1, 2})
+    {
+        EXPECT_FALSE(Truth(AppointmentAt(position), L"ReminderSet"));
+        EXPECT_EQ(15, Number(AppointmentAt(position), L"ReminderMinutesBeforeStart"));
+    }
+}
+
+TEST_F(CalendarToOutlook, AContactThatOutlookKnowsIsLinked)
+{
+    SavedContact(L"Mary", L"Smith");
+    AddEntry({{L"CONTACT_SURNAME", L"'Smith'"}, {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    WriteNewAppointment();
+    EXPECT_EQ(1u, mMailbox->ItemLinks(sandbox::kCalendar, 1).size());
+    EXPECT_EQ(1, mMailbox->ItemCount(sandbox::kContacts));
+}
+
+TEST_F(CalendarToOutlook, AContactThatOutlookDoesNotKnowIsCreatedAndLinked)
+{
+    AddEntry({{L"CONTACT_SURNAME", L"'Smith'"}, {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    WriteNewAppointment();
+    EXPECT_EQ(1u, mMailbox->ItemLinks(sandbox::kCalendar, 1).size());
+    ASSERT_EQ(1, mMailbox->ItemCount(sandbox::kContacts));
+    EXPECT_EQ(L"Smith", automation::TextOf(mMailbox->ItemProperty(sandbox::kContacts, 1, L"LastName")));
+    EXPECT_EQ(L"Mary", automation::TextOf(mMailbox->ItemProperty(sandbox::kContacts, 1, L"FirstName")));
+}
+
+TEST_F(CalendarToOutlook, AContactMadeByAnOutlookWithoutLinksIsNotLinkedNorMadeAgain)
+{
+    mMailbox->AddItem(sandbox::kContacts,
+                      {{L"FirstName", L"Mary"}, {L"LastName", L"Smith"}, {L"OutlookVersion", L"8.5"}});
+    AddEntry({{L"CONTACT_SURNAME", L"'Smith'"}, {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    WriteNewAppointment();
+    EXPECT_TRUE(mMailbox->ItemLinks(sandbox::kCalendar, 1).empty());
+    EXPECT_EQ(1, mMailbox->ItemCount(sandbox::kContacts));
+}
+
+TEST_F(CalendarToOutlook, WithoutBothNamesThereIsNoContact)
+{
+    AddEntry({{L"CONTACT_SURNAME", L"'Smith'"}});
+    AddEntry({{L"CONTACT_GIVENNAME", L"'Mary'"}});
+    EXPECT_FALSE(WriteAllEntries());
+    EXPECT_EQ(2, CountAppointments());
+    EXPECT_EQ(0, mMailbox->ItemCount(sandbox::kContacts));
+}
+
+TEST_F(CalendarToOutlook, AnEditedAppointmentCollectsAFurtherLink)
+{
+    AddEntry({{L"CONTACT_SURNAME", L"'Smith'"}, {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    WriteNewAppointment();
+    WriteExistingAppointment();
+    EXPECT_EQ(2u, mMailbox->ItemLinks(sandbox::kCalendar, 1).size());
+}
+
+TEST_F(CalendarToOutlook, NamesThatNoRuleKnowsWriteNothing)
+{
+    Relate({{L"F_ACTNAME", L"subject"}, {L"F_ACTNAME", L"Location"}, {L"F_ACTTYPE", L"Categories"}});
+    AddEntry({{L"F_ACTTYPE", L"'Visit'"}});
+    const Object appointment = WriteNewAppointment();
+    EXPECT_EQ(L"", Text(appointment, L"Subject"));
+    EXPECT_EQ(L"", Text(appointment, L"Location"));
+    EXPECT_EQ(L"Visit", Text(appointment, L"Categories"));
+}
+
+TEST_F(CalendarToOutlook, TheAppointmentIsSavedOnceAfterTheLastRelationRow)
+{
+    AddEntry();
+    const CountsCalls saves(L"AppointmentItem.Save");
+    WriteNewAppointment();
+    EXPECT_EQ(1, saves.Count);
+}
+
+TEST_F(CalendarToOutlook, AModeOtherThanNewAndExistingTouchesNothing)
+{
+    AddEntry();
+    const Object appointment = AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
+    data::Run run = NewRun();
+    const CountsCalls saves(L"AppointmentItem.Save");
+    for (const long mode : {0, 3, -1})
+    {
+        EXPECT_FALSE(calendar::SynSynCalendarToOlCalendar(run, mode, appointment));
+    }
+    EXPECT_EQ(0, saves.Count);
+    EXPECT_EQ(L"2003-01-01 08:00 - 2003-01-01 09:00", BoundsOf(appointment));
+}
+
+TEST_F(CalendarToOutlook, TheFirstEntryThatFailsIsLeftUnsavedAndEndsThePass)
+{
+    AddEntry();
+    AddEntry({{L"CONTACT_SURNAME", L"'Sm\"ith'"}, {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    AddEntry();
+    EXPECT_TRUE(WriteAllEntries());
+    EXPECT_EQ(1, CountAppointments());
+    EXPECT_FALSE(mDisplay.IsShown);
+}
+
+TEST_F(CalendarToOutlook, AnEntryWithoutADateFails)
+{
+    AddEntry({{L"F_ACTESDATE", L"NULL"}});
+    EXPECT_TRUE(WriteAllEntries());
+    EXPECT_EQ(0, CountAppointments());
+}
+
+TEST_F(CalendarToOutlook, RelationRowsThatCannotBeReadFail)
+{
+    AddEntry();
+    Execute(L"DROP TABLE SynRelation");
+    EXPECT_TRUE(WriteAllEntries());
+    EXPECT_EQ(0, CountAppointments());
+}
+
+TEST_F(CalendarToOutlook, APairIsWrittenOnlyWhenItsMarkIsOneButTheProgressAdvances)
+{
+    AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
+    AddEntry();
+    data::Run run = NewRun();
+    for (const long mark : {0, 2})
+    {
+        run.Pending.ChangedHostRecords.Add(1L, mark);
+        run.Pending.ChangedOutlookItems.Add(L"1", mark);
+    }
+    EXPECT_FALSE(calendar::SynCalendarToOutlook(run));
+    EXPECT_EQ(L"2003-01-01 08:00 - 2003-01-01 09:00", BoundsOf(AppointmentAt(1)));
+    EXPECT_EQ(1.0, mDisplay.Progress.back());
+}
+
+TEST_F(CalendarToOutlook, ThePassTellsTheDisplayInTheInterfaceLanguage)
+{
+    AddEntry();
+    const WithLanguage chinese(resources::Language::Chinese);
+    WriteNewAppointment();
+    EXPECT_EQ(L"正在进行数据传输，请稍候...", mDisplay.Status);
+    const WithLanguage english(resources::Language::English);
+    WriteNewAppointment();
+    EXPECT_EQ(L"Begin Synchronize...", mDisplay.Status);
+    EXPECT_FALSE(mDisplay.IsShown);
+    EXPECT_EQ(2, mDisplay.TimesShown);
+}
+
+TEST_F(CalendarToOutlook, AnAllDayAppointmentStaysOne)
+{
+    const Object appointment = AddAppointment(Day(2003, 5, 1), Day(2003, 5, 2));
+    appointment.Put(L"AllDayEvent", true);
+    appointment.Call(L"Save");
+    AddEntry({{L"F_ACTESTIME", L"'1899-12-30 06:00:00'"}, {L"ACT_DURATION", L"'1899-12-30 11:30:00'"}});
+    const Object written = WriteExistingAppointment();
+    EXPECT_TRUE(Truth(written, L"AllDayEvent"));
+    EXPECT_EQ(L"2003-05-06 00:00 - 2003-05-07 00:00", BoundsOf(written));
+}
+
+} // namespace test_support

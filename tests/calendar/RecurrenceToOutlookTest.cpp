@@ -1,0 +1,280 @@
+#include "calendar/CalendarToOutlook.h"
+#include "calendar/Recurrence.h"
+#include "resources/Strings.h"
+#include "tests/calendar/CalendarTest.h"
+#include "tests/support/WithLanguage.h"
+
+namespace test_support
+{
+
+namespace
+{
+
+// The members of recurrence patterns, in the order in which they are used, for the length of a scope.
+class RecordsPatternCalls : public sandbox::CallObserver
+{
+  public:
+    RecordsPatternCalls() : mPrevious(sandbox::Observe(this)) {}
+    RecordsPatternCalls(const RecordsPatternCalls&) = delete;
+    RecordsPatternCalls& operator=(const RecordsPatternCalls&) = delete;
+    ~RecordsPatternCalls() override { sandbox::Observe(mPrevious); }
+
+    void OnCall(const wchar_t* className, const wchar_t* member) override
+    {
+        if (className == std::wstring(L"RecurrencePattern"))
+        {
+            Members.emplace_back(member);
+        }
+    }
+
+    std::vector<std::wstring> Members;
+
+  private:
+    sandbox::CallObserver* mPrevious;
+};
+
+struct Rule
+{
+    const wchar_t* name;
+    long type;
+    long interval;
+    long mask;
+    long day;
+    long month;
+};
+
+// On Tuesday 2003-05-06; 0 for a member that does not go with the type.
+constexpr Rule kRules[] = {
+    {L"每天", 0, 1, 0, 0, 0}, {L"每周", 1, 1, 4, 0, 0},   {L"每月", 2, 1, 0, 6, 0},
+    {L"每季", 2, 3, 0, 6, 0}, {L"每半年", 2, 6, 0, 6, 0}, {L"每年", 5, 0, 0, 6, 5},
+};
+
+} // namespace
+
+TEST(WeekdayToDayMask, SundayIsTheFirstBitAndSaturdayTheSeventh)
+{
+    const short expected[] = {1, 2, 4, 8, 16, 32, 64};
+    for (short weekday = 1; weekday <= 7; ++weekday)
+    {
+        EXPECT_EQ(expected[weekday - 1], calendar::WeekdayToDayMask(weekday));
+    }
+}
+
+TEST(WeekdayToDayMask, AnyOtherNumberHasNoBit)
+{
+    for (const short weekday : {short{0}, short{8}, short{-1}, short{32767}, short{-32768}})
+    {
+        EXPECT_EQ(0, calendar::WeekdayToDayMask(weekday));
+    }
+}
+
+class RecurrenceToOutlook : public CalendarTest
+{
+  protected:
+    void AddRepeatingEntry(const std::wstring& rule, Pairs columns = {}) const
+    {
+        columns.insert(columns.begin(), {{L"F_ACTREPEATS", L"1"}, {L"FR_NAME", L"'" + rule + L"'"}});
+        AddEntry(columns);
+    }
+
+    static Object PatternOf(const Object& appointment)
+    {
+        EXPECT_TRUE(Truth(appointment, L"IsRecurring"));
+        return appointment.GetObject(L"GetRecurrencePattern");
+    }
+
+    // A fresh pattern on Tuesday 2003-05-06, 09:30 to 10:30.
+    Object NewPattern() const
+    {
+        return AddAppointment(Day(2003, 5, 6, 9, 30), Day(2003, 5, 6, 10, 30))
+            .GetObject(L"GetRecurrencePattern");
+    }
+};
+
+TEST_F(RecurrenceToOutlook, EachOfTheSixRulesGivesItsPatternInBothLanguages)
+{
+    for (const auto language : {resources::Language::Chinese, resources::Language::English})
+    {
+        const WithLanguage inLanguage(language);
+        for (const Rule& rule : kRules)
+        {
+            const Object pattern = NewPattern();
+            EXPECT_EQ(0, calendar::SetRecurrenceByName(pattern, rule.name, Day(2003, 5, 6)));
+            EXPECT_EQ(rule.type, Number(pattern, L"RecurrenceType"));
+            EXPECT_EQ(rule.interval, Number(pattern, L"Interval"));
+            EXPECT_EQ(rule.mask, Number(pattern, L"DayOfWeekMask"));
+            EXPECT_EQ(rule.day, Number(pattern, L"DayOfMonth"));
+            EXPECT_EQ(rule.month, Number(pattern, L"MonthOfYear"));
+        }
+    }
+}
+
+TEST_F(RecurrenceToOutlook, AReferenceDateOnAWednesdayGivesTheFourthBit)
+{
+    const Object pattern = NewPattern();
+    calendar::SetRecurrenceByName(pattern, L"每周", Day(2003, 5, 7));
+    EXPECT_EQ(8, Number(pattern, L"DayOfWeekMask"));
+}
+
+TEST_F(RecurrenceToOutlook, ANameThatIsNoRuleLeavesThePatternUntouched)
+{
+    const Object pattern = NewPattern();
+    const RecordsPatternCalls calls;
+    for (const wchar_t* name : {L"", L"每两周", L"Daily", L"每天 ", L"每 天"})
+    {
+        EXPECT_EQ(0, calendar::SetRecurrenceByName(pattern, name, Value::Null()));
+    }
+    EXPECT_TRUE(calls.Members.empty());
+}
+
+TEST_F(RecurrenceToOutlook, ARuleThatNeedsAReferenceDateFailsWithoutOne)
+{
+    const Object pattern = NewPattern();
+    EXPECT_EQ(0, calendar::SetRecurrenceByName(pattern, L"每天", Value::Null()));
+    EXPECT_THROW(calendar::SetRecurrenceByName(pattern, L"每周", Value::Null()), automation::Error);
+}
+
+TEST_F(RecurrenceToOutlook, TheStepsAreTakenInTheirOrder)
+{
+    AddRepeatingEntry(L"每年", {{L"F_ACTREPTEDATE", L"'2010-12-31 00:00:00'"}});
+    const RecordsPatternCalls calls;
+    WriteNewAppointment();
+    const std::vector<std::wstring> expected{L"StartTime",      L"EndTime",       L"PatternStartDate",
+                                             L"RecurrenceType", L"MonthOfYear",   L"DayOfMonth",
+                                             L"NoEndDate",      L"PatternEndDate"};
+    EXPECT_EQ(expected, calls.Members);
+}
+
+TEST_F(RecurrenceToOutlook, WhatTheEntryLacksIsLeftToOutlook)
+{
+    AddRepeatingEntry(L"", {{L"F_ACTESTIME", L"NULL"}, {L"F_ACTEETIME", L"NULL"}});
+    const RecordsPatternCalls calls;
+    const Object pattern = PatternOf(WriteNewAppointment());
+    EXPECT_EQ((std::vector<std::wstring>{L"PatternStartDate", L"NoEndDate"}), calls.Members);
+    EXPECT_EQ(L"00:00", TimeOf(pattern, L"StartTime"));
+    EXPECT_EQ(L"01:30", TimeOf(pattern, L"EndTime"));
+}
+
+TEST_F(RecurrenceToOutlook, AnEntryRepeatsBetweenItsTimesFromItsFirstToItsLastDay)
+{
+    AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-20 00:00:00'"}});
+    const Object appointment = WriteNewAppointment();
+    const Object pattern = PatternOf(appointment);
+    EXPECT_EQ(L"09:30", TimeOf(pattern, L"StartTime"));
+    EXPECT_EQ(L"11:00", TimeOf(pattern, L"EndTime"));
+    EXPECT_EQ(90, Number(pattern, L"Duration"));
+    EXPECT_EQ(L"2003-05-06", DayOf(pattern, L"PatternStartDate"));
+    EXPECT_EQ(L"2003-05-20", DayOf(pattern, L"PatternEndDate"));
+    EXPECT_FALSE(Truth(pattern, L"NoEndDate"));
+    EXPECT_EQ(15, Number(pattern, L"Occurrences"));
+    EXPECT_EQ(L"2003-05-06 09:30", At(appointment.Get(L"Start")));
+}
+
+TEST_F(RecurrenceToOutlook, SecondsOfTheTimesAreDropped)
+{
+    AddRepeatingEntry(
+        L"每天", {{L"F_ACTESTIME", L"'1899-12-30 09:30:59'"}, {L"F_ACTEETIME", L"'1899-12-30 11:00:59'"}});
+    const Object pattern = PatternOf(WriteNewAppointment());
+    EXPECT_EQ(L"09:30:00", automation::Formatted(automation::DateOf(pattern.Get(L"StartTime")), L"hh:mm:ss"));
+    EXPECT_EQ(L"11:00:00", automation::Formatted(automation::DateOf(pattern.Get(L"EndTime")), L"hh:mm:ss"));
+}
+
+TEST_F(RecurrenceToOutlook, WithoutALastDayThePatternStillEnds)
+{
+    AddRepeatingEntry(L"每周");
+    const Object pattern = PatternOf(WriteNewAppointment());
+    EXPECT_FALSE(Truth(pattern, L"NoEndDate"));
+}
+
+TEST_F(RecurrenceToOutlook, AnEntryThatDoesNotRepeatHasNoPattern)
+{
+    AddEntry({{L"F_ACTREPEATS", L"0"}, {L"FR_NAME", L"'每天'"}});
+    AddEntry({{L"FR_NAME", L"'每天'"}});
+    EXPECT_FALSE(WriteAllEntries());
+    EXPECT_FALSE(Truth(AppointmentAt(1), L"IsRecurring"));
+    EXPECT_FALSE(Truth(AppointmentAt(2), L"IsRecurring"));
+}
+
+TEST_F(RecurrenceToOutlook, AnUnknownRuleKeepsOutlooksWeeklyDefault)
+{
+    AddRepeatingEntry(L"每两周");
+    const Object pattern = PatternOf(WriteNewAppointment());
+    EXPECT_EQ(1, Number(pattern, L"RecurrenceType"));
+    EXPECT_EQ(1, Number(pattern, L"Interval"));
+    EXPECT_EQ(4, Number(pattern, L"DayOfWeekMask"));
+}
+
+TEST_F(RecurrenceToOutlook, ARecurringAppointmentKeepsItsStartAndOnlyItsPatternIsRewritten)
+{
+    AddRepeating(Day(2003, 1, 6, 8), Day(2003, 1, 6, 9),
+                 [](const Object& pattern) { pattern.Put(L"RecurrenceType", 0L); });
+    AddEntry();
+    Object written = WriteExistingAppointment();
+    EXPECT_EQ(L"2003-01-06 08:00", At(written.Get(L"Start")));
+    EXPECT_EQ(0, Number(PatternOf(written), L"RecurrenceType"));
+
+    Execute(L"UPDATE Entries SET F_ACTREPEATS=1, FR_NAME='每季'");
+    written = WriteExistingAppointment();
+    const Object pattern = PatternOf(written);
+    EXPECT_EQ(2, Number(pattern, L"RecurrenceType"));
+    EXPECT_EQ(3, Number(pattern, L"Interval"));
+    EXPECT_EQ(6, Number(pattern, L"DayOfMonth"));
+    EXPECT_EQ(L"2003-05-06 09:30", At(written.Get(L"Start")));
+}
+
+TEST_F(RecurrenceToOutlook, TheStartIsLeftToThePatternWhenTheRelationRowOfTheRepetitionComesFirst)
+{
+    Relate({{L"F_ACTREPEATS", L"IsRecurring"}, {L"F_ACTESDATE", L"Start"}});
+    AddRepeatingEntry(L"每月");
+    EXPECT_EQ(L"2003-05-06 09:30", At(WriteNewAppointment().Get(L"Start")));
+}
+
+TEST_F(RecurrenceToOutlook, AMonthlyEntryOnThe31stStartsThereAndFallsOnTheLastDayOfShorterMonths)
+{
+    AddRepeatingEntry(
+        L"每月", {{L"F_ACTESDATE", L"'2003-01-31 00:00:00'"}, {L"F_ACTREPTEDATE", L"'2003-04-30 00:00:00'"}});
+    const Object appointment = WriteNewAppointment();
+    EXPECT_EQ(L"2003-01-31 09:30", At(appointment.Get(L"Start")));
+    EXPECT_EQ(31, Number(PatternOf(appointment), L"DayOfMonth"));
+    EXPECT_EQ(4, Number(PatternOf(appointment), L"Occurrences"));
+}
+
+TEST_F(RecurrenceToOutlook, AYearlyEntryOnThe29thOfFebruaryFallsOnTheLastDayOfFebruary)
+{
+    AddRepeatingEntry(
+        L"每年", {{L"F_ACTESDATE", L"'2004-02-29 00:00:00'"}, {L"F_ACTREPTEDATE", L"'2008-02-29 00:00:00'"}});
+    const Object appointment = WriteNewAppointment();
+    EXPECT_EQ(L"2004-02-29 09:30", At(appointment.Get(L"Start")));
+    EXPECT_EQ(29, Number(PatternOf(appointment), L"DayOfMonth"));
+    EXPECT_EQ(2, Number(PatternOf(appointment), L"MonthOfYear"));
+    EXPECT_EQ(5, Number(PatternOf(appointment), L"Occurrences"));
+}
+
+TEST_F(RecurrenceToOutlook, AnEntryOverMidnightRepeatsOverMidnight)
+{
+    AddRepeatingEntry(L"每天", {{L"F_ACTESTIME", L"'1899-12-30 22:00:00'"},
+                                {L"F_ACTEETIME", L"'1899-12-30 01:00:00'"},
+                                {L"ACT_DURATION", L"NULL"}});
+    EXPECT_EQ(180, Number(PatternOf(WriteNewAppointment()), L"Duration"));
+}
+
+TEST_F(RecurrenceToOutlook, APatternOverTheChangeOfTheClocksKeepsItsLocalTimes)
+{
+    AddRepeatingEntry(L"每天", {{L"F_ACTESDATE", L"'2003-03-29 00:00:00'"},
+                                {L"F_ACTESTIME", L"'1899-12-30 02:30:00'"},
+                                {L"F_ACTEETIME", L"'1899-12-30 03:30:00'"},
+                                {L"F_ACTREPTEDATE", L"'2003-03-31 00:00:00'"}});
+    const Object pattern = PatternOf(WriteNewAppointment());
+    EXPECT_EQ(L"02:30", TimeOf(pattern, L"StartTime"));
+    EXPECT_EQ(60, Number(pattern, L"Duration"));
+    EXPECT_EQ(3, Number(pattern, L"Occurrences"));
+}
+
+TEST_F(RecurrenceToOutlook, ALastDayBeforeTheFirstIsRefusedByOutlookAndFailsTheEntry)
+{
+    AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-05 00:00:00'"}});
+    EXPECT_TRUE(WriteAllEntries());
+    EXPECT_EQ(0, CountAppointments());
+}
+
+} // namespace test_support
