@@ -6,7 +6,7 @@
 #include "automation/Guard.h"
 #include "resources/Strings.h"
 
-#include <string>
+#include <cstring>
 #include <vector>
 
 namespace entry
@@ -34,7 +34,13 @@ ComPtr<ITypeInfo> LoadDefaultInterface()
 // typed parameters. No member writes to its arguments, so what such a reference holds serves as well.
 VARIANTARG WithoutVariantReference(const VARIANTARG& argument)
 {
-    return argument.vt == (VT_BYREF | VT_VARIANT) ? *argument.pvarVal : argument;
+    if (argument.vt != (VT_BYREF | VT_VARIANT))
+    {
+        return argument;
+    }
+    VARIANTARG held;
+    std::memcpy(&held, argument.pvarVal, sizeof held); // script engines align their variables as they like
+    return held;
 }
 
 // "obj.Font = font" without "Set" means the same as with it.
