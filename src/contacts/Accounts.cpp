@@ -81,7 +81,7 @@ std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue, co
     }
     RowColumns address(catalogue, data::kNewRecord);
     AddAddressColumns(item, address);
-    const std::wstring key = host.NewGuid();
+    std::wstring key = host.NewGuid();
     InsertRow(host, L"TBLADDRESS", L"F_ADDRID,F_ACCID", Quoted(key) + L"," + Quoted(account), address);
     return key;
 }
@@ -157,7 +157,7 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     RowColumns account(catalogue, data::kNewRecord);
     account.Add(L"F_ACCSNAME", companyName);
     account.Add(L"F_ACCCURRIDX", resources::IsChinese() ? kChineseCurrency : kOtherCurrency);
-    const std::wstring key = host.NewGuid();
+    std::wstring key = host.NewGuid();
     InsertRow(host, L"TBLACCOUNT", L"F_ACCID", Quoted(key), account);
     data::Demand(data::AddAccountInfo(key) == 0, L"AddAccountInfo");
     return key;
