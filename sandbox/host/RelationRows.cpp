@@ -22,7 +22,8 @@ constexpr RelationRow kChineseNames[] = {
 
 // Columns without "F_" come from linked rows or are computed: they are shown in Outlook and never written.
 // Of a task the percentage comes first and its status before what is written only to a completed task, so
-// that a completed one arrives whole.
+// that a completed one arrives whole. Its start comes after the date that it is due: Outlook moves the other
+// one when the two contradict each other, and a task is known again by its start.
 constexpr RelationRow kRows[] = {
     {kContacts, L"F_NICKNAME", L"NickName"},
     {kContacts, L"F_TITLE", L"Title"},
@@ -53,8 +54,8 @@ constexpr RelationRow kRows[] = {
 
     {kTasks, L"F_ACTNAME", L"Subject"},
     {kTasks, L"F_ACTTYPE", L"Categories"},
-    {kTasks, L"F_ACTPSTIME", L"StartDate"},
     {kTasks, L"F_ACTPETIME", L"DueDate"},
+    {kTasks, L"F_ACTPSTIME", L"StartDate"},
     {kTasks, L"F_ACTCREATETIME", L"CreationTime"},
     {kTasks, L"F_ACTPERCENT", L"PercentComplete"},
     {kTasks, L"F_ACTSTATUS", L"Status"},
