@@ -20,9 +20,9 @@ void Drive(Robot::Script script, const std::function<void()>& action);
 void Photograph(const ShownDialog& dialog, const std::string& name);
 
 // What every dialog owes its user, in the language and font that it is shown in: each visible text fits its
-// control, each control lies inside the dialog, no two visible controls share an accelerator. Failures are
-// reported as test failures.
-void ExpectReadable(const ShownDialog& dialog);
+// control, each control lies inside the dialog, no two visible controls share an accelerator (letters that
+// the host contract gives twice excepted, in upper case). Failures are reported as test failures.
+void ExpectReadable(const ShownDialog& dialog, const std::wstring& sharedLetters = {});
 
 // Runs functions on the thread that made it, whatever modal loop that thread is in.
 class MainThread

@@ -1,0 +1,58 @@
+// What a test of the configuration dialogs stands on: the host's stand-in with known parameters of its first
+// user, Outlook's stand-in with a mailbox, a profile in the registry, and the interface of one language.
+#pragma once
+
+#include "sandbox/host/Host.h"
+#include "sandbox/outlook/Outlook.h"
+#include "state/SharedState.h"
+#include "tests/config/ProfileKey.h"
+#include "tests/support/Drive.h"
+#include "tests/ui/Interface.h"
+
+#include <string>
+#include <vector>
+
+namespace ui_config_tests
+{
+
+using resources::Language;
+using test_support::Drive;
+using test_support::Robot;
+using test_support::ShownDialog;
+using ui_tests::In;
+using Texts = std::vector<std::wstring>;
+
+class Ground
+{
+  public:
+    explicit Ground(Language language = Language::English, double scale = 1);
+    Ground(const Ground&) = delete;
+    Ground& operator=(const Ground&) = delete;
+
+    // Changes the user's row of a kind; the set clause as SQL has it.
+    void SetRow(const std::wstring& kind, const std::wstring& setClause);
+    // One row of a query as its values joined with "|".
+    std::wstring Row(const std::wstring& sql);
+    // "IsTrans|TransSource|TransType|TransTypePic" of the user's row of a kind.
+    std::wstring Translation(const std::wstring& kind);
+    // "TransConflictOption|CalendarTransItem|CalendarPrior|CalendarAfter|TaskTransItem", likewise.
+    std::wstring Options(const std::wstring& kind);
+    void AddFolderRow(long kind, const std::wstring& path, bool isDefault);
+    // "path|IsDefault" of the user's rows of a kind.
+    Texts Folders(long kind);
+    // The configuration record describes this kind.
+    state::SynParameter& Record() { return state::Shared().gConfigureParameter; }
+    void UseKind(const std::wstring& kind);
+
+  private:
+    ui_tests::Interface mInterface; // clears the shared state at the end
+    config_tests::ProfileKey mProfileKey;
+
+  public:
+    sandbox::Host Host;
+    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
+    sandbox::OutlookInProcess Outlook{Mailbox};
+    config_tests::ProfileKey& Profiles() { return mProfileKey; }
+};
+
+} // namespace ui_config_tests

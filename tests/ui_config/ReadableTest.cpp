@@ -1,0 +1,102 @@
+// Every configuration dialog in both languages and at the sizes that screens of 96, 144 and 192 DPI show:
+// nothing is clipped, nothing leaves the dialog, accelerators are unique.
+#include "config/FrmAdvanced.h"
+#include "config/FrmConfigure.h"
+#include "config/FrmOutLookOption.h"
+#include "config/FrmSynChoose.h"
+#include "config/FrmSynContent.h"
+#include "tests/ui_config/Ground.h"
+#include "tests/ui_config/Look.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace
+{
+
+using namespace ui_config_tests;
+
+struct Shown
+{
+    const char* name;
+    const wchar_t* kind;
+    void (*show)();
+    int page; // of the advanced dialogs
+};
+
+template<typename Form>
+void Show()
+{
+    Form().ShowModal();
+}
+
+void ShowPicker()
+{
+    config::FrmSynContent(state::Shared().gConfigureParameter).ShowModal();
+}
+
+void ShowAdvanced()
+{
+    config::ShowAdvancedOptions(state::Shared().gConfigureParameter.TransObject);
+}
+
+constexpr Shown kDialogs[] = {
+    {"FrmConfigure", L"Contact", &config::ShowConfigure, 0},
+    {"FrmSynChoose", L"Contact", &Show<config::FrmSynChoose>, 0},
+    {"FrmSynContent", L"Contact", &ShowPicker, 0},
+    {"FrmSynContent-calendar", L"Calendar", &ShowPicker, 0},
+    {"FrmSynContent-task", L"Task", &ShowPicker, 0},
+    {"FrmAdvContacts", L"Contact", &ShowAdvanced, 0},
+    {"FrmAdvCalendar", L"Calendar", &ShowAdvanced, 0},
+    {"FrmAdvCalendar-range", L"Calendar", &ShowAdvanced, 1},
+    {"FrmAdvActivites", L"Task", &ShowAdvanced, 0},
+    {"FrmAdvActivites-range", L"Task", &ShowAdvanced, 1},
+    {"FrmOutLookOption", L"Contact", &Show<config::FrmOutLookOption>, 0},
+};
+
+class ReadableConfiguration : public testing::TestWithParam<std::tuple<Language, double>>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(, ReadableConfiguration,
+                         testing::Combine(testing::ValuesIn(ui_tests::kLanguages),
+                                          testing::Values(1.0, 1.5, 2.0)));
+
+void Prepare(Ground& ground, const Shown& shown)
+{
+    ground.SetRow(L"Task", L"IsTrans=1");
+    ground.Mailbox->AddFolder(L"Personal Folders\\Contacts\\Friends", sandbox::ItemKind::Contact);
+    ground.Mailbox->AddFolder(L"Archive\\Contacts 2020", sandbox::ItemKind::Contact);
+    ground.AddFolderRow(10, L"Personal Folders\\Contacts", true);
+    ground.AddFolderRow(10, L"Archive\\Contacts 2020", false);
+    ground.AddFolderRow(20, L"Personal Folders\\Tasks", true);
+    ground.AddFolderRow(30, L"Personal Folders\\Calendar", true);
+    ground.UseKind(shown.kind);
+}
+
+TEST_P(ReadableConfiguration, EveryDialogShowsAllOfItsTexts)
+{
+    const auto [language, scale] = GetParam();
+    for (const Shown& shown : kDialogs)
+    {
+        SCOPED_TRACE(shown.name);
+        Ground ground(language, scale);
+        Prepare(ground, shown);
+        Drive(
+            [&, language = language, scale = scale](Robot& robot) {
+                const auto dialog = robot.WaitForDialog();
+                dialog.Ask(dialog.Control(IDC_ADV_TABS), TCM_SETCURFOCUS, static_cast<WPARAM>(shown.page));
+                // The contract gives two buttons of this dialog the same letter.
+                const bool hasSharedLetter = dialog.Control(IDC_CHOOSE_OPTION) != nullptr;
+                test_support::ExpectReadable(dialog, hasSharedLetter ? L"O" : L"");
+                const auto percent = std::to_string(std::lround(scale * 100));
+                test_support::Photograph(dialog, shown.name + ui_tests::Suffix(language) +
+                                                     (scale == 1 ? "" : "-" + percent));
+                dialog.Close();
+            },
+            shown.show);
+    }
+}
+
+} // namespace
