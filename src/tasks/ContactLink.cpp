@@ -25,7 +25,7 @@ Object FindContact(const Object& items, const std::wstring& surname, const std::
 
 Object CreateContact(const Object& items, const std::wstring& surname, const std::wstring& givenName)
 {
-    const Object contact = items.GetObject(L"Add", data::kContactItem);
+    Object contact = items.GetObject(L"Add", data::kContactItem);
     contact.Put(L"FirstName", givenName);
     contact.Put(L"LastName", surname);
     contact.Call(L"Save");
