@@ -120,6 +120,11 @@ bool DatabaseStore::HasChangedElsewhere()
 void DatabaseStore::Create(const std::wstring& path)
 {
     Connection connection(ConnectionStringOf(path));
+    CreateTables(connection);
+}
+
+void DatabaseStore::CreateTables(Connection& connection)
+{
     for (const wchar_t* statement : kTables)
     {
         connection.Execute(statement);

@@ -17,6 +17,7 @@ class DatabaseStore : public MailboxStore
 
     // Makes the tables, and the file where there is none. Throws automation::Error.
     static void Create(const std::wstring& path);
+    static void CreateTables(Connection& connection);
 
     std::vector<std::pair<std::wstring, ItemKind>> ReadFolders() override;
     void AddFolder(const std::wstring& path, ItemKind type) override;

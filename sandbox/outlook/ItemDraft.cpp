@@ -32,6 +32,7 @@ RuleTable MadeRules()
     Enter(table, ItemKind::Contact, ContactRules());
     Enter(table, ItemKind::Task, TaskRules());
     Enter(table, ItemKind::Appointment, AppointmentRules());
+    Enter(table, ItemKind::Appointment, PatternTypeRules());
     Enter(table, ItemKind::Appointment, PatternRules());
     return table;
 }

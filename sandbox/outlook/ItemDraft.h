@@ -72,6 +72,7 @@ struct PropertyRule
 std::span<const PropertyRule> ContactRules();
 std::span<const PropertyRule> TaskRules();
 std::span<const PropertyRule> AppointmentRules();
+std::span<const PropertyRule> PatternTypeRules();
 std::span<const PropertyRule> PatternRules();
 // Gives an appointment that has just been created its time.
 void StartAppointment(ItemDraft& item);

@@ -1,7 +1,6 @@
 #include "sandbox/outlook/Mailbox.h"
 
-#include "sandbox/outlook/Failures.h"
-#include "sandbox/outlook/ItemDraft.h"
+#include "sandbox/outlook/Paths.h"
 #include "sandbox/outlook/PropertyValues.h"
 
 #include <cwchar>
@@ -11,8 +10,6 @@ namespace sandbox::outlook
 
 namespace
 {
-
-constexpr wchar_t kSeparator = L'\\';
 
 struct MessageClassRow
 {
@@ -46,18 +43,6 @@ bool HasDefaultName(const MailFolder& folder)
     });
 }
 
-std::wstring ParentPath(const std::wstring& path)
-{
-    const size_t at = path.rfind(kSeparator);
-    return at == std::wstring::npos ? std::wstring() : path.substr(0, at);
-}
-
-std::wstring LastName(const std::wstring& path)
-{
-    const size_t at = path.rfind(kSeparator);
-    return at == std::wstring::npos ? path : path.substr(at + 1);
-}
-
 // What every item states, whoever wrote it.
 void Complete(StoredItem& item)
 {
@@ -69,19 +54,6 @@ void Complete(StoredItem& item)
     {
         item.properties.Put(PropertyId::OutlookVersion, kOutlookVersion);
     }
-}
-
-// A hash of the path (FNV-1a), so that an item keeps its entry id from one session to the next.
-std::wstring HashOf(const std::wstring& path)
-{
-    unsigned long long hash = 14695981039346656037ull;
-    for (const wchar_t character : path)
-    {
-        hash = (hash ^ character) * 1099511628211ull;
-    }
-    wchar_t digits[17];
-    std::swprintf(digits, std::size(digits), L"%016llX", hash);
-    return digits;
 }
 
 StoredItemRef ItemOfRows(MailFolder& folder, long index, ItemRows&& rows)
@@ -146,7 +118,7 @@ const wchar_t* MessageClassOf(ItemKind kind)
 }
 
 MailFolder::MailFolder(std::wstring path, ItemKind type, MailFolder* parent)
-    : mPath(std::move(path)), mName(LastName(mPath)), mType(type), mParent(parent)
+    : mPath(std::move(path)), mName(NameIn(mPath)), mType(type), mParent(parent)
 {
 }
 
@@ -176,7 +148,7 @@ MailFolder& Mailbox::Adopt(const std::wstring& path, ItemKind type)
         known->mType = type;
         return *known;
     }
-    const std::wstring above = ParentPath(path);
+    const std::wstring above = ParentOf(path);
     MailFolder* known = FindFolder(above);
     MailFolder* parent = above.empty() || known != nullptr ? known : &Adopt(above, ItemKind::Mail);
     auto& folder = mFolders[path] = std::make_unique<MailFolder>(path, type, parent);
@@ -191,7 +163,7 @@ MailFolder& Mailbox::AddFolder(const std::wstring& path, ItemKind type)
     {
         return *known;
     }
-    const std::wstring above = ParentPath(path);
+    const std::wstring above = ParentOf(path);
     if (!above.empty())
     {
         AddFolder(above);
@@ -236,6 +208,12 @@ const std::vector<StoredItemRef>& Mailbox::Items(MailFolder& folder)
     return folder.mItems;
 }
 
+bool Mailbox::HasChangedElsewhere()
+{
+    const std::lock_guard hold(mLock);
+    return mStore && mStore->HasChangedElsewhere();
+}
+
 StoredItemRef Mailbox::Save(MailFolder& folder, StoredItemRef item, ItemKind kind,
                             const PropertyBag& properties, const std::vector<std::wstring>* links)
 {
@@ -278,137 +256,6 @@ void Mailbox::Delete(const StoredItemRef& item)
     std::erase(item->folder->mItems, item);
     item->folder = nullptr;
     ++mDeletions;
-}
-
-std::wstring Mailbox::EntryIdOf(const StoredItem& item)
-{
-    wchar_t digits[9];
-    std::swprintf(digits, std::size(digits), L"%08lX", static_cast<unsigned long>(item.index));
-    return HashOf(item.folder->Path()) + digits;
-}
-
-StoredItemRef Mailbox::FindEntry(const std::wstring& entryId)
-{
-    for (const auto& [path, folder] : mFolders)
-    {
-        const std::wstring hash = HashOf(path);
-        if (entryId.starts_with(hash))
-        {
-            const std::wstring digits = entryId.substr(hash.size());
-            return FindIndex(*folder, static_cast<long>(std::wcstoul(digits.c_str(), nullptr, 16)));
-        }
-    }
-    return nullptr;
-}
-
-StoredItemRef Mailbox::FindIndex(MailFolder& folder, long index)
-{
-    const auto& items = Items(folder);
-    const auto at = std::ranges::lower_bound(items, index, {}, [](const auto& item) { return item->index; });
-    return at != items.end() && (*at)->index == index ? *at : nullptr;
-}
-
-std::wstring Mailbox::LinkTo(const StoredItem& item)
-{
-    return item.folder->Path() + kSeparator + std::to_wstring(item.index);
-}
-
-StoredItemRef Mailbox::Follow(const std::wstring& link)
-{
-    MailFolder* folder = FindFolder(ParentPath(link));
-    const std::wstring last = LastName(link);
-    if (folder == nullptr || last.empty() || last.find_first_not_of(L"0123456789") != std::wstring::npos)
-    {
-        return nullptr;
-    }
-    return FindIndex(*folder, std::wcstol(last.c_str(), nullptr, 10));
-}
-
-const StoredItemRef& Mailbox::ItemAt(const std::wstring& path, long position)
-{
-    MailFolder* folder = FindFolder(path);
-    if (folder == nullptr)
-    {
-        FailNotFound(L"Folder");
-    }
-    const auto& items = Items(*folder);
-    if (position < 1 || position > static_cast<long>(items.size()))
-    {
-        FailOutOfBounds(L"Item");
-    }
-    return items[static_cast<size_t>(position) - 1];
-}
-
-long Mailbox::AddItem(const std::wstring& path, const NamedValues& properties)
-{
-    const std::lock_guard hold(mLock);
-    MailFolder* folder = FindFolder(path);
-    if (folder == nullptr)
-    {
-        FailNotFound(L"Folder");
-    }
-    ItemKind kind = folder->Type();
-    for (const auto& [name, value] : properties)
-    {
-        kind = name == L"MessageClass" ? KindOfMessageClass(automation::TextOf(value), kind) : kind;
-    }
-    PropertyBag bag;
-    for (const auto& [name, value] : properties)
-    {
-        const auto id = FindProperty(kind, name);
-        if (!id)
-        {
-            FailNotFound(name.c_str());
-        }
-        bag.Put(*id, Converted(PropertyOf(*id), value));
-    }
-    Save(*folder, nullptr, kind, bag, nullptr);
-    return static_cast<long>(Items(*folder).size());
-}
-
-void Mailbox::AddLink(const std::wstring& path, long position, const std::wstring& contactPath,
-                      long contactPosition)
-{
-    const std::lock_guard hold(mLock);
-    const StoredItemRef item = ItemAt(path, position);
-    auto links = item->links;
-    links.push_back(LinkTo(*ItemAt(contactPath, contactPosition)));
-    Save(*item->folder, item, item->kind, {}, &links);
-}
-
-long Mailbox::ItemCount(const std::wstring& path)
-{
-    const std::lock_guard hold(mLock);
-    MailFolder* folder = FindFolder(path);
-    if (folder == nullptr)
-    {
-        FailNotFound(L"Folder");
-    }
-    return static_cast<long>(Items(*folder).size());
-}
-
-Value Mailbox::ItemProperty(const std::wstring& path, long position, const std::wstring& name)
-{
-    const std::lock_guard hold(mLock);
-    const StoredItemRef& item = ItemAt(path, position);
-    const auto id = FindProperty(item->kind, name);
-    if (!id)
-    {
-        FailNotFound(name.c_str());
-    }
-    return ItemDraft(*this, item).Read(*id);
-}
-
-bool Mailbox::HasChangedElsewhere()
-{
-    const std::lock_guard hold(mLock);
-    return mStore && mStore->HasChangedElsewhere();
-}
-
-std::vector<std::wstring> Mailbox::ItemLinks(const std::wstring& path, long position)
-{
-    const std::lock_guard hold(mLock);
-    return ItemAt(path, position)->links;
 }
 
 } // namespace sandbox::outlook
