@@ -1,0 +1,67 @@
+#include "sandbox/sample_data/Words.h"
+
+namespace sandbox
+{
+
+namespace
+{
+
+constexpr const wchar_t* kSurnames[] = {L"王", L"李", L"张", L"刘", L"陈", L"杨", L"赵",   L"黄",  L"周",
+                                        L"吴", L"徐", L"孙", L"胡", L"朱", L"高", L"欧阳", L"司马"};
+
+constexpr const wchar_t* kGivenNames[] = {L"伟",   L"芳",   L"娜",   L"秀英", L"敏",   L"静",   L"丽",
+                                          L"强",   L"磊",   L"洋",   L"艳",   L"建国", L"晓明", L"小红",
+                                          L"志远", L"雨桐", L"国庆", L"海燕", L"思源"};
+
+constexpr Company kCompanies[] = {
+    {L"北京华信科技有限公司", L"huaxin.example"}, {L"上海东方贸易公司", L"dongfang.example"},
+    {L"广州南海食品厂", L"nanhai.example"},       {L"深圳新星电子", L"xinxing.example"},
+    {L"杭州西湖丝绸", L"xihu.example"},           {L"成都锦江酒店", L"jinjiang.example"},
+    {L"武汉长江机械", L"changjiang.example"},     {L"西安古城印刷", L"gucheng.example"},
+    {L"南京紫金软件", L"zijin.example"},          {L"天津港物流", L"tjport.example"},
+    {L"重庆山城摩托", L"shancheng.example"},      {L"苏州园林设计院", L"yuanlin.example"},
+    {L"大连海洋渔业", L"haiyang.example"},        {L"青岛崂山矿泉", L"laoshan.example"},
+    {L"厦门鹭岛旅行社", L"ludao.example"},        {L"沈阳重型设备", L"shenyang-hi.example"},
+    {L"哈尔滨冰城乳业", L"bingcheng.example"},    {L"昆明春城花卉", L"chuncheng.example"},
+    {L"长沙岳麓书局", L"yuelu.example"},          {L"郑州中原纺织", L"zhongyuan.example"},
+    {L"济南泉城医药", L"quancheng.example"},      {L"福州榕树茶叶", L"rongshu.example"},
+    {L"合肥科大仪器", L"keda.example"},           {L"石家庄华北制药", L"huabei.example"},
+    {L"太原晋阳煤业", L"jinyang.example"},        {L"南昌滕王阁文化", L"tengwang.example"},
+    {L"贵阳黔酒集团", L"qianjiu.example"},        {L"兰州黄河农业", L"huanghe.example"},
+    {L"海口椰风度假村", L"yefeng.example"},       {L"宁波北仑造船", L"beilun.example"}};
+
+constexpr Place kPlaces[] = {{L"中国", L"北京", L"北京", L"朝阳区建国路%号", L"100022", L"+86 10"},
+                             {L"中国", L"上海", L"上海", L"浦东新区世纪大道%号", L"200120", L"+86 21"},
+                             {L"中国", L"广东", L"广州", L"天河区体育西路%号", L"510620", L"+86 20"},
+                             {L"中国", L"广东", L"深圳", L"福田区深南大道%号", L"518026", L"+86 755"},
+                             {L"中国", L"浙江", L"杭州", L"西湖区文三路%号", L"310012", L"+86 571"},
+                             {L"中国", L"四川", L"成都", L"锦江区春熙路%号", L"610016", L"+86 28"},
+                             {L"中国", L"", L"武汉", L"武昌区中南路%号", L"430071", L"+86 27"}};
+
+constexpr const wchar_t* kJobTitles[] = {L"总经理",     L"采购经理", L"销售工程师", L"财务主管",
+                                         L"办公室主任", L"",         L"秘书",       L"技术总监"};
+
+constexpr const wchar_t* kDepartments[] = {L"采购部", L"销售部", L"技术部", L"财务部", L"", L"行政部"};
+
+constexpr const wchar_t* kTaskSubjects[] = {
+    L"寄送报价单", L"回电确认交货日期", L"准备年度合同", L"催收货款",     L"寄送样品",
+    L"更新价格表", L"安排参观工厂",     L"处理客户投诉", L"核对客户信用", L"整理会议纪要"};
+
+constexpr const wchar_t* kEntrySubjects[] = {L"拜访客户", L"产品演示", L"合同谈判", L"商务午餐",
+                                             L"展览会",   L"现场培训", L"设备验收", L"电话会议"};
+
+constexpr const wchar_t* kRepeatedSubjects[] = {L"晨会",     L"销售例会", L"月度报告", L"季度洽谈",
+                                                L"半年盘点", L"生日问候", L"预算评审", L"客户回访"};
+
+constexpr const wchar_t* kCategories[] = {L"商务", L"电话", L"重要客户", L"内部"};
+
+} // namespace
+
+const Words& ChineseWords()
+{
+    static constexpr Words words{kSurnames,    kGivenNames,   kCompanies,     kPlaces,           kJobTitles,
+                                 kDepartments, kTaskSubjects, kEntrySubjects, kRepeatedSubjects, kCategories};
+    return words;
+}
+
+} // namespace sandbox

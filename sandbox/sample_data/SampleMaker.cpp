@@ -1,0 +1,261 @@
+#include "sandbox/sample_data/SampleMaker.h"
+
+#include "automation/Dates.h"
+#include "automation/Text.h"
+
+#include <cwctype>
+#include <iterator>
+
+namespace sandbox
+{
+
+namespace
+{
+
+using automation::Date;
+using automation::PlusTime;
+
+constexpr size_t kWithoutCompany = 12; // every so many contacts
+constexpr long kDays = 90;             // that the sample data reaches before and after its day
+
+const Words& WordsOf(bool isChinese)
+{
+    return isChinese ? ChineseWords() : EnglishWords();
+}
+
+Date TimeOfDay(size_t hour, size_t minute)
+{
+    return {static_cast<double>(hour * 60 + minute) / 1440};
+}
+
+std::wstring DayText(Date day)
+{
+    return automation::Formatted(day, L"yyyy-mm-dd");
+}
+
+std::wstring Lower(const std::wstring& text)
+{
+    std::wstring letters;
+    for (const wchar_t c : text)
+    {
+        if (c < 128 && std::iswalpha(c) != 0)
+        {
+            letters += static_cast<wchar_t>(std::towlower(c));
+        }
+    }
+    return letters;
+}
+
+} // namespace
+
+std::wstring SampleMaker::Number(size_t digits)
+{
+    std::wstring text(1, static_cast<wchar_t>(L'1' + Below(9)));
+    while (text.size() < digits)
+    {
+        text += static_cast<wchar_t>(L'0' + Below(10));
+    }
+    return text;
+}
+
+std::wstring SampleMaker::PhoneIn(const Place& place)
+{
+    return std::wstring(place.dialCode) + L" " + Number(7);
+}
+
+SampleAddress SampleMaker::AddressIn(const Place& place)
+{
+    return {place.country, place.province, place.city,
+            automation::Replaced(place.street, L"%", std::to_wstring(1 + Below(180))), place.postalCode};
+}
+
+Date SampleMaker::DayAround(long days)
+{
+    return {kSampleToday.days - static_cast<double>(days) +
+            static_cast<double>(Below(static_cast<size_t>(2 * days + 1)))};
+}
+
+OptionalDate SampleMaker::DayInYears(int first, int last, unsigned percent)
+{
+    if (!Chance(percent))
+    {
+        return std::nullopt;
+    }
+    const int year = first + static_cast<int>(Below(static_cast<size_t>(last - first + 1)));
+    const int month = 1 + static_cast<int>(Below(12));
+    return automation::DateOf(automation::Moment{year, month, 1 + static_cast<int>(Below(28))});
+}
+
+std::optional<size_t> SampleMaker::LinkedContact(const SampleRecords& records, unsigned percent)
+{
+    if (records.contacts.empty() || !Chance(percent))
+    {
+        return std::nullopt;
+    }
+    return Below((records.contacts.size() + kEveryContactInOutlook - 1) / kEveryContactInOutlook) *
+           kEveryContactInOutlook;
+}
+
+std::vector<SampleAccount> SampleMaker::Accounts(size_t first, size_t count,
+                                                 const std::wstring& englishSuffix,
+                                                 const std::wstring& chineseSuffix)
+{
+    std::vector<SampleAccount> accounts;
+    for (size_t i = first; i < first + count; ++i)
+    {
+        const bool isChinese = i % 2 != 0;
+        const Words& words = WordsOf(isChinese);
+        const Place& place = words.places[Below(words.places.size())];
+        SampleAccount account{words.companies[i / 2 % words.companies.size()].name +
+                                  (isChinese ? chineseSuffix : englishSuffix),
+                              AddressIn(place), isChinese};
+        if (!Chance(85))
+        {
+            account.address.reset();
+        }
+        accounts.push_back(std::move(account));
+    }
+    return accounts;
+}
+
+void SampleMaker::Name(SampleContact& contact, const Words& words)
+{
+    do
+    {
+        contact.surname = Pick(words.surnames);
+        contact.givenName = Pick(words.givenNames);
+    } while (!IsNew(contact.surname + L"/" + contact.givenName));
+}
+
+SampleContact SampleMaker::Contact(const SampleAccount* account)
+{
+    const bool isChinese = account != nullptr ? account->isChinese : Chance(50);
+    const Words& words = WordsOf(isChinese);
+    const Place& place = words.places[Below(words.places.size())];
+    SampleContact contact;
+    Name(contact, words);
+    contact.company = account != nullptr ? account->name : L"";
+    contact.business = account != nullptr ? account->address.value_or(SampleAddress{}) : SampleAddress{};
+    contact.title = isChinese ? L"" : Chance(50) ? L"Mr." : Chance(60) ? L"Ms." : L"Dr.";
+    contact.suffix = isChinese && Chance(50) ? L"先生" : L"";
+    contact.nickName = Chance(15) ? contact.givenName.substr(0, 1) + contact.givenName.substr(0, 1) : L"";
+    contact.spouse = Chance(20) ? Pick(words.givenNames) : L"";
+    contact.birthday = DayInYears(1940, 1982, 60);
+    contact.anniversary = DayInYears(1965, 2002, 20);
+    contact.jobTitle = Pick(words.jobTitles);
+    contact.department = Pick(words.departments);
+    const std::wstring mailName = isChinese ? L"contact" + Number(4) : Lower(contact.givenName);
+    contact.email = Chance(80) ? mailName + L"." + Number(3) + L"@mail.example" : L"";
+    contact.businessPhone = Chance(85) ? PhoneIn(place) : L"";
+    contact.businessFax = Chance(50) ? PhoneIn(place) : L"";
+    contact.mobilePhone = Chance(60) ? L"+" + Number(11) : L"";
+    contact.homePhone = Chance(30) ? PhoneIn(place) : L"";
+    contact.assistant = Chance(15) ? Pick(words.givenNames) : L"";
+    contact.assistantPhone = contact.assistant.empty() ? L"" : PhoneIn(place);
+    contact.home = Chance(40) ? AddressIn(place) : SampleAddress{};
+    return contact;
+}
+
+std::vector<SampleContact> SampleMaker::Contacts(const std::vector<SampleAccount>& accounts, size_t count)
+{
+    std::vector<SampleContact> contacts;
+    for (size_t i = 0; i < count; ++i)
+    {
+        const bool hasCompany = !accounts.empty() && i % kWithoutCompany != kWithoutCompany - 1;
+        contacts.push_back(Contact(hasCompany ? &accounts[i % accounts.size()] : nullptr));
+    }
+    return contacts;
+}
+
+// When it is to be done: mostly planned to start and to end, sometimes only to be done by a day, or at all.
+void SampleMaker::PlanTask(SampleTask& task)
+{
+    const Date day = DayAround(kDays);
+    task.created = PlusTime(Date{day.days - 7}, TimeOfDay(8 + Below(9), Below(60)));
+    if (Chance(80))
+    {
+        task.start = PlusTime(day, TimeOfDay(8 + Below(9), 15 * Below(4)));
+    }
+    if (task.start || Chance(60))
+    {
+        task.due = PlusTime(Date{day.days + static_cast<double>(1 + Below(14))}, TimeOfDay(17, 0));
+    }
+    task.reminds = task.start && Chance(40);
+}
+
+void SampleMaker::ProgressTask(SampleTask& task)
+{
+    constexpr TaskStatus kStatuses[] = {
+        TaskStatus::NotStarted, TaskStatus::NotStarted, TaskStatus::InProgress,
+        TaskStatus::InProgress, TaskStatus::Complete,   TaskStatus::Complete,
+        TaskStatus::Complete,   TaskStatus::Waiting,    TaskStatus::Deferred};
+    task.status = kStatuses[Below(std::size(kStatuses))];
+    task.totalWork = Chance(50) ? static_cast<long>(60 * (1 + Below(16))) : 0;
+    switch (task.status)
+    {
+    case TaskStatus::NotStarted: break;
+    case TaskStatus::Complete:
+        task.percent = 100;
+        task.completed = automation::DayOf(task.due.value_or(*task.created));
+        task.actualWork = task.totalWork;
+        break;
+    default:
+        task.percent = static_cast<long>(25 * (1 + Below(3)));
+        task.actualWork = task.totalWork * task.percent / 100;
+        break;
+    }
+}
+
+SampleTask SampleMaker::Task(const SampleRecords& records)
+{
+    const Words& words = WordsOf(Chance(50));
+    SampleTask task;
+    task.contact = LinkedContact(records, 60);
+    if (task.contact && Chance(90))
+    {
+        task.company = records.contacts[*task.contact].company;
+    }
+    task.importance = static_cast<long>(Below(3));
+    task.category = Chance(85) ? Pick(words.categories) : L"";
+    do
+    {
+        task.subject = Pick(words.taskSubjects);
+        task.start.reset();
+        task.due.reset();
+        PlanTask(task);
+    } while (!IsNew(task.subject + L"/" + task.category + L"/" + (task.start ? DayText(*task.start) : L"") +
+                    L"/" + task.company));
+    ProgressTask(task);
+    return task;
+}
+
+SampleEntry SampleMaker::Entry(const SampleRecords& records, long repeat)
+{
+    const Words& words = WordsOf(Chance(50));
+    SampleEntry entry;
+    entry.contact = LinkedContact(records, 50);
+    entry.category = Chance(85) ? Pick(words.categories) : L"";
+    entry.reminds = Chance(50);
+    entry.repeat = repeat;
+    do
+    {
+        entry.subject = Pick(repeat != 0 ? words.repeatedSubjects : words.entrySubjects);
+        do
+        {
+            entry.day = DayAround(kDays);
+        } while (automation::MomentOf(entry.day).day > 28); // a day that every month has
+        const size_t hour = 8 + Below(9);
+        const size_t minute = 30 * Below(2);
+        entry.start = TimeOfDay(hour, minute);
+        entry.end = TimeOfDay(hour + 1 + Below(2), 15 * Below(4));
+    } while (!IsNew(entry.subject + L"/" + entry.category + L"/" + DayText(entry.day) + L"/" +
+                    automation::Formatted(entry.start, L"hh:mm")));
+    if (repeat != 0)
+    {
+        constexpr long kDaysOfRule[] = {60, 180, 365, 730, 1096, 3653};
+        entry.lastRepeat = Date{entry.day.days + static_cast<double>(kDaysOfRule[repeat - 1])};
+    }
+    return entry;
+}
+
+} // namespace sandbox
