@@ -152,9 +152,7 @@ TEST_F(CalendarSpan, ASingleAppointmentLastsFromItsStartToItsEnd)
 
 TEST_F(CalendarSpan, AnAllDayAppointmentLastsToMidnight)
 {
-    const Object appointment = AddAppointment(Day(2003, 5, 6), Day(2003, 5, 7));
-    appointment.Put(L"AllDayEvent", true);
-    EXPECT_EQ(L"2003-05-06 00:00 - 2003-05-07 00:00", Written(run::SpanOfItem(appointment)));
+    EXPECT_EQ(L"2003-05-06 00:00 - 2003-05-07 00:00", Written(run::SpanOfItem(AddAllDay(Day(2003, 5, 6)))));
 }
 
 TEST_F(CalendarSpan, ARepeatingAppointmentLastsToTheEndOfItsLastDay)

@@ -120,16 +120,6 @@ void CalendarTest::AddEntry(const Pairs& columns) const
     Execute(L"INSERT INTO Entries (" + names + L") SELECT " + literals);
 }
 
-Object CalendarTest::AddAppointment(automation::Date start, automation::Date end) const
-{
-    Object appointment = New(Calendar());
-    appointment.Put(L"Subject", L"Meeting");
-    appointment.Put(L"Start", start);
-    appointment.Put(L"End", end);
-    appointment.Call(L"Save");
-    return appointment;
-}
-
 data::Run CalendarTest::NewRun()
 {
     data::Run run{.Display = mDisplay};
@@ -183,11 +173,6 @@ CalendarTest::Columns CalendarTest::UpdateFirstAppointment()
     run.Pending.ChangedOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
     return Written();
-}
-
-Object CalendarTest::AppointmentAt(long position) const
-{
-    return Calendar().GetObject(L"Items").GetObject(L"Item", position);
 }
 
 std::vector<std::wstring> CalendarTest::CallsOf(const std::wstring& member) const

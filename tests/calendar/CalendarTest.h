@@ -5,8 +5,8 @@
 
 #include "data/Run.h"
 #include "sandbox/ado/Ado.h"
+#include "tests/calendar/AppointmentsTest.h"
 #include "tests/sandbox_host/DatabaseFile.h"
-#include "tests/sandbox_outlook/OutlookTest.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/RecordingHost.h"
 
@@ -18,19 +18,11 @@
 namespace test_support
 {
 
-using automation::Object;
-using automation::Value;
-using sandbox::At;
-using sandbox::Day;
-using sandbox::Number;
-using sandbox::Text;
-using sandbox::Truth;
-
 // The time of day of a member as "hh:mm", and its day as "yyyy-mm-dd".
 std::wstring TimeOf(const Object& object, const wchar_t* member);
 std::wstring DayOf(const Object& object, const wchar_t* member);
 
-class CalendarTest : public sandbox::OutlookTest
+class CalendarTest : public AppointmentsTest
 {
   protected:
     // Column and SQL literal, or host column and Outlook property.
@@ -46,17 +38,6 @@ class CalendarTest : public sandbox::OutlookTest
     void Relate(const Pairs& rows) const;
     // Adds a host entry "Meeting" on Tuesday 2003-05-06, 09:30 to 11:00; the pairs overwrite or add.
     void AddEntry(const Pairs& columns = {}) const;
-    // A saved appointment "Meeting" in the calendar folder with these bounds.
-    Object AddAppointment(automation::Date start, automation::Date end) const;
-    // The same, repeating; set is given the pattern.
-    template<typename Set>
-    Object AddRepeating(automation::Date start, automation::Date end, Set&& set) const
-    {
-        const Object appointment = AddAppointment(start, end);
-        set(appointment.GetObject(L"GetRecurrencePattern"));
-        appointment.Call(L"Save");
-        return appointment;
-    }
 
     // A run over the host entries and the calendar folder as they are now.
     data::Run NewRun();
@@ -70,8 +51,6 @@ class CalendarTest : public sandbox::OutlookTest
     Columns InsertFirstAppointment();
     Columns UpdateFirstAppointment();
 
-    Object AppointmentAt(long position) const;
-    long CountAppointments() const { return mMailbox->ItemCount(sandbox::kCalendar); }
     // The calls that the host has had of a member.
     std::vector<std::wstring> CallsOf(const std::wstring& member) const;
 

@@ -260,9 +260,7 @@ TEST_F(CalendarToOutlook, ThePassTellsTheDisplayInTheInterfaceLanguage)
 
 TEST_F(CalendarToOutlook, AnAllDayAppointmentStaysOne)
 {
-    const Object appointment = AddAppointment(Day(2003, 5, 1), Day(2003, 5, 2));
-    appointment.Put(L"AllDayEvent", true);
-    appointment.Call(L"Save");
+    AddAllDay(Day(2003, 5, 1));
     AddEntry({{L"F_ACTESTIME", L"'1899-12-30 06:00:00'"}, {L"ACT_DURATION", L"'1899-12-30 11:30:00'"}});
     const Object written = WriteExistingAppointment();
     EXPECT_TRUE(Truth(written, L"AllDayEvent"));

@@ -1,0 +1,248 @@
+#include "calendar/CalendarFromOutlook.h"
+
+#include "calendar/CalendarRelations.h"
+#include "data/RecordMode.h"
+#include "resources/Strings.h"
+#include "tests/calendar/CalendarTest.h"
+#include "tests/support/MessageBoxes.h"
+#include "tests/support/WithLanguage.h"
+
+namespace test_support
+{
+
+class CalendarWriting : public CalendarTest
+{
+  protected:
+    Object AddMeeting() const { return AddAppointment(Day(2003, 5, 6, 9, 30), Day(2003, 5, 6, 11, 0)); }
+
+    // Calls the writer for appointment 1 over host entry 1.
+    long Write(long mode)
+    {
+        data::Run run = NewRun();
+        run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
+        return calendar::SynOlCalendarToSynCalendar(run, mode, AppointmentAt(1));
+    }
+
+    // The messages during the writing of appointment 1, whose result must be this.
+    std::vector<ShownMessage> MessagesOf(long mode, long expectedResult)
+    {
+        long result = 1;
+        const auto messages = MessagesDuring([&] { result = Write(mode); });
+        EXPECT_EQ(expectedResult, result);
+        return messages;
+    }
+};
+
+TEST_F(CalendarWriting, AnAppointmentWithoutASubjectIsLeftOutSilently)
+{
+    const Object appointment = AddMeeting();
+    appointment.Put(L"Subject", L"");
+    appointment.Call(L"Save");
+    EXPECT_TRUE(MessagesOf(data::kNewRecord, 0).empty());
+    EXPECT_TRUE(MessagesOf(data::kExistingRecord, 0).empty());
+    EXPECT_TRUE(mHost->Calls.empty());
+}
+
+TEST_F(CalendarWriting, ANewRowTakesItsOwnColumnsBeforeTheMappedOneAndItsKeysLast)
+{
+    AddMeeting();
+    EXPECT_EQ(0, Write(data::kNewRecord));
+    const std::wstring expected =
+        L"Insert(TBLACTIVITY|F_ACTNAME,F_ACTTYPE,F_ACTESTIME,F_ACTESDATE,F_ACTREMIND,F_ACTEEDATE,F_ACTEETIME,"
+        L"F_ACTREPEATS,F_ACCID,F_ACTORID,F_CREATORID,F_ACTID|'Meeting','(Unspecified)','09:30:00',"
+        L"'05/06/2003',0,'05/06/2003','11:00:00',0,NULL,USER,USER,'KEY-1'|KEY-1)";
+    EXPECT_EQ(std::vector<std::wstring>{expected}, CallsOf(L"Insert"));
+}
+
+TEST_F(CalendarWriting, AnExistingRowIsUpdatedByItsKey)
+{
+    AddMeeting();
+    AddEntry();
+    EXPECT_EQ(0, Write(data::kExistingRecord));
+    const std::wstring expected =
+        L"Update(TBLACTIVITY|F_ACTNAME='Meeting',F_ACTTYPE='(Unspecified)',F_ACTESTIME='09:30:00',"
+        L"F_ACTESDATE='05/06/2003',F_ACTREMIND=0,F_ACTEEDATE='05/06/2003',F_ACTEETIME='11:00:00',"
+        L"F_ACTREPEATS=0,F_ACCID=NULL||F_ACTID='ACT1')";
+    EXPECT_EQ(std::vector<std::wstring>{expected}, CallsOf(L"Update"));
+}
+
+TEST_F(CalendarWriting, WithoutRelationRowsANewRowHasItsKeysOnly)
+{
+    Relate({});
+    AddMeeting();
+    mHost->Permission = 1; // no right to link an account, so that there is no other column either
+    EXPECT_EQ(0, Write(data::kNewRecord));
+    EXPECT_EQ(
+        std::vector<std::wstring>{
+            L"Insert(TBLACTIVITY|F_ACTORID,F_CREATORID,F_ACTID|USER,USER,'KEY-1'|KEY-1)"},
+        CallsOf(L"Insert"));
+}
+
+TEST_F(CalendarWriting, WithoutRelationRowsThereIsNothingToUpdate)
+{
+    Relate({});
+    AddMeeting();
+    AddEntry();
+    mHost->Permission = 1;
+    EXPECT_TRUE(MessagesOf(data::kExistingRecord, 0).empty());
+    EXPECT_TRUE(CallsOf(L"Update").empty());
+}
+
+TEST_F(CalendarWriting, RelationRowsThatNoRuleKnowsWriteNothing)
+{
+    Relate({{L"F_ACTNAME", L"Subject"}, {L"F_CNTCTID", L"Recipients"}, {L"F_ACTTYPE", L"categories"}});
+    AddMeeting();
+    const Columns written = InsertFirstAppointment();
+    EXPECT_FALSE(written.contains(L"F_CNTCTID"));
+    EXPECT_FALSE(written.contains(L"F_ACTTYPE"));
+    EXPECT_EQ(L"'Meeting'", written.at(L"F_ACTNAME"));
+}
+
+TEST_F(CalendarWriting, NeitherATransactionNorAContactLinkIsMade)
+{
+    const Object appointment = AddMeeting();
+    appointment.GetObject(L"Links").Call(L"Add", SavedContact(L"Mary", L"Smith"));
+    appointment.Call(L"Save");
+    EXPECT_FALSE(InsertFirstAppointment().contains(L"F_CNTCTID"));
+    for (const wchar_t* member : {L"BeginTrans", L"CommitTrans", L"RollbackTrans", L"InTransaction"})
+    {
+        EXPECT_TRUE(CallsOf(member).empty());
+    }
+}
+
+TEST_F(CalendarWriting, TheAccountOfTheCompanyIsLinked)
+{
+    const Object appointment = AddMeeting();
+    appointment.Put(L"Companies", L"Miller & Sons");
+    appointment.Call(L"Save");
+    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {{L"ACC-7"}}};
+    EXPECT_EQ(L"'ACC-7'", InsertFirstAppointment().at(L"F_ACCID"));
+    AddEntry();
+    EXPECT_EQ(L"'ACC-7'", UpdateFirstAppointment().at(L"F_ACCID"));
+}
+
+TEST_F(CalendarWriting, ARefusedInsertIsReportedWithTheColumnLastProcessed)
+{
+    AddMeeting();
+    mHost->Status[L"Insert"] = -1;
+    const WithLanguage english(resources::Language::English);
+    const std::vector<ShownMessage> expected{
+        {L"F_ACTREPEATS:The host reported a failure", L"Telvix", nullptr}};
+    EXPECT_EQ(expected, MessagesOf(data::kNewRecord, -1));
+    const WithLanguage chinese(resources::Language::Chinese);
+    EXPECT_EQ(L"F_ACTREPEATS:主系统报告操作失败", MessagesOf(data::kNewRecord, -1).at(0).text);
+}
+
+TEST_F(CalendarWriting, AnInsertThatAnswersZeroOrMoreCountsAsWritten)
+{
+    AddMeeting();
+    for (const long status : {0L, 1L, 7L})
+    {
+        mHost->Status[L"Insert"] = status;
+        EXPECT_TRUE(MessagesOf(data::kNewRecord, 0).empty());
+    }
+}
+
+TEST_F(CalendarWriting, AnUpdateThatAnswersAnythingButZeroIsRefused)
+{
+    AddMeeting();
+    AddEntry();
+    for (const long status : {1L, -1L})
+    {
+        mHost->Status[L"Update"] = status;
+        EXPECT_EQ(1u, MessagesOf(data::kExistingRecord, -1).size());
+    }
+}
+
+TEST_F(CalendarWriting, AnErrorThatTheHostRaisesWhileWritingIsARefusalInItsOwnWords)
+{
+    AddMeeting();
+    mHost->Failing = {L"Insert"};
+    EXPECT_EQ(L"F_ACTREPEATS:The host raised an error", MessagesOf(data::kNewRecord, -1).at(0).text);
+}
+
+TEST_F(CalendarWriting, AColumnThatTheCatalogueDoesNotKnowIsReportedAndNothingIsWritten)
+{
+    AddMeeting();
+    Execute(L"DELETE FROM SynFields WHERE FieldName='F_ACTREMIND'");
+    const std::vector<ShownMessage> messages = MessagesOf(data::kNewRecord, 0);
+    ASSERT_EQ(2u, messages.size());
+    EXPECT_EQ(L"Don't find F_ACTREMINDfield in table 'SynFields', can't format ", messages[0].text);
+    EXPECT_TRUE(messages[1].text.starts_with(L"F_ACTREMIND:"));
+    EXPECT_EQ(nullptr, messages[1].icon);
+    EXPECT_TRUE(CallsOf(L"Insert").empty());
+}
+
+TEST_F(CalendarWriting, AnAccountThatCannotBeLookedUpIsReportedAndNothingIsWritten)
+{
+    const Object appointment = AddMeeting();
+    appointment.Put(L"Companies", L"Miller & Sons");
+    appointment.Call(L"Save");
+    mHost->Status[L"OpenRecordsetByString"] = -1;
+    const std::vector<ShownMessage> messages = MessagesOf(data::kNewRecord, 0);
+    ASSERT_EQ(2u, messages.size());
+    EXPECT_EQ(L"ChangeAddTaskAccount", messages[0].caption);
+    EXPECT_TRUE(messages[1].text.starts_with(L"F_ACTREPEATS:"));
+    EXPECT_TRUE(CallsOf(L"Insert").empty());
+}
+
+TEST_F(CalendarWriting, RelationRowsThatCannotBeReadAreReported)
+{
+    AddMeeting();
+    Execute(L"DROP TABLE SynRelation");
+    const std::vector<ShownMessage> messages = MessagesOf(data::kNewRecord, 0);
+    ASSERT_EQ(1u, messages.size());
+    EXPECT_TRUE(messages[0].text.starts_with(L":"));
+}
+
+TEST_F(CalendarWriting, AModeOtherThanNewAndExistingDoesNothing)
+{
+    AddMeeting();
+    for (const long mode : {0L, 3L, -1L})
+    {
+        EXPECT_TRUE(MessagesOf(mode, 0).empty());
+    }
+    EXPECT_TRUE(mHost->Calls.empty());
+}
+
+TEST_F(CalendarWriting, APairIsWrittenOnlyWhenItsMarkIsZeroButTheProgressAdvances)
+{
+    AddMeeting();
+    AddEntry();
+    data::Run run = NewRun();
+    for (const long mark : {1L, 0L, 2L})
+    {
+        run.Pending.ChangedHostRecords.Add(1L, mark);
+        run.Pending.ChangedOutlookItems.Add(L"1", mark);
+    }
+    EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
+    EXPECT_EQ(1u, CallsOf(L"Update").size());
+    EXPECT_EQ(1.0, mDisplay.Progress.back());
+    EXPECT_EQ(resources::String(1044), mDisplay.Status);
+    EXPECT_FALSE(mDisplay.IsShown);
+}
+
+TEST_F(CalendarWriting, ThePassGoesOnAfterARefusedAppointment)
+{
+    AddMeeting();
+    AddMeeting();
+    mHost->Status[L"Insert"] = -1;
+    data::Run run = NewRun();
+    run.Pending.NewOutlookItems.Add(L"1", 0);
+    run.Pending.NewOutlookItems.Add(L"2", 0);
+    bool failed = true;
+    const auto messages = MessagesDuring([&] { failed = calendar::SynCalendarFromOutlook(run); });
+    EXPECT_FALSE(failed);
+    EXPECT_EQ(2u, messages.size());
+    EXPECT_EQ(2u, CallsOf(L"Insert").size());
+}
+
+TEST_F(CalendarWriting, AnItemThatIsGoneEndsThePass)
+{
+    data::Run run = NewRun();
+    run.Pending.NewOutlookItems.Add(L"1", 0);
+    EXPECT_TRUE(calendar::SynCalendarFromOutlook(run));
+    EXPECT_FALSE(mDisplay.IsShown);
+}
+
+} // namespace test_support

@@ -1,0 +1,158 @@
+#include "tests/calendar/ExchangeTest.h"
+
+#include "run/ChangeCollection.h"
+#include "state/SharedState.h"
+
+#include <map>
+
+namespace test_support
+{
+
+namespace
+{
+
+std::wstring NameOfRow(const data::Run& run, long position)
+{
+    run.HostRows.MoveTo(position);
+    return automation::TextOf(run.HostRows.ValueOf(L"F_ACTNAME"));
+}
+
+std::wstring NameOfItem(const data::Run& run, const std::wstring& position)
+{
+    return Text(run.Items.GetObject(L"Item", std::stol(position)), L"Subject");
+}
+
+} // namespace
+
+ExchangeTest::ExchangeTest()
+{
+    state::SharedState& shared = state::Shared();
+    shared.gDTC = mHost.Dtc();
+    shared.gCnnString = mHost.ConnectionString();
+    shared.gOlNamespace = mOutlook.GetObject(L"GetNamespace", L"MAPI");
+    shared.gCalendarStartTime = {6.0 / 24};
+    shared.gCalendarEndTime = {17.5 / 24};
+    shared.gCalendarPreviewAlarmTime = 20;
+    mHost.SetSysDateTime(Day(2003, 5, 6, 12, 0));
+}
+
+ExchangeTest::~ExchangeTest()
+{
+    state::Shared() = {};
+}
+
+void ExchangeTest::AddEntry(const std::wstring& name, const Pairs& columns)
+{
+    std::map<std::wstring, std::wstring> entry{
+        {L"F_ACTID", L"(SELECT 'ACT' || (COUNT(*) + 1) FROM TBLACTIVITY)"},
+        {L"F_ACTORID", std::to_wstring(mHost.UserId())},
+        {L"F_ACTNAME", L"'" + name + L"'"},
+        {L"F_ACTESDATE", L"'2003-05-06 00:00:00'"},
+        {L"F_ACTESTIME", L"'1899-12-30 09:30:00'"},
+        {L"F_ACTEETIME", L"'1899-12-30 11:00:00'"}};
+    for (const auto& [column, literal] : columns)
+    {
+        entry[column] = literal;
+    }
+    std::wstring names;
+    std::wstring literals;
+    for (const auto& [column, literal] : entry)
+    {
+        names += (names.empty() ? L"" : L",") + column;
+        literals += (literals.empty() ? L"" : L",") + literal;
+    }
+    mHost.Database().Execute(L"INSERT INTO TBLACTIVITY (" + names + L") VALUES (" + literals + L")");
+}
+
+void ExchangeTest::AddRepeatingEntry(const std::wstring& name, long rule, const std::wstring& firstDay,
+                                     const std::wstring& lastDay)
+{
+    AddEntry(name, {{L"F_ACTREPTIDX", std::to_wstring(rule)},
+                    {L"F_ACTESDATE", L"'" + firstDay + L" 00:00:00'"},
+                    {L"F_ACTREPTEDATE", lastDay.empty() ? L"NULL" : L"'" + lastDay + L" 00:00:00'"}});
+}
+
+data::Run ExchangeTest::OpenRun()
+{
+    data::Run run{.Display = mDisplay};
+    const data::Host host;
+    const run::Category& calendar = run::kCalendarCategory;
+    EXPECT_EQ(0, host.OpenRecordset(run.HostRows, calendar.RecordSource, calendar.SourceFilter(host)));
+    run.Folder = Calendar();
+    run.Items = run.Folder.GetObject(L"Items");
+    return run;
+}
+
+void ExchangeTest::Collect(data::Run& run, long transType, long conflictOption)
+{
+    state::Shared().gSynParameter.TransConflictOption = conflictOption;
+    run::ChangeCollection collection(run::kCalendarCategory, run);
+    if (transType != state::kOutlookToQuenlar)
+    {
+        EXPECT_FALSE(collection.CollectToOutlook());
+    }
+    if (transType != state::kQuenlarToOutlook)
+    {
+        EXPECT_FALSE(collection.CollectFromOutlook());
+    }
+}
+
+ExchangeTest::Proposals ExchangeTest::Propose(long transType, long conflictOption)
+{
+    data::Run run = OpenRun();
+    Collect(run, transType, conflictOption);
+    Proposals proposals;
+    for (const data::ClsSalesRecord& record : run.Pending.NewHostRecords)
+    {
+        proposals.NewInOutlook.insert(NameOfRow(run, record.RecordBookmark));
+    }
+    for (const data::ClsSalesRecord& record : run.Pending.ChangedHostRecords)
+    {
+        (record.RecordState == 1 ? proposals.ChangedInOutlook : proposals.ChangedInHost)
+            .insert(NameOfRow(run, record.RecordBookmark));
+    }
+    for (const data::ClsOlRecord& record : run.Pending.NewOutlookItems)
+    {
+        proposals.NewInHost.insert(NameOfItem(run, record.ItemIndex));
+    }
+    automation::CloseRecordset(run.HostRows);
+    return proposals;
+}
+
+void ExchangeTest::Exchange(long transType, long conflictOption)
+{
+    data::Run run = OpenRun();
+    Collect(run, transType, conflictOption);
+    if (transType != state::kOutlookToQuenlar)
+    {
+        EXPECT_FALSE(run::kCalendarCategory.ApplyToOutlook(run));
+    }
+    if (transType != state::kQuenlarToOutlook)
+    {
+        EXPECT_FALSE(run::kCalendarCategory.ApplyFromOutlook(run));
+    }
+    EXPECT_EQ(L"", mHost.LastRejection());
+    automation::CloseRecordset(run.HostRows);
+}
+
+void ExchangeTest::ExpectAllMatched()
+{
+    const Proposals proposals = Propose(state::kBothWays, state::kNotifyMe);
+    EXPECT_EQ(Names{}, proposals.NewInOutlook);
+    EXPECT_EQ(Names{}, proposals.NewInHost);
+    EXPECT_EQ(static_cast<size_t>(CountEntries()), proposals.ChangedInOutlook.size());
+    EXPECT_EQ(static_cast<size_t>(CountAppointments()), proposals.ChangedInHost.size());
+}
+
+std::wstring ExchangeTest::Stored(const std::wstring& column)
+{
+    return automation::TextOrEmpty(
+        mHost.Database().QueryValue(L"SELECT CAST(" + column + L" AS TEXT) FROM TBLACTIVITY"));
+}
+
+long ExchangeTest::CountEntries()
+{
+    return automation::LongOf(mHost.Database().QueryValue(L"SELECT COUNT(*) FROM TBLACTIVITY"));
+}
+
+} // namespace test_support

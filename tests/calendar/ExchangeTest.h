@@ -1,0 +1,65 @@
+// Calendars that are exchanged for real: the host's stand-in over its database, Outlook's stand-in, and the
+// component's own collection and workers between them; only the dialogs are left out.
+#pragma once
+
+#include "data/Run.h"
+#include "sandbox/ado/Ado.h"
+#include "sandbox/host/Host.h"
+#include "state/SynParameter.h"
+#include "tests/calendar/AppointmentsTest.h"
+#include "tests/support/RecordingDisplay.h"
+
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace test_support
+{
+
+class ExchangeTest : public AppointmentsTest
+{
+  protected:
+    // Column and SQL literal.
+    using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
+    using Names = std::multiset<std::wstring>;
+
+    // What a run would do to each side: the names of the records that it proposes.
+    struct Proposals
+    {
+        Names NewInOutlook;
+        Names ChangedInOutlook;
+        Names NewInHost;
+        Names ChangedInHost;
+    };
+
+    // The host's clock stands at noon of Tuesday 2003-05-06; all entries are exchanged.
+    ExchangeTest();
+    ~ExchangeTest() override;
+
+    // Adds a host entry of the signed-in user on 2003-05-06, 09:30 to 11:00; the pairs overwrite or add.
+    void AddEntry(const std::wstring& name, const Pairs& columns = {});
+    void AddRepeatingEntry(const std::wstring& name, long rule, const std::wstring& firstDay,
+                           const std::wstring& lastDay);
+
+    // What a run in these directions would propose.
+    Proposals Propose(long transType, long conflictOption);
+    // Collects and writes, without asking.
+    void Exchange(long transType, long conflictOption);
+    // Fails the test unless a run in both directions has nothing new and no pair is missed.
+    void ExpectAllMatched();
+
+    std::wstring Stored(const std::wstring& column);
+    long CountEntries();
+
+    sandbox::Host mHost;
+    RecordingDisplay mDisplay;
+
+  private:
+    data::Run OpenRun();
+    void Collect(data::Run& run, long transType, long conflictOption);
+
+    sandbox::AdoInProcess mAdo;
+};
+
+} // namespace test_support
