@@ -36,7 +36,11 @@ ItemKind KindOfItemType(const Value& type)
     {
         FailTypeMismatch(L"ItemType");
     }
-    const auto kind = static_cast<ItemKind>(automation::LongOf(type));
+    constexpr auto kNone = static_cast<ItemKind>(-1);
+    const std::wstring text = automation::TextOf(type);
+    const bool isNumber = !text.empty() && text.find_first_not_of(L"-0123456789") == std::wstring::npos;
+    const ItemKind kind =
+        isNumber ? static_cast<ItemKind>(automation::LongOf(type)) : KindOfMessageClass(text, kNone);
     if (std::ranges::find(kItemTypes, kind) == std::end(kItemTypes))
     {
         FailInvalid(L"ItemType", L"The item type is not valid.");

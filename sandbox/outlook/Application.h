@@ -40,7 +40,8 @@ class NameSpaceObject : public OutlookObject
 // Application objects alive in this process.
 long LiveApplications() noexcept;
 
-// The kind that an OlItemType value stands for; throws automation::Error for another value.
+// The kind that an OlItemType value or a message class ("IPM.Contact") stands for; throws automation::Error
+// for another value.
 ItemKind KindOfItemType(const Value& type);
 // The kind of item that Outlook's default folder of this number (OlDefaultFolders) holds; throws
 // automation::Error for another number.

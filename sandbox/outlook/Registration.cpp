@@ -3,6 +3,8 @@
 #include "automation/Error.h"
 #include "sandbox/outlook/ClassObject.h"
 
+#include <cwchar>
+
 #include <objbase.h>
 
 namespace sandbox::outlook
@@ -16,6 +18,7 @@ const HKEY kClassesRoot = HKEY_LOCAL_MACHINE;
 constexpr const wchar_t* kClasses = L"Software\\Classes\\";
 constexpr const wchar_t* kSettings = L"Software\\TelvixSandbox";
 constexpr const wchar_t* kMailboxValue = L"Mailbox";
+constexpr const wchar_t* kDelayValue = L"StartDelay";
 constexpr const wchar_t* kMailboxVariable = L"TELVIX_SANDBOX_MAILBOX";
 
 struct ServedClass
@@ -50,6 +53,21 @@ std::wstring ReadText(HKEY root, const std::wstring& key, const wchar_t* name)
     DWORD size = sizeof text;
     const LSTATUS status = RegGetValueW(root, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
     return status == ERROR_SUCCESS ? std::wstring(text) : std::wstring();
+}
+
+// A setting of the sandbox; an empty text removes it.
+void SetOrRemove(const wchar_t* name, const std::wstring& text)
+{
+    if (!text.empty())
+    {
+        SetText(HKEY_CURRENT_USER, kSettings, name, text);
+        return;
+    }
+    const LSTATUS status = RegDeleteKeyValueW(HKEY_CURRENT_USER, kSettings, name);
+    if (status != ERROR_FILE_NOT_FOUND)
+    {
+        Check(status, kSettings);
+    }
 }
 
 void DeleteKey(const std::wstring& key)
@@ -109,16 +127,17 @@ std::wstring ChosenMailbox()
 
 void ChooseMailbox(const std::wstring& path)
 {
-    if (!path.empty())
-    {
-        SetText(HKEY_CURRENT_USER, kSettings, kMailboxValue, path);
-        return;
-    }
-    const LSTATUS status = RegDeleteKeyValueW(HKEY_CURRENT_USER, kSettings, kMailboxValue);
-    if (status != ERROR_FILE_NOT_FOUND)
-    {
-        Check(status, kSettings);
-    }
+    SetOrRemove(kMailboxValue, path);
+}
+
+long ChosenStartDelay()
+{
+    return std::wcstol(ReadText(HKEY_CURRENT_USER, kSettings, kDelayValue).c_str(), nullptr, 10);
+}
+
+void ChooseStartDelay(long milliseconds)
+{
+    SetOrRemove(kDelayValue, milliseconds == 0 ? std::wstring() : std::to_wstring(milliseconds));
 }
 
 } // namespace sandbox::outlook

@@ -22,4 +22,10 @@ std::wstring ChosenMailbox();
 // Sets the registry value; an empty path removes it. Throws automation::Error.
 void ChooseMailbox(const std::wstring& path);
 
+// How long a server that is started waits before it lets itself be found, in milliseconds: the value
+// "StartDelay" of the same key, 0 where there is none.
+long ChosenStartDelay();
+// Sets the registry value; 0 removes it. Throws automation::Error.
+void ChooseStartDelay(long milliseconds);
+
 } // namespace sandbox::outlook

@@ -91,8 +91,14 @@ TEST_F(Items, AnItemOfAnotherTypeKeepsItsOwnType)
 {
     const auto task = Contacts().GetObject(L"Items").GetObject(L"Add", 3);
     EXPECT_EQ(L"IPM.Task", Text(task, L"MessageClass"));
-    EXPECT_EQ(L"The item type is not valid.",
-              FailureOf([&] { Contacts().GetObject(L"Items").GetObject(L"Add", 99); }));
+    EXPECT_EQ(L"IPM.Task",
+              Text(Contacts().GetObject(L"Items").GetObject(L"Add", L"IPM.Task"), L"MessageClass"));
+    for (const automation::Value& type : {automation::Value(99), automation::Value(4),
+                                          automation::Value(L"IPM.Nonsense"), automation::Value(L"")})
+    {
+        EXPECT_EQ(L"The item type is not valid.",
+                  FailureOf([&] { Contacts().GetObject(L"Items").GetObject(L"Add", type); }));
+    }
 }
 
 TEST_F(Items, CreationAndModificationAreStampedBySaving)

@@ -135,6 +135,31 @@ TEST_F(MailboxFile, AnItemThatCannotBeWrittenIsReportedAndStaysUnsaved)
     EXPECT_FALSE(Truth(contact, L"Saved"));
 }
 
+TEST_F(MailboxFile, TextsOfEveryKindAreSavedAndReadBack)
+{
+    const std::wstring texts[] = {
+        L"'", L"\"", L"\r\n\t", L"\u0001\u001F", L"\U0001F4C5", L"%_;--", std::wstring(40000, L'王')};
+    const auto mailbox = OpenMailbox(mPath);
+    for (const std::wstring& text : texts)
+    {
+        mailbox->AddItem(L"邮箱\\Contacts", {{L"LastName", text}});
+    }
+    const auto again = OpenMailbox(mPath);
+    for (long i = 0; i < static_cast<long>(std::size(texts)); ++i)
+    {
+        EXPECT_EQ(texts[i], automation::TextOf(again->ItemProperty(L"邮箱\\Contacts", i + 1, L"LastName")))
+            << i;
+    }
+}
+
+TEST_F(MailboxFile, ATextThatIsNoUnicodeIsSavedWithoutFailing)
+{
+    const auto mailbox = OpenMailbox(mPath);
+    mailbox->AddItem(L"邮箱\\Contacts", {{L"LastName", std::wstring(L"a\xD800z")}});
+    mailbox->AddItem(L"邮箱\\Contacts", {{L"LastName", std::wstring(L"a\0z", 3)}});
+    EXPECT_EQ(2, OpenMailbox(mPath)->ItemCount(L"邮箱\\Contacts"));
+}
+
 TEST_F(MailboxFile, KnowsWhetherSomebodyElseHasChangedIt)
 {
     const auto mailbox = OpenMailbox(mPath);

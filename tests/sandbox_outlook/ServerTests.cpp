@@ -181,6 +181,16 @@ TEST_F(OutlookServerLife, TakesTheMailboxOfTheEnvironmentWhereNoneIsChosen)
     EXPECT_EQ(L"邮箱", Text(outlook.GetObject(L"Session").GetObject(L"Folders", 1), L"Name"));
 }
 
+TEST_F(OutlookServerLife, IsWaitedForWhenItIsSlowToStart)
+{
+    outlook::ChooseStartDelay(2000);
+    const ULONGLONG begin = GetTickCount64();
+    const auto outlook = Outlook();
+    outlook::ChooseStartDelay(0);
+    EXPECT_EQ(L"Outlook", Text(outlook, L"Name"));
+    EXPECT_GE(GetTickCount64() - begin, 2000u);
+}
+
 TEST_F(OutlookServerLife, IsNotToBeHadWithoutAReadableMailbox)
 {
     outlook::ChooseMailbox(mPath + L".none");

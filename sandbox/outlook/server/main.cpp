@@ -23,6 +23,8 @@ std::wstring OwnPath()
 void Serve()
 {
     automation::Check(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), L"CoInitializeEx");
+    // The real Outlook takes its time to start.
+    Sleep(static_cast<DWORD>(sandbox::outlook::ChosenStartDelay()));
     {
         sandbox::outlook::Server server;
         server.Run();
