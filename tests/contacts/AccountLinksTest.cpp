@@ -1,5 +1,5 @@
 // The account and the address that a contact from Outlook is linked to.
-#include "tests/contacts/ContactsFromOutlookFixture.h"
+#include "tests/contacts/ContactsFixture.h"
 
 #include "tests/support/MessageBoxes.h"
 
@@ -14,7 +14,7 @@ constexpr long kAddRight = 2;
 constexpr long kModifyRight = 4;
 constexpr const wchar_t* kAddressOfContact = L"SELECT ADDR_CITY || '/' || ADDR_POSTALCODE FROM VW_CONTACT";
 
-class AccountLinks : public test_support::ContactsFromOutlookFixture
+class AccountLinks : public test_support::ContactsFixture
 {
   protected:
     // An item with a company in a city.

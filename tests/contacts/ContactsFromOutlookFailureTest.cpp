@@ -1,6 +1,6 @@
 // Nothing is lost or half-written when the host or Outlook refuses: each contact is written whole or not at
 // all, and the walk goes on.
-#include "tests/contacts/ContactsFromOutlookFixture.h"
+#include "tests/contacts/ContactsFixture.h"
 
 #include "automation/Error.h"
 #include "sandbox/outlook/CallCounter.h"
@@ -12,7 +12,7 @@ namespace
 using test_support::Day;
 using test_support::MessagesDuring;
 
-class ContactsFromOutlookFailure : public test_support::ContactsFromOutlookFixture
+class ContactsFromOutlookFailure : public test_support::ContactsFixture
 {
   protected:
     long AddEmployee(const std::wstring& name, const std::wstring& company)

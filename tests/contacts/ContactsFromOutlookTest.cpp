@@ -1,4 +1,4 @@
-#include "tests/contacts/ContactsFromOutlookFixture.h"
+#include "tests/contacts/ContactsFixture.h"
 
 #include "sandbox/outlook/CallCounter.h"
 #include "tests/support/MessageBoxes.h"
@@ -14,7 +14,7 @@ using test_support::MessagesDuring;
 using test_support::ShownMessage;
 using test_support::WithLanguage;
 
-using ContactsFromOutlook = test_support::ContactsFromOutlookFixture;
+using ContactsFromOutlook = test_support::ContactsFixture;
 
 constexpr const wchar_t* kBothNames = L"SELECT F_SURNAME || '/' || F_GIVENNAME FROM TBLCONTACT";
 

@@ -3,7 +3,7 @@
 #include "automation/Error.h"
 #include "state/SharedState.h"
 #include "tasks/TasksToOutlook.h"
-#include "tests/tasks/CallCounter.h"
+#include "tests/support/CallCounter.h"
 #include "tests/tasks/TaskTest.h"
 
 namespace

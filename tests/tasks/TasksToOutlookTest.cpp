@@ -4,7 +4,7 @@
 #include "state/SharedState.h"
 #include "tasks/TaskRelations.h"
 #include "tests/support/WithLanguage.h"
-#include "tests/tasks/CallCounter.h"
+#include "tests/support/CallCounter.h"
 #include "tests/tasks/TaskTest.h"
 
 namespace

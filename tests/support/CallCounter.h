@@ -1,4 +1,5 @@
-// Counts the calls that reach this process's stand-ins, by "Class.Member", for the length of a scope.
+// Counts the calls that reach this process's stand-ins, by "Class.Member", for the length of a scope. Header
+// only; for programs of tests that link stand-ins.
 #pragma once
 
 #include "sandbox/dispatch/DispatchObject.h"

@@ -1,13 +1,15 @@
-// What the tests of contacts from Outlook share: the host with its catalogue and no rows of its own, an empty
-// mailbox, the English interface, and runs over both.
+// What the tests of contacts share: the host with its catalogue and no rows of its own, an empty mailbox, the
+// English interface, and runs over both in either direction.
 #pragma once
 
 #include "automation/Dates.h"
 #include "contacts/ContactsFromOutlook.h"
+#include "contacts/ContactsToOutlook.h"
 #include "data/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/CallCounter.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/WithLanguage.h"
 
@@ -25,13 +27,14 @@ inline automation::Date Day(int year, int month, int day, int hour = 0, int minu
     return automation::DateOf(automation::Moment{year, month, day, hour, minute});
 }
 
-class ContactsFromOutlookFixture : public testing::Test
+class ContactsFixture : public testing::Test
 {
   protected:
     using Properties = sandbox::Mailbox::NamedValues;
+    using Value = automation::Value;
 
-    ContactsFromOutlookFixture();
-    ~ContactsFromOutlookFixture() override;
+    ContactsFixture();
+    ~ContactsFixture() override;
 
     // Adds a contact item and returns its position.
     long AddItem(const Properties& properties);
@@ -45,6 +48,18 @@ class ContactsFromOutlookFixture : public testing::Test
     bool Overwrite(const std::vector<std::pair<long, long>>& pairs);
     // The writer alone, on an item.
     long Write(long mode, long position);
+
+    // Adds a contact row of the signed-in user and returns its position. Values are SQL literals.
+    long AddRow(const std::vector<std::pair<std::wstring, std::wstring>>& columns);
+    // The apply pass towards Outlook with these rows as additions, in this order; its result.
+    bool Export(const std::vector<long>& rows);
+    // The apply pass towards Outlook with these pairs of a row and its item as modifications.
+    bool OverwriteItems(const std::vector<std::pair<long, long>>& pairs);
+
+    long CountItems();
+    Value PropertyOf(long position, const std::wstring& property);
+    // A property as text.
+    std::wstring TextIn(long position, const std::wstring& property);
 
     // Makes these the relation rows of contacts: host column and Outlook property.
     void Relate(const std::vector<std::pair<std::wstring, std::wstring>>& rows);

@@ -1,4 +1,4 @@
-#include "tests/contacts/ContactsFromOutlookFixture.h"
+#include "tests/contacts/ContactsFixture.h"
 
 #include "data/Host.h"
 #include "state/SharedState.h"
@@ -16,31 +16,31 @@ constexpr long kContactsFolder = 10; // olFolderContacts
 
 } // namespace
 
-ContactsFromOutlookFixture::ContactsFromOutlookFixture()
+ContactsFixture::ContactsFixture()
 {
     state::Shared().gDTC = TheHost.Dtc();
     state::Shared().gCnnString = TheHost.ConnectionString();
 }
 
-ContactsFromOutlookFixture::~ContactsFromOutlookFixture()
+ContactsFixture::~ContactsFixture()
 {
     state::Shared().gDTC = {};
     state::Shared().gCnnString.clear();
 }
 
-long ContactsFromOutlookFixture::AddItem(const Properties& properties)
+long ContactsFixture::AddItem(const Properties& properties)
 {
     return Mailbox->AddItem(kFolder, properties);
 }
 
-long ContactsFromOutlookFixture::AddNamedItem(Properties properties)
+long ContactsFixture::AddNamedItem(Properties properties)
 {
     properties.emplace_back(L"LastName", L"Miller");
     properties.emplace_back(L"FirstName", L"Ann");
     return AddItem(properties);
 }
 
-data::Run ContactsFromOutlookFixture::NewRun()
+data::Run ContactsFixture::NewRun()
 {
     const Object folder =
         Outlook.GetObject(L"GetNamespace", L"MAPI").GetObject(L"GetDefaultFolder", kContactsFolder);
@@ -49,7 +49,7 @@ data::Run ContactsFromOutlookFixture::NewRun()
     return {Display, rows, folder, folder.GetObject(L"Items"), {}, {}, {}};
 }
 
-bool ContactsFromOutlookFixture::Import(const std::vector<long>& positions)
+bool ContactsFixture::Import(const std::vector<long>& positions)
 {
     data::Run run = NewRun();
     for (const long position : positions)
@@ -59,7 +59,7 @@ bool ContactsFromOutlookFixture::Import(const std::vector<long>& positions)
     return contacts::SynContactFromOutlook(run);
 }
 
-bool ContactsFromOutlookFixture::Overwrite(const std::vector<std::pair<long, long>>& pairs)
+bool ContactsFixture::Overwrite(const std::vector<std::pair<long, long>>& pairs)
 {
     data::Run run = NewRun();
     for (const auto& [item, row] : pairs)
@@ -70,14 +70,63 @@ bool ContactsFromOutlookFixture::Overwrite(const std::vector<std::pair<long, lon
     return contacts::SynContactFromOutlook(run);
 }
 
-long ContactsFromOutlookFixture::Write(long mode, long position)
+long ContactsFixture::Write(long mode, long position)
 {
     data::Run run = NewRun();
     run.Relations.Use(L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'", {});
     return contacts::SynOlContactToSynContact(run, mode, run.Items.GetObject(L"Item", position));
 }
 
-void ContactsFromOutlookFixture::Relate(const std::vector<std::pair<std::wstring, std::wstring>>& rows)
+long ContactsFixture::AddRow(const std::vector<std::pair<std::wstring, std::wstring>>& columns)
+{
+    std::wstring names = L"F_CNTCTID,F_CREATORID";
+    std::wstring values = L"lower(hex(randomblob(16)))," + std::to_wstring(TheHost.UserId());
+    for (const auto& [name, value] : columns)
+    {
+        names += L"," + name;
+        values += L"," + value;
+    }
+    Execute(L"INSERT INTO TBLCONTACT (" + names + L") VALUES (" + values + L")");
+    return Count(L"TBLCONTACT");
+}
+
+bool ContactsFixture::Export(const std::vector<long>& rows)
+{
+    data::Run run = NewRun();
+    for (const long row : rows)
+    {
+        run.Pending.NewHostRecords.Add(row, 0);
+    }
+    return contacts::SynContactToOutlook(run);
+}
+
+bool ContactsFixture::OverwriteItems(const std::vector<std::pair<long, long>>& pairs)
+{
+    data::Run run = NewRun();
+    for (const auto& [row, item] : pairs)
+    {
+        run.Pending.ChangedHostRecords.Add(row, 1);
+        run.Pending.ChangedOutlookItems.Add(std::to_wstring(item), 1);
+    }
+    return contacts::SynContactToOutlook(run);
+}
+
+long ContactsFixture::CountItems()
+{
+    return Mailbox->ItemCount(kFolder);
+}
+
+automation::Value ContactsFixture::PropertyOf(long position, const std::wstring& property)
+{
+    return Mailbox->ItemProperty(kFolder, position, property);
+}
+
+std::wstring ContactsFixture::TextIn(long position, const std::wstring& property)
+{
+    return automation::TextOf(PropertyOf(position, property));
+}
+
+void ContactsFixture::Relate(const std::vector<std::pair<std::wstring, std::wstring>>& rows)
 {
     Execute(L"DELETE FROM SynRelation WHERE QuenlarTblName='TBLCONTACT'");
     for (const auto& [column, property] : rows)
@@ -87,7 +136,7 @@ void ContactsFromOutlookFixture::Relate(const std::vector<std::pair<std::wstring
     }
 }
 
-std::wstring ContactsFromOutlookFixture::Found(const std::wstring& sql)
+std::wstring ContactsFixture::Found(const std::wstring& sql)
 {
     const automation::Value value = TheHost.Database().QueryValue(sql);
     return automation::IsEmptyOrNull(value) ? L"NULL"
@@ -96,7 +145,7 @@ std::wstring ContactsFromOutlookFixture::Found(const std::wstring& sql)
                : automation::TextOf(value);
 }
 
-bool ContactsFromOutlookFixture::NothingWritten()
+bool ContactsFixture::NothingWritten()
 {
     return !TheHost.Database().InTransaction() && Count(L"TBLCONTACT") == 0 && Count(L"TBLACCOUNT") == 0 &&
            Count(L"TBLACCINFO") == 0 && Count(L"TBLADDRESS") == 0;
