@@ -6,12 +6,20 @@ namespace sandbox
 namespace
 {
 
-constexpr const wchar_t* kSurnames[] = {L"王", L"李", L"张", L"刘", L"陈", L"杨", L"赵",   L"黄",  L"周",
-                                        L"吴", L"徐", L"孙", L"胡", L"朱", L"高", L"欧阳", L"司马"};
+constexpr PersonName kSurnames[] = {
+    {L"王", L"wang"},     {L"李", L"li"},    {L"张", L"zhang"}, {L"刘", L"liu"},  {L"陈", L"chen"},
+    {L"杨", L"yang"},     {L"赵", L"zhao"},  {L"黄", L"huang"}, {L"周", L"zhou"}, {L"吴", L"wu"},
+    {L"徐", L"xu"},       {L"孙", L"sun"},   {L"胡", L"hu"},    {L"朱", L"zhu"},  {L"高", L"gao"},
+    {L"欧阳", L"ouyang"}, {L"司马", L"sima"}};
 
-constexpr const wchar_t* kGivenNames[] = {L"伟",   L"芳",   L"娜",   L"秀英", L"敏",   L"静",   L"丽",
-                                          L"强",   L"磊",   L"洋",   L"艳",   L"建国", L"晓明", L"小红",
-                                          L"志远", L"雨桐", L"国庆", L"海燕", L"思源"};
+constexpr GivenName kGivenNames[] = {
+    {{L"伟", L"wei"}, L"先生"},        {{L"芳", L"fang"}, L"女士"},       {{L"娜", L"na"}, L"女士"},
+    {{L"秀英", L"xiuying"}, L"女士"},  {{L"敏", L"min"}, L"女士"},        {{L"静", L"jing"}, L"女士"},
+    {{L"丽", L"li"}, L"女士"},         {{L"强", L"qiang"}, L"先生"},      {{L"磊", L"lei"}, L"先生"},
+    {{L"洋", L"yang"}, L"先生"},       {{L"艳", L"yan"}, L"女士"},        {{L"建国", L"jianguo"}, L"先生"},
+    {{L"晓明", L"xiaoming"}, L"先生"}, {{L"小红", L"xiaohong"}, L"女士"}, {{L"志远", L"zhiyuan"}, L"先生"},
+    {{L"雨桐", L"yutong"}, L"女士"},   {{L"国庆", L"guoqing"}, L"先生"},  {{L"海燕", L"haiyan"}, L"女士"},
+    {{L"思源", L"siyuan"}, L"先生"}};
 
 constexpr Company kCompanies[] = {
     {L"北京华信科技有限公司", L"huaxin.example"}, {L"上海东方贸易公司", L"dongfang.example"},
@@ -50,8 +58,8 @@ constexpr const wchar_t* kTaskSubjects[] = {
 constexpr const wchar_t* kEntrySubjects[] = {L"拜访客户", L"产品演示", L"合同谈判", L"商务午餐",
                                              L"展览会",   L"现场培训", L"设备验收", L"电话会议"};
 
-constexpr const wchar_t* kRepeatedSubjects[] = {L"晨会",     L"销售例会", L"月度报告", L"季度洽谈",
-                                                L"半年盘点", L"生日问候", L"预算评审", L"客户回访"};
+constexpr const wchar_t* kRepeatedSubjects[] = {L"晨会",     L"销售例会", L"月度报告",
+                                                L"季度洽谈", L"半年盘点", L"生日问候"};
 
 constexpr const wchar_t* kCategories[] = {L"商务", L"电话", L"重要客户", L"内部"};
 

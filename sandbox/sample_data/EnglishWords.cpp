@@ -6,14 +6,33 @@ namespace sandbox
 namespace
 {
 
-constexpr const wchar_t* kSurnames[] = {
-    L"O'Brien",  L"Müller",   L"Smith",    L"Johnson", L"García",  L"Dubois",  L"Rossi",   L"Kowalski",
-    L"Andersen", L"van Dijk", L"D'Angelo", L"Novák",   L"Fischer", L"MacLeod", L"Åkesson", L"Peña",
-    L"Thompson", L"Keller",   L"Lefèvre",  L"Bianchi", L"Walker",  L"Schröder"};
+constexpr PersonName kSurnames[] = {
+    {L"O'Brien", L"obrien"},    {L"Müller", L"mueller"},    {L"Smith", L"smith"},
+    {L"Johnson", L"johnson"},   {L"García", L"garcia"},     {L"Dubois", L"dubois"},
+    {L"Rossi", L"rossi"},       {L"Kowalski", L"kowalski"}, {L"Andersen", L"andersen"},
+    {L"van Dijk", L"vandijk"},  {L"D'Angelo", L"dangelo"},  {L"Novák", L"novak"},
+    {L"Fischer", L"fischer"},   {L"MacLeod", L"macleod"},   {L"Åkesson", L"akesson"},
+    {L"Peña", L"pena"},         {L"Thompson", L"thompson"}, {L"Keller", L"keller"},
+    {L"Lefèvre", L"lefevre"},   {L"Bianchi", L"bianchi"},   {L"Walker", L"walker"},
+    {L"Schröder", L"schroeder"}};
 
-constexpr const wchar_t* kGivenNames[] = {
-    L"Anna", L"Patrick",   L"Jürgen", L"Sofía",   L"Emily",      L"Thomas", L"Chloé",   L"Marco", L"Ewa",
-    L"Lars", L"Charlotte", L"David",  L"Siobhán", L"Hans-Peter", L"Laura",  L"Michael", L"Zoë"};
+constexpr GivenName kGivenNames[] = {{{L"Anna", L"anna"}, L"Ms."},
+                                     {{L"Patrick", L"patrick"}, L"Mr."},
+                                     {{L"Jürgen", L"juergen"}, L"Mr."},
+                                     {{L"Sofía", L"sofia"}, L"Ms."},
+                                     {{L"Emily", L"emily"}, L"Ms."},
+                                     {{L"Thomas", L"thomas"}, L"Mr."},
+                                     {{L"Chloé", L"chloe"}, L"Ms."},
+                                     {{L"Marco", L"marco"}, L"Mr."},
+                                     {{L"Ewa", L"ewa"}, L"Ms."},
+                                     {{L"Lars", L"lars"}, L"Mr."},
+                                     {{L"Charlotte", L"charlotte"}, L"Ms."},
+                                     {{L"David", L"david"}, L"Mr."},
+                                     {{L"Siobhán", L"siobhan"}, L"Ms."},
+                                     {{L"Hans-Peter", L"hans-peter"}, L"Mr."},
+                                     {{L"Laura", L"laura"}, L"Ms."},
+                                     {{L"Michael", L"michael"}, L"Mr."},
+                                     {{L"Zoë", L"zoe"}, L"Ms."}};
 
 constexpr Company kCompanies[] = {{L"O'Brien & Söhne GmbH", L"obrien-soehne.example"},
                                   {L"Northwind Traders Ltd.", L"northwind.example"},
@@ -73,9 +92,8 @@ constexpr const wchar_t* kEntrySubjects[] = {
     L"Lunch with the buyer",    L"Trade fair",           L"Training on site",
     L"Acceptance test",         L"Telephone conference"};
 
-constexpr const wchar_t* kRepeatedSubjects[] = {L"Morning round",   L"Sales meeting",  L"Monthly report",
-                                                L"Quarterly talks", L"Stocktaking",    L"Birthday call",
-                                                L"Budget review",   L"Customer survey"};
+constexpr const wchar_t* kRepeatedSubjects[] = {L"Morning round",   L"Sales meeting", L"Monthly report",
+                                                L"Quarterly talks", L"Stocktaking",   L"Birthday call"};
 
 constexpr const wchar_t* kCategories[] = {L"Business", L"Phone calls", L"Key Customer", L"Ideas"};
 

@@ -75,7 +75,7 @@ SampleRecords NumberedRecords(size_t first, size_t count)
     {
         if (records.accounts.empty() || records.accounts.back().name != CompanyOf(number))
         {
-            records.accounts.push_back({CompanyOf(number), std::nullopt, false});
+            records.accounts.push_back({CompanyOf(number), std::nullopt, false, L"", L""});
         }
         records.contacts.push_back(Contact(number));
         records.tasks.push_back(Task(number));

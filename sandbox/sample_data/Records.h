@@ -27,6 +27,8 @@ struct SampleAccount
     std::wstring name;
     std::optional<SampleAddress> address;
     bool isChinese = false;
+    std::wstring mailDomain;
+    std::wstring dialCode;
 };
 
 struct SampleContact

@@ -3,7 +3,6 @@
 #include "automation/Dates.h"
 #include "automation/Text.h"
 
-#include <cwctype>
 #include <iterator>
 
 namespace sandbox
@@ -16,7 +15,8 @@ using automation::Date;
 using automation::PlusTime;
 
 constexpr size_t kWithoutCompany = 12; // every so many contacts
-constexpr long kDays = 90;             // that the sample data reaches before and after its day
+constexpr int kDaysOfEveryMonth = 28;
+constexpr long kDays = 90; // that the sample data reaches before and after its day
 
 const Words& WordsOf(bool isChinese)
 {
@@ -33,17 +33,9 @@ std::wstring DayText(Date day)
     return automation::Formatted(day, L"yyyy-mm-dd");
 }
 
-std::wstring Lower(const std::wstring& text)
+bool IsChineseRecord(const SampleRecords& records, const std::optional<size_t>& contact, bool otherwise)
 {
-    std::wstring letters;
-    for (const wchar_t c : text)
-    {
-        if (c < 128 && std::iswalpha(c) != 0)
-        {
-            letters += static_cast<wchar_t>(std::towlower(c));
-        }
-    }
-    return letters;
+    return contact ? records.contacts[*contact].surname.front() >= 0x4E00 : otherwise;
 }
 
 } // namespace
@@ -58,9 +50,9 @@ std::wstring SampleMaker::Number(size_t digits)
     return text;
 }
 
-std::wstring SampleMaker::PhoneIn(const Place& place)
+std::wstring SampleMaker::Phone(const std::wstring& dialCode, unsigned percent)
 {
-    return std::wstring(place.dialCode) + L" " + Number(7);
+    return Chance(percent) ? dialCode + L" " + Number(7) : L"";
 }
 
 SampleAddress SampleMaker::AddressIn(const Place& place)
@@ -106,9 +98,9 @@ std::vector<SampleAccount> SampleMaker::Accounts(size_t first, size_t count,
         const bool isChinese = i % 2 != 0;
         const Words& words = WordsOf(isChinese);
         const Place& place = words.places[Below(words.places.size())];
-        SampleAccount account{words.companies[i / 2 % words.companies.size()].name +
-                                  (isChinese ? chineseSuffix : englishSuffix),
-                              AddressIn(place), isChinese};
+        const Company& company = words.companies[i / 2 % words.companies.size()];
+        SampleAccount account{company.name + (isChinese ? chineseSuffix : englishSuffix), AddressIn(place),
+                              isChinese, company.mailDomain, place.dialCode};
         if (!Chance(85))
         {
             account.address.reset();
@@ -118,13 +110,24 @@ std::vector<SampleAccount> SampleMaker::Accounts(size_t first, size_t count,
     return accounts;
 }
 
-void SampleMaker::Name(SampleContact& contact, const Words& words)
+void SampleMaker::Name(SampleContact& contact, const SampleAccount* account, bool isChinese)
 {
+    const Words& words = WordsOf(isChinese);
+    const PersonName* surname = nullptr;
+    const GivenName* givenName = nullptr;
     do
     {
-        contact.surname = Pick(words.surnames);
-        contact.givenName = Pick(words.givenNames);
-    } while (!IsNew(contact.surname + L"/" + contact.givenName));
+        surname = &words.surnames[Below(words.surnames.size())];
+        givenName = &words.givenNames[Below(words.givenNames.size())];
+    } while (!IsNew(std::wstring(surname->text) + L"/" + givenName->name.text));
+    contact.surname = surname->text;
+    contact.givenName = givenName->name.text;
+    (isChinese ? contact.suffix : contact.title) = Chance(80) ? givenName->address : L"";
+    if (Chance(80))
+    {
+        const std::wstring domain = account != nullptr ? account->mailDomain : L"post.example";
+        contact.email = std::wstring(givenName->name.latin) + L"." + surname->latin + L"@" + domain;
+    }
 }
 
 SampleContact SampleMaker::Contact(const SampleAccount* account)
@@ -132,26 +135,24 @@ SampleContact SampleMaker::Contact(const SampleAccount* account)
     const bool isChinese = account != nullptr ? account->isChinese : Chance(50);
     const Words& words = WordsOf(isChinese);
     const Place& place = words.places[Below(words.places.size())];
+    const auto someone = [&] { return words.givenNames[Below(words.givenNames.size())].name.text; };
+    const std::wstring officeCode = account != nullptr ? account->dialCode : place.dialCode;
     SampleContact contact;
-    Name(contact, words);
+    Name(contact, account, isChinese);
     contact.company = account != nullptr ? account->name : L"";
     contact.business = account != nullptr ? account->address.value_or(SampleAddress{}) : SampleAddress{};
-    contact.title = isChinese ? L"" : Chance(50) ? L"Mr." : Chance(60) ? L"Ms." : L"Dr.";
-    contact.suffix = isChinese && Chance(50) ? L"先生" : L"";
     contact.nickName = Chance(15) ? contact.givenName.substr(0, 1) + contact.givenName.substr(0, 1) : L"";
-    contact.spouse = Chance(20) ? Pick(words.givenNames) : L"";
+    contact.spouse = Chance(20) ? someone() : L"";
     contact.birthday = DayInYears(1940, 1982, 60);
     contact.anniversary = DayInYears(1965, 2002, 20);
     contact.jobTitle = Pick(words.jobTitles);
     contact.department = Pick(words.departments);
-    const std::wstring mailName = isChinese ? L"contact" + Number(4) : Lower(contact.givenName);
-    contact.email = Chance(80) ? mailName + L"." + Number(3) + L"@mail.example" : L"";
-    contact.businessPhone = Chance(85) ? PhoneIn(place) : L"";
-    contact.businessFax = Chance(50) ? PhoneIn(place) : L"";
-    contact.mobilePhone = Chance(60) ? L"+" + Number(11) : L"";
-    contact.homePhone = Chance(30) ? PhoneIn(place) : L"";
-    contact.assistant = Chance(15) ? Pick(words.givenNames) : L"";
-    contact.assistantPhone = contact.assistant.empty() ? L"" : PhoneIn(place);
+    contact.businessPhone = Phone(officeCode, 85);
+    contact.businessFax = Phone(officeCode, 50);
+    contact.mobilePhone = Phone(isChinese ? L"+86 139" : L"+49 170", 60);
+    contact.homePhone = Phone(place.dialCode, 30);
+    contact.assistant = Chance(15) ? someone() : L"";
+    contact.assistantPhone = contact.assistant.empty() ? L"" : Phone(officeCode, 100);
     contact.home = Chance(40) ? AddressIn(place) : SampleAddress{};
     return contact;
 }
@@ -167,10 +168,23 @@ std::vector<SampleContact> SampleMaker::Contacts(const std::vector<SampleAccount
     return contacts;
 }
 
+Date SampleMaker::WorkingDay()
+{
+    for (;;)
+    {
+        const Date day = DayAround(kDays);
+        const int weekday = automation::WeekdayOf(day);
+        if (weekday != 1 && weekday != 7 && automation::MomentOf(day).day <= kDaysOfEveryMonth)
+        {
+            return day;
+        }
+    }
+}
+
 // When it is to be done: mostly planned to start and to end, sometimes only to be done by a day, or at all.
 void SampleMaker::PlanTask(SampleTask& task)
 {
-    const Date day = DayAround(kDays);
+    const Date day = WorkingDay();
     task.created = PlusTime(Date{day.days - 7}, TimeOfDay(8 + Below(9), Below(60)));
     if (Chance(80))
     {
@@ -208,9 +222,9 @@ void SampleMaker::ProgressTask(SampleTask& task)
 
 SampleTask SampleMaker::Task(const SampleRecords& records)
 {
-    const Words& words = WordsOf(Chance(50));
     SampleTask task;
     task.contact = LinkedContact(records, 60);
+    const Words& words = WordsOf(IsChineseRecord(records, task.contact, Chance(50)));
     if (task.contact && Chance(90))
     {
         task.company = records.contacts[*task.contact].company;
@@ -231,19 +245,17 @@ SampleTask SampleMaker::Task(const SampleRecords& records)
 
 SampleEntry SampleMaker::Entry(const SampleRecords& records, long repeat)
 {
-    const Words& words = WordsOf(Chance(50));
     SampleEntry entry;
     entry.contact = LinkedContact(records, 50);
+    const Words& words = WordsOf(IsChineseRecord(records, entry.contact, Chance(50)));
     entry.category = Chance(85) ? Pick(words.categories) : L"";
     entry.reminds = Chance(50);
     entry.repeat = repeat;
     do
     {
-        entry.subject = Pick(repeat != 0 ? words.repeatedSubjects : words.entrySubjects);
-        do
-        {
-            entry.day = DayAround(kDays);
-        } while (automation::MomentOf(entry.day).day > 28); // a day that every month has
+        entry.subject =
+            repeat != 0 ? words.repeatedSubjects[static_cast<size_t>(repeat - 1)] : Pick(words.entrySubjects);
+        entry.day = WorkingDay();
         const size_t hour = 8 + Below(9);
         const size_t minute = 30 * Below(2);
         entry.start = TimeOfDay(hour, minute);

@@ -40,12 +40,14 @@ class SampleMaker
     bool Chance(unsigned percent) { return Below(100) < percent; }
     std::wstring Pick(std::span<const wchar_t* const> words) { return words[Below(words.size())]; }
     std::wstring Number(size_t digits);
-    std::wstring PhoneIn(const Place& place);
+    std::wstring Phone(const std::wstring& dialCode, unsigned percent);
     SampleAddress AddressIn(const Place& place);
     automation::Date DayAround(long days);
     OptionalDate DayInYears(int first, int last, unsigned percent);
     std::optional<size_t> LinkedContact(const SampleRecords& records, unsigned percent);
-    void Name(SampleContact& contact, const Words& words);
+    // Gives the contact a name that nobody has, the word that goes with it and a mail address.
+    void Name(SampleContact& contact, const SampleAccount* account, bool isChinese);
+    automation::Date WorkingDay();
     void PlanTask(SampleTask& task);
     void ProgressTask(SampleTask& task);
     // False for a key that was there before.

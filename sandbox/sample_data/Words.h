@@ -22,18 +22,31 @@ struct Company
     const wchar_t* mailDomain;
 };
 
+// A surname or given name, and how it is written in a mail address.
+struct PersonName
+{
+    const wchar_t* text;
+    const wchar_t* latin;
+};
+
+struct GivenName
+{
+    PersonName name;
+    const wchar_t* address; // the word that goes with the whole name: before it, or behind it in Chinese
+};
+
 // The words of one language.
 struct Words
 {
-    std::span<const wchar_t* const> surnames;
-    std::span<const wchar_t* const> givenNames;
+    std::span<const PersonName> surnames;
+    std::span<const GivenName> givenNames;
     std::span<const Company> companies;
     std::span<const Place> places;
     std::span<const wchar_t* const> jobTitles;
     std::span<const wchar_t* const> departments;
     std::span<const wchar_t* const> taskSubjects;
     std::span<const wchar_t* const> entrySubjects;
-    std::span<const wchar_t* const> repeatedSubjects;
+    std::span<const wchar_t* const> repeatedSubjects; // one for each repeat rule, in their order
     std::span<const wchar_t* const> categories;
 };
 
