@@ -1,4 +1,5 @@
-// A tabbed frame that shows, of the controls that lie on it, those of the chosen tab.
+// A tabbed frame that shows, of the controls that lie on it, those of the chosen tab. The controls stand on
+// the frame's own ground, which differs from the dialog's where visual styles are on.
 #pragma once
 
 #include "ui/TabFrame.h"
@@ -29,6 +30,11 @@ class TabPages : public TabFrame
     void Follow(const NMHDR& notification);
 
   private:
+    void PaintInto(HWND target, HDC context);
+    static LRESULT CALLBACK GiveGround(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                       DWORD_PTR pages);
+
+    bool mPainting = false;
     std::vector<std::vector<Range>> mPages;
 };
 
