@@ -115,12 +115,6 @@ bool Conversation::AnswerConfirmation(const ShownDialog& dialog, const std::wstr
     return true;
 }
 
-ShownDialog Conversation::OpenedBy(const ShownDialog& dialog, int control)
-{
-    dialog.Click(control);
-    return mRobot.WaitForDialogAfter(dialog);
-}
-
 void Conversation::SavePictureOf(const ShownDialog& dialog, const std::wstring& name)
 {
     if (!mOptions.ScreensFolder.empty())
@@ -131,8 +125,7 @@ void Conversation::SavePictureOf(const ShownDialog& dialog, const std::wstring& 
 
 void Conversation::CloseMainDialog()
 {
-    mMain.Click(IDCANCEL);
-    mRobot.WaitUntilClosed(mMain);
+    Leave(mMain);
 }
 
 } // namespace sandbox::demo

@@ -38,7 +38,10 @@ class Conversation
     void Answer(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
     bool AnswerConfirmation(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
     void TourKind(const ShownDialog& configure, int row);
+    // The dialog that a button opens.
     ShownDialog OpenedBy(const ShownDialog& dialog, int control);
+    // By Cancel.
+    void Leave(const ShownDialog& dialog);
     void SavePictureOf(const ShownDialog& dialog, const std::wstring& name);
 
     Robot& mRobot;

@@ -1,5 +1,7 @@
 #include "automation/MessageFilter.h"
 
+#include "automation/BusyServer.h"
+
 #include <atomic>
 #include <new>
 
@@ -50,7 +52,7 @@ class RetryingFilter : public IMessageFilter
 
     STDMETHODIMP_(DWORD) RetryRejectedCall(HTASK, DWORD elapsed, DWORD) override
     {
-        return elapsed < MessageFilterScope::kPatience ? kRetryDelay : kCancelCall;
+        return elapsed < kBusyPatience ? kRetryDelay : kCancelCall;
     }
 
     STDMETHODIMP_(DWORD) MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }

@@ -14,9 +14,6 @@ namespace automation
 class MessageFilterScope
 {
   public:
-    // How long one call is retried, in milliseconds.
-    static constexpr DWORD kPatience = 30000;
-
     MessageFilterScope();
     MessageFilterScope(const MessageFilterScope&) = delete;
     MessageFilterScope& operator=(const MessageFilterScope&) = delete;

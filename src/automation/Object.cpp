@@ -1,5 +1,6 @@
 #include "automation/Object.h"
 
+#include "automation/BusyServer.h"
 #include "automation/Error.h"
 
 #include <array>
@@ -77,7 +78,8 @@ struct Object::Target
         }
         DISPID id = DISPID_UNKNOWN;
         LPOLESTR name = const_cast<LPOLESTR>(member);
-        HRESULT result = dispatch->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_SYSTEM_DEFAULT, &id);
+        HRESULT result = RetriedWhileBusy(
+            [&] { return dispatch->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_SYSTEM_DEFAULT, &id); });
         if (result == E_NOTIMPL)
         {
             result = IdThroughDispatchEx(*dispatch.Get(), member, id);
@@ -153,9 +155,10 @@ Value Object::Invoke(const wchar_t* member, WORD flags, Argument* arguments, siz
     Value result;
     ExceptionInfo exception;
     UINT wrongArgument = 0;
-    const HRESULT code =
-        target->dispatch->Invoke(id, IID_NULL, LOCALE_SYSTEM_DEFAULT, flags, &parameters,
-                                 isWrite ? nullptr : result.Receive(), &exception, &wrongArgument);
+    const HRESULT code = RetriedWhileBusy([&] {
+        return target->dispatch->Invoke(id, IID_NULL, LOCALE_SYSTEM_DEFAULT, flags, &parameters,
+                                        isWrite ? nullptr : result.Receive(), &exception, &wrongArgument);
+    });
     if (FAILED(code))
     {
         throw exception.AsError(code, member);

@@ -1,0 +1,38 @@
+// A host with sample data, a mailbox, and the registered component between them, used by the robot.
+#pragma once
+
+#include "sandbox/demo/Conversation.h"
+#include "sandbox/demo/Snapshot.h"
+#include "sandbox/host/Host.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace test_support
+{
+
+class Exchange : public testing::Test
+{
+  protected:
+    Exchange();
+    ~Exchange() override;
+
+    // One run of a kind: direction 1 to 3, conflict rule 1 to 5. The outcome is what the user has seen.
+    sandbox::demo::Outcome Run(const std::wstring& category, long direction, long rule, bool decline = false);
+
+    sandbox::demo::Snapshot Look() { return sandbox::demo::TakeSnapshot(mHost->Database(), *mMailbox); }
+    long Count(const std::wstring& sqlOfHost);
+    long CountItems(const std::wstring& sqlOfMailbox);
+
+    sandbox::Host& HostSide() { return *mHost; }
+    sandbox::Connection& MailboxSide() { return *mMailbox; }
+
+  private:
+    std::wstring mFolder;
+    std::unique_ptr<sandbox::Host> mHost;
+    std::unique_ptr<sandbox::Connection> mMailbox;
+};
+
+} // namespace test_support

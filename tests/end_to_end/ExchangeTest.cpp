@@ -1,0 +1,119 @@
+#include "tests/end_to_end/Exchange.h"
+
+#include "resources/Strings.h"
+
+using sandbox::demo::Compare;
+using sandbox::demo::Difference;
+using sandbox::demo::Outcome;
+using sandbox::demo::Snapshot;
+using test_support::Exchange;
+
+namespace
+{
+
+constexpr long kImport = 1;
+constexpr long kExport = 2;
+constexpr long kBoth = 3;
+constexpr long kAddAll = 1;
+constexpr long kIgnoreAll = 2;
+constexpr long kHostWins = 4;
+constexpr long kOutlookWins = 5;
+
+// The number at the end of a line of the confirmation.
+long NumberOf(const std::wstring& line)
+{
+    const size_t digits = line.find_last_not_of(L"0123456789") + 1;
+    return digits == line.size() ? -1 : std::stol(line.substr(digits));
+}
+
+class EveryKind : public Exchange, public testing::WithParamInterface<const wchar_t*>
+{
+};
+
+class ContactExchange : public Exchange
+{
+};
+
+} // namespace
+
+TEST_P(EveryKind, GoesToOutlookWholeAndASecondRunProposesNothingNew)
+{
+    const Snapshot before = Look();
+    const Outcome first = Run(GetParam(), kExport, kIgnoreAll);
+    ASSERT_TRUE(first.succeeded) << "status shown after " << first.messages.size() << " messages";
+    ASSERT_EQ(4u, first.confirmation.size());
+    const Snapshot after = Look();
+    const Difference inOutlook = Compare(before.outlookItems, after.outlookItems);
+    EXPECT_GT(NumberOf(first.confirmation[2]), 20);
+    EXPECT_GE(inOutlook.added.size(), static_cast<size_t>(NumberOf(first.confirmation[2])));
+    EXPECT_TRUE(Compare(before.hostContacts, after.hostContacts).added.empty());
+    EXPECT_TRUE(Compare(before.hostActivities, after.hostActivities).added.empty());
+    EXPECT_EQ(L"", HostSide().LastRejection());
+
+    const Outcome second = Run(GetParam(), kExport, kIgnoreAll);
+    EXPECT_TRUE(second.succeeded);
+    EXPECT_EQ(0, NumberOf(second.confirmation[2]));
+    EXPECT_EQ(0, NumberOf(second.confirmation[3]));
+}
+
+TEST_P(EveryKind, ComesFromOutlookAndASecondRunProposesNothingNew)
+{
+    const Snapshot before = Look();
+    const Outcome first = Run(GetParam(), kImport, kIgnoreAll);
+    ASSERT_TRUE(first.succeeded);
+    const Snapshot after = Look();
+    const auto& entriesBefore =
+        std::wstring(GetParam()) == L"contact" ? before.hostContacts : before.hostActivities;
+    const auto& entriesAfter =
+        std::wstring(GetParam()) == L"contact" ? after.hostContacts : after.hostActivities;
+    EXPECT_GT(NumberOf(first.confirmation[2]), 5);
+    EXPECT_GT(Compare(entriesBefore, entriesAfter).added.size(), 5u);
+    EXPECT_TRUE(Compare(before.outlookItems, after.outlookItems).changed.empty());
+
+    // Only a company name with an apostrophe, which the lookup takes as it is, may be refused by the host.
+    const std::wstring rejection = HostSide().LastRejection();
+    EXPECT_TRUE(rejection.empty() || rejection.find(L"O'Brien") != std::wstring::npos);
+
+    const Outcome second = Run(GetParam(), kImport, kIgnoreAll);
+    EXPECT_TRUE(second.succeeded);
+    const auto written = Compare(entriesBefore, entriesAfter).added.size();
+    // Items that were not written (without a name or subject, or refused) are proposed again each time.
+    EXPECT_EQ(NumberOf(first.confirmation[2]) - static_cast<long>(written), NumberOf(second.confirmation[2]));
+}
+
+TEST_P(EveryKind, ADeclinedConfirmationChangesNothingAndSucceeds)
+{
+    const Snapshot before = Look();
+    const Outcome outcome = Run(GetParam(), kBoth, kAddAll, true);
+    EXPECT_TRUE(outcome.succeeded);
+    EXPECT_EQ(7u, outcome.confirmation.size());
+    const Snapshot after = Look();
+    EXPECT_TRUE(Compare(before.outlookItems, after.outlookItems).added.empty());
+    EXPECT_TRUE(Compare(before.hostContacts, after.hostContacts).added.empty());
+    EXPECT_TRUE(Compare(before.hostActivities, after.hostActivities).added.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, EveryKind, testing::Values(L"contact", L"task", L"calendar"));
+
+TEST_F(ContactExchange, TheSideThatWinsOverwritesTheOther)
+{
+    ASSERT_TRUE(Run(L"contact", kExport, kIgnoreAll).succeeded);
+    HostSide().Database().Execute(L"UPDATE TBLCONTACT SET F_NICKNAME='Chief'");
+    Snapshot before = Look();
+    ASSERT_TRUE(Run(L"contact", kBoth, kHostWins).succeeded);
+    EXPECT_GT(Compare(before.outlookItems, Look().outlookItems).changed.size(), 100u);
+
+    before = Look();
+    ASSERT_TRUE(Run(L"contact", kBoth, kOutlookWins).succeeded);
+    EXPECT_TRUE(Compare(before.outlookItems, Look().outlookItems).changed.empty());
+}
+
+TEST_F(ContactExchange, TheSurnameArrivesAsOutlooksLastNameInEitherLanguage)
+{
+    HostSide().Database().Execute(L"INSERT INTO TBLCONTACT(F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                                  L"VALUES('test-1','1','Qvist','Åsa')");
+    ASSERT_TRUE(Run(L"contact", kExport, kIgnoreAll).succeeded);
+    EXPECT_EQ(1,
+              CountItems(L"ItemProperty AS L JOIN ItemProperty AS F USING(FolderPath, ItemIndex) WHERE "
+                         L"L.Name='LastName' AND L.Value='Qvist' AND F.Name='FirstName' AND F.Value='Åsa'"));
+}
