@@ -40,19 +40,22 @@ constexpr FolderRow kFolders[] = {
     {L"Archive\\客户资料", ItemKind::Contact},
 };
 
-constexpr long kKindNumbers[] = {10, 20, 30}; // contacts, tasks, the calendar
+// The numbers of the kinds of data in the host's parameter tables.
+constexpr long kContactKind = 10;
+constexpr long kTaskKind = 20;
+constexpr long kCalendarKind = 30;
 
 struct ChosenFolder
 {
-    long kind;
     const wchar_t* path;
+    long kind;
     bool isDefault;
 };
 
 constexpr ChosenFolder kChosenFolders[] = {
-    {kKindNumbers[0], kContactsFolder, true}, {kKindNumbers[0], L"Mailbox\\Contacts\\Partners", false},
-    {kKindNumbers[1], kTasksFolder, true},    {kKindNumbers[1], L"Mailbox\\Tasks\\Projects", false},
-    {kKindNumbers[2], kCalendarFolder, true}, {kKindNumbers[2], L"Mailbox\\Calendar\\Trips", false},
+    {kContactsFolder, kContactKind, true},  {L"Mailbox\\Contacts\\Partners", kContactKind, false},
+    {kTasksFolder, kTaskKind, true},        {L"Mailbox\\Tasks\\Projects", kTaskKind, false},
+    {kCalendarFolder, kCalendarKind, true}, {L"Mailbox\\Calendar\\Trips", kCalendarKind, false},
 };
 
 void WriteHost(const std::wstring& path, Edition edition, const std::function<void(Connection&)>& addRecords)

@@ -3,6 +3,7 @@
 #include "automation/Dates.h"
 #include "automation/Text.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace sandbox
@@ -26,6 +27,12 @@ const Words& WordsOf(bool isChinese)
 Date TimeOfDay(size_t hour, size_t minute)
 {
     return {static_cast<double>(hour * 60 + minute) / 1440};
+}
+
+// What has happened already lies before the day of the sample data.
+Date NotAfterToday(Date day)
+{
+    return {std::min(day.days, kSampleToday.days - 1)};
 }
 
 std::wstring DayText(Date day)
@@ -64,7 +71,7 @@ SampleAddress SampleMaker::AddressIn(const Place& place)
 Date SampleMaker::DayAround(long days)
 {
     return {kSampleToday.days - static_cast<double>(days) +
-            static_cast<double>(Below(static_cast<size_t>(2 * days + 1)))};
+            static_cast<double>(Below(2 * static_cast<size_t>(days) + 1))};
 }
 
 OptionalDate SampleMaker::DayInYears(int first, int last, unsigned percent)
@@ -73,7 +80,8 @@ OptionalDate SampleMaker::DayInYears(int first, int last, unsigned percent)
     {
         return std::nullopt;
     }
-    const int year = first + static_cast<int>(Below(static_cast<size_t>(last - first + 1)));
+    const int year =
+        first + static_cast<int>(Below(1 + static_cast<size_t>(last) - static_cast<size_t>(first)));
     const int month = 1 + static_cast<int>(Below(12));
     return automation::DateOf(automation::Moment{year, month, 1 + static_cast<int>(Below(28))});
 }
@@ -185,7 +193,7 @@ Date SampleMaker::WorkingDay()
 void SampleMaker::PlanTask(SampleTask& task)
 {
     const Date day = WorkingDay();
-    task.created = PlusTime(Date{day.days - 7}, TimeOfDay(8 + Below(9), Below(60)));
+    task.created = PlusTime(NotAfterToday({day.days - 7}), TimeOfDay(8 + Below(9), Below(60)));
     if (Chance(80))
     {
         task.start = PlusTime(day, TimeOfDay(8 + Below(9), 15 * Below(4)));
@@ -210,7 +218,7 @@ void SampleMaker::ProgressTask(SampleTask& task)
     case TaskStatus::NotStarted: break;
     case TaskStatus::Complete:
         task.percent = 100;
-        task.completed = automation::DayOf(task.due.value_or(*task.created));
+        task.completed = NotAfterToday(automation::DayOf(task.due.value_or(*task.created)));
         task.actualWork = task.totalWork;
         break;
     default:

@@ -220,6 +220,7 @@ TEST_F(SampleDataTest, WhatATaskSaysOfItsProgressHangsTogether)
     EXPECT_EQ(0, Count(mHost, L"TBLACTIVITY WHERE F_ACTESDATE IS NULL AND "
                               L"((F_ACTSTATUS=2)<>F_ACTCOMPLETED OR (F_ACTSTATUS=2)<>(F_ACTPERCENT=1) OR "
                               L"(F_ACTSTATUS=2)<>(F_ACTCTIME IS NOT NULL) OR F_ACTPSTIME>F_ACTPETIME)"));
+    EXPECT_EQ(0, Count(mHost, L"VW_ACTIVITY WHERE F_ACTCTIME>'2003-05-06' OR F_ACTCREATETIME>'2003-05-06'"));
     for (int status = 0; status <= 4; ++status)
     {
         EXPECT_GT(Count(mHost, L"VW_ACTIVITY WHERE F_ACTSTATUS=" + std::to_wstring(status)), 0) << status;
