@@ -3,6 +3,7 @@
 
 #include "data/RunDisplay.h"
 
+#include <string>
 #include <vector>
 
 namespace test_support
@@ -15,14 +16,25 @@ class RecordingDisplay : public data::RunDisplay
     std::vector<double> Progress;
     bool IsShown = false;
     long TimesShown = 0;
+    // All of it in its order: the status texts, "(shown)" and "(hidden)", and "50%".
+    std::vector<std::wstring> Events;
 
-    void SetStatus(const std::wstring& text) override { Status = text; }
+    void SetStatus(const std::wstring& text) override
+    {
+        Status = text;
+        Events.push_back(text);
+    }
     void ShowProgress(bool visible) override
     {
+        Events.emplace_back(visible ? L"(shown)" : L"(hidden)");
         IsShown = visible;
         TimesShown += visible ? 1 : 0;
     }
-    void SetProgress(double fraction) override { Progress.push_back(fraction); }
+    void SetProgress(double fraction) override
+    {
+        Progress.push_back(fraction);
+        Events.push_back(std::to_wstring(static_cast<int>(fraction * 100)) + L"%");
+    }
     std::wstring CategoryText() const override { return L"Contact"; }
 };
 

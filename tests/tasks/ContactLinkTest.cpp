@@ -131,7 +131,7 @@ TEST_F(ContactLink, ADoubleQuoteInANameEndsThePassWithNothingHalfOpen)
         EXPECT_EQ(before + 1, CountTasks()); // the first row had saved it, the second task was not begun
         EXPECT_TRUE(Links(before + 1).empty());
         EXPECT_EQ(calls.Of(L"Recordset.Open"), calls.Of(L"Recordset.Close"));
-        EXPECT_EQ(L"(hidden)", mDisplay.Shown.back());
+        EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
     }
 }
 

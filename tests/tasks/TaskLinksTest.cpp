@@ -11,7 +11,7 @@ namespace
 using automation::Value;
 using resources::Language;
 using test_support::MessagesDuring;
-using test_support::RecordingHost;
+using test_support::ScriptedHost;
 using test_support::ShownMessage;
 using test_support::WithLanguage;
 using Calls = std::vector<std::wstring>;
@@ -21,9 +21,9 @@ constexpr const wchar_t* kLookupContact =
 constexpr const wchar_t* kLookupAccount = L"SELECT F_ACCID\r\nFROM TBLACCOUNT\r\nWHERE F_ACCSNAME= 'Quenlar'";
 
 // The host's codes for the rights that the builders ask for.
-const RecordingHost::Right kModifyContacts{2, 2, 4};
-const RecordingHost::Right kModifyAccounts{1, 2, 4};
-const RecordingHost::Right kAddAccounts{1, 2, 2};
+const ScriptedHost::Right kModifyContacts{2, 2, 4};
+const ScriptedHost::Right kModifyAccounts{1, 2, 4};
+const ScriptedHost::Right kAddAccounts{1, 2, 2};
 
 class TaskLinks : public test_support::TaskTest
 {
@@ -84,7 +84,7 @@ TEST_F(TaskLinks, AContactIsLookedUpByItsJoinedNameAndLinkedByItsKey)
     EXPECT_EQ((Calls{std::wstring(L"OpenRecordsetByString ") + kLookupContact,
                      std::wstring(L"OpenRecordsetByString ") + kLookupContact}),
               Host().Calls);
-    EXPECT_EQ((std::vector<RecordingHost::Right>{kModifyContacts, kModifyContacts}), Host().Asked);
+    EXPECT_EQ((std::vector<ScriptedHost::Right>{kModifyContacts, kModifyContacts}), Host().Asked);
 }
 
 TEST_F(TaskLinks, AFragmentAfterOthersCarriesAComma)
@@ -142,7 +142,7 @@ TEST_F(TaskLinks, AnAccountIsLookedUpByItsShortNameAndLinkedByItsKey)
     Host().Found[kLookupAccount] = L"A1";
     EXPECT_EQ(L"F_ACCID|'A1'", InsertedAccount());
     EXPECT_EQ(L"F_ACCID='A1'", UpdatedAccount());
-    EXPECT_EQ((std::vector<RecordingHost::Right>{kAddAccounts, kAddAccounts}), Host().Asked);
+    EXPECT_EQ((std::vector<ScriptedHost::Right>{kAddAccounts, kAddAccounts}), Host().Asked);
 }
 
 TEST_F(TaskLinks, AnAccountThatTheHostDoesNotKnowIsCreatedWithItsInformationRow)
@@ -164,7 +164,7 @@ TEST_F(TaskLinks, ATaskWithoutACompanyHasNoAccount)
     EXPECT_EQ(L"F_ACCID|NULL", InsertedAccount());
     EXPECT_EQ(L"F_ACCID=NULL", UpdatedAccount());
     EXPECT_TRUE(Host().Calls.empty());
-    EXPECT_EQ((std::vector<RecordingHost::Right>{kModifyAccounts, kModifyAccounts}), Host().Asked);
+    EXPECT_EQ((std::vector<ScriptedHost::Right>{kModifyAccounts, kModifyAccounts}), Host().Asked);
 }
 
 TEST_F(TaskLinks, WithoutEitherRightTheAccountIsLeftAlone)

@@ -41,7 +41,7 @@ constexpr const wchar_t* kTables[] = {
 
 } // namespace
 
-TaskTest::TaskTest() : mHost(new RecordingHost), mPath(NewDatabaseFile())
+TaskTest::TaskTest() : mHost(new ScriptedHost), mPath(NewDatabaseFile())
 {
     state::SharedState& shared = state::Shared();
     shared.gCnnString = sandbox::ConnectionStringOf(mPath);

@@ -7,7 +7,8 @@
 #include "sandbox/ado/Ado.h"
 #include "sandbox/database/Connection.h"
 #include "sandbox/outlook/Outlook.h"
-#include "tests/tasks/RecordingHost.h"
+#include "tests/support/RecordingDisplay.h"
+#include "tests/tasks/ScriptedHost.h"
 
 #include <gtest/gtest.h>
 
@@ -25,21 +26,6 @@ inline automation::Date Day(int year, int month, int day, int hour = 0, int minu
 {
     return automation::DateOf(automation::Moment{year, month, day, hour, minute, second});
 }
-
-// What a run shows, as texts in their order.
-class RecordingDisplay : public data::RunDisplay
-{
-  public:
-    void SetStatus(const std::wstring& text) override { Shown.push_back(text); }
-    void ShowProgress(bool visible) override { Shown.push_back(visible ? L"(shown)" : L"(hidden)"); }
-    void SetProgress(double fraction) override
-    {
-        Shown.push_back(std::to_wstring(static_cast<int>(fraction * 100)) + L"%");
-    }
-    std::wstring CategoryText() const override { return L"Task"; }
-
-    std::vector<std::wstring> Shown;
-};
 
 class TaskTest : public testing::Test
 {
@@ -76,11 +62,11 @@ class TaskTest : public testing::Test
     sandbox::AdoInProcess mAdo;
     sandbox::MailboxRef mMailbox = sandbox::MakeMailbox();
     automation::Object mOutlook = sandbox::MakeOutlook(mMailbox);
-    RecordingHost& Host() const { return *mHost.Get(); }
+    ScriptedHost& Host() const { return *mHost.Get(); }
     RecordingDisplay mDisplay;
 
   private:
-    Microsoft::WRL::ComPtr<RecordingHost> mHost;
+    Microsoft::WRL::ComPtr<ScriptedHost> mHost;
     std::wstring mPath;
 };
 

@@ -323,7 +323,7 @@ TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
               Host().Calls);
     EXPECT_EQ((std::vector<std::wstring>{L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"50%",
                                          L"100%", L"(hidden)"}),
-              mDisplay.Shown);
+              mDisplay.Events);
 }
 
 TEST_F(TasksFromOutlook, AnItemThatIsGoneEndsThePass)
@@ -334,7 +334,7 @@ TEST_F(TasksFromOutlook, AnItemThatIsGoneEndsThePass)
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_TRUE(tasks::SynTaskFromOutlook(run));
     EXPECT_TRUE(Host().Calls.empty());
-    EXPECT_EQ(L"(hidden)", mDisplay.Shown.back());
+    EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
 }
 
 TEST_F(TasksFromOutlook, RelationRowsThatCannotBeReadFailEachTaskWithoutATransaction)

@@ -3,8 +3,8 @@
 #include "automation/Error.h"
 #include "state/SharedState.h"
 #include "tasks/TaskRelations.h"
-#include "tests/support/WithLanguage.h"
 #include "tests/support/CallCounter.h"
+#include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskTest.h"
 
 namespace
@@ -282,7 +282,7 @@ TEST_F(TasksToOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
     EXPECT_EQ(L"B", TextOf(TaskProperty(2, L"Subject")));
     EXPECT_EQ((std::vector<std::wstring>{L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"50%",
                                          L"100%", L"(hidden)"}),
-              mDisplay.Shown);
+              mDisplay.Events);
 }
 
 TEST_F(TasksToOutlook, TheStatusTextIsInTheInterfaceLanguage)
@@ -290,7 +290,7 @@ TEST_F(TasksToOutlook, TheStatusTextIsInTheInterfaceLanguage)
     data::Run run = NewRun();
     const test_support::WithLanguage chinese(Language::Chinese);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
-    EXPECT_EQ(L"正在进行数据传输，请稍候...", mDisplay.Shown.front());
+    EXPECT_EQ(L"正在进行数据传输，请稍候...", mDisplay.Events.front());
 }
 
 TEST_F(TasksToOutlook, AnErrorEndsThePassAndWhatWasWrittenStays)
@@ -309,7 +309,7 @@ TEST_F(TasksToOutlook, AnErrorEndsThePassAndWhatWasWrittenStays)
     EXPECT_EQ(L"Phone", TextOf(TaskProperty(1, L"Categories")));
     EXPECT_EQ(L"Two", TextOf(TaskProperty(2, L"Subject")));
     EXPECT_EQ(L"", TextOf(TaskProperty(2, L"Categories")));
-    EXPECT_EQ(L"(hidden)", mDisplay.Shown.back());
+    EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
 }
 
 TEST_F(TasksToOutlook, RelationRowsThatCannotBeReadEndThePass)

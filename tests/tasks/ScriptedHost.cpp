@@ -1,4 +1,4 @@
-#include "tests/tasks/RecordingHost.h"
+#include "tests/tasks/ScriptedHost.h"
 
 #include "automation/Error.h"
 #include "automation/Recordset.h"
@@ -13,25 +13,25 @@ using automation::Value;
 using sandbox::Call;
 using sandbox::Reads;
 
-const sandbox::MemberTable& RecordingHost::Members() const
+const sandbox::MemberTable& ScriptedHost::Members() const
 {
     static const sandbox::MemberTable kMembers = {
-        {L"OpenRecordsetByString", Reads(&RecordingHost::OpenRecordsetByString), {}},
-        {L"Insert", Reads(&RecordingHost::Insert), {}},
-        {L"Update", Reads(&RecordingHost::Update), {}},
-        {L"NewGuid", Reads(&RecordingHost::NewGuid), {}},
-        {L"BeginTrans", Reads(&RecordingHost::BeginTrans), {}},
-        {L"CommitTrans", Reads(&RecordingHost::CommitTrans), {}},
-        {L"RollbackTrans", Reads(&RecordingHost::RollbackTrans), {}},
-        {L"InTransaction", Reads(&RecordingHost::InTransaction), {}},
-        {L"MyInfo", Reads(&RecordingHost::MyInfo), {}},
-        {L"UID", Reads(&RecordingHost::UserId), {}},
-        {L"PermissionOn", Reads(&RecordingHost::PermissionOn), {}},
+        {L"OpenRecordsetByString", Reads(&ScriptedHost::OpenRecordsetByString), {}},
+        {L"Insert", Reads(&ScriptedHost::Insert), {}},
+        {L"Update", Reads(&ScriptedHost::Update), {}},
+        {L"NewGuid", Reads(&ScriptedHost::NewGuid), {}},
+        {L"BeginTrans", Reads(&ScriptedHost::BeginTrans), {}},
+        {L"CommitTrans", Reads(&ScriptedHost::CommitTrans), {}},
+        {L"RollbackTrans", Reads(&ScriptedHost::RollbackTrans), {}},
+        {L"InTransaction", Reads(&ScriptedHost::InTransaction), {}},
+        {L"MyInfo", Reads(&ScriptedHost::MyInfo), {}},
+        {L"UID", Reads(&ScriptedHost::UserId), {}},
+        {L"PermissionOn", Reads(&ScriptedHost::PermissionOn), {}},
     };
     return kMembers;
 }
 
-void RecordingHost::Record(const wchar_t* member, const Call& call)
+void ScriptedHost::Record(const wchar_t* member, const Call& call)
 {
     std::wstring text = member;
     for (size_t i = 0; i < call.Count(); ++i)
@@ -41,7 +41,7 @@ void RecordingHost::Record(const wchar_t* member, const Call& call)
     Calls.push_back(text);
 }
 
-Value RecordingHost::OpenRecordsetByString(const Call& call)
+Value ScriptedHost::OpenRecordsetByString(const Call& call)
 {
     const std::wstring statement = TextOf(call.At(1));
     Calls.push_back(L"OpenRecordsetByString " + statement);
@@ -58,60 +58,60 @@ Value RecordingHost::OpenRecordsetByString(const Call& call)
     return 0L;
 }
 
-Value RecordingHost::Insert(const Call& call)
+Value ScriptedHost::Insert(const Call& call)
 {
     Record(L"Insert", call);
     return Results[TextOf(call.At(0))];
 }
 
-Value RecordingHost::Update(const Call& call)
+Value ScriptedHost::Update(const Call& call)
 {
     Record(L"Update", call);
     return Results[TextOf(call.At(0))];
 }
 
-Value RecordingHost::NewGuid(const Call& /*call*/)
+Value ScriptedHost::NewGuid(const Call& /*call*/)
 {
     return L"KEY" + std::to_wstring(++mKeys);
 }
 
-Value RecordingHost::BeginTrans(const Call& call)
+Value ScriptedHost::BeginTrans(const Call& call)
 {
     Record(L"BeginTrans", call);
     mInTransaction = HasTransactions;
     return {};
 }
 
-Value RecordingHost::CommitTrans(const Call& call)
+Value ScriptedHost::CommitTrans(const Call& call)
 {
     Record(L"CommitTrans", call);
     mInTransaction = false;
     return {};
 }
 
-Value RecordingHost::RollbackTrans(const Call& call)
+Value ScriptedHost::RollbackTrans(const Call& call)
 {
     Record(L"RollbackTrans", call);
     mInTransaction = false;
     return {};
 }
 
-Value RecordingHost::InTransaction(const Call& /*call*/)
+Value ScriptedHost::InTransaction(const Call& /*call*/)
 {
     return mInTransaction;
 }
 
-Value RecordingHost::MyInfo(const Call& /*call*/)
+Value ScriptedHost::MyInfo(const Call& /*call*/)
 {
     return automation::Object(this);
 }
 
-Value RecordingHost::UserId(const Call& /*call*/)
+Value ScriptedHost::UserId(const Call& /*call*/)
 {
     return L"7";
 }
 
-Value RecordingHost::PermissionOn(const Call& call)
+Value ScriptedHost::PermissionOn(const Call& call)
 {
     const Right right{LongOf(call.At(0)), LongOf(call.At(1)), LongOf(call.At(2))};
     Asked.push_back(right);

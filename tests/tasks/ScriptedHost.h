@@ -13,7 +13,7 @@
 namespace test_support
 {
 
-class RecordingHost : public sandbox::DispatchObject
+class ScriptedHost : public sandbox::DispatchObject
 {
   public:
     using Right = std::tuple<long, long, long>; // module, function and right code
@@ -32,7 +32,7 @@ class RecordingHost : public sandbox::DispatchObject
     bool HasTransactions = true;
 
   protected:
-    const wchar_t* ClassName() const override { return L"RecordingHost"; }
+    const wchar_t* ClassName() const override { return L"ScriptedHost"; }
     const sandbox::MemberTable& Members() const override;
 
   private:

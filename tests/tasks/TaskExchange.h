@@ -1,0 +1,103 @@
+// Tasks between the host's stand-in and Outlook's, collected and applied as in a run.
+#pragma once
+
+#include "data/Host.h"
+#include "run/ChangeCollection.h"
+#include "sandbox/ado/Ado.h"
+#include "sandbox/host/Host.h"
+#include "sandbox/outlook/Outlook.h"
+#include "state/SharedState.h"
+#include "tests/support/RecordingDisplay.h"
+#include "tests/tasks/TaskTest.h"
+
+namespace test_support
+{
+
+class TaskExchange : public testing::Test
+{
+  protected:
+    TaskExchange()
+    {
+        state::Shared().gDTC = mHost.Dtc();
+        state::Shared().gCnnString = mHost.ConnectionString();
+        UseNewMailbox();
+        state::Shared().gCalendarPreviewAlarmTime = 20;
+        SetRule(state::kIgnoreAllConflicting);
+    }
+
+    ~TaskExchange() override
+    {
+        state::Shared().gDTC = {};
+        state::Shared().gOlNamespace = {};
+        state::Shared().gCnnString.clear();
+        state::Shared().gSynParameter = {};
+    }
+
+    void UseNewMailbox()
+    {
+        mMailbox = sandbox::MakeMailbox();
+        state::Shared().gOlNamespace = sandbox::MakeOutlook(mMailbox).GetObject(L"GetNamespace", L"MAPI");
+    }
+
+    static void SetRule(state::ConflictOption rule)
+    {
+        state::Shared().gSynParameter.TransConflictOption = rule;
+    }
+
+    // columns and values after the keys of a host task.
+    void AddHostTask(const std::wstring& columns, const std::wstring& values)
+    {
+        mHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_CREATORID,F_ACTPRIORITY," +
+                                 columns + L") SELECT 'ACT' || (COUNT(*)+1),1,1,2," + values +
+                                 L" FROM TBLACTIVITY");
+    }
+
+    void AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const
+    {
+        mMailbox->AddItem(kTasks, properties);
+    }
+
+    data::Run NewRun()
+    {
+        const automation::Object folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
+        data::Run run{.Display = mDisplay, .Folder = folder, .Items = folder.GetObject(L"Items")};
+        EXPECT_LE(0, data::Host().OpenRecordset(run.HostRows, L"ActivityMyActivity"));
+        return run;
+    }
+
+    // Proposes and writes; how many records were proposed.
+    long ExchangeToOutlook()
+    {
+        data::Run run = NewRun();
+        EXPECT_FALSE(run::ChangeCollection(run::kTaskCategory, run).CollectToOutlook());
+        EXPECT_FALSE(run::kTaskCategory.ApplyToOutlook(run));
+        return run.Pending.NewHostRecords.Count() + run.Pending.ChangedHostRecords.Count();
+    }
+
+    long ExchangeFromOutlook()
+    {
+        data::Run run = NewRun();
+        EXPECT_FALSE(run::ChangeCollection(run::kTaskCategory, run).CollectFromOutlook());
+        EXPECT_FALSE(run::kTaskCategory.ApplyFromOutlook(run));
+        return run.Pending.NewOutlookItems.Count() + run.Pending.ChangedOutlookItems.Count();
+    }
+
+    std::wstring HostValue(const std::wstring& sql)
+    {
+        return automation::TextOrEmpty(mHost.Database().QueryValue(sql));
+    }
+
+    std::wstring Count(const std::wstring& table) { return HostValue(L"SELECT COUNT(*) FROM " + table); }
+
+    automation::Value TaskProperty(long position, const wchar_t* name) const
+    {
+        return mMailbox->ItemProperty(kTasks, position, name);
+    }
+
+    sandbox::AdoInProcess mAdo;
+    sandbox::Host mHost;
+    sandbox::MailboxRef mMailbox;
+    RecordingDisplay mDisplay;
+};
+
+} // namespace test_support
