@@ -11,15 +11,6 @@ namespace test_support
 namespace
 {
 
-bool Matches(const run::MatchRule& rule, const automation::Object& item, const automation::Recordset& rows)
-{
-    if (rule.FirstKeyOfItem(item) != rule.FirstKeyOfRow(rows))
-    {
-        return false;
-    }
-    return rule.SecondKeyOfItem == nullptr || rule.SecondKeyOfItem(item) == rule.SecondKeyOfRow(rows);
-}
-
 void MoveToFirst(const automation::Recordset& rows)
 {
     if (!rows.HasNoRows())
@@ -67,6 +58,15 @@ bool Failed(Body&& body)
 }
 
 } // namespace
+
+bool Matches(const run::MatchRule& rule, const automation::Object& item, const automation::Recordset& rows)
+{
+    if (rule.FirstKeyOfItem(item) != rule.FirstKeyOfRow(rows))
+    {
+        return false;
+    }
+    return rule.SecondKeyOfItem == nullptr || rule.SecondKeyOfItem(item) == rule.SecondKeyOfRow(rows);
+}
 
 bool WalkToOutlook(const run::Category& category, data::Run& run, long conflictOption)
 {

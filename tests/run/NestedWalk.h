@@ -7,6 +7,9 @@
 namespace test_support
 {
 
+// Whether the item and the row on which the recordset stands are the same record.
+bool Matches(const run::MatchRule& rule, const automation::Object& item, const automation::Recordset& rows);
+
 // Both return true when an error ended the walk, with what was proposed so far in the run's collections.
 bool WalkToOutlook(const run::Category& category, data::Run& run, long conflictOption);
 bool WalkFromOutlook(const run::Category& category, data::Run& run, long conflictOption, bool mayAdd,

@@ -39,6 +39,9 @@ class FakeItem : public DispatchObject
         return Read(mRecord, Members()[Index].name);
     }
 
+    // The pattern's properties stand in the record of the item.
+    Value Pattern(const Call&) { return MakeObject<FakeItem>(mRecord); }
+
     const wchar_t* ClassName() const override { return L"Item"; }
     const MemberTable& Members() const override
     {
@@ -53,6 +56,11 @@ class FakeItem : public DispatchObject
             {L"Start", Reads(&FakeItem::Property<7>), nullptr},
             {L"Complete", Reads(&FakeItem::Property<8>), nullptr},
             {L"AllDayEvent", Reads(&FakeItem::Property<9>), nullptr},
+            {L"End", Reads(&FakeItem::Property<10>), nullptr},
+            {L"IsRecurring", Reads(&FakeItem::Property<11>), nullptr},
+            {L"NoEndDate", Reads(&FakeItem::Property<12>), nullptr},
+            {L"PatternEndDate", Reads(&FakeItem::Property<13>), nullptr},
+            {L"GetRecurrencePattern", Reads(&FakeItem::Pattern), nullptr},
         };
         return table;
     }

@@ -26,28 +26,4 @@ automation::Object MakeItems(std::shared_ptr<const Records> records);
 // RecordCount, Fields, State, Close.
 automation::Recordset MakeRows(std::shared_ptr<const Records> records);
 
-// Counts the calls of this process's stand-ins by "Class.Member" for the length of a scope.
-class CallCounter : public sandbox::CallObserver
-{
-  public:
-    CallCounter() : mPrevious(sandbox::Observe(this)) {}
-    ~CallCounter() override { sandbox::Observe(mPrevious); }
-    CallCounter(const CallCounter&) = delete;
-    CallCounter& operator=(const CallCounter&) = delete;
-
-    void OnCall(const wchar_t* className, const wchar_t* member) override
-    {
-        ++mCounts[std::wstring(className) + L"." + member];
-    }
-    long Of(const std::wstring& member) const
-    {
-        const auto found = mCounts.find(member);
-        return found == mCounts.end() ? 0 : found->second;
-    }
-
-  private:
-    CallObserver* mPrevious;
-    std::map<std::wstring, long> mCounts;
-};
-
 } // namespace test_support

@@ -18,14 +18,14 @@ using sandbox::Value;
 class FakeUser : public DispatchObject
 {
   public:
-    explicit FakeUser(std::shared_ptr<std::set<long>> denied) : mDenied(std::move(denied)) {}
+    explicit FakeUser(std::shared_ptr<TestHost::State> state) : mState(std::move(state)) {}
 
   private:
     Value PermissionOn(const Call& call)
     {
         constexpr long kPermitted = 0;
         constexpr long kDenied = 1;
-        return mDenied->contains(automation::LongOf(call.At(2))) ? kDenied : kPermitted;
+        return mState->denied.contains(automation::LongOf(call.At(2))) ? kDenied : kPermitted;
     }
     Value Uid(const Call&) { return L"1"; }
 
@@ -39,34 +39,43 @@ class FakeUser : public DispatchObject
         return table;
     }
 
-    std::shared_ptr<std::set<long>> mDenied;
+    std::shared_ptr<TestHost::State> mState;
 };
 
 class FakeDtc : public DispatchObject
 {
   public:
-    explicit FakeDtc(std::shared_ptr<std::set<long>> denied) : mDenied(std::move(denied)) {}
+    explicit FakeDtc(std::shared_ptr<TestHost::State> state) : mState(std::move(state)) {}
 
   private:
-    Value MyInfo(const Call&) { return MakeObject<FakeUser>(mDenied); }
+    Value MyInfo(const Call&) { return MakeObject<FakeUser>(mState); }
+    Value SysDateTime(const Call&) { return mState->now; }
 
     const wchar_t* ClassName() const override { return L"DTC"; }
     const MemberTable& Members() const override
     {
-        static const MemberTable table{{L"MyInfo", Reads(&FakeDtc::MyInfo), nullptr}};
+        static const MemberTable table{
+            {L"MyInfo", Reads(&FakeDtc::MyInfo), nullptr},
+            {L"SysDateTime", Reads(&FakeDtc::SysDateTime), nullptr},
+        };
         return table;
     }
 
-    std::shared_ptr<std::set<long>> mDenied;
+    std::shared_ptr<TestHost::State> mState;
 };
 
 } // namespace
 
-TestHost::TestHost() : mDenied(std::make_shared<std::set<long>>()), mObject(MakeObject<FakeDtc>(mDenied)) {}
+TestHost::TestHost() : mState(std::make_shared<State>()), mObject(MakeObject<FakeDtc>(mState)) {}
 
 void TestHost::DenyRight(long right)
 {
-    mDenied->insert(right);
+    mState->denied.insert(right);
+}
+
+void TestHost::SetSysDateTime(automation::Date moment)
+{
+    mState->now = moment;
 }
 
 } // namespace test_support

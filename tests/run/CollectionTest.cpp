@@ -1,0 +1,122 @@
+#include "tests/run/CollectionTest.h"
+
+#include "state/SharedState.h"
+#include "tests/run/NestedWalk.h"
+
+namespace test_support
+{
+
+namespace
+{
+
+std::string Described(const data::Changes& changes)
+{
+    std::string text;
+    const auto add = [&](const char* name, long position, long mark) {
+        text += std::string(name) + std::to_string(position) + "/" + std::to_string(mark) + " ";
+    };
+    for (const auto& record : changes.NewHostRecords)
+    {
+        add("newRow", record.RecordBookmark, record.RecordState);
+    }
+    for (const auto& record : changes.ChangedHostRecords)
+    {
+        add("changedRow", record.RecordBookmark, record.RecordState);
+    }
+    for (const auto& record : changes.ChangedOutlookItems)
+    {
+        add("changedItem", std::stol(record.ItemIndex), record.RecordState);
+    }
+    for (const auto& record : changes.NewOutlookItems)
+    {
+        add("newItem", std::stol(record.ItemIndex), record.RecordState);
+    }
+    return text;
+}
+
+void Fill(Records& records, RandomData& random, const std::function<Record(RandomData&)>& make)
+{
+    constexpr size_t kMost = 10;
+    records.clear();
+    for (size_t count = random.Number(kMost); count > 0; --count)
+    {
+        records.push_back(make(random));
+    }
+}
+
+} // namespace
+
+CollectionTest::CollectionTest(const run::Category& category) : mCategory(category)
+{
+    state::Shared().gDTC = Host.Object();
+    state::Shared().gSynParameter = {};
+}
+
+CollectionTest::~CollectionTest()
+{
+    state::Shared().gDTC = {};
+    state::Shared().gSynParameter = {};
+}
+
+data::Run CollectionTest::NewRun()
+{
+    data::Run run{.Display = Display};
+    run.Items = MakeItems(Items);
+    run.HostRows = MakeRows(Rows);
+    return run;
+}
+
+std::string CollectionTest::Collect(long rule, long direction)
+{
+    state::Shared().gSynParameter.TransConflictOption = rule;
+    data::Run run = NewRun();
+    run::ChangeCollection collection(mCategory, run);
+    const bool failed = (direction != 1 && collection.CollectToOutlook()) ||
+                        (direction != 2 && collection.CollectFromOutlook());
+    return failed ? "failed" : Described(run.Pending);
+}
+
+std::string CollectionTest::Walk(long rule, long direction)
+{
+    data::Run run = NewRun();
+    const bool failed = (direction != 1 && WalkToOutlook(mCategory, run, rule)) ||
+                        (direction != 2 && WalkFromOutlook(mCategory, run, rule, true, true));
+    return failed ? "failed" : Described(run.Pending);
+}
+
+long CollectionTest::CompareWithTheNestedWalk(const Rounds& rounds)
+{
+    RandomData random;
+    long proposed = 0;
+    for (int round = 0; round < rounds.rounds && !HasFailure(); ++round)
+    {
+        SCOPED_TRACE(round);
+        Fill(*Items, random, rounds.item);
+        Fill(*Rows, random, rounds.row);
+        if (rounds.parameters)
+        {
+            rounds.parameters(random);
+        }
+        proposed += CompareAllRulesAndDirections();
+    }
+    return proposed;
+}
+
+long CollectionTest::CompareAllRulesAndDirections()
+{
+    long proposed = 0;
+    for (long rule = 0; rule <= 6; ++rule)
+    {
+        for (long direction = 1; direction <= 3; ++direction)
+        {
+            const std::string expected = Walk(rule, direction);
+            EXPECT_EQ(expected, Collect(rule, direction))
+                << "rule " << rule << ", direction " << direction << ", " << Items->size() << " items, "
+                << Rows->size() << " rows";
+            proposed += expected.empty() ? 0 : 1;
+        }
+    }
+    return proposed;
+}
+
+} // namespace test_support

@@ -1,0 +1,164 @@
+#include "tests/run/CollectionTest.h"
+
+#include "sandbox/robot/Robot.h"
+#include "tests/support/CallCounter.h"
+
+using namespace test_support;
+using automation::Value;
+
+namespace
+{
+
+Record Contact(const wchar_t* last, const wchar_t* first, const wchar_t* company)
+{
+    return {{L"LastName", last}, {L"FirstName", first}, {L"CompanyName", company}};
+}
+
+Record ContactRow(Value surname, Value givenName, Value account)
+{
+    return {{L"F_SURNAME", std::move(surname)},
+            {L"F_GIVENNAME", std::move(givenName)},
+            {L"ACC_SNAME", std::move(account)}};
+}
+
+class ContactCollection : public CollectionTest
+{
+  protected:
+    ContactCollection() : CollectionTest(run::kContactCategory) {}
+};
+
+} // namespace
+
+TEST_F(ContactCollection, AnEmptyHostProposesNothingToOutlookAndEveryItemAsNewToTheHost)
+{
+    *Items = {Contact(L"Li", L"Ming", L"Harbour"), Contact(L"Ode", L"Ann", L"")};
+    EXPECT_EQ("", Collect(3, 2));
+    EXPECT_EQ("newItem1/0 newItem2/0 ", Collect(3, 1));
+}
+
+TEST_F(ContactCollection, Rule2WithEveryRecordMatchedProposesNothing)
+{
+    *Items = {Contact(L"Li", L"Ming", L"Harbour")};
+    *Rows = {ContactRow(L"LI ", L"ming", L"harbour")};
+    EXPECT_EQ("", Collect(2, 3));
+}
+
+TEST_F(ContactCollection, Rule1ProposesAMatchedContactAsNewOnTheOtherSide)
+{
+    *Items = {Contact(L"Li", L"Ming", L"Harbour")};
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour")};
+    EXPECT_EQ("newRow1/0 newItem1/0 ", Collect(1, 3));
+}
+
+TEST_F(ContactCollection, Rule3ProposesAMatchedPairInBothDirections)
+{
+    *Items = {Contact(L"Ode", L"Ann", L""), Contact(L"Li", L"Ming", L"Harbour")};
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour"), ContactRow(L"New", L"One", Value::Null())};
+    EXPECT_EQ("newRow2/0 changedRow1/1 changedRow1/0 changedItem2/1 changedItem2/0 newItem1/0 ",
+              Collect(3, 3));
+}
+
+TEST_F(ContactCollection, Rules4And5ProposeAMatchedPairOnlyTowardsTheSideThatLoses)
+{
+    *Items = {Contact(L"Li", L"Ming", L"Harbour")};
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour")};
+    EXPECT_EQ("changedRow1/1 changedItem1/1 ", Collect(4, 3));
+    EXPECT_EQ("changedRow1/0 changedItem1/0 ", Collect(5, 3));
+}
+
+TEST_F(ContactCollection, WithoutTheRightToAddMatchedPairsAreStillProposed)
+{
+    Host.DenyRight(2); // adding
+    *Items = {Contact(L"Li", L"Ming", L"Harbour"), Contact(L"Ode", L"Ann", L"")};
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour")};
+    const auto collectAndReadTheRefusal = [&](long rule, const std::string& expected) {
+        std::wstring refusal;
+        sandbox::Robot robot([&](sandbox::Robot& user) {
+            const sandbox::ShownDialog box = user.WaitForDialog();
+            refusal = box.Message();
+            box.Click(IDOK);
+        });
+        EXPECT_EQ(expected, Collect(rule, 1));
+        robot.Finish();
+        EXPECT_EQ(L"You are not permit to add contact record(s)!", refusal);
+    };
+    collectAndReadTheRefusal(5, "changedRow1/0 changedItem1/0 ");
+    collectAndReadTheRefusal(1, "");
+}
+
+TEST_F(ContactCollection, NamesAreJoinedWithoutASeparatorSoThatLiMingMatchesLimIng)
+{
+    *Items = {Contact(L"Lim", L"ing", L"Harbour")};
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour")};
+    EXPECT_EQ("changedRow1/1 changedItem1/1 ", Collect(4, 2));
+}
+
+TEST_F(ContactCollection, ANullSurnameMatchesAnItemWithoutNamesWhenTheCompaniesAgree)
+{
+    *Items = {Contact(L"", L"", L"Harbour")};
+    *Rows = {ContactRow(Value::Null(), L"Ming", L"Harbour")};
+    EXPECT_EQ("changedRow1/1 changedItem1/1 ", Collect(4, 2));
+}
+
+TEST_F(ContactCollection, AnItemThatCannotBeReadEndsTheProcedureAsFailed)
+{
+    *Items = {Record{}};
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour")};
+    EXPECT_EQ("failed", Collect(3, 2));
+    EXPECT_EQ("failed", Collect(3, 1));
+    Rows->clear();
+    EXPECT_EQ("failed", Collect(3, 1));
+    EXPECT_EQ("", Collect(3, 2));
+}
+
+TEST_F(ContactCollection, TheStatusLineNamesTheWorkAndTheProgressEndsFullAndHidden)
+{
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour"), ContactRow(L"Ode", L"Ann", L"")};
+    Collect(3, 2);
+    EXPECT_EQ(L"Collecting information...", Display.Status);
+    EXPECT_EQ(1, Display.Progress.back());
+    EXPECT_FALSE(Display.IsShown);
+}
+
+TEST_F(ContactCollection, ATwoWayRunReadsEachMatchKeyOnce)
+{
+    for (int i = 0; i < 40; ++i)
+    {
+        const std::wstring name = L"Name" + std::to_wstring(i);
+        Items->push_back(Contact(name.c_str(), L"A", L"Harbour"));
+        Rows->push_back(ContactRow(i % 2 == 0 ? name : name + L"x", L"A", L"Harbour"));
+    }
+    const CallCounter counter;
+    Collect(3, 3);
+    EXPECT_EQ(40, counter.Of(L"Item.LastName"));
+    EXPECT_EQ(40, counter.Of(L"Item.FirstName"));
+    EXPECT_EQ(20, counter.Of(L"Item.CompanyName"));
+    // Once for the names, once more for a company, unless the item is still at hand.
+    EXPECT_EQ(40 + 19, counter.Of(L"Items.Item"));
+    EXPECT_EQ(40 * 2 + 20, counter.Of(L"Field.Value"));
+}
+
+TEST_F(ContactCollection, EqualsThePlainNestedWalkOverRandomData)
+{
+    const auto item = [](RandomData& random) {
+        Record record{{L"LastName", random.Pick({L"Li", L"li ", L"Lim", L"", Value(), Value::Null()})},
+                      {L"FirstName", random.Pick({L"Ming", L"ing", L"", Value::Null()})},
+                      {L"CompanyName", random.Pick({L"Harbour", L"HARBOUR", L"", Value()})}};
+        if (random.OneIn(60))
+        {
+            record.erase(random.OneIn(2) ? L"CompanyName" : L"FirstName");
+        }
+        return random.OneIn(80) ? Record{} : record;
+    };
+    const auto row = [](RandomData& random) {
+        Record record = ContactRow(random.Pick({L"Li", L" LI", L"Lim", L"", Value::Null()}),
+                                   random.Pick({L"Ming", L"ing", L"", Value::Null(), Value()}),
+                                   random.Pick({L"Harbour", L"", Value::Null()}));
+        if (random.OneIn(80))
+        {
+            record.erase(random.OneIn(2) ? L"ACC_SNAME" : L"F_GIVENNAME");
+        }
+        return record;
+    };
+    EXPECT_GT(CompareWithTheNestedWalk({.rounds = 400, .item = item, .row = row}), 4000);
+}

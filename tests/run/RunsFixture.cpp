@@ -1,0 +1,133 @@
+#include "tests/run/RunsFixture.h"
+
+#include "sandbox/robot/Robot.h"
+#include "state/SharedState.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace test_support
+{
+
+using automation::Moment;
+using sandbox::Robot;
+using sandbox::ShownDialog;
+
+namespace
+{
+
+void Give(Answer answer, const ShownDialog& dialog)
+{
+    switch (answer)
+    {
+    case Answer::Accept: dialog.Click(IDOK); break;
+    case Answer::Cancel: dialog.Click(IDCANCEL); break;
+    case Answer::CloseButton: dialog.Close(); break;
+    }
+}
+
+std::wstring Described(const ShownDialog& dialog)
+{
+    const std::wstring text =
+        dialog.IsMessageBox() ? dialog.Message() : dialog.Text(IDC_SHOWINFOR_DESCRIPTION);
+    return dialog.Caption() + (text.empty() ? L"" : L"|" + text);
+}
+
+} // namespace
+
+const RunKind kTaskRun{
+    .name = L"Task",
+    .run = run::RunTaskSync,
+    .folder = L"Personal Folders\\Tasks",
+    .table = L"TBLACTIVITY",
+    .row = L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTPRIORITY) VALUES "
+           L"(hex(randomblob(16)),1,'Host',2)",
+    .item = {{L"Subject", L"Outlook"}},
+    .succeedsWithoutHostRows = true,
+    .writesHostFirst = true,
+};
+
+const RunKind kCalendarRun{
+    .name = L"Calendar",
+    .run = run::RunCalendarSync,
+    .folder = L"Personal Folders\\Calendar",
+    .table = L"TBLACTIVITY",
+    .row = L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE) VALUES "
+           L"(hex(randomblob(16)),1,'Host','2003-05-06 00:00:00')",
+    .item = {{L"Subject", L"Outlook"},
+             {L"Start", automation::DateOf(Moment{2003, 5, 7, 9, 30})},
+             {L"End", automation::DateOf(Moment{2003, 5, 7, 10, 30})}},
+};
+
+const RunKind kContactRun{
+    .name = L"Contact",
+    .run = run::RunContactSync,
+    .folder = L"Personal Folders\\Contacts",
+    .table = L"TBLCONTACT",
+    .row = L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES "
+           L"(hex(randomblob(16)),1,'Host','Ann')",
+    .item = {{L"LastName", L"Outlook"}, {L"FirstName", L"Ann"}},
+};
+
+const std::array<std::reference_wrapper<const RunKind>, 3> kRuns = {kTaskRun, kCalendarRun, kContactRun};
+
+long Confirmations(const Outcome& outcome)
+{
+    return static_cast<long>(std::ranges::count_if(
+        outcome.shown, [](const std::wstring& caption) { return caption.starts_with(L"Confirm "); }));
+}
+
+RunsFixture::RunsFixture()
+{
+    state::SharedState& shared = state::Shared();
+    shared.gDTC = TheHost.Dtc();
+    shared.gCnnString = TheHost.ConnectionString();
+    shared.gOlApplication = sandbox::MakeOutlook(Mailbox);
+    shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
+    shared.gFontName = L"Arial";
+    shared.gFontSize = 8;
+}
+
+RunsFixture::~RunsFixture()
+{
+    state::Shared() = {};
+}
+
+Outcome RunsFixture::Run(const RunKind& kind, Answer answer)
+{
+    Outcome outcome;
+    std::atomic<bool> done{false};
+    Robot robot([&](Robot& self) {
+        while (!done)
+        {
+            for (const ShownDialog& dialog : self.Dialogs())
+            {
+                outcome.shown.push_back(Described(dialog));
+                Give(answer, dialog);
+                self.WaitUntilClosed(dialog);
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    });
+    outcome.failed = kind.run(Display);
+    done = true;
+    robot.Finish();
+    return outcome;
+}
+
+Outcome RunsFixture::Run(const RunKind& kind, long transType, Answer answer)
+{
+    state::SynParameter& parameter = state::Shared().gSynParameter;
+    parameter.TransType = transType;
+    parameter.TransConflictOption = state::kNotifyMe;
+    parameter.CurrentFolder = kind.folder;
+    return Run(kind, answer);
+}
+
+long RunsFixture::CountRows(const RunKind& kind)
+{
+    return automation::LongOf(
+        TheHost.Database().QueryValue(L"SELECT COUNT(*) FROM " + std::wstring(kind.table)));
+}
+
+} // namespace test_support
