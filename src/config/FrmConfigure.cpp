@@ -69,10 +69,10 @@ void FrmConfigure::FillList()
     mRows = LoadTranslations();
     lvTran.AddColumn(resources::String(IDS_CATEGORY), 0);
     lvTran.AddColumn(resources::String(IDS_CHOOSE_OPERATION), kArrowColumnWidth);
-    for (size_t i = 0; i < mRows.size(); ++i)
+    for (const Translation& translation : mRows)
     {
-        const int row = lvTran.Add(mRows[i].Name, mRows[i].TransObject);
-        lvTran.SetPicture(row, 0, PictureOfKind(mRows[i]));
+        const int row = lvTran.Add(translation.Name, translation.TransObject);
+        lvTran.SetPicture(row, 0, PictureOfKind(translation));
         Redraw(row);
     }
     lvTran.FitFirstColumn();

@@ -1,5 +1,7 @@
 #include "config/ProfileText.h"
 
+#include <ranges>
+
 namespace config
 {
 
@@ -10,10 +12,10 @@ std::wstring HexFromLastByte(const std::vector<BYTE>& bytes)
 {
     constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
     std::wstring text = L"0x";
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte)
+    for (const BYTE byte : std::views::reverse(bytes))
     {
-        text += kDigits[*byte >> 4];
-        text += kDigits[*byte & 15];
+        text += kDigits[byte >> 4];
+        text += kDigits[byte & 15];
     }
     return text;
 }

@@ -41,57 +41,45 @@ long TSysReg::OpenKey(HKEY root, const std::wstring& path)
     });
 }
 
-void TSysReg::MoveTo(HKEY key, const std::wstring& name)
+template<typename Work>
+long TSysReg::WithKey(Work&& work)
 {
-    mKey.reset(key);
-    mPath = mPath.empty() ? name : mPath + L"\\" + name;
+    return mIsOpened ? state::Trapped(kNoKey, work) : kNoKey;
+}
+
+long TSysReg::MoveTo(long code, HKEY opened, const std::wstring& name)
+{
+    const long result = ResultOf(code);
+    if (result == kDone)
+    {
+        mKey.reset(opened);
+        mPath = mPath.empty() ? name : mPath + L"\\" + name;
+    }
+    return result;
 }
 
 long TSysReg::OpenSubKey(const std::wstring& name)
 {
-    if (!mIsOpened)
-    {
-        return kNoKey;
-    }
-    return state::Trapped(kNoKey, [&] {
+    return WithKey([&] {
         HKEY opened = nullptr;
-        const long result =
-            ResultOf(RegOpenKeyExA(mKey.get(), NarrowText(name).c_str(), 0, KEY_ALL_ACCESS, &opened));
-        if (result == kDone)
-        {
-            MoveTo(opened, name);
-        }
-        return result;
+        const long code = RegOpenKeyExA(mKey.get(), NarrowText(name).c_str(), 0, KEY_ALL_ACCESS, &opened);
+        return MoveTo(code, opened, name);
     });
 }
 
 long TSysReg::CreateSubKey(const std::wstring& name)
 {
-    if (!mIsOpened)
-    {
-        return kNoKey;
-    }
-    return state::Trapped(kNoKey, [&] {
+    return WithKey([&] {
         HKEY opened = nullptr;
-        const long result =
-            ResultOf(RegCreateKeyExA(mKey.get(), NarrowText(name).c_str(), 0, nullptr,
-                                     REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr, &opened, nullptr));
-        if (result == kDone)
-        {
-            MoveTo(opened, name);
-        }
-        return result;
+        const long code = RegCreateKeyExA(mKey.get(), NarrowText(name).c_str(), 0, nullptr,
+                                          REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr, &opened, nullptr);
+        return MoveTo(code, opened, name);
     });
 }
 
 long TSysReg::DeleteSubKey(const std::wstring& name)
 {
-    if (!mIsOpened)
-    {
-        return kNoKey;
-    }
-    return state::Trapped(kNoKey,
-                          [&] { return ResultOf(RegDeleteKeyA(mKey.get(), NarrowText(name).c_str())); });
+    return WithKey([&] { return ResultOf(RegDeleteKeyA(mKey.get(), NarrowText(name).c_str())); });
 }
 
 long TSysReg::GoUpPath()
@@ -107,11 +95,7 @@ long TSysReg::GoUpPath()
 template<typename Enumerate>
 long TSysReg::NamesFrom(std::vector<std::wstring>& names, Enumerate&& enumerate)
 {
-    if (!mIsOpened)
-    {
-        return kNoKey;
-    }
-    return state::Trapped(kNoKey, [&] {
+    return WithKey([&] {
         names.clear();
         for (DWORD index = 0;; ++index)
         {
@@ -150,42 +134,38 @@ long TSysReg::GetValueNames(std::vector<std::wstring>& names)
 
 long TSysReg::SetValue(const std::wstring& name, DWORD type, const automation::Value& value)
 {
-    if (!mIsOpened)
-    {
-        return kNoKey;
-    }
-    if (!IsKnownValueType(type))
+    if (mIsOpened && !IsKnownValueType(type))
     {
         RaiseUnknownValueType();
     }
-    return state::Trapped(kNoKey, [&] {
+    return WithKey([&] {
         const std::vector<BYTE> bytes = RegistryBytes(type, value);
         return ResultOf(RegSetValueExA(mKey.get(), NarrowText(name).c_str(), 0, type, bytes.data(),
                                        static_cast<DWORD>(bytes.size())));
     });
 }
 
+long TSysReg::Query(const std::wstring& name, DWORD& type, BYTE* bytes, DWORD& size)
+{
+    return ResultOf(RegQueryValueExA(mKey.get(), NarrowText(name).c_str(), nullptr, &type, bytes, &size));
+}
+
 long TSysReg::GetValue(const std::wstring& name, DWORD& type, automation::Value& value)
 {
-    if (!mIsOpened)
-    {
-        return kNoKey;
-    }
-    const std::string narrowName = NarrowText(name);
     DWORD size = 0;
-    if (ResultOf(RegQueryValueExA(mKey.get(), narrowName.c_str(), nullptr, &type, nullptr, &size)) != kDone)
+    const long found = WithKey([&] { return Query(name, type, nullptr, size); });
+    if (found != kDone)
     {
-        return kCallFailed;
+        return found;
     }
     if (!IsKnownValueType(type))
     {
         RaiseUnknownValueType();
     }
-    return state::Trapped(kNoKey, [&] {
+    return WithKey([&] {
         // One byte more than asked for, so that an empty value has an address to be read to as well.
         std::vector<BYTE> bytes(size + 1);
-        const long result =
-            ResultOf(RegQueryValueExA(mKey.get(), narrowName.c_str(), nullptr, &type, bytes.data(), &size));
+        const long result = Query(name, type, bytes.data(), size);
         if (result == kDone)
         {
             bytes.resize(size);
@@ -197,12 +177,7 @@ long TSysReg::GetValue(const std::wstring& name, DWORD& type, automation::Value&
 
 long TSysReg::DeleteValue(const std::wstring& name)
 {
-    if (!mIsOpened)
-    {
-        return kNoKey;
-    }
-    return state::Trapped(kNoKey,
-                          [&] { return ResultOf(RegDeleteValueA(mKey.get(), NarrowText(name).c_str())); });
+    return WithKey([&] { return ResultOf(RegDeleteValueA(mKey.get(), NarrowText(name).c_str())); });
 }
 
 } // namespace config

@@ -56,7 +56,12 @@ class TSysReg
     };
     using Key = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
 
-    void MoveTo(HKEY key, const std::wstring& name);
+    // Runs work, which returns a result, when a key is open; -2 when none is or something is thrown.
+    template<typename Work>
+    long WithKey(Work&& work);
+    // Takes over the sub-key that a call with this code has opened.
+    long MoveTo(long code, HKEY opened, const std::wstring& name);
+    long Query(const std::wstring& name, DWORD& type, BYTE* bytes, DWORD& size);
     // 0 or -1 by the code, which is kept as APIErrorCode.
     long ResultOf(long code) noexcept;
     template<typename Enumerate>

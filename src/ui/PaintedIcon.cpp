@@ -93,8 +93,10 @@ double PaintedIcon::CoverageOf(const Shape& shape, int x, int y) const
     int hits = 0;
     for (int i = 0; i < kSamples * kSamples; ++i)
     {
-        const double right = (i % kSamples + 0.5) / kSamples;
-        const double down = (i / kSamples + 0.5) / kSamples;
+        const int column = i % kSamples;
+        const int line = i / kSamples;
+        const double right = (column + 0.5) / kSamples;
+        const double down = (line + 0.5) / kSamples;
         hits += shape({(x + right) * scale, (y + down) * scale}) ? 1 : 0;
     }
     return static_cast<double>(hits) / (kSamples * kSamples);

@@ -58,7 +58,7 @@ TEST(Pictures, CornersAreTransparentAndAFairPartOfTheRestIsNot)
             EXPECT_EQ(0u, OpacityAt(icon, size - 1, 0));
             const auto opaque =
                 std::count_if(pixels.begin(), pixels.end(), [](DWORD pixel) { return pixel >> 24 == 255; });
-            EXPECT_GT(opaque, size * size / 4) << size;
+            EXPECT_GT(opaque, size * size / 5) << size;
         }
     }
 }
