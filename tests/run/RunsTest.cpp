@@ -2,12 +2,11 @@
 // and how they end.
 #include "tests/run/RunsFixture.h"
 
-#include "automation/Error.h"
 #include "automation/Text.h"
 #include "state/SharedState.h"
+#include "tests/run/CallOrder.h"
 #include "tests/support/CallCounter.h"
 
-#include <algorithm>
 #include <functional>
 
 namespace
@@ -18,43 +17,6 @@ using automation::ToUtf8;
 using state::Shared;
 
 using Runs = RunsFixture;
-
-// Writes down the calls of a few members in their order, and lets a test make one of them fail.
-class CallOrder : public sandbox::CallObserver
-{
-  public:
-    explicit CallOrder(std::vector<std::wstring> members)
-        : mMembers(std::move(members)), mPrevious(sandbox::Observe(this))
-    {
-    }
-    CallOrder(const CallOrder&) = delete;
-    CallOrder& operator=(const CallOrder&) = delete;
-    ~CallOrder() override { sandbox::Observe(mPrevious); }
-
-    void OnCall(const wchar_t* className, const wchar_t* member) override
-    {
-        const std::wstring name = std::wstring(className) + L"." + member;
-        if (std::ranges::find(mMembers, name) != mMembers.end())
-        {
-            Seen.push_back(name);
-        }
-        if (mPrevious != nullptr)
-        {
-            mPrevious->OnCall(className, member);
-        }
-        if (name == Failing)
-        {
-            throw automation::Error(E_FAIL, name, L"Ordered by a test");
-        }
-    }
-
-    std::vector<std::wstring> Seen;
-    std::wstring Failing;
-
-  private:
-    std::vector<std::wstring> mMembers;
-    sandbox::CallObserver* mPrevious;
-};
 
 // A run both ways with one record alone on either side: whether the item or the row was written first.
 using Order = std::vector<std::wstring>;
