@@ -59,6 +59,11 @@ Date DateOf(const Moment& moment)
     {
         throw Error(DISP_E_OVERFLOW, L"date");
     }
+    // The conversion carries over what exceeds a month or a year; what does not come back does not exist.
+    if (MomentOf(date) != moment)
+    {
+        throw Error(DISP_E_OVERFLOW, L"date");
+    }
     return date;
 }
 

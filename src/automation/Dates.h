@@ -23,6 +23,8 @@ struct Moment
     int hour = 0;
     int minute = 0;
     int second = 0;
+
+    bool operator==(const Moment&) const = default;
 };
 
 // Rounded to the second. Throw Error for a date outside the years 100 to 9999, or a moment that does not

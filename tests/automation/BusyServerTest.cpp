@@ -1,0 +1,90 @@
+#include "automation/BusyServer.h"
+
+#include "automation/MessageFilter.h"
+#include "automation/Object.h"
+#include "tests/automation/ScriptedObject.h"
+
+#include <gtest/gtest.h>
+
+#include <objbase.h>
+#include <wrl/client.h>
+
+namespace
+{
+
+using namespace automation;
+using Microsoft::WRL::ComPtr;
+using test_support::ArrivedCall;
+using test_support::CodeOf;
+using test_support::ScriptedObject;
+
+// The message filter that the thread has; the thread keeps it.
+ComPtr<IMessageFilter> CurrentFilter()
+{
+    ComPtr<IMessageFilter> filter;
+    CoRegisterMessageFilter(nullptr, &filter);
+    ComPtr<IMessageFilter> none;
+    CoRegisterMessageFilter(filter.Get(), &none);
+    return filter;
+}
+
+TEST(MessageFilterScope, ABusyServerIsTriedAgainForABoundedTime)
+{
+    const MessageFilterScope scope;
+    const ComPtr<IMessageFilter> filter = CurrentFilter();
+    ASSERT_NE(nullptr, filter.Get());
+    const DWORD cancel = static_cast<DWORD>(-1);
+    for (const DWORD reason : {SERVERCALL_RETRYLATER, SERVERCALL_REJECTED})
+    {
+        EXPECT_NE(cancel, filter->RetryRejectedCall(nullptr, 0, reason));
+        EXPECT_NE(cancel, filter->RetryRejectedCall(nullptr, kBusyPatience - 1, reason));
+        EXPECT_EQ(cancel, filter->RetryRejectedCall(nullptr, kBusyPatience, reason));
+    }
+}
+
+TEST(MessageFilterScope, TheFilterThatWasThereBeforeIsPutBack)
+{
+    const MessageFilterScope outer;
+    const ComPtr<IMessageFilter> before = CurrentFilter();
+    {
+        const MessageFilterScope inner;
+        EXPECT_NE(before.Get(), CurrentFilter().Get());
+    }
+    EXPECT_EQ(before.Get(), CurrentFilter().Get());
+}
+
+TEST(BusyServer, ARejectedCallIsMadeAgainUntilItIsTaken)
+{
+    for (const HRESULT rejection : {RPC_E_CALL_REJECTED, RPC_E_SERVERCALL_RETRYLATER})
+    {
+        ScriptedObject scripted;
+        long calls = 0;
+        scripted.OnCall = [&](const ArrivedCall& call) {
+            EXPECT_EQ(5, call.At(0).lVal);
+            return ++calls <= 1 ? rejection : S_OK;
+        };
+        Object(&scripted).Call(L"Member", 5L);
+        EXPECT_EQ(2, calls);
+    }
+}
+
+TEST(BusyServer, AnyOtherFailureIsReportedAtOnce)
+{
+    ScriptedObject scripted;
+    long calls = 0;
+    scripted.OnCall = [&](const ArrivedCall&) {
+        ++calls;
+        return RPC_E_DISCONNECTED;
+    };
+    EXPECT_EQ(RPC_E_DISCONNECTED, CodeOf([&] { Object(&scripted).Call(L"Member"); }));
+    EXPECT_EQ(1, calls);
+}
+
+TEST(BusyServer, PatienceEnds)
+{
+    const ULONGLONG now = GetTickCount64();
+    EXPECT_TRUE(WaitForBusyServer(now));
+    EXPECT_FALSE(WaitForBusyServer(now - kBusyPatience));
+}
+
+} // namespace

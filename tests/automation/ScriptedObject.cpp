@@ -1,0 +1,72 @@
+#include "tests/automation/ScriptedObject.h"
+
+namespace test_support
+{
+
+namespace
+{
+
+constexpr DISPID kMember = 42;
+
+} // namespace
+
+HRESULT ScriptedObject::QueryInterface(REFIID id, void** result)
+{
+    const bool isKnown = id == __uuidof(IUnknown) || id == __uuidof(IDispatch) ||
+                         (IsOfScriptClass && id == __uuidof(IDispatchEx));
+    *result = isKnown ? static_cast<IDispatchEx*>(this) : nullptr;
+    if (!isKnown)
+    {
+        return E_NOINTERFACE;
+    }
+    AddRef();
+    return S_OK;
+}
+
+HRESULT ScriptedObject::GetTypeInfoCount(UINT* count)
+{
+    *count = 0;
+    return S_OK;
+}
+
+HRESULT ScriptedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)
+{
+    EXPECT_EQ(1u, count);
+    return IsOfScriptClass ? E_NOTIMPL : Find(names[0], ids);
+}
+
+HRESULT ScriptedObject::GetDispID(BSTR name, DWORD flags, DISPID* id)
+{
+    FlagsOfName = flags;
+    return Find(name, id);
+}
+
+HRESULT ScriptedObject::Find(const wchar_t* name, DISPID* id)
+{
+    ++NamesAsked;
+    const bool isMember = lstrcmpiW(name, Member.c_str()) == 0;
+    *id = isMember ? kMember : DISPID_UNKNOWN;
+    return isMember ? S_OK : DISP_E_UNKNOWNNAME;
+}
+
+HRESULT ScriptedObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                               EXCEPINFO* exception, UINT*)
+{
+    EXPECT_EQ(kMember, id);
+    return OnCall({id, flags, *parameters, result, exception});
+}
+
+HRESULT CodeOf(const std::function<void()>& body)
+{
+    try
+    {
+        body();
+        return S_OK;
+    }
+    catch (const automation::Error& error)
+    {
+        return error.Code();
+    }
+}
+
+} // namespace test_support
