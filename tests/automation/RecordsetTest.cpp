@@ -3,6 +3,7 @@
 #include "automation/Error.h"
 #include "sandbox/ado/Ado.h"
 #include "tests/automation/ScriptedObject.h"
+#include "tests/sandbox_host/DatabaseFile.h"
 #include "tests/support/CallCounter.h"
 
 #include <gtest/gtest.h>
@@ -14,16 +15,16 @@ namespace
 
 using namespace automation;
 using test_support::CallCounter;
+using test_support::DatabaseFile;
 
 class RecordsetTest : public testing::Test
 {
   protected:
-    Recordset Open(const std::wstring& sql)
-    {
-        return OpenRecordset(sql, L"Driver=SQLite3;Database=:memory:", {});
-    }
+    Recordset Open(const std::wstring& sql) { return OpenRecordset(sql, mDatabase.ConnectionString(), {}); }
 
+  private:
     sandbox::AdoInProcess mAdo;
+    DatabaseFile mDatabase;
 };
 
 TEST_F(RecordsetTest, AColumnIsFetchedOnceAndItsFieldFollowsTheRow)
