@@ -38,7 +38,7 @@ OutlookInProcess::OutlookInProcess(MailboxRef mailbox)
     : mClass(outlook::kOutlookClass, CLSCTX_INPROC_SERVER,
              [mailbox = std::move(mailbox)] { return MakeOutlook(mailbox); })
 {
-    outlook::RegisterProgId(outlook::kOutlookProgId, outlook::kOutlookClass);
+    RegisterProgId(outlook::kOutlookProgId, outlook::kOutlookClass);
 }
 
 } // namespace sandbox

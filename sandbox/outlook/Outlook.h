@@ -4,7 +4,8 @@
 #pragma once
 
 #include "automation/Object.h"
-#include "sandbox/outlook/ClassObject.h"
+#include "sandbox/dispatch/ClassObject.h"
+#include "sandbox/outlook/Classes.h"
 #include "sandbox/outlook/Mailbox.h"
 
 namespace sandbox
@@ -36,7 +37,7 @@ class OutlookInProcess
     explicit OutlookInProcess(MailboxRef mailbox);
 
   private:
-    outlook::RegisteredClass mClass;
+    RegisteredClass mClass;
 };
 
 } // namespace sandbox

@@ -1,11 +1,10 @@
 #include "sandbox/outlook/Registration.h"
 
 #include "automation/Error.h"
-#include "sandbox/outlook/ClassObject.h"
+#include "sandbox/dispatch/ClassObject.h"
+#include "sandbox/outlook/Classes.h"
 
 #include <cwchar>
-
-#include <objbase.h>
 
 namespace sandbox::outlook
 {
@@ -13,9 +12,6 @@ namespace sandbox::outlook
 namespace
 {
 
-// Per machine, since Wine looks programmatic identifiers up there only.
-const HKEY kClassesRoot = HKEY_LOCAL_MACHINE;
-constexpr const wchar_t* kClasses = L"Software\\Classes\\";
 constexpr const wchar_t* kSettings = L"Software\\TelvixSandbox";
 constexpr const wchar_t* kMailboxValue = L"Mailbox";
 constexpr const wchar_t* kDelayValue = L"StartDelay";
@@ -34,24 +30,12 @@ void Check(LSTATUS status, const std::wstring& what)
     automation::Check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)), what.c_str());
 }
 
-std::wstring TextOf(const CLSID& id)
-{
-    wchar_t text[40];
-    StringFromGUID2(id, text, ARRAYSIZE(text));
-    return text;
-}
-
-void SetText(HKEY root, const std::wstring& key, const wchar_t* name, const std::wstring& text)
-{
-    const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-    Check(RegSetKeyValueW(root, key.c_str(), name, REG_SZ, text.c_str(), size), key);
-}
-
-std::wstring ReadText(HKEY root, const std::wstring& key, const wchar_t* name)
+std::wstring ReadSetting(const wchar_t* name)
 {
     wchar_t text[MAX_PATH * 4];
     DWORD size = sizeof text;
-    const LSTATUS status = RegGetValueW(root, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
+    const LSTATUS status =
+        RegGetValueW(HKEY_CURRENT_USER, kSettings, name, RRF_RT_REG_SZ, nullptr, text, &size);
     return status == ERROR_SUCCESS ? std::wstring(text) : std::wstring();
 }
 
@@ -60,7 +44,8 @@ void SetOrRemove(const wchar_t* name, const std::wstring& text)
 {
     if (!text.empty())
     {
-        SetText(HKEY_CURRENT_USER, kSettings, name, text);
+        const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+        Check(RegSetKeyValueW(HKEY_CURRENT_USER, kSettings, name, REG_SZ, text.c_str(), size), kSettings);
         return;
     }
     const LSTATUS status = RegDeleteKeyValueW(HKEY_CURRENT_USER, kSettings, name);
@@ -70,38 +55,15 @@ void SetOrRemove(const wchar_t* name, const std::wstring& text)
     }
 }
 
-void DeleteKey(const std::wstring& key)
-{
-    const LSTATUS status = RegDeleteTreeW(kClassesRoot, key.c_str());
-    if (status != ERROR_FILE_NOT_FOUND)
-    {
-        Check(status, key);
-    }
-}
-
-std::wstring ClassKey(const CLSID& id)
-{
-    return std::wstring(kClasses) + L"CLSID\\" + TextOf(id);
-}
-
 } // namespace
-
-void RegisterProgId(const wchar_t* progId, const CLSID& id)
-{
-    const std::wstring key = std::wstring(kClasses) + progId + L"\\CLSID";
-    if (ReadText(kClassesRoot, key, nullptr) != TextOf(id))
-    {
-        SetText(kClassesRoot, key, nullptr, TextOf(id));
-    }
-}
 
 void RegisterServer(const std::wstring& program)
 {
     for (const ServedClass& served : kServedClasses)
     {
         RegisterProgId(served.progId, served.id);
-        SetText(kClassesRoot, ClassKey(served.id) + L"\\LocalServer32", nullptr, L"\"" + program + L"\"");
-        SetText(kClassesRoot, ClassKey(served.id) + L"\\ProgID", nullptr, served.progId);
+        SetClassText(ClassKey(served.id) + L"\\LocalServer32", nullptr, L"\"" + program + L"\"");
+        SetClassText(ClassKey(served.id) + L"\\ProgID", nullptr, served.progId);
     }
 }
 
@@ -109,13 +71,13 @@ void UnregisterServer()
 {
     for (const ServedClass& served : kServedClasses)
     {
-        DeleteKey(ClassKey(served.id));
+        DeleteClassKey(ClassKey(served.id));
     }
 }
 
 std::wstring ChosenMailbox()
 {
-    const std::wstring chosen = ReadText(HKEY_CURRENT_USER, kSettings, kMailboxValue);
+    const std::wstring chosen = ReadSetting(kMailboxValue);
     if (!chosen.empty())
     {
         return chosen;
@@ -132,7 +94,7 @@ void ChooseMailbox(const std::wstring& path)
 
 long ChosenStartDelay()
 {
-    return std::wcstol(ReadText(HKEY_CURRENT_USER, kSettings, kDelayValue).c_str(), nullptr, 10);
+    return std::wcstol(ReadSetting(kDelayValue).c_str(), nullptr, 10);
 }
 
 void ChooseStartDelay(long milliseconds)

@@ -9,8 +9,6 @@
 namespace sandbox::outlook
 {
 
-// Makes the programmatic identifier name the class, as far as it does not yet. Throws automation::Error.
-void RegisterProgId(const wchar_t* progId, const CLSID& id);
 // Registers the program at this path as the server of the stand-in's classes, and takes that back; the
 // programmatic identifiers stay, for processes that serve the class themselves. Throw automation::Error.
 void RegisterServer(const std::wstring& program);

@@ -7,6 +7,7 @@
 #include "sandbox/demo/Installation.h"
 #include "sandbox/demo/Report.h"
 #include "sandbox/host/Host.h"
+#include "sandbox/outlook/Classes.h"
 #include "sandbox/outlook/Registration.h"
 #include "sandbox/sample_data/SampleData.h"
 
