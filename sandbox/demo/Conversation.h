@@ -37,7 +37,7 @@ class Conversation
   private:
     void Answer(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
     bool AnswerConfirmation(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
-    void TourKind(const ShownDialog& configure, int row);
+    void TourKind(const ShownDialog& configure, int row, const std::wstring& kind);
     // The dialog that a button opens.
     ShownDialog OpenedBy(const ShownDialog& dialog, int control);
     // By Cancel.

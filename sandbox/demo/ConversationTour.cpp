@@ -9,7 +9,8 @@ namespace sandbox::demo
 namespace
 {
 
-constexpr int kKinds = 3;
+// The kinds in the order of the host's template rows, as the list shows them.
+constexpr const wchar_t* kKinds[] = {L"contact", L"task", L"calendar"};
 
 } // namespace
 
@@ -18,16 +19,17 @@ void Conversation::Tour()
     mMain.ChooseRow(IDC_SYNC_CATEGORY, 0);
     mRobot.WaitUntil("Configure is enabled", [&] { return mMain.IsEnabled(IDC_SYNC_CONFIGURE); });
     const ShownDialog configure = OpenedBy(mMain, IDC_SYNC_CONFIGURE);
-    for (int row = 0; row < kKinds; ++row)
+    int row = 0;
+    for (const wchar_t* kind : kKinds)
     {
-        TourKind(configure, row);
+        TourKind(configure, row++, kind);
     }
     Leave(configure);
 }
 
-void Conversation::TourKind(const ShownDialog& configure, int row)
+void Conversation::TourKind(const ShownDialog& configure, int row, const std::wstring& kind)
 {
-    const std::wstring suffix = L"-" + std::to_wstring(row + 1);
+    const std::wstring suffix = L"-" + kind;
     configure.ChooseRow(IDC_CONFIGURE_LIST, row);
     SavePictureOf(configure, L"configure" + suffix);
 

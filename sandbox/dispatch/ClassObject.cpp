@@ -1,9 +1,8 @@
 #include "sandbox/dispatch/ClassObject.h"
 
+#include "automation/ComObject.h"
 #include "automation/Error.h"
 #include "automation/Guard.h"
-
-#include <atomic>
 
 #include <objbase.h>
 
@@ -15,35 +14,10 @@ namespace
 
 constexpr const wchar_t* kClasses = L"Software\\Classes\\";
 
-class ClassFactory : public IClassFactory
+class ClassFactory : public automation::ComObject<IClassFactory>
 {
   public:
     explicit ClassFactory(Creator create) : mCreate(std::move(create)) {}
-    virtual ~ClassFactory() = default;
-
-    STDMETHODIMP QueryInterface(REFIID id, void** result) override
-    {
-        if (id != __uuidof(IUnknown) && id != __uuidof(IClassFactory))
-        {
-            *result = nullptr;
-            return E_NOINTERFACE;
-        }
-        *result = static_cast<IClassFactory*>(this);
-        AddRef();
-        return S_OK;
-    }
-
-    STDMETHODIMP_(ULONG) AddRef() override { return ++mReferences; }
-
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const ULONG left = --mReferences;
-        if (left == 0)
-        {
-            delete this;
-        }
-        return left;
-    }
 
     STDMETHODIMP CreateInstance(IUnknown* outer, REFIID id, void** result) override
     {
@@ -57,7 +31,6 @@ class ClassFactory : public IClassFactory
 
   private:
     Creator mCreate;
-    std::atomic<ULONG> mReferences{0};
 };
 
 std::wstring TextOfId(const CLSID& id)

@@ -1,8 +1,8 @@
 #include "automation/MessageFilter.h"
 
 #include "automation/BusyServer.h"
+#include "automation/ComObject.h"
 
-#include <atomic>
 #include <new>
 
 #include <objbase.h>
@@ -16,35 +16,9 @@ namespace
 constexpr DWORD kCancelCall = static_cast<DWORD>(-1);
 constexpr DWORD kRetryDelay = 250; // milliseconds; COM waits so long before the next try
 
-class RetryingFilter : public IMessageFilter
+class RetryingFilter : public ComObject<IMessageFilter>
 {
   public:
-    virtual ~RetryingFilter() = default;
-
-    STDMETHODIMP QueryInterface(REFIID id, void** result) override
-    {
-        if (id != __uuidof(IUnknown) && id != __uuidof(IMessageFilter))
-        {
-            *result = nullptr;
-            return E_NOINTERFACE;
-        }
-        *result = static_cast<IMessageFilter*>(this);
-        AddRef();
-        return S_OK;
-    }
-
-    STDMETHODIMP_(ULONG) AddRef() override { return ++mReferences; }
-
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const ULONG left = --mReferences;
-        if (left == 0)
-        {
-            delete this;
-        }
-        return left;
-    }
-
     STDMETHODIMP_(DWORD) HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) override
     {
         return SERVERCALL_ISHANDLED;
@@ -56,9 +30,6 @@ class RetryingFilter : public IMessageFilter
     }
 
     STDMETHODIMP_(DWORD) MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }
-
-  private:
-    std::atomic<ULONG> mReferences{0};
 };
 
 } // namespace

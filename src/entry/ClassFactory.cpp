@@ -1,8 +1,8 @@
 #include "entry/ClassFactory.h"
 
+#include "automation/ComObject.h"
 #include "automation/Guard.h"
 #include "entry/ClsSynOutlook.h"
-#include "entry/ComObject.h"
 
 #include <atomic>
 
@@ -16,7 +16,7 @@ namespace
 
 std::atomic<long> gUsers{0};
 
-class ClassFactory : public ComObject<IClassFactory>
+class ClassFactory : public automation::ComObject<IClassFactory>
 {
   public:
     STDMETHODIMP CreateInstance(IUnknown* outer, REFIID interfaceId, void** result) override

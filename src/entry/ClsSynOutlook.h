@@ -3,15 +3,15 @@
 // instance sets them to their defaults.
 #pragma once
 
+#include "automation/ComObject.h"
 #include "entry/ClassFactory.h"
-#include "entry/ComObject.h"
 
 #include "TelvixIdl.h"
 
 namespace entry
 {
 
-class ClsSynOutlook : public ComObject<_ClsSynOutlook, ISupportErrorInfo>
+class ClsSynOutlook : public automation::ComObject<_ClsSynOutlook, ISupportErrorInfo>
 {
   public:
     ClsSynOutlook();

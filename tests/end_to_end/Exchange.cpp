@@ -37,8 +37,8 @@ Exchange::Exchange() : mFolder(NewFolder())
 {
     const std::wstring hostFile = mFolder + L"\\host.db";
     const std::wstring mailboxFile = mFolder + L"\\outlook.db";
-    WriteSampleHost(hostFile, resources::IsChinese() ? Edition::Chinese : Edition::English);
-    WriteSampleMailbox(mailboxFile);
+    WriteNumberedHost(hostFile, resources::IsChinese() ? Edition::Chinese : Edition::English, kRecords);
+    WriteNumberedMailbox(mailboxFile, kRecords);
     mHost = std::make_unique<Host>(hostFile);
     mMailbox = std::make_unique<Connection>(ConnectionStringOf(mailboxFile));
     InstallOutlookProfile();

@@ -1,4 +1,5 @@
-// A host with sample data, a mailbox, and the registered component between them, used by the robot.
+// A host and a mailbox with half of their records in common, and the registered component between them, used
+// by the robot.
 #pragma once
 
 #include "sandbox/demo/Conversation.h"
@@ -12,6 +13,9 @@
 
 namespace test_support
 {
+
+// Records of each kind on either side; half of them are the same on both.
+inline constexpr long kRecords = 40;
 
 class Exchange : public testing::Test
 {

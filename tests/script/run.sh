@@ -1,21 +1,30 @@
 #!/usr/bin/env bash
-# run.sh SCRIPT: runs a VBScript client of the registered component, and closes the dialogs that SynLoad shows.
+# run.sh SCRIPT BUILD: runs a VBScript client of the registered component over a mailbox of its own, and closes
+# the dialogs that SynLoad shows, as a user at the keyboard.
 set -u
-output=$(mktemp)
-trap 'rm -f "$output"' EXIT
-timeout 90 wine cscript //nologo "$(winepath -w "$1")" >"$output" 2>&1 </dev/null &
+script=$1
+build=$2
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+mailbox=$(winepath -w "$folder/outlook.db")
+timeout 30 wine "$build/Demo.exe" --prepare --host "$(winepath -w "$folder/host.db")" --mailbox "$mailbox" </dev/null &&
+    timeout 30 wine reg add 'HKCU\Software\TelvixSandbox' /v Mailbox /d "$mailbox" /f >/dev/null 2>&1 </dev/null ||
+    { echo "no mailbox could be made"; exit 1; }
+
+timeout 90 wine cscript //nologo "$(winepath -w "$script")" >"$folder/output" 2>&1 </dev/null &
 client=$!
 closed=0
-deadline=$((SECONDS + 90))
-while kill -0 "$client" 2>/dev/null && [ $SECONDS -lt $deadline ]; do
+while kill -0 "$client" 2>/dev/null; do
     window=$(xdotool search --onlyvisible --name '^(Synchronization|同步)$' 2>/dev/null | head -n 1)
-    if [ -n "$window" ] && [ "$window" != "${last:-}" ]; then
-        xdotool windowfocus "$window" key --window "$window" Escape 2>/dev/null && last=$window && closed=$((closed + 1))
+    if [ -n "$window" ] && [ "$window" != "${last:-}" ] &&
+        xdotool windowfocus --sync "$window" key --window "$window" Escape 2>/dev/null; then
+        last=$window
+        closed=$((closed + 1))
     fi
-    sleep 0.2
+    sleep 0.1
 done
 wait "$client"
 status=$?
-tr -d '\r' <"$output"
-[ $status -eq 0 ] && [ "$(tr -d '\r' <"$output" | tail -n 1)" = ok ] && [ $closed -ge 2 ] ||
+tr -d '\r' <"$folder/output"
+[ $status -eq 0 ] && [ "$(tr -d '\r' <"$folder/output" | tail -n 1)" = ok ] && [ $closed -ge 2 ] ||
     { echo "the client ended with $status, $closed dialogs were closed"; exit 1; }

@@ -5,6 +5,7 @@
 #include "resources/Strings.h"
 #include "sandbox/demo/Conversation.h"
 #include "sandbox/demo/Installation.h"
+#include "sandbox/demo/MessageTour.h"
 #include "sandbox/demo/Report.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Classes.h"
@@ -115,6 +116,10 @@ void CallSynLoad(Host& host)
 
 bool RunByRobot(Host& host, const Options& options)
 {
+    if (options.Tour)
+    {
+        TourMessages(options);
+    }
     bool allSucceeded = false;
     Robot robot([&](Robot& running) { allSucceeded = Converse(running, options); }, std::chrono::minutes(10));
     CallSynLoad(host);

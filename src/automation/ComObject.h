@@ -8,7 +8,7 @@
 #include <unknwn.h>
 #include <wrl/client.h>
 
-namespace entry
+namespace automation
 {
 
 template<typename... Interfaces>
@@ -68,4 +68,4 @@ class ComObject : public Interfaces...
     std::atomic<ULONG> mReferences{0};
 };
 
-} // namespace entry
+} // namespace automation
