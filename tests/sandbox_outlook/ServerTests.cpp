@@ -289,7 +289,8 @@ TEST_F(OutlookServer, RefusesCallsForATimeAsABusyOutlookDoes)
 TEST_F(OutlookServer, ABusyOutlookIsAskedAgainUntilItAnswers)
 {
     const auto outlook = Outlook();
-    Control().Call(L"RejectCallsFor", 1000);
+    const auto control = Control(); // held, since a reference given back meanwhile would be rejected as well
+    control.Call(L"RejectCallsFor", 1000);
     const ULONGLONG start = GetTickCount64();
     EXPECT_EQ(L"Outlook", Text(outlook, L"Name"));
     EXPECT_GE(GetTickCount64() - start, 500u);
