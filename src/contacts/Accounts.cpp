@@ -6,6 +6,7 @@
 #include "data/Permissions.h"
 #include "data/SqlFragments.h"
 #include "resources/Strings.h"
+#include "state/Failures.h"
 
 #include <optional>
 
@@ -141,6 +142,21 @@ Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const Ob
                             : LinksOfFoundAccount(host, catalogue, item, accounts);
 }
 
+// An appointment is written outside any transaction, so there is no rollback for the account of its company:
+// an account in part would be found and used from then on.
+void TakeAccountBack(const Host& host, const std::wstring& key)
+{
+    state::Trapped(false, [&] {
+        if (!host.InTransaction())
+        {
+            const std::wstring condition = L"F_ACCID=" + Quoted(key);
+            host.Delete(L"TBLACCINFO", condition);
+            host.Delete(L"TBLACCOUNT", condition);
+        }
+        return true;
+    });
+}
+
 // A link that could not be made for want of a right must not cost an existing contact the one that it has.
 void AddLink(RowColumns& contact, const wchar_t* column, const std::wstring& key)
 {
@@ -158,8 +174,16 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     account.Add(L"F_ACCSNAME", companyName);
     account.Add(L"F_ACCCURRIDX", resources::IsChinese() ? kChineseCurrency : kOtherCurrency);
     std::wstring key = host.NewGuid();
-    InsertRow(host, L"TBLACCOUNT", L"F_ACCID", Quoted(key), account);
-    data::Demand(data::AddAccountInfo(key) == 0, L"AddAccountInfo");
+    try
+    {
+        InsertRow(host, L"TBLACCOUNT", L"F_ACCID", Quoted(key), account);
+        data::Demand(data::AddAccountInfo(key) == 0, L"AddAccountInfo");
+    }
+    catch (...)
+    {
+        TakeAccountBack(host, key);
+        throw;
+    }
     return key;
 }
 

@@ -103,18 +103,33 @@ void Demand(bool accepted, const wchar_t* member)
 
 Transaction::Transaction(const Host& host) : mHost(host)
 {
-    mHost.BeginTrans();
+    try
+    {
+        mHost.BeginTrans();
+    }
+    catch (...)
+    {
+        RollBack(); // the host may have begun it all the same, and the answer been lost
+        throw;
+    }
 }
 
 Transaction::~Transaction()
 {
     if (mPending)
     {
+        RollBack();
+    }
+}
+
+// A host that cannot even be asked is told to roll back: an open transaction would swallow every later write.
+void Transaction::RollBack() noexcept
+{
+    const bool isPending = state::Trapped(true, [&] { return mHost.InTransaction(); });
+    if (isPending)
+    {
         state::Trapped(false, [&] {
-            if (mHost.InTransaction())
-            {
-                mHost.RollbackTrans();
-            }
+            mHost.RollbackTrans();
             return true;
         });
     }

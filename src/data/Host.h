@@ -68,6 +68,8 @@ class Transaction
     void Commit();
 
   private:
+    void RollBack() noexcept;
+
     const Host& mHost;
     bool mPending = true;
 };

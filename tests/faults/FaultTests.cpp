@@ -1,0 +1,87 @@
+// Whatever call fails, nothing is lost or half-written, nothing stays open or is held, and the next run puts
+// things right.
+#include "tests/faults/FaultTrials.h"
+
+#include "run/Runs.h"
+#include "sandbox/robot/Robot.h"
+#include "tests/support/Thoroughness.h"
+
+#include <atomic>
+
+namespace
+{
+
+using namespace test_support;
+
+const ExchangedKind kContactKind{"contacts", run::kContactCategory, run::RunContactSync,
+                                 L"Personal Folders\\Contacts"};
+const ExchangedKind kTaskKind{"tasks", run::kTaskCategory, run::RunTaskSync, L"Personal Folders\\Tasks"};
+const ExchangedKind kCalendarKind{"calendar", run::kCalendarCategory, run::RunCalendarSync,
+                                  L"Personal Folders\\Calendar"};
+
+// Does the work while every dialog and message box that comes up is answered by its OK button.
+template<typename Work>
+void AcceptEverything(Work&& work)
+{
+    std::atomic<bool> done{false};
+    sandbox::Robot robot([&](sandbox::Robot& self) {
+        while (!done)
+        {
+            for (const sandbox::ShownDialog& dialog : self.Dialogs())
+            {
+                dialog.Click(IDOK);
+                self.WaitUntilClosed(dialog);
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    });
+    work();
+    done = true;
+    robot.Finish();
+}
+
+class EveryKind : public FaultTrials, public testing::WithParamInterface<Exchanged>
+{
+  protected:
+    void Strike(const char* what, Phase phase, long step)
+    {
+        long struck = 0;
+        AcceptEverything([&] { struck = StrikeEveryCall(GetParam(), phase, step); });
+        EXPECT_LT(10, struck);
+        ReportFigure(std::string("faults tried, ") + what + " of " + GetParam().kind.name +
+                     (GetParam().IsToOutlook() ? " to Outlook: " : " from Outlook: ") +
+                     std::to_string(struck) + (step > 1 ? " (a selection)" : ""));
+    }
+};
+
+TEST_P(EveryKind, WhicheverCallOfTheCollectionFailsNothingIsWrittenAndTheNextRunPutsThingsRight)
+{
+    Strike("collection", Phase::Collection, 1);
+}
+
+TEST_P(EveryKind, WhicheverCallOfTheApplyPassFailsRecordsAreWholeAndTheNextRunPutsThingsRight)
+{
+    Strike("apply pass", Phase::Apply, IsLongRun() ? 1 : 3);
+}
+
+TEST_P(EveryKind, WhicheverCallOfAWholeRunFailsRecordsAreWholeAndTheNextRunPutsThingsRight)
+{
+    Strike("whole run", Phase::Whole, IsLongRun() ? 1 : 41);
+}
+
+std::string NameOf(const testing::TestParamInfo<Exchanged>& exchanged)
+{
+    return std::string(exchanged.param.kind.name) +
+           (exchanged.param.IsToOutlook() ? "ToOutlook" : "FromOutlook");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, EveryKind,
+                         testing::Values(Exchanged{kContactKind, Direction::ToOutlook},
+                                         Exchanged{kContactKind, Direction::FromOutlook},
+                                         Exchanged{kTaskKind, Direction::ToOutlook},
+                                         Exchanged{kTaskKind, Direction::FromOutlook},
+                                         Exchanged{kCalendarKind, Direction::ToOutlook},
+                                         Exchanged{kCalendarKind, Direction::FromOutlook}),
+                         NameOf);
+
+} // namespace
