@@ -85,8 +85,10 @@ void ExpectSame(const Records& now, const Records& wanted, size_t extraAllowed)
 } // namespace
 
 FaultTrials::FaultTrials()
-    : mAdo(sandbox::kRecordsetClass, CLSCTX_INPROC_SERVER,
-           [this] { return WithFaults(sandbox::MakeRecordset(), mFaults); })
+    : mAdo(sandbox::kRecordsetClass, CLSCTX_INPROC_SERVER, [this] {
+          CountCreation(*mFaults);
+          return WithFaults(sandbox::MakeRecordset(), mFaults);
+      })
 {
     sandbox::RegisterProgId(sandbox::kRecordsetProgId, sandbox::kRecordsetClass);
     state::Shared().gCnnString = mSides.TheHost.ConnectionString();

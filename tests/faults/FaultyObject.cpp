@@ -1,5 +1,7 @@
 #include "tests/faults/FaultyObject.h"
 
+#include "automation/Error.h"
+
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -35,6 +37,17 @@ ComPtr<IDispatch> Inside(IDispatch* object)
         object != nullptr &&
         SUCCEEDED(object->QueryInterface(kInside, reinterpret_cast<void**>(inside.GetAddressOf())));
     return isWrapper ? inside : ComPtr<IDispatch>(object);
+}
+
+// Counts a call that the kind of fault can strike; whether this is the one.
+bool Strikes(Faults& faults, const std::wstring& member)
+{
+    if (++faults.Calls != faults.At)
+    {
+        return false;
+    }
+    faults.StruckMember = member;
+    return true;
 }
 
 class FaultyObject : public IDispatch
@@ -85,7 +98,6 @@ class FaultyObject : public IDispatch
   private:
     virtual ~FaultyObject() { --gLiveWrappers; }
 
-    bool Strikes(const std::wstring& member);
     bool IsStatus(const std::wstring& member) const
     {
         return mIsHost && std::ranges::find(kStatusMembers, member) != kStatusMembers.end();
@@ -189,19 +201,9 @@ HRESULT Injected(long number, EXCEPINFO* exception)
     return DISP_E_EXCEPTION;
 }
 
-bool FaultyObject::Strikes(const std::wstring& member)
-{
-    if (++mFaults->Calls != mFaults->At)
-    {
-        return false;
-    }
-    mFaults->StruckMember = member;
-    return true;
-}
-
 STDMETHODIMP FaultyObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID locale, DISPID* ids)
 {
-    if (mFaults->Kind == Fault::Raises && Strikes(names[0]))
+    if (mFaults->Kind == Fault::Raises && Strikes(*mFaults, names[0]))
     {
         return RPC_E_DISCONNECTED;
     }
@@ -219,7 +221,7 @@ STDMETHODIMP FaultyObject::Invoke(DISPID id, REFIID, LCID locale, WORD flags, DI
     const ComPtr<IDispatch> alive(this);
     const std::wstring& member = mNames[id];
     const bool canStrike = mFaults->Kind != Fault::Refuses || IsStatus(member);
-    const bool strikes = canStrike && Strikes(member);
+    const bool strikes = canStrike && Strikes(*mFaults, member);
     if (strikes && mFaults->Kind == Fault::Refuses)
     {
         result->vt = VT_I4;
@@ -269,6 +271,14 @@ automation::Object WithFaults(const automation::Object& object, const FaultsRef&
     }
     const ComPtr<IDispatch> wrapper(new FaultyObject(object.Dispatch(), faults, isHost));
     return automation::Object(wrapper.Get());
+}
+
+void CountCreation(Faults& faults)
+{
+    if (faults.Kind == Fault::Raises && Strikes(faults, L"CreateInstance"))
+    {
+        throw automation::Error(E_OUTOFMEMORY, L"CreateInstance");
+    }
 }
 
 long LiveWrappers() noexcept

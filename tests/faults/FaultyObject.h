@@ -31,6 +31,9 @@ using FaultsRef = std::shared_ptr<Faults>;
 // A wrapped object; nothing stays nothing. isHost: the host's data-access object, whose numbers are a status.
 automation::Object WithFaults(const automation::Object& object, const FaultsRef& faults, bool isHost = false);
 
+// For class objects: the creation of an object is a call too. Throws automation::Error when it is struck.
+void CountCreation(Faults& faults);
+
 // Wrappers alive in this process.
 long LiveWrappers() noexcept;
 
