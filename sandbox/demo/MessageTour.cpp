@@ -12,7 +12,7 @@ namespace sandbox::demo
 namespace
 {
 
-void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, long code, std::wstring text)
+void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, long code, const std::wstring& text)
 {
     Robot robot([&](Robot& running) {
         const ShownDialog dialog = running.WaitForDialog();
@@ -23,7 +23,8 @@ void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, l
         dialog.Click(IDOK);
         running.WaitUntilClosed(dialog);
     });
-    ui::ShowMessage(resources::String(titleId), code, text);
+    std::wstring shown = text; // the routine may change it
+    ui::ShowMessage(resources::String(titleId), code, shown);
     robot.Finish();
 }
 

@@ -65,7 +65,7 @@ Entries ReadItems(Connection& mailbox)
         AddToLabel(entry.label, property, value);
         if (!IsBookkeeping(property))
         {
-            entry.content += property + L'=' + value + L'\x1F';
+            entry.content.append(property).append(L"=").append(value).append(L"\x1F");
         }
     }
     return entries;
