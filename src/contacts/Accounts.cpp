@@ -101,13 +101,10 @@ std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue,
     return key;
 }
 
-// An account stands under its company's name as its column holds it: apostrophes doubled and, for a name
-// longer than the column, cut as it was when the account was made.
+// An account stands under its company's name as its column holds it: cut as it was when the account was made.
 std::wstring AccountFilter(data::FieldCatalogue& catalogue, const std::wstring& companyName)
 {
-    Value literal = companyName;
-    data::Demand(data::FormatFieldlValue(catalogue, L"F_ACCSNAME", literal) == 0, L"F_ACCSNAME");
-    return L"F_ACCSNAME=" + automation::TextOf(literal);
+    return L"F_ACCSNAME=" + data::QuotedText(data::TextAsHeld(catalogue, L"F_ACCSNAME", companyName));
 }
 
 Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,

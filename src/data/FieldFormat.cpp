@@ -50,19 +50,24 @@ Value NumberLiteral(const Value& value, const FieldDescription& /*field*/)
     return IsNumber(value) ? value : Value(automation::DoubleOf(value));
 }
 
-// The doubled text is cut, so the cut may fall between the two halves of an apostrophe. A lone half would
-// quote the closing quote: it goes as well.
-Value TextLiteral(const Value& value, const FieldDescription& field)
+// What is left of a text whose doubled form is cut to a size. The cut may fall between the two halves of an
+// apostrophe. A lone half would quote the closing quote: it goes as well.
+std::wstring CutAsDoubled(const std::wstring& text, long size)
 {
-    const std::wstring doubled = automation::Replaced(automation::TextOf(value), L"'", L"''");
-    std::wstring cut = TruncateToFieldSize(doubled, LongOf(field.FieldSize));
+    const std::wstring doubled = automation::Replaced(text, L"'", L"''");
+    std::wstring cut = TruncateToFieldSize(doubled, size);
     const size_t lastOther = cut.find_last_not_of(L'\'');
     const size_t quotesAtEnd = cut.size() - (lastOther == std::wstring::npos ? 0 : lastOther + 1);
     if (quotesAtEnd % 2 != 0)
     {
         cut.pop_back();
     }
-    return Quoted(cut);
+    return automation::Replaced(cut, L"''", L"'");
+}
+
+Value TextLiteral(const Value& value, const FieldDescription& field)
+{
+    return QuotedText(CutAsDoubled(automation::TextOf(value), LongOf(field.FieldSize)));
 }
 
 Value FlagLiteral(const Value& value, const FieldDescription& /*field*/)
@@ -93,6 +98,14 @@ constexpr Formatter kFormatters[] = {
     NumberLiteral, TextLiteral,     FlagLiteral,   DateLiteral,
     TimeLiteral,   DateTimeLiteral, NumberLiteral, TextLiteral,
 };
+
+bool IsText(const FieldDescription& field)
+{
+    constexpr long kText = 2;
+    constexpr long kLongText = 8;
+    const long type = LongOf(field.FieldType);
+    return type == kText || type == kLongText;
+}
 
 long Format(const FieldDescription& field, const std::wstring& column, Value& value)
 {
@@ -127,6 +140,20 @@ long FormatFieldlValue(FieldCatalogue& catalogue, const std::wstring& column, Va
         const FieldDescription* const field = catalogue.Find(column);
         return field == nullptr ? ReportUnknownColumn(column) : Format(*field, column, value);
     });
+}
+
+std::wstring TextAsHeld(FieldCatalogue& catalogue, const std::wstring& column, const std::wstring& text)
+{
+    const FieldDescription* const field = catalogue.Find(column);
+    // A description that cannot be read describes no text either.
+    return field == nullptr ? text : state::Trapped(text, [&] {
+        return IsText(*field) ? CutAsDoubled(text, LongOf(field->FieldSize)) : text;
+    });
+}
+
+std::wstring QuotedText(const std::wstring& text)
+{
+    return Quoted(automation::Replaced(text, L"'", L"''"));
 }
 
 std::wstring TruncateToFieldSize(const std::wstring& text, long size)

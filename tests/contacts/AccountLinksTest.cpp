@@ -94,6 +94,25 @@ TEST_F(AccountLinks, ACompanyNameLongerThanItsColumnIsFoundAgainAsItWasCut)
     EXPECT_EQ(Found(L"SELECT F_ACCSNAME FROM TBLACCOUNT"), std::wstring(79, L'x'));
 }
 
+TEST_F(AccountLinks, ACompanyIsFoundWhateverTheCatalogueSaysOfItsColumn)
+{
+    const std::wstring kCompany = L"O'Brien, Lee & 1=1";
+    AddAccount(L"A1", L"O''Brien, Lee & 1=1");
+    AddAccount(L"A2", L"Other");
+    for (const wchar_t* change :
+         {L"UPDATE SynFields SET FieldType=9", L"UPDATE SynFields SET FieldType=1",
+          L"UPDATE SynFields SET FieldType=NULL", L"UPDATE SynFields SET FieldType=2, FieldSize=NULL",
+          L"DELETE FROM SynFields"})
+    {
+        Execute(std::wstring(change) + L" WHERE FieldName='F_ACCSNAME'");
+        EXPECT_TRUE(MessagesDuring([&] { Import({AddEmployee(kCompany, L"Bonn")}); }).empty());
+        EXPECT_EQ(Found(L"SELECT F_ACCID FROM TBLCONTACT ORDER BY F_CNTCTNO DESC LIMIT 1"), L"A1");
+    }
+    EXPECT_EQ(Count(L"TBLCONTACT"), 5);
+    EXPECT_EQ(Count(L"TBLACCOUNT"), 2);
+    EXPECT_TRUE(TheHost.Rejections().empty());
+}
+
 TEST_F(AccountLinks, AFoundAccountWithoutAnAddressGetsOne)
 {
     AddAccount(L"A1", L"Acme");
