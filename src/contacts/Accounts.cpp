@@ -3,12 +3,11 @@
 #include "automation/Text.h"
 #include "data/AccountInfo.h"
 #include "data/FieldFormat.h"
+#include "data/Lookups.h"
 #include "data/Permissions.h"
 #include "data/SqlFragments.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
-
-#include <optional>
 
 namespace contacts
 {
@@ -163,6 +162,25 @@ void AddLink(RowColumns& contact, const wchar_t* column, const std::wstring& key
     }
 }
 
+// Whether the contact in the host belongs to this account.
+bool BelongsTo(const std::wstring& contactKey, const std::wstring& account)
+{
+    return TextOrEmpty(data::FindValue(L"TBLCONTACT", L"F_CNTCTID", contactKey, L"F_ACCID")) == account;
+}
+
+// An address belongs to its account: a contact that goes to another account does not take the address along,
+// even where the user may not give it another one.
+void AddLinks(RowColumns& contact, const Links& links, const std::wstring& contactKey)
+{
+    AddLink(contact, L"F_ACCID", links.account);
+    AddLink(contact, L"F_CNTADDRID", links.address);
+    const bool isAccountOnly = !links.account.empty() && links.address.empty();
+    if (contact.Mode() == data::kExistingRecord && isAccountOnly && !BelongsTo(contactKey, links.account))
+    {
+        contact.Add(L"F_CNTADDRID", Value::Null());
+    }
+}
+
 } // namespace
 
 std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName)
@@ -184,7 +202,8 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     return key;
 }
 
-void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact)
+void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact,
+                     const std::wstring& contactKey)
 {
     const std::wstring companyName = TextOrEmpty(item.Get(L"CompanyName"));
     if (companyName.empty())
@@ -193,9 +212,7 @@ void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact)
         contact.Add(L"F_CNTADDRID", Value::Null());
         return;
     }
-    const Links links = LinksOfCompany(host, contact.Catalogue(), item, companyName);
-    AddLink(contact, L"F_ACCID", links.account);
-    AddLink(contact, L"F_CNTADDRID", links.address);
+    AddLinks(contact, LinksOfCompany(host, contact.Catalogue(), item, companyName), contactKey);
 }
 
 } // namespace contacts

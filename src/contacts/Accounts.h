@@ -20,7 +20,9 @@ std::wstring CreateAccount(const data::Host& host, data::FieldCatalogue& catalog
 
 // Adds the columns F_ACCID and F_CNTADDRID to a contact's row by the item's company: the account is found or
 // created, its address overwritten or created from the item's business address. What the user has no right
-// for is left out with a message: the link is NULL in a new contact, and untouched in one that is updated.
-void AddAccountLinks(const data::Host& host, const automation::Object& item, data::RowColumns& contact);
+// for is left out with a message: the link is NULL in a new contact, and untouched in one that is updated,
+// unless that would leave it with the address of another account. contactKey: of the contact to update.
+void AddAccountLinks(const data::Host& host, const automation::Object& item, data::RowColumns& contact,
+                     const std::wstring& contactKey = {});
 
 } // namespace contacts

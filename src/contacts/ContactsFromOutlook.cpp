@@ -33,10 +33,10 @@ void Insert(const Host& host, const Object& item, RowColumns& contact)
 
 void Update(const Host& host, const automation::Recordset& rows, const Object& item, RowColumns& contact)
 {
-    AddAccountLinks(host, item, contact);
+    const std::wstring id = automation::TextOf(rows.ValueOf(L"F_CNTCTID"));
+    AddAccountLinks(host, item, contact, id);
     if (!contact.SetList.empty())
     {
-        const std::wstring id = automation::TextOf(rows.ValueOf(L"F_CNTCTID"));
         data::Demand(host.Update(L"TBLCONTACT", contact.SetList, L"F_CNTCTID='" + id + L"'") == 0, L"Update");
     }
 }

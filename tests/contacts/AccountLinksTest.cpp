@@ -188,4 +188,20 @@ TEST_F(AccountLinks, ARefusalDoesNotCostAChangedContactTheLinksThatItHas)
     EXPECT_EQ(Links(), before);
 }
 
+TEST_F(AccountLinks, AChangedContactNeverKeepsTheAddressOfAnAccountThatItHasLeft)
+{
+    Import({AddEmployee(L"Acme", L"Bonn")});
+    AddAccount(L"A1", L"With address");
+    AddAccount(L"A2", L"Without address");
+    Execute(L"INSERT INTO TBLADDRESS VALUES ('D1','A1','France',NULL,'Paris',NULL,NULL,1)");
+    Deny(kAddRight);
+    Deny(kModifyRight);
+    MessagesDuring([&] { EXPECT_FALSE(Overwrite({{AddEmployee(L"With address", L"Rome"), 1}})); });
+    EXPECT_EQ(Links(), L"A1/none");
+    EXPECT_EQ(Found(L"SELECT F_ADDRCITY FROM TBLADDRESS WHERE F_ADDRID='D1'"), L"Paris");
+    Execute(L"UPDATE TBLCONTACT SET F_CNTADDRID='D1'");
+    MessagesDuring([&] { EXPECT_FALSE(Overwrite({{AddEmployee(L"Without address", L"Rome"), 1}})); });
+    EXPECT_EQ(Links(), L"A2/none");
+}
+
 } // namespace
