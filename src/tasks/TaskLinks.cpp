@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "contacts/Accounts.h"
+#include "data/FieldFormat.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
 #include "data/SqlFragments.h"
@@ -42,10 +43,12 @@ std::wstring LiteralOfContact(const Object& item)
                                                                     names, kContactColumn)));
 }
 
+// An account stands under its company's name as its column holds it: a longer name was cut when the account
+// was made, and is found again by what is left of it.
 std::wstring KeyOfAccount(data::FieldCatalogue& catalogue, const std::wstring& companies)
 {
-    const std::wstring key =
-        TextOrEmpty(data::FindValue(L"TBLACCOUNT", L"F_ACCSNAME", companies, kAccountColumn));
+    const std::wstring name = data::TextAsHeld(catalogue, L"F_ACCSNAME", companies);
+    const std::wstring key = TextOrEmpty(data::FindValue(L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn));
     return key.empty() ? contacts::CreateAccount(data::Host(), catalogue, companies) : key;
 }
 

@@ -18,7 +18,9 @@ long ChangeNewTaskContact(const automation::Object& item, std::wstring& fields, 
 long ChangeEditTaskContact(const automation::Object& item, std::wstring& setList);
 
 // F_ACCID by the item's Companies: the account's key, with the account created where the host has none; NULL
-// for an item without a company. Nothing is added when the user has no right to either.
+// for an item without a company. Nothing is added when the user has no right to either. For a user who may
+// add accounts but not modify them an item without a company is looked up like any other, as the contract has
+// it, and gets a new account without a name.
 long ChangeAddTaskAccount(data::FieldCatalogue& catalogue, const automation::Object& item,
                           std::wstring& fields, std::wstring& values);
 long ChangeEditTaskAccount(data::FieldCatalogue& catalogue, const automation::Object& item,

@@ -138,6 +138,18 @@ TEST_F(TaskExchange, AnErrorThatTheHostRaisesIsTheFailureOfOneTask)
     EXPECT_FALSE(data::Host().InTransaction());
 }
 
+TEST_F(TaskExchange, ACompanyLongerThanItsColumnIsFoundAgainAsItWasCut)
+{
+    const std::wstring kLong =
+        std::wstring(79, L'x') + L"\u516c\u53f8 and brothers"; // cut before a wide character
+    AddOutlookTask({{L"Subject", L"One"}, {L"Companies", kLong}});
+    AddOutlookTask({{L"Subject", L"Two"}, {L"Companies", kLong}});
+    EXPECT_EQ(2, ExchangeFromOutlook());
+    EXPECT_EQ(L"1", Count(L"TBLACCOUNT"));
+    EXPECT_EQ(std::wstring(79, L'x'), HostValue(L"SELECT F_ACCSNAME FROM TBLACCOUNT"));
+    EXPECT_EQ(L"1", HostValue(L"SELECT COUNT(DISTINCT F_ACCID) FROM TBLACTIVITY WHERE F_ACCID IS NOT NULL"));
+}
+
 TEST_F(TaskExchange, AnApostropheInACompanyFailsTheLookupOfThatTaskOnly)
 {
     AddOutlookTask({{L"Subject", L"One"}, {L"Companies", L"O'Brien"}});

@@ -185,6 +185,18 @@ TEST_F(TaskLinks, ACompanyNeedsTheRightToAddAccountsAlone)
     EXPECT_EQ(L"", UpdatedAccount());
 }
 
+TEST_F(TaskLinks, WithoutACompanyAUserWhoMayAddAccountsButNotModifyThemGetsANamelessOne)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    Host().Found[L"SELECT F_AITID FROM TBLSYSINFO"] = L"TYPE";
+    Host().Denied = {kModifyAccounts};
+    const WithLanguage english(Language::English);
+    EXPECT_EQ(L"F_ACCID='KEY1'", UpdatedAccount());
+    EXPECT_EQ(L"OpenRecordsetByString SELECT F_ACCID\r\nFROM TBLACCOUNT\r\nWHERE F_ACCSNAME= ''",
+              Host().Calls.at(0));
+    EXPECT_EQ(L"Insert TBLACCOUNT|F_ACCID,F_ACCSNAME,F_ACCCURRIDX|'KEY1',NULL,2|", Host().Calls.at(1));
+}
+
 TEST_F(TaskLinks, AFailedLookupIsShownUnderTheNameOfItsBuilderAndIsAFailure)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}, {L"Companies", L"Quenlar"}});
