@@ -25,9 +25,11 @@ constexpr wchar_t kContactColumn[] = L"F_CNTCTID";
 constexpr wchar_t kAccountColumn[] = L"F_ACCID";
 constexpr wchar_t kNull[] = L"NULL";
 
+// One literal whatever the key holds: the lookup's statement carries a text from Outlook as it is, so that
+// what it finds need not be a key of the host's making.
 std::wstring LiteralOfKey(const std::wstring& key)
 {
-    return key.empty() ? kNull : L"'" + key + L"'";
+    return key.empty() ? kNull : data::QuotedText(key);
 }
 
 std::wstring LiteralOfContact(const Object& item)

@@ -161,6 +161,15 @@ TEST_F(TaskExchange, AnApostropheInACompanyFailsTheLookupOfThatTaskOnly)
     EXPECT_EQ(L"Two", HostValue(L"SELECT F_ACTNAME FROM TBLACTIVITY"));
 }
 
+TEST_F(TaskExchange, WhatALookupFindsIsWrittenAsOneValueEvenIfAContactsNameHasMadeItUp)
+{
+    AddOutlookTask({{L"Subject", L"One"}, {L"ContactNames", L"' UNION SELECT 'C1'',F_ACTNAME=''Two"}});
+    EXPECT_EQ(1, ExchangeFromOutlook());
+    EXPECT_EQ(L"", mHost.LastRejection());
+    EXPECT_EQ(L"One", HostValue(L"SELECT F_ACTNAME FROM TBLACTIVITY"));
+    EXPECT_EQ(L"C1',F_ACTNAME='Two", HostValue(L"SELECT F_CNTCTID FROM TBLACTIVITY"));
+}
+
 TEST_F(TaskExchange, WithoutRightsToAccountsAndContactsATaskIsWrittenWithoutLinks)
 {
     mHost.Database().Execute(
