@@ -15,9 +15,6 @@ using automation::Object;
 using automation::Recordset;
 using automation::Value;
 
-// Between the parts of a key that are compared one by one; no text that a user types holds it.
-constexpr wchar_t kSeparator = L'\x1F';
-
 std::wstring Comparable(const Value& value)
 {
     return automation::UpperCased(automation::Trimmed(automation::TextOrEmpty(value)));
@@ -28,6 +25,13 @@ std::wstring ComparableCategory(const Value& value)
 {
     const std::wstring text = Comparable(value);
     return text == L"(UNSPECIFIED)" || text == L"(未指定)" ? std::wstring() : text;
+}
+
+// Parts that are compared one by one, as one text. The lengths in front keep them apart whatever they hold.
+std::wstring Joined(const std::wstring& name, const std::wstring& category, const std::wstring& date)
+{
+    return std::to_wstring(name.size()) + L' ' + std::to_wstring(category.size()) + L' ' + name + category +
+           date;
 }
 
 // The date in a pattern; the empty text for no date.
@@ -74,16 +78,14 @@ std::wstring KeyOfTaskItem(const Object& item)
 {
     const std::wstring subject = Comparable(item.Get(L"Subject"));
     const std::wstring category = ComparableCategory(item.Get(L"Categories"));
-    return subject + kSeparator + category + kSeparator +
-           ComparableDate(item.Get(L"StartDate"), L"yyyy/mm/dd");
+    return Joined(subject, category, ComparableDate(item.Get(L"StartDate"), L"yyyy/mm/dd"));
 }
 
 std::wstring KeyOfTaskRow(const Recordset& rows)
 {
     const std::wstring name = Comparable(rows.ValueOf(L"F_ACTNAME"));
     const std::wstring type = ComparableCategory(rows.ValueOf(L"F_ACTTYPE"));
-    return name + kSeparator + type + kSeparator +
-           ComparableDate(rows.ValueOf(L"F_ACTPSTIME"), L"yyyy/mm/dd");
+    return Joined(name, type, ComparableDate(rows.ValueOf(L"F_ACTPSTIME"), L"yyyy/mm/dd"));
 }
 
 std::wstring CompaniesOfTask(const Object& item)
@@ -111,8 +113,7 @@ std::wstring KeyOfAppointment(const Object& item)
 {
     const std::wstring subject = Comparable(item.Get(L"Subject"));
     const std::wstring category = ComparableCategory(item.Get(L"Categories"));
-    return subject + kSeparator + category + kSeparator +
-           ComparableDate(StartOfItem(item), L"yyyy/mm/dd hh:mm:00");
+    return Joined(subject, category, ComparableDate(StartOfItem(item), L"yyyy/mm/dd hh:mm:00"));
 }
 
 // The start of a calendar row: its day and its time of day, which stand in columns of their own.
@@ -133,7 +134,7 @@ std::wstring KeyOfCalendarRow(const Recordset& rows)
 {
     const std::wstring name = Comparable(rows.ValueOf(L"F_ACTNAME"));
     const std::wstring type = ComparableCategory(rows.ValueOf(L"F_ACTTYPE"));
-    return name + kSeparator + type + kSeparator + ComparableDate(StartOfRow(rows), L"yyyy/mm/dd hh:mm:00");
+    return Joined(name, type, ComparableDate(StartOfRow(rows), L"yyyy/mm/dd hh:mm:00"));
 }
 
 } // namespace

@@ -93,6 +93,23 @@ TEST(MatchTask, EachKeyIsComparedByItselfUnlikeTheNamesOfContacts)
     EXPECT_FALSE(Match(run::kMatchTask, item, row));
 }
 
+TEST(MatchTask, NoTextCanPassForTwo)
+{
+    for (const wchar_t separator : {L'\x1F', L'\x1E', L'\n', L'\t', L'\xFFFF'})
+    {
+        const std::wstring between(1, separator);
+        const Record item{{L"Subject", L"a" + between + L"b"},
+                          {L"Categories", L"c"},
+                          {L"StartDate", kDay},
+                          {L"Companies", L""}};
+        const Record row{{L"F_ACTNAME", L"a"},
+                         {L"F_ACTTYPE", L"b" + between + L"c"},
+                         {L"F_ACTPSTIME", kDay},
+                         {L"ACC_SNAME", L""}};
+        EXPECT_FALSE(Match(run::kMatchTask, item, row));
+    }
+}
+
 TEST(MatchTask, OnlyTheDayOfTheStartCounts)
 {
     EXPECT_TRUE(StartsMatch(kDay, DateOf(Moment{2003, 5, 6, 23, 59, 59})));
