@@ -38,7 +38,8 @@ Date DateOfSeconds(double seconds)
 Moment MomentOf(Date date)
 {
     SYSTEMTIME time{};
-    if (VariantTimeToSystemTime(date.days, &time) == 0)
+    // The system takes a date that is no number for some day.
+    if (!std::isfinite(date.days) || VariantTimeToSystemTime(date.days, &time) == 0)
     {
         throw Error(DISP_E_OVERFLOW, L"date");
     }

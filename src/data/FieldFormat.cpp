@@ -1,11 +1,13 @@
 #include "data/FieldFormat.h"
 
 #include "automation/Dates.h"
+#include "automation/Error.h"
 #include "automation/Text.h"
 #include "state/Failures.h"
 #include "ui/ShowMessageBox.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace data
@@ -44,10 +46,15 @@ bool IsNumber(const Value& value)
 }
 
 // A number stands for itself; anything else must be readable as one, so that no text reaches a statement
-// without quotes.
+// without quotes. What automation calls a number and SQL does not (infinity) is a word there, not a literal.
 Value NumberLiteral(const Value& value, const FieldDescription& /*field*/)
 {
-    return IsNumber(value) ? value : Value(automation::DoubleOf(value));
+    const double number = automation::DoubleOf(value);
+    if (!std::isfinite(number))
+    {
+        throw automation::Error(DISP_E_OVERFLOW, L"number");
+    }
+    return IsNumber(value) ? value : Value(number);
 }
 
 // What is left of a text whose doubled form is cut to a size. The cut may fall between the two halves of an

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 
 namespace
@@ -88,6 +89,16 @@ TEST(Dates, WhatLiesOutsideTheYears100To9999IsRefused)
     EXPECT_THROW(MomentOf(Date{-657435}), Error);
     EXPECT_THROW(MomentOf(Date{2958466}), Error);
     EXPECT_THROW(Formatted(Date{1e9}, L"yyyy"), Error);
+}
+
+TEST(Dates, WhatIsNoNumberIsNoDateEither)
+{
+    for (const double days :
+         {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()})
+    {
+        EXPECT_THROW(MomentOf(Date{days}), Error);
+        EXPECT_THROW(MomentOf(Date{-days}), Error);
+    }
 }
 
 TEST(Dates, AMomentThatDoesNotExistIsRefused)

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include <oleauto.h>
 
 namespace
@@ -78,6 +80,20 @@ TEST_P(FieldFormat, NoTextReachesANumberColumnUnread)
     EXPECT_EQ(Literal(L"F_NUMBER", L"1); DROP TABLE TBLCONTACT"), L"(failed)");
     EXPECT_EQ(Literal(L"F_NUMBER", L"'"), L"(failed)");
     EXPECT_EQ(Literal(L"F_AMOUNT", L"twelve"), L"(failed)");
+}
+
+TEST_P(FieldFormat, WhatIsNoFiniteNumberFailsTheColumn)
+{
+    for (const double number :
+         {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+          std::numeric_limits<double>::quiet_NaN()})
+    {
+        for (const wchar_t* column : {L"F_NUMBER", L"F_AMOUNT", L"F_DATE", L"F_TIME", L"F_MOMENT"})
+        {
+            EXPECT_EQ(Literal(column, number), L"(failed)");
+            EXPECT_EQ(Literal(column, Date{number}), L"(failed)");
+        }
+    }
 }
 
 TEST_P(FieldFormat, ATextStandsBetweenSingleQuotes)
