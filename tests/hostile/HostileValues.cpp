@@ -1,0 +1,400 @@
+#include "tests/hostile/HostileValues.h"
+
+#include "automation/Dates.h"
+#include "automation/Object.h"
+#include "tests/support/Thoroughness.h"
+
+#include <cstdlib>
+#include <iterator>
+#include <limits>
+
+namespace test_support
+{
+
+namespace
+{
+
+using automation::Date;
+
+constexpr std::wstring_view kPieces[] = {
+    // quotes, alone and in company, and what some conversions make quotes of
+    L"'",
+    L"''",
+    L"'''",
+    L"''''",
+    L"\"",
+    L"\"\"",
+    L"'\"",
+    L"\"'",
+    L"`",
+    L"\u2018",
+    L"\u2019",
+    L"\u02bc",
+    L"\uff07",
+    L"\\'",
+    L"\\",
+    L"\\\\",
+    L"''\"''",
+    // SQL
+    L";",
+    L"--",
+    L"/*",
+    L"*/",
+    L",",
+    L"(",
+    L")",
+    L"=",
+    L"+",
+    L"||",
+    L"NULL",
+    L"' OR '1'='1",
+    L"' OR ''='",
+    L"'; DROP TABLE TBLCONTACT; --",
+    L"'); DELETE FROM TBLACTIVITY; --",
+    L"',F_ACCID='A1",
+    L"',NULL,'",
+    L"' UNION SELECT F_ACCID FROM TBLACCOUNT WHERE ''='",
+    L"' AND 1=0 --",
+    L"x' WHERE '1'='1",
+    L"0x27",
+    L"CHAR(39)",
+    L"EXEC xp_cmdshell",
+    L"{d '2003-05-06'}",
+    L"?",
+    L":1",
+    L"@p",
+    L"%",
+    L"_",
+    L"[a-z]%",
+    L"$$",
+    // Outlook's filters and folder paths
+    L"[FirstName] = \"x\"",
+    L"\" Or [LastName] <> \"",
+    L"\" And [LastName] = \"",
+    L"[",
+    L"]",
+    L"@SQL=",
+    L"urn:schemas:",
+    L"\\Personal Folders\\Contacts",
+    // control characters
+    std::wstring_view(L"\0", 1),
+    L"\x01",
+    L"\x07",
+    L"\b",
+    L"\t",
+    L"\n",
+    L"\r",
+    L"\r\n",
+    L"\x0b",
+    L"\x0c",
+    L"\x1a",
+    L"\x1b[31m",
+    L"\x1f",
+    L"\x7f",
+    L"\x80",
+    L"\x85",
+    L"\xa0",
+    L"\x2028",
+    L"\x2029",
+    L"\xfeff",
+    L"\xfffe",
+    L"\xffff",
+    // lone surrogates, pairs, and what composes
+    L"\xd800",
+    L"\xdbff",
+    L"\xdc00",
+    L"\xdfff",
+    L"\xdc00\xd800",
+    L"\xd83d\xde00",
+    L"\xd83d\xdc68\x200d\xd83d\xdc69",
+    L"\xd840\xdc00",
+    L"e\x0301",
+    L"\x202e",
+    L"\x200b",
+    // letters of some alphabets, and blanks
+    L"\u738b",
+    L"\u4e2d\u56fd",
+    L"\u00fc",
+    L"\u00df",
+    L"\u0130",
+    L"\u03c2",
+    L"\u05d0",
+    L"\u0e33",
+    L" ",
+    L"  ",
+    L"a",
+    L"Z",
+    L"Miller",
+    L"O'Brien",
+    L"0",
+    L"1e5",
+    L"-1",
+    L"2003-05-06",
+    L"12:30",
+    L"True",
+    L"Don't Addtion Field",
+    L"(Unspecified)",
+    L"%s%n",
+    L"${x}",
+    L"<b>&amp;",
+};
+
+constexpr double kDates[] = {
+    0,
+    1,
+    -1,
+    0.5,
+    -0.5,
+    -1.75,
+    2.9999999,
+    37747.3958333,
+    -53688,
+    -53688.0001,
+    -53687.99999,
+    -53687,
+    -53689, // about 1753-01-01
+    2958463.9993,
+    2958463.99931,
+    2958464,
+    2958464.5,
+    2958465,
+    2958465.99999,
+    2958466,
+    2958467, // about 9999-12-31
+    949998,
+    949998.5,
+    949997,
+    949999, // about 4501-01-01
+    -657434,
+    -657434.5,
+    -657435,
+    -657436,
+    -109205,
+    -109206,
+    1e6,
+    3e6,
+    -1e6,
+    1e9,
+    -1e9,
+    1e300,
+    -1e300,
+    60,
+    61,
+    36525,
+    0.999999,
+    0.9999999,
+    0.99999999,
+    1e-9,
+};
+
+constexpr double kNumbers[] = {
+    0,
+    -0.0,
+    1,
+    -1,
+    2,
+    4,
+    5,
+    100,
+    101,
+    0.5,
+    1.0 / 3,
+    1e-7,
+    1e-300,
+    1e15,
+    1e16,
+    123456789012345678.0,
+    1e300,
+    -1e300,
+    2147483647,
+    2147483648.0,
+    -2147483648.0,
+    -2147483649.0,
+    32767,
+    32768,
+    255,
+    256,
+};
+
+constexpr const wchar_t* kTextsOfValues[] = {
+    L"1",          L"-1",
+    L"0",          L" 12 ",
+    L"1,000",      L"1.5",
+    L"1,5",        L"1e400",
+    L"&HFF",       L"(5)",
+    L"$5",         L"True",
+    L"False",      L"yes",
+    L"inf",        L"nan",
+    L"1.#INF",     L"2003-05-06",
+    L"05/06/2003", L"6.5.2003 25:00",
+    L"12:30",      L"31/31/2003",
+    L"01/01/0001", L"12/31/9999 23:59:59",
+    L"1/1/10000",  L"99999999999",
+    L"0x10",       L"--1",
+    L"1 OR 1=1",   L"",
+};
+
+uint32_t SeedOf(const std::string& name)
+{
+    uint32_t seed = 2166136261u;
+    for (const char c : name)
+    {
+        seed = (seed ^ static_cast<unsigned char>(c)) * 16777619u;
+    }
+    const char* const given = std::getenv("TELVIX_SEED");
+    return given == nullptr ? seed : static_cast<uint32_t>(std::strtoul(given, nullptr, 10));
+}
+
+Value Raw(VARTYPE type, void (*fill)(VARIANT& variant, std::mt19937& engine), std::mt19937& engine)
+{
+    VARIANT variant{};
+    variant.vt = type;
+    fill(variant, engine);
+    Value value;
+    *value.Receive() = variant;
+    return value;
+}
+
+double Extreme(std::mt19937& engine)
+{
+    constexpr double kExtremes[] = {
+        std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+        std::numeric_limits<double>::quiet_NaN(), 1.7e308,
+        std::numeric_limits<double>::denorm_min()};
+    return kExtremes[engine() % std::size(kExtremes)];
+}
+
+struct TypeRow
+{
+    VARTYPE type;
+    void (*fill)(VARIANT& variant, std::mt19937& engine);
+};
+
+// What does not come by itself: every other type that a variant can have.
+constexpr TypeRow kTypes[] = {
+    {VT_I1, [](VARIANT& v, std::mt19937& e) { v.cVal = static_cast<char>(e()); }},
+    {VT_UI1, [](VARIANT& v, std::mt19937& e) { v.bVal = static_cast<BYTE>(e()); }},
+    {VT_UI2, [](VARIANT& v, std::mt19937& e) { v.uiVal = static_cast<USHORT>(e()); }},
+    {VT_UI4, [](VARIANT& v, std::mt19937& e) { v.ulVal = e(); }},
+    {VT_INT, [](VARIANT& v, std::mt19937& e) { v.intVal = static_cast<int>(e()); }},
+    {VT_UINT, [](VARIANT& v, std::mt19937& e) { v.uintVal = e(); }},
+    {VT_I8, [](VARIANT& v, std::mt19937& e) { v.llVal = static_cast<LONGLONG>(uint64_t{e()} << 32 | e()); }},
+    {VT_UI8, [](VARIANT& v, std::mt19937& e) { v.ullVal = uint64_t{e()} << 32 | e(); }},
+    {VT_CY,
+     [](VARIANT& v, std::mt19937& e) { v.cyVal.int64 = static_cast<LONGLONG>(uint64_t{e()} << 31 | e()); }},
+    {VT_R4, [](VARIANT& v, std::mt19937& e) { v.fltVal = static_cast<float>(e()) / 7; }},
+    {VT_R8, [](VARIANT& v, std::mt19937& e) { v.dblVal = Extreme(e); }},
+    {VT_DATE, [](VARIANT& v, std::mt19937& e) { v.date = Extreme(e); }},
+    {VT_BOOL, [](VARIANT& v, std::mt19937& e) { v.boolVal = static_cast<VARIANT_BOOL>(e()); }},
+    {VT_ERROR, [](VARIANT& v, std::mt19937& e) { v.scode = static_cast<SCODE>(e()); }},
+    {VT_BSTR, [](VARIANT& v, std::mt19937&) { v.bstrVal = nullptr; }},
+    {VT_DISPATCH, [](VARIANT& v, std::mt19937&) { v.pdispVal = nullptr; }},
+    {VT_UNKNOWN, [](VARIANT& v, std::mt19937&) { v.punkVal = nullptr; }},
+    {VT_ARRAY | VT_UI1, [](VARIANT& v, std::mt19937&) { v.parray = SafeArrayCreateVector(VT_UI1, 0, 3); }},
+    {VT_ARRAY | VT_BSTR, [](VARIANT& v, std::mt19937&) { v.parray = SafeArrayCreateVector(VT_BSTR, 0, 2); }},
+};
+
+} // namespace
+
+HostileValues::HostileValues(std::string name) : mName(std::move(name)), mSeed(SeedOf(mName)), mEngine(mSeed)
+{
+}
+
+HostileValues::~HostileValues()
+{
+    ReportFigure("hostile values, " + mName + ": " + std::to_string(mCount) + mReport + " (seed " +
+                 std::to_string(mSeed) + ")");
+}
+
+std::wstring HostileValues::Piece()
+{
+    return std::wstring(kPieces[Below(std::size(kPieces))]);
+}
+
+std::wstring HostileValues::Pieces()
+{
+    std::wstring text;
+    for (size_t count = Below(8); count > 0; --count)
+    {
+        text += Piece();
+    }
+    return text;
+}
+
+// Plain letters up to a little before or behind the end, and the mischief there.
+std::wstring HostileValues::AboutAsLongAs(size_t size)
+{
+    const size_t filler = size + 3 - std::min<size_t>(size + 3, Below(9));
+    const std::wstring letters(filler, OneIn(4) ? L'\u738b' : L'x');
+    return OneIn(2) ? letters + Pieces() : Pieces() + letters + Piece();
+}
+
+std::wstring HostileValues::Text(size_t size)
+{
+    ++mCount;
+    switch (Below(12))
+    {
+    case 0:
+    case 1: return AboutAsLongAs(size);
+    case 2: return std::wstring(Below(2 * size + 2), Piece().front());
+    case 3: return OneIn(20) ? std::wstring(5000 + Below(3000), Piece().front()) + Pieces() : Piece();
+    case 4: return OneIn(3) ? std::wstring() : kTextsOfValues[Below(std::size(kTextsOfValues))];
+    default: return Pieces();
+    }
+}
+
+std::wstring HostileValues::StorableText(size_t size)
+{
+    std::wstring text = Text(size);
+    std::erase_if(
+        text, [](wchar_t c) { return c == L'\0' || IS_SURROGATE_PAIR(c, 0xDC00) || IS_LOW_SURROGATE(c); });
+    return text.substr(0, size);
+}
+
+Value HostileValues::Date()
+{
+    ++mCount;
+    const double base = kDates[Below(std::size(kDates))];
+    const double drift = OneIn(2) ? 0 : static_cast<double>(Below(86400 * 3)) / 86400 - 1.5;
+    return automation::Date{base + drift};
+}
+
+Value HostileValues::Number()
+{
+    ++mCount;
+    const double number = kNumbers[Below(std::size(kNumbers))];
+    switch (Below(4))
+    {
+    case 0: return static_cast<long>(mEngine());
+    case 1: return static_cast<short>(mEngine());
+    case 2: return OneIn(2);
+    default: return number;
+    }
+}
+
+Value HostileValues::Any(size_t size)
+{
+    switch (Below(20))
+    {
+    case 0: return Date();
+    case 1: return Number();
+    case 2: {
+        ++mCount;
+        return OneIn(2) ? Value() : Value::Null();
+    }
+    case 3: {
+        ++mCount;
+        const TypeRow& row = kTypes[Below(std::size(kTypes))];
+        return Raw(row.type, row.fill, mEngine);
+    }
+    case 4: return OneIn(4) ? Value(automation::Object()) : Date();
+    default: return Text(size);
+    }
+}
+
+long Times(long bounded)
+{
+    return IsLongRun() ? 10 * bounded : bounded;
+}
+
+} // namespace test_support
