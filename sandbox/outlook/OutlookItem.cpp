@@ -19,14 +19,14 @@ constexpr GUID kOutlookItemId = {
 struct KindRow
 {
     ItemKind kind;
-    const wchar_t* className;
     long classNumber; // OlObjectClass
+    const wchar_t* className;
 };
 
 constexpr KindRow kKinds[] = {
-    {ItemKind::Mail, L"MailItem", 43},       {ItemKind::Appointment, L"AppointmentItem", 26},
-    {ItemKind::Contact, L"ContactItem", 40}, {ItemKind::Task, L"TaskItem", 48},
-    {ItemKind::Note, L"NoteItem", 44},
+    {ItemKind::Mail, 43, L"MailItem"},       {ItemKind::Appointment, 26, L"AppointmentItem"},
+    {ItemKind::Contact, 40, L"ContactItem"}, {ItemKind::Task, 48, L"TaskItem"},
+    {ItemKind::Note, 44, L"NoteItem"},
 };
 
 const KindRow& RowOf(ItemKind kind)
