@@ -1,0 +1,36 @@
+// Outlook in a process of its own, serving a site's mailbox, and the ways to disturb it. Belongs to the main
+// thread; the script of a robot disturbs through the same object, on that thread.
+#pragma once
+
+#include "automation/Object.h"
+#include "tests/boundary/Site.h"
+#include "tests/support/Drive.h"
+
+namespace boundary_tests
+{
+
+class Server
+{
+  public:
+    // Starts the program. It is kept alive until this goes.
+    explicit Server(const Site& site);
+    Server(const Server&) = delete;
+    Server& operator=(const Server&) = delete;
+    // A server that lives on (with objects that nobody has given back) is ended.
+    ~Server();
+
+    // On the main thread, whichever loop of messages it is in.
+    void Disturb(const wchar_t* how, long amount = 0);
+    // The program has ended by itself, given that nobody but this holds it.
+    bool EndsWhenLetGo();
+    // Objects that clients hold, without the control object.
+    long ObjectCount();
+
+  private:
+    automation::Object mControl;
+    HANDLE mProcess = nullptr;
+    test_support::MainThread mMainThread;
+    DWORD mThreadId = GetCurrentThreadId();
+};
+
+} // namespace boundary_tests

@@ -1,0 +1,198 @@
+#include "tests/boundary/Site.h"
+
+#include "sandbox/demo/Installation.h"
+#include "sandbox/dispatch/DispatchObject.h"
+#include "sandbox/sample_data/SampleData.h"
+
+#include <atomic>
+#include <map>
+#include <set>
+
+namespace boundary_tests
+{
+
+using automation::ByRef;
+using automation::Object;
+
+namespace
+{
+
+constexpr size_t kRecords = 4; // of each kind on either side
+constexpr auto kPatience = std::chrono::minutes(2);
+
+std::wstring NewFile(const wchar_t* name)
+{
+    static int number = 0;
+    wchar_t folder[MAX_PATH];
+    GetTempPathW(ARRAYSIZE(folder), folder);
+    return folder + (L"telvix-boundary-" + std::to_wstring(GetCurrentProcessId())) + L"-" +
+           std::to_wstring(++number) + L"-" + name;
+}
+
+// The files that every site starts from, written once.
+class Pattern
+{
+  public:
+    Pattern()
+    {
+        sandbox::WriteNumberedHost(mHost, sandbox::Edition::English, kRecords);
+        sandbox::WriteNumberedMailbox(mMailbox, kRecords);
+    }
+    ~Pattern()
+    {
+        DeleteFileW(mHost.c_str());
+        DeleteFileW(mMailbox.c_str());
+    }
+
+    void CopyTo(const std::wstring& host, const std::wstring& mailbox) const
+    {
+        CopyFileW(mHost.c_str(), host.c_str(), FALSE);
+        CopyFileW(mMailbox.c_str(), mailbox.c_str(), FALSE);
+    }
+
+  private:
+    std::wstring mHost = NewFile(L"host.db");
+    std::wstring mMailbox = NewFile(L"outlook.db");
+};
+
+BOOL CALLBACK CountDialog(HWND window, LPARAM count)
+{
+    wchar_t name[16] = {};
+    GetClassNameW(window, name, ARRAYSIZE(name));
+    *reinterpret_cast<int*>(count) += lstrcmpW(name, L"#32770") == 0 ? 1 : 0;
+    return TRUE;
+}
+
+// Counts the calls of Outlook's objects in this process.
+class OutlookCalls : public sandbox::CallObserver
+{
+  public:
+    OutlookCalls() : mPrevious(sandbox::Observe(this)) {}
+    OutlookCalls(const OutlookCalls&) = delete;
+    OutlookCalls& operator=(const OutlookCalls&) = delete;
+    ~OutlookCalls() override { sandbox::Observe(mPrevious); }
+
+    void OnCall(const wchar_t* className, const wchar_t* /*member*/) override
+    {
+        static const std::set<std::wstring> kOthers = {L"DTC", L"MyInfo", L"Recordset", L"Fields", L"Field"};
+        mCount += kOthers.contains(className) ? 0 : 1;
+    }
+
+    long Count() const noexcept { return mCount; }
+
+  private:
+    sandbox::CallObserver* mPrevious;
+    std::atomic<long> mCount{0};
+};
+
+Course FollowedCourse(const Task& task)
+{
+    Site site;
+    const InProcess inProcess(site);
+    site.Prepare(task.direction);
+    Course course;
+    course.before = site.Look();
+    const OutlookCalls calls;
+    Seen seen;
+    site.SynLoad([&](Robot& robot) {
+        User user(robot);
+        seen = user.Run(task.kind, [&] { course.callsUntilConfirmation = calls.Count(); });
+        user.Leave();
+    });
+    EXPECT_EQ(SuccessStatus(), seen.status);
+    course.callsInAll = calls.Count();
+    course.after = site.Look();
+    EXPECT_NE(course.before, course.after) << "a run that does nothing says nothing";
+    return course;
+}
+
+} // namespace
+
+long RuleOf(long direction)
+{
+    constexpr long kIgnoreAll = 2;
+    constexpr long kHostWins = 4;
+    constexpr long kOutlookWins = 5;
+    return direction == kImport ? kOutlookWins : direction == kExport ? kHostWins : kIgnoreAll;
+}
+
+Site::Site()
+    : mHostFile(NewFile(L"host.db")),
+      mMailboxFile(NewFile(L"outlook.db")),
+      mWindow(CreateWindowW(L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100, nullptr,
+                            nullptr, nullptr, nullptr))
+{
+    static const Pattern pattern;
+    pattern.CopyTo(mHostFile, mMailboxFile);
+    OpenHost();
+    mMailbox = std::make_unique<sandbox::Connection>(sandbox::ConnectionStringOf(mMailboxFile));
+    sandbox::demo::InstallOutlookProfile();
+}
+
+Site::~Site()
+{
+    mHost.reset();
+    mMailbox.reset();
+    DestroyWindow(mWindow);
+    DeleteFileW(mHostFile.c_str());
+    DeleteFileW(mMailboxFile.c_str());
+}
+
+void Site::Prepare(long direction)
+{
+    sandbox::demo::Options options;
+    options.TransType = direction;
+    options.ConflictOption = RuleOf(direction);
+    sandbox::demo::StoreSettings(mHost->Database(), std::to_wstring(mHost->UserId()), options);
+}
+
+bool Site::SynLoad(Robot::Script user, const Object& dtc)
+{
+    return SynLoad(std::move(user), dtc, mHost->ConnectionString());
+}
+
+bool Site::SynLoad(Robot::Script user, const Object& dtc, const std::wstring& connection)
+{
+    Robot robot(std::move(user), kPatience);
+    const Object component = Object::Create(L"TelvixOutlook.ClsSynOutlook");
+    Object given = dtc;
+    const bool refused = automation::TruthOf(component.Call(L"SynLoad", ByRef(given), connection));
+    robot.Finish();
+    return refused;
+}
+
+Seen Site::Run(const Task& task)
+{
+    Seen seen;
+    const bool refused = SynLoad([&](Robot& robot) {
+        User user(robot);
+        seen = user.Run(task.kind);
+        user.Leave();
+    });
+    EXPECT_FALSE(refused);
+    return seen;
+}
+
+void Site::ExpectNothingLeft()
+{
+    int dialogs = 0;
+    EnumThreadWindows(GetCurrentThreadId(), CountDialog, reinterpret_cast<LPARAM>(&dialogs));
+    EXPECT_EQ(0, dialogs);
+    EXPECT_TRUE(IsWindowEnabled(mWindow));
+    EXPECT_FALSE(mHost->Database().InTransaction());
+}
+
+const Course& UndisturbedCourse(const Task& task)
+{
+    static std::map<std::pair<std::wstring, long>, Course> courses;
+    const auto key = std::make_pair(task.kind, task.direction);
+    const auto known = courses.find(key);
+    return known != courses.end() ? known->second : courses.emplace(key, FollowedCourse(task)).first->second;
+}
+
+size_t UnfinishedItems(const Task& task)
+{
+    return task.kind == L"task" && task.direction != kImport ? 1 : 0;
+}
+
+} // namespace boundary_tests

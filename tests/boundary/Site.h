@@ -1,0 +1,103 @@
+// A workplace: the host's database and a mailbox with a few records each, half of them the same on both, in
+// files of its own; a window of the host; and the registered component, which a user drives. What a test
+// disturbs is compared with the undisturbed course of the same run.
+#pragma once
+
+#include "automation/Object.h"
+#include "sandbox/ado/Ado.h"
+#include "sandbox/host/Host.h"
+#include "sandbox/outlook/Outlook.h"
+#include "tests/boundary/State.h"
+#include "tests/boundary/User.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace boundary_tests
+{
+
+inline constexpr std::array<const wchar_t*, 3> kKinds = {L"contact", L"task", L"calendar"};
+
+inline constexpr long kImport = 1;
+inline constexpr long kExport = 2;
+inline constexpr long kBoth = 3;
+inline constexpr std::array<long, 3> kDirections = {kImport, kExport, kBoth};
+
+// The side that a run writes to takes changes as well; a run in both directions adds what is missing.
+long RuleOf(long direction);
+
+// What one run is, apart from what happens to it.
+struct Task
+{
+    std::wstring kind;
+    long direction;
+};
+
+class Site
+{
+  public:
+    Site();
+    Site(const Site&) = delete;
+    Site& operator=(const Site&) = delete;
+    ~Site();
+
+    sandbox::Host& Host() noexcept { return *mHost; }
+    const std::wstring& HostFile() const noexcept { return mHostFile; }
+    const std::wstring& MailboxFile() const noexcept { return mMailboxFile; }
+    // Gives the host's database up, and opens it again.
+    void CloseHost() { mHost.reset(); }
+    void OpenHost() { mHost = std::make_unique<sandbox::Host>(mHostFile); }
+
+    State Look() { return LookAt(mHost->Database(), *mMailbox); }
+    // Stores direction and rule for the user.
+    void Prepare(long direction);
+
+    // SynLoad of a new object of the component, with the site's host or another one; returns its result.
+    bool SynLoad(Robot::Script user) { return SynLoad(std::move(user), mHost->Dtc()); }
+    bool SynLoad(Robot::Script user, const automation::Object& dtc);
+    bool SynLoad(Robot::Script user, const automation::Object& dtc, const std::wstring& connection);
+    // One run in a SynLoad of its own.
+    Seen Run(const Task& task);
+
+    // The host's window takes input, no dialog is left, no transaction is open.
+    void ExpectNothingLeft();
+
+  private:
+    std::wstring mHostFile;
+    std::wstring mMailboxFile;
+    HWND mWindow;
+    std::unique_ptr<sandbox::Host> mHost;
+    std::unique_ptr<sandbox::Connection> mMailbox;
+};
+
+// Outlook and ADO served in this process, as long as it lives.
+class InProcess
+{
+  public:
+    explicit InProcess(const Site& site) : mOutlook(sandbox::OpenMailbox(site.MailboxFile())) {}
+
+  private:
+    sandbox::AdoInProcess mAdo;
+    sandbox::OutlookInProcess mOutlook;
+};
+
+// How a run goes that nothing disturbs.
+struct Course
+{
+    State before;
+    State after;
+    long callsUntilConfirmation = 0; // of Outlook's objects, from SynLoad on
+    long callsInAll = 0;
+};
+
+const Course& UndisturbedCourse(const Task& task);
+
+// A task item is saved after each property that is written, as the host contract asks, so that a run which
+// breaks off may leave one that has only some of them; the next run does not know it again.
+size_t UnfinishedItems(const Task& task);
+
+} // namespace boundary_tests

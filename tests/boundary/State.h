@@ -1,0 +1,36 @@
+// What stands in the host's database and in the mailbox, in a form in which two courses of events can be
+// compared: keys that the host makes afresh each time read alike, and order says nothing.
+#pragma once
+
+#include "sandbox/database/Connection.h"
+
+#include <string>
+#include <vector>
+
+namespace boundary_tests
+{
+
+using Records = std::vector<std::wstring>; // sorted
+
+struct State
+{
+    Records hostRows;
+    Records items;
+
+    bool operator==(const State&) const = default;
+};
+
+State LookAt(sandbox::Connection& host, sandbox::Connection& mailbox);
+
+// The records of one that the other one has not, each as often as it is missing.
+Records Missing(const Records& expected, const Records& actual);
+// The records of either, each as often as it occurs where it occurs more often.
+Records Either(const Records& one, const Records& other);
+
+// Each row and item is one of before or of after: nothing half-written, nothing lost of what both have. So
+// many items may be neither.
+void ExpectWhole(const State& state, const State& before, const State& after, size_t otherItems = 0);
+// All that should be there is, and nothing else but so many items.
+void ExpectReached(const State& state, const State& goal, size_t otherItems = 0);
+
+} // namespace boundary_tests
