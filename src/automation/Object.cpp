@@ -103,8 +103,10 @@ Object Object::Create(const wchar_t* progId)
     CLSID classId;
     Check(CLSIDFromProgID(progId, &classId), progId);
     ComPtr<IDispatch> dispatch;
-    Check(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, __uuidof(IDispatch),
-                           &dispatch),
+    Check(RetriedWhileBusy([&] {
+              return CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+                                      __uuidof(IDispatch), &dispatch);
+          }),
           progId);
     return Object(dispatch.Get());
 }
