@@ -140,6 +140,10 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
     const state::SynParameter& LoadParameters()
     {
         state::SynParameter& parameter = state::Shared().gSynParameter;
+        // What cannot be loaded stays as it is in the record, and the folder of the run before may hold
+        // another kind of items.
+        parameter.IsTrans = false;
+        parameter.CurrentFolder.clear();
         mServices.SetSynParamenter(parameter, lvCategory.KeyOf(*mCurrentCategory));
         return parameter;
     }

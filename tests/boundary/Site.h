@@ -74,13 +74,18 @@ class Site
     std::unique_ptr<sandbox::Connection> mMailbox;
 };
 
-// Outlook and ADO served in this process, as long as it lives.
+// Outlook and ADO served in this process, as long as it lives; one at a time.
 class InProcess
 {
   public:
-    explicit InProcess(const Site& site) : mOutlook(sandbox::OpenMailbox(site.MailboxFile())) {}
+    explicit InProcess(const Site& site);
+    InProcess(const InProcess&) = delete;
+    InProcess& operator=(const InProcess&) = delete;
+    ~InProcess() { gIsThere = false; }
 
   private:
+    static inline bool gIsThere = false;
+
     sandbox::AdoInProcess mAdo;
     sandbox::OutlookInProcess mOutlook;
 };
@@ -94,10 +99,12 @@ struct Course
     long callsInAll = 0;
 };
 
+// Followed when it is first asked for, which must not be while an Outlook is served in this process.
 const Course& UndisturbedCourse(const Task& task);
 
 // A task item is saved after each property that is written, as the host contract asks, so that a run which
-// breaks off may leave one that has only some of them; the next run does not know it again.
-size_t UnfinishedItems(const Task& task);
+// breaks off may leave one that has only some of them. The next run does not know it again: it writes the
+// task once more, and brings the unfinished one to the host where it goes both ways.
+Excused UnfinishedRecords(const Task& task);
 
 } // namespace boundary_tests
