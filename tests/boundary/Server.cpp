@@ -14,10 +14,19 @@ constexpr DWORD kPatience = 30'000; // milliseconds
 
 } // namespace
 
-Server::Server(const Site& site)
+Serves::Serves(const Site& site)
 {
     sandbox::outlook::ChooseMailbox(site.MailboxFile());
-    mControl = automation::Object::Create(sandbox::outlook::kControlProgId);
+}
+
+Serves::~Serves()
+{
+    sandbox::outlook::ChooseMailbox({});
+}
+
+Server::Server(const Site& site)
+    : mServes(site), mControl(automation::Object::Create(sandbox::outlook::kControlProgId))
+{
     const long id = automation::LongOf(mControl.Get(L"ProcessId"));
     mProcess = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(id));
 }
@@ -30,7 +39,6 @@ Server::~Server()
     }
     mControl = {};
     CloseHandle(mProcess);
-    sandbox::outlook::ChooseMailbox({});
 }
 
 void Server::Disturb(const wchar_t* how, long amount)

@@ -9,6 +9,16 @@
 namespace boundary_tests
 {
 
+// Outlook's server, whenever COM starts it, serves the site's mailbox.
+class Serves
+{
+  public:
+    explicit Serves(const Site& site);
+    Serves(const Serves&) = delete;
+    Serves& operator=(const Serves&) = delete;
+    ~Serves();
+};
+
 class Server
 {
   public:
@@ -27,6 +37,7 @@ class Server
     long ObjectCount();
 
   private:
+    Serves mServes;
     automation::Object mControl;
     HANDLE mProcess = nullptr;
     test_support::MainThread mMainThread;

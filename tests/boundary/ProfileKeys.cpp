@@ -1,0 +1,78 @@
+#include "tests/boundary/ProfileKeys.h"
+
+#include "sandbox/demo/Installation.h"
+#include "tests/boundary/KeySecurity.h"
+
+namespace boundary_tests
+{
+
+namespace
+{
+
+constexpr const wchar_t* kPaths[] = {
+    L"Software\\Microsoft\\Windows Messaging Subsystem\\Profiles",
+    L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem\\Profiles",
+};
+
+} // namespace
+
+ProfileKeys::ProfileKeys(const std::vector<std::wstring>& profiles)
+{
+    Remove();
+    for (const wchar_t* path : kPaths)
+    {
+        for (const std::wstring& profile : profiles)
+        {
+            RegSetKeyValueW(HKEY_CURRENT_USER, (std::wstring(path) + L"\\" + profile).c_str(), L"Name",
+                            REG_SZ, profile.c_str(),
+                            static_cast<DWORD>((profile.size() + 1) * sizeof(wchar_t)));
+        }
+        if (!profiles.empty())
+        {
+            const std::wstring& first = profiles.front();
+            RegSetKeyValueW(HKEY_CURRENT_USER, path, L"DefaultProfile", REG_SZ, first.c_str(),
+                            static_cast<DWORD>((first.size() + 1) * sizeof(wchar_t)));
+        }
+    }
+}
+
+ProfileKeys::~ProfileKeys()
+{
+    Remove();
+    sandbox::demo::InstallOutlookProfile();
+}
+
+std::wstring ProfileKeys::Default() const
+{
+    for (const wchar_t* path : kPaths)
+    {
+        wchar_t text[256] = {};
+        DWORD size = sizeof text;
+        if (RegGetValueW(HKEY_CURRENT_USER, path, L"DefaultProfile", RRF_RT_REG_SZ, nullptr, text, &size) ==
+                ERROR_SUCCESS &&
+            std::wstring(text) != L"Outlook")
+        {
+            return text;
+        }
+    }
+    return L"Outlook";
+}
+
+void ProfileKeys::Remove() const
+{
+    for (const wchar_t* path : kPaths)
+    {
+        RegDeleteTreeW(HKEY_CURRENT_USER, path);
+        RegDeleteKeyW(HKEY_CURRENT_USER, path);
+    }
+}
+
+void ProfileKeys::Deny(bool denied) const
+{
+    for (const wchar_t* path : kPaths)
+    {
+        SetAccess(HKEY_CURRENT_USER, path, denied ? 0 : KEY_ALL_ACCESS);
+    }
+}
+
+} // namespace boundary_tests

@@ -1,0 +1,62 @@
+#include "tests/boundary/ProfileKeys.h"
+
+#include "tests/boundary/Site.h"
+
+namespace boundary_tests
+{
+
+namespace
+{
+
+class OutlooksProfileKeys : public testing::Test
+{
+  protected:
+    OutlooksProfileKeys() { mSite.Prepare(kBoth); }
+
+    void ExpectRefused(const std::wstring& message)
+    {
+        const State before = mSite.Look();
+        for (const wchar_t* kind : kKinds)
+        {
+            const Seen seen = mSite.Run({kind, kBoth});
+            EXPECT_EQ(NoProfileStatus(), seen.status);
+            EXPECT_EQ(std::vector<std::wstring>{message}, seen.messages);
+        }
+        EXPECT_EQ(before, mSite.Look());
+        mSite.ExpectNothingLeft();
+    }
+
+    Site mSite;
+    InProcess mInProcess{mSite};
+    ProfileKeys mProfiles{{L"Outlook"}};
+};
+
+} // namespace
+
+TEST_F(OutlooksProfileKeys, MissingOnesStopARunWithTheirCode)
+{
+    mProfiles.Remove();
+    ExpectRefused(L"Open key error, code 2");
+}
+
+TEST_F(OutlooksProfileKeys, DeniedOnesStopARunWithTheirCodeAndAllowedAgainTheyDoNot)
+{
+    mProfiles.Deny(true);
+    ExpectRefused(L"Open key error, code 5");
+    mProfiles.Deny(false);
+    EXPECT_EQ(SuccessStatus(), mSite.Run({L"contact", kBoth}).status);
+}
+
+TEST_F(OutlooksProfileKeys, EmptyOnesAskTheUserToConfigureOutlook)
+{
+    mProfiles.Remove();
+    const ProfileKeys noProfile({});
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows Messaging Subsystem\\Profiles",
+                    L"Other", REG_SZ, L"", sizeof(wchar_t));
+    RegSetKeyValueW(HKEY_CURRENT_USER,
+                    L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem\\Profiles",
+                    L"Other", REG_SZ, L"", sizeof(wchar_t));
+    ExpectRefused(L"Please configue Outlook.");
+}
+
+} // namespace boundary_tests
