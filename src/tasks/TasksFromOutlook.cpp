@@ -61,7 +61,7 @@ HostValue ReadPercentage(const SourceProperty& property)
 // The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high.
 HostValue ReadImportance(const SourceProperty& property)
 {
-    return Value(automation::LongOf(property.Item.ValueOf(property.Name)) + 1);
+    return Value(automation::DoubleOf(property.Item.ValueOf(property.Name)) + 1);
 }
 
 // The host's flag is kept as the status number itself, deliberately.
