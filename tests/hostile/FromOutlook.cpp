@@ -1,0 +1,285 @@
+#include "tests/hostile/FromOutlook.h"
+
+#include "automation/Text.h"
+#include "data/Host.h"
+#include "sandbox/host/Literals.h"
+#include "sandbox/host/Rejection.h"
+#include "state/SharedState.h"
+#include "tests/hostile/Oracle.h"
+
+#include <algorithm>
+
+namespace test_support
+{
+
+using automation::TextOrEmpty;
+using automation::ToUtf8;
+using sandbox::Literal;
+using sandbox::Refusal;
+
+namespace
+{
+
+// TARGET comes first, so that it is the first row of its record source; nobody may touch the others.
+constexpr const wchar_t* kRows[] = {
+    L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Account one'),('A2',2,'Two')",
+    L"INSERT INTO TBLADDRESS (F_ADDRID,F_ACCID,F_ADDRCITY,F_ISPRIMARY) VALUES ('D1','A1','Bonn',1),"
+    L"('D2','A2','Paris',1)",
+    L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_ACCID,F_CNTADDRID,F_SURNAME,F_GIVENNAME) VALUES "
+    L"('TARGET',1,'A1','D1','Old','Name'),('MINE',1,'A1','D1','Miller','Ann'),('OTHERS',2,'A2','D2','Li','"
+    L"Mei')",
+    L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_CREATORID,F_ACCID,F_ACTNAME,F_ACTESDATE) VALUES "
+    L"('TARGET',1,1,'A1','Task',NULL),('MINE',1,1,'A1','Task',NULL),('OTHERS',2,2,'A2','Task',NULL),"
+    L"('ENTRY',1,1,'A1','Entry','2003-05-06 00:00:00'),('THEIRS',2,2,'A2','Entry','2003-05-06 00:00:00')",
+};
+
+constexpr const wchar_t* kClearing[] = {
+    L"DELETE FROM TBLCONTACT WHERE F_CNTCTID NOT IN ('TARGET','MINE','OTHERS')",
+    L"DELETE FROM TBLACCOUNT WHERE F_ACCID NOT IN ('A1','A2')",
+    L"DELETE FROM TBLADDRESS WHERE F_ADDRID NOT IN ('D1','D2')",
+    L"DELETE FROM TBLACTIVITY WHERE F_ACTID NOT IN ('TARGET','MINE','OTHERS','ENTRY','THEIRS')",
+    L"DELETE FROM TBLACCINFO",
+    L"UPDATE TBLCONTACT SET F_ACCID='A1', F_CNTADDRID='D1' WHERE F_CNTCTID='TARGET'",
+};
+
+constexpr const wchar_t* kTheRest[] = {
+    L"SELECT * FROM TBLCONTACT WHERE F_CNTCTID IN ('MINE','OTHERS') ORDER BY 1",
+    L"SELECT * FROM TBLACCOUNT WHERE F_ACCID IN ('A1','A2') ORDER BY 1",
+    L"SELECT * FROM TBLADDRESS WHERE F_ADDRID IN ('D1','D2') ORDER BY 1",
+    L"SELECT * FROM TBLACTIVITY WHERE F_ACTID IN ('MINE','OTHERS','THEIRS') ORDER BY 1",
+    L"SELECT * FROM TBLUSER",
+    L"SELECT * FROM TBLSYSINFO",
+    L"SELECT * FROM TBLREPEATRULE",
+    L"SELECT * FROM UserRight",
+    L"SELECT * FROM SynRelation",
+    L"SELECT * FROM SynFields",
+    L"SELECT * FROM T_POutlookSyncParam",
+    L"SELECT * FROM T_POutlookSyncFolder",
+    L"SELECT type, name, sql FROM sqlite_master ORDER BY name",
+};
+
+constexpr const wchar_t* kCounted[] = {L"TBLCONTACT", L"TBLACTIVITY", L"TBLACCOUNT", L"TBLACCINFO",
+                                       L"TBLADDRESS"};
+
+bool IsKey(std::wstring_view text)
+{
+    return !text.empty() && std::ranges::all_of(text, [](wchar_t c) {
+        return (c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') || c == L'-';
+    });
+}
+
+// What a statement is refused for when its text does not say what it should.
+bool IsMisread(long result)
+{
+    constexpr Refusal kMisread[] = {Refusal::UnknownTable,     Refusal::UnknownColumn,
+                                    Refusal::ListsDiffer,      Refusal::UnbalancedQuotes,
+                                    Refusal::MalformedLiteral, Refusal::BadStatement};
+    return std::ranges::any_of(kMisread,
+                               [&](Refusal refusal) { return result == static_cast<long>(refusal); });
+}
+
+} // namespace
+
+HostileFromOutlook::HostileFromOutlook()
+{
+    for (const wchar_t* sql : kRows)
+    {
+        mHost.Database().Execute(sql);
+    }
+    state::Shared().gDTC = MakeStatementRecorder(mHost.Dtc(), mStatements);
+    state::Shared().gCnnString = mHost.ConnectionString();
+    state::Shared().gCalendarStartTime = {0.25};
+    state::Shared().gCalendarEndTime = {0.75};
+    mRest = TheRest();
+}
+
+HostileFromOutlook::~HostileFromOutlook()
+{
+    state::Shared() = {};
+}
+
+std::wstring HostileFromOutlook::Dump(const std::wstring& query)
+{
+    std::wstring text;
+    for (const sandbox::Row& row : mHost.Database().Query(query).rows)
+    {
+        for (const Value& value : row)
+        {
+            text += (automation::IsEmptyOrNull(value) ? L"NULL" : TextOrEmpty(value)) + L"|";
+        }
+        text += L"\n";
+    }
+    return text;
+}
+
+std::wstring HostileFromOutlook::TheRest()
+{
+    std::wstring text;
+    for (const wchar_t* query : kTheRest)
+    {
+        text += Dump(query) + L"--\n";
+    }
+    return text;
+}
+
+HostileFromOutlook::RowCounts HostileFromOutlook::CountRows()
+{
+    std::wstring sql;
+    for (const wchar_t* table : kCounted)
+    {
+        sql += (sql.empty() ? L"SELECT (SELECT COUNT(*) FROM " : L",(SELECT COUNT(*) FROM ") +
+               std::wstring(table) + L")";
+    }
+    const sandbox::ResultSet result = mHost.Database().Query(sql);
+    RowCounts counts;
+    for (size_t i = 0; i < std::size(kCounted); ++i)
+    {
+        counts[kCounted[i]] = automation::LongOf(result.rows.at(0).at(i));
+    }
+    return counts;
+}
+
+void HostileFromOutlook::Import(const run::Category& category, const automation::Object& item, bool isNew)
+{
+    data::Run run{.Display = mDisplay};
+    const data::Host host;
+    const std::wstring filter = category.SourceFilter == nullptr ? L"" : category.SourceFilter(host);
+    ASSERT_EQ(0, host.OpenRecordset(run.HostRows, category.RecordSource, filter));
+    run.Items = MakeItemsOf(item);
+    if (isNew)
+    {
+        run.Pending.NewOutlookItems.Add(L"1", 0);
+    }
+    else
+    {
+        run.Pending.ChangedOutlookItems.Add(L"1", 0);
+        run.Pending.ChangedHostRecords.Add(1, 0);
+    }
+    mBefore = CountRows();
+    mStatements.clear();
+    EXPECT_FALSE(category.ApplyFromOutlook(run)); // no record ends the pass
+}
+
+void HostileFromOutlook::ExpectOneRecordAtMost(const std::wstring& table, bool isNew, bool isAtomic)
+{
+    for (const Statement& statement : mStatements)
+    {
+        CheckStatement(statement, table);
+    }
+    mStatementCount += static_cast<long>(mStatements.size());
+    RowCounts added = CountRows();
+    for (auto& [name, count] : added)
+    {
+        count -= mBefore[name];
+    }
+    const bool isWritten = !ColumnsWritten(mStatements, table).empty();
+    mWritten += isWritten ? 1 : 0;
+    EXPECT_EQ(isNew && isWritten ? 1 : 0, added[table]);
+    EXPECT_EQ(0, added[table == L"TBLCONTACT" ? L"TBLACTIVITY" : L"TBLCONTACT"]);
+    const long mostOfOthers = isWritten || !isAtomic ? 1 : 0;
+    EXPECT_LE(added[L"TBLACCOUNT"], mostOfOthers);
+    EXPECT_EQ(added[L"TBLACCOUNT"], added[L"TBLACCINFO"]);
+    EXPECT_LE(added[L"TBLADDRESS"], table == L"TBLCONTACT" ? mostOfOthers : 0);
+    EXPECT_FALSE(mHost.Database().InTransaction());
+}
+
+void HostileFromOutlook::ExpectTheRestUntouched()
+{
+    EXPECT_EQ(ToUtf8(mRest), ToUtf8(TheRest()));
+}
+
+void HostileFromOutlook::Clear()
+{
+    for (const wchar_t* sql : kClearing)
+    {
+        mHost.Database().Execute(sql);
+    }
+}
+
+void HostileFromOutlook::CheckStatement(const Statement& statement, const std::wstring& table)
+{
+    const std::wstring& first = statement.arguments[0];
+    if (statement.member == L"Insert" || statement.member == L"Update")
+    {
+        const bool isExpected =
+            first == table || first == L"TBLADDRESS" ||
+            (statement.member == L"Insert" && (first == L"TBLACCOUNT" || first == L"TBLACCINFO"));
+        EXPECT_TRUE(isExpected) << ToUtf8(first);
+        EXPECT_FALSE(IsMisread(statement.result)) << ToUtf8(mHost.LastRejection());
+        CheckLists(statement);
+    }
+    else if (statement.member == L"OpenRecordset")
+    {
+        CheckFilter(first, statement.arguments[1]);
+    }
+    else
+    {
+        EXPECT_EQ(L"OpenRecordsetByString", statement.member);
+        CheckLookup(first);
+    }
+}
+
+void HostileFromOutlook::CheckLists(const Statement& statement)
+{
+    try
+    {
+        if (statement.member == L"Insert")
+        {
+            EXPECT_EQ(sandbox::ParseColumns(statement.arguments[1]).size(),
+                      sandbox::ParseLiterals(statement.arguments[2]).size());
+        }
+        else
+        {
+            EXPECT_FALSE(sandbox::ParseAssignments(statement.arguments[1]).empty());
+            CheckCondition(statement.arguments[2], statement.arguments[0]);
+        }
+    }
+    catch (const sandbox::Rejection& rejection)
+    {
+        ADD_FAILURE() << ToUtf8(rejection.Reason());
+    }
+}
+
+// The one row that is meant: by a key that the host has made.
+void HostileFromOutlook::CheckCondition(const std::wstring& condition, const std::wstring& table)
+{
+    const std::wstring column = table == L"TBLADDRESS"   ? L"F_ADDRID='"
+                                : table == L"TBLCONTACT" ? L"F_CNTCTID='"
+                                                         : L"F_ACTID='";
+    ASSERT_TRUE(condition.starts_with(column) && condition.ends_with(L"'")) << ToUtf8(condition);
+    const std::wstring key = condition.substr(column.size(), condition.size() - column.size() - 1);
+    EXPECT_TRUE(IsKey(key)) << ToUtf8(condition);
+    EXPECT_TRUE(table == L"TBLADDRESS" || key == L"TARGET" || key == L"ENTRY") << ToUtf8(condition);
+}
+
+// The statements that the contract wants with the text as it is; nothing is in them but their wording and
+// that.
+void HostileFromOutlook::CheckLookup(const std::wstring& sql)
+{
+    const std::set<std::wstring> expected{
+        L"SELECT F_AITID FROM TBLSYSINFO", L"SELECT F_ACCID\r\nFROM TBLCONTACT\r\nWHERE F_CNTCTID= 'TARGET'",
+        L"SELECT F_CNTCTID\r\nFROM TBLCONTACT\r\nWHERE F_SURNAME+F_GIVENNAME= '" +
+            TextOrEmpty(mItem[L"ContactNames"]) + L"'",
+        L"SELECT F_ACCID\r\nFROM TBLACCOUNT\r\nWHERE F_ACCSNAME= '" +
+            KeptText(TextOrEmpty(mItem[L"Companies"]), 80) + L"'"};
+    EXPECT_TRUE(expected.contains(sql)) << ToUtf8(sql);
+}
+
+void HostileFromOutlook::CheckFilter(const std::wstring& source, const std::wstring& filter)
+{
+    const std::wstring column = L"F_ACCSNAME=";
+    EXPECT_EQ(L"AccountMyAccount", source);
+    ASSERT_TRUE(filter.starts_with(column)) << ToUtf8(filter);
+    try
+    {
+        const Literal literal = sandbox::ParseLiteral(filter.substr(column.size()));
+        EXPECT_EQ(Literal::Kind::Text, literal.kind);
+        EXPECT_EQ(KeptText(TextOrEmpty(mItem[L"CompanyName"]), 80), literal.text);
+    }
+    catch (const sandbox::Rejection& rejection)
+    {
+        ADD_FAILURE() << ToUtf8(rejection.Reason());
+    }
+}
+
+} // namespace test_support

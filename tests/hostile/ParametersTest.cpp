@@ -1,0 +1,128 @@
+// Hostile texts in the stored parameters and among the chosen folders: what is loaded is what is stored, what
+// is written stays within the user's own rows.
+#include "automation/Text.h"
+#include "config/ChosenFolders.h"
+#include "config/OutlookFolders.h"
+#include "config/ParameterStore.h"
+#include "sandbox/ado/Ado.h"
+#include "sandbox/host/Host.h"
+#include "sandbox/outlook/Outlook.h"
+#include "state/SharedState.h"
+#include "tests/hostile/HostileValues.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace test_support;
+using automation::TextOrEmpty;
+using automation::ToUtf8;
+using sandbox::Row;
+
+constexpr const wchar_t* kParameters = L"T_POutlookSyncParam";
+constexpr const wchar_t* kFolders = L"T_POutlookSyncFolder";
+
+class HostileParameters : public testing::Test
+{
+  protected:
+    HostileParameters()
+    {
+        state::Shared().gDTC = mHost.Dtc();
+        state::Shared().gCnnString = mHost.ConnectionString();
+        state::Shared().gOlNamespace = mOutlook.GetObject(L"GetNamespace", L"MAPI");
+        sandbox::AddRows(mHost.Database(), kFolders, L"F_UID,TransObjectID,OutlookFolder,IsDefault",
+                         {{2L, 10L, L"Theirs", true}});
+        sandbox::AddRows(mHost.Database(), kParameters, L"F_UID,TransObjectID,TransObject,IsTrans",
+                         {{2L, 10L, L"Contact", true}});
+        mOfOthers = RowsOfOthers();
+    }
+    ~HostileParameters() override { state::Shared() = {}; }
+
+    std::wstring Found(const std::wstring& sql) { return TextOrEmpty(mHost.Database().QueryValue(sql)); }
+
+    std::wstring RowsOfOthers()
+    {
+        return Found(L"SELECT COUNT(*) || group_concat(TransObject || IsTrans) FROM T_POutlookSyncParam "
+                     L"WHERE F_UID=2") +
+               Found(
+                   L"SELECT COUNT(*) || group_concat(OutlookFolder) FROM T_POutlookSyncFolder WHERE F_UID=2");
+    }
+
+    // Makes a template's texts hostile, and the user's rows gone.
+    void SetTemplate(const std::vector<std::wstring>& texts)
+    {
+        mHost.Database().Execute(L"DELETE FROM T_POutlookSyncParam WHERE F_UID=1");
+        mHost.Database().Execute(
+            L"UPDATE T_POutlookSyncParam SET TransObjectPic=?, TransTypePic=?, TransSource=?, "
+            L"TransSourceConfig=?, TransNameEnglish=? WHERE F_UID=0 AND TransObject='Contact'",
+            Row(texts.begin(), texts.end()));
+    }
+
+    sandbox::AdoInProcess mAdo;
+    sandbox::Host mHost;
+    automation::Object mOutlook = sandbox::MakeOutlook(sandbox::MakeMailbox());
+    std::wstring mOfOthers;
+};
+
+TEST_F(HostileParameters, TemplatesAreCopiedAndLoadedTextForText)
+{
+    HostileValues values("parameters");
+    for (long i = 0; i < Times(150) && !HasFailure(); ++i)
+    {
+        SCOPED_TRACE(i);
+        const std::vector<std::wstring> texts{values.StorableText(20), values.StorableText(20),
+                                              values.StorableText(40), values.StorableText(255),
+                                              values.StorableText(40)};
+        SetTemplate(texts);
+        state::SynParameter record;
+        EXPECT_FALSE(config::SetSynParamenter(record, L"Contact"));
+        EXPECT_EQ(L"", mHost.LastRejection());
+        EXPECT_EQ(texts[0], record.TransObjectPic);
+        EXPECT_EQ(texts[1], record.TransTypePic);
+        EXPECT_EQ(texts[2], record.TransSource);
+        EXPECT_EQ(texts[3], record.TransSourceConfig);
+        EXPECT_EQ(L"3", Found(L"SELECT COUNT(*) FROM T_POutlookSyncParam WHERE F_UID=1"));
+        EXPECT_EQ(L"3", Found(L"SELECT COUNT(*) FROM T_POutlookSyncParam WHERE F_UID=0"));
+        EXPECT_EQ(mOfOthers, RowsOfOthers());
+    }
+}
+
+// The contract wants the path as it is: one that is not a literal then is refused by the host.
+TEST_F(HostileParameters, AFolderIsStoredAsItIsOrNotAtAll)
+{
+    HostileValues values("chosen folders");
+    const config::ObjectKind& kind = *config::FindObjectKind(L"Contact");
+    for (long i = 0; i < Times(300) && !HasFailure(); ++i)
+    {
+        const std::wstring path = values.StorableText(100);
+        SCOPED_TRACE(ToUtf8(path));
+        EXPECT_FALSE(config::StoreChosenFolders(kind, {{path, true}}));
+        const config::ChosenFolders stored = config::LoadChosenFolders(kind);
+        EXPECT_LE(stored.size(), 1u);
+        if (path.find(L'\'') == std::wstring::npos)
+        {
+            EXPECT_EQ((config::ChosenFolders{{path, true}}), stored);
+        }
+        EXPECT_EQ(mOfOthers, RowsOfOthers());
+    }
+}
+
+TEST_F(HostileParameters, AFolderOfAMissingStoreIsDeletedAndNoOther)
+{
+    HostileValues values("missing folders");
+    for (long i = 0; i < Times(150) && !HasFailure(); ++i)
+    {
+        const std::wstring path = values.StorableText(100) + L"?";
+        SCOPED_TRACE(ToUtf8(path));
+        mHost.Database().Execute(L"DELETE FROM T_POutlookSyncFolder WHERE F_UID=1");
+        sandbox::AddRows(mHost.Database(), kFolders, L"F_UID,TransObjectID,OutlookFolder,IsDefault",
+                         {{1L, 10L, path, false}, {1L, 20L, L"Personal Folders\\Tasks", true}});
+        config::PurgeMissingFolders();
+        EXPECT_EQ(L"Personal Folders\\Tasks",
+                  Found(L"SELECT group_concat(OutlookFolder) FROM T_POutlookSyncFolder WHERE F_UID=1"));
+        EXPECT_EQ(mOfOthers, RowsOfOthers());
+    }
+}
+
+} // namespace
