@@ -32,7 +32,7 @@ enum class PropertyType
     Day,    // a date whose time of day is dropped on assignment
 };
 
-enum class PropertyId : unsigned short
+enum class PropertyId
 {
     // of every item
     Subject,

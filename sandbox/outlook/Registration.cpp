@@ -77,7 +77,7 @@ void UnregisterServer()
 
 std::wstring ChosenMailbox()
 {
-    const std::wstring chosen = ReadSetting(kMailboxValue);
+    std::wstring chosen = ReadSetting(kMailboxValue);
     if (!chosen.empty())
     {
         return chosen;

@@ -1,5 +1,7 @@
 #include "automation/Argument.h"
 
+#include "automation/Object.h"
+
 namespace automation
 {
 

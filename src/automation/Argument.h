@@ -2,13 +2,16 @@
 // integer), as a late-bound Visual Basic caller sends it, and is written back when the call has returned.
 #pragma once
 
-#include "automation/Object.h"
 #include "automation/Value.h"
 
 #include <string>
+#include <type_traits>
+#include <utility>
 
 namespace automation
 {
+
+class Object;
 
 template<typename T>
 struct ByReference

@@ -128,37 +128,59 @@ void Object::PutRef(const wchar_t* member, const Object& object) const
     Invoke(member, DISPATCH_PROPERTYPUTREF, &argument, 1);
 }
 
+namespace
+{
+
+// The arguments as a call takes them: in reverse order, and for an assignment with the name that it demands.
+class PassedArguments
+{
+  public:
+    PassedArguments(Argument* arguments, size_t count, bool isWrite)
+    {
+        for (size_t i = 0; i < count; ++i)
+        {
+            mReversed[count - 1 - i] = arguments[i].Passed();
+        }
+        mParameters.cArgs = static_cast<UINT>(count);
+        mParameters.rgvarg = mReversed.data();
+        mParameters.cNamedArgs = isWrite ? 1 : 0;
+        mParameters.rgdispidNamedArgs = isWrite ? &mPutId : nullptr;
+    }
+    PassedArguments(const PassedArguments&) = delete;
+    PassedArguments& operator=(const PassedArguments&) = delete;
+
+    static constexpr size_t kMost = 16;
+
+    DISPPARAMS* Get() noexcept { return &mParameters; }
+
+  private:
+    std::array<VARIANT, kMost> mReversed;
+    DISPID mPutId = DISPID_PROPERTYPUT;
+    DISPPARAMS mParameters{};
+};
+
+} // namespace
+
 Value Object::Invoke(const wchar_t* member, WORD flags, Argument* arguments, size_t count) const
 {
     if (mTarget == nullptr)
     {
         throw Error(E_POINTER, member, L"Object variable not set");
     }
-    const std::shared_ptr<Target> target =
-        mTarget; // the call may replace the variable that holds this object
-    std::array<VARIANT, 16> reversed;
-    if (count > reversed.size())
+    if (count > PassedArguments::kMost)
     {
         throw Error(DISP_E_BADPARAMCOUNT, member);
     }
-    for (size_t i = 0; i < count; ++i)
-    {
-        reversed[count - 1 - i] = arguments[i].Passed();
-    }
-    DISPID putId = DISPID_PROPERTYPUT;
-    DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(count), 0};
+    const std::shared_ptr<Target> target =
+        mTarget; // the call may replace the variable that holds this object
     const bool isWrite = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
-    if (isWrite)
-    {
-        parameters.rgdispidNamedArgs = &putId;
-        parameters.cNamedArgs = 1;
-    }
+    PassedArguments passed(arguments, count, isWrite);
     const DISPID id = target->IdOf(member);
     Value result;
     ExceptionInfo exception;
     UINT wrongArgument = 0;
     const HRESULT code = RetriedWhileBusy([&] {
-        return target->dispatch->Invoke(id, IID_NULL, LOCALE_SYSTEM_DEFAULT, flags, &parameters,
+        return target->dispatch->Invoke(id, IID_NULL, LOCALE_SYSTEM_DEFAULT, flags, passed.Get(),
                                         isWrite ? nullptr : result.Receive(), &exception, &wrongArgument);
     });
     if (FAILED(code))

@@ -3,14 +3,14 @@
 // saves a cross-process round trip on every later use. Used on the thread (apartment) that obtained it.
 #pragma once
 
+#include "automation/Argument.h"
 #include "automation/Value.h"
 
 #include <memory>
+#include <utility>
 
 namespace automation
 {
-
-class Argument;
 
 class Object
 {
@@ -48,6 +48,32 @@ class Object
     std::shared_ptr<Target> mTarget;
 };
 
-} // namespace automation
+template<typename... Arguments>
+Value Object::Get(const wchar_t* member, Arguments&&... arguments) const
+{
+    // A parameterless read may be a method in some servers and a property in others; both flags serve both.
+    constexpr WORD kFlags = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+    if constexpr (sizeof...(arguments) == 0)
+    {
+        return Invoke(member, kFlags, nullptr, 0);
+    }
+    else
+    {
+        Argument passed[] = {Argument(std::forward<Arguments>(arguments))...};
+        return Invoke(member, kFlags, passed, sizeof...(arguments));
+    }
+}
 
-#include "automation/ObjectCalls.h"
+template<typename... Arguments>
+Value Object::Call(const wchar_t* member, Arguments&&... arguments) const
+{
+    return Get(member, std::forward<Arguments>(arguments)...);
+}
+
+template<typename... Arguments>
+Object Object::GetObject(const wchar_t* member, Arguments&&... arguments) const
+{
+    return ObjectOf(Get(member, std::forward<Arguments>(arguments)...));
+}
+
+} // namespace automation

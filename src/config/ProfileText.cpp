@@ -1,7 +1,5 @@
 #include "config/ProfileText.h"
 
-#include <ranges>
-
 namespace config
 {
 
@@ -12,10 +10,10 @@ std::wstring HexFromLastByte(const std::vector<BYTE>& bytes)
 {
     constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
     std::wstring text = L"0x";
-    for (const BYTE byte : std::views::reverse(bytes))
+    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte)
     {
-        text += kDigits[byte >> 4];
-        text += kDigits[byte & 15];
+        text += kDigits[*byte >> 4];
+        text += kDigits[*byte & 15];
     }
     return text;
 }

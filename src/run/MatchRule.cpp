@@ -97,7 +97,7 @@ std::wstring CompaniesOfTask(const Object& item)
 // working day; it matches that. Only an appointment that starts at midnight is asked whether it is one.
 Value StartOfItem(const Object& item)
 {
-    const Value value = item.Get(L"Start");
+    Value value = item.Get(L"Start");
     if (automation::IsEmptyOrNull(value))
     {
         return value;

@@ -4,7 +4,7 @@
 
 #include "automation/Dates.h"
 #include "automation/Error.h"
-#include "automation/ObjectCalls.h"
+#include "automation/Object.h"
 #include "sandbox/outlook/Outlook.h"
 
 #include <gtest/gtest.h>
