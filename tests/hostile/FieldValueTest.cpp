@@ -56,30 +56,43 @@ class HostileFieldValues : public testing::Test
     // against the contract.
     void Check(const Column& column, const Value& value)
     {
+        CheckInsert(column, value);
+        CheckUpdate(column, value);
+    }
+
+    void CheckInsert(const Column& column, const Value& value)
+    {
         std::wstring fields = L"F_BEFORE";
         std::wstring values = L"'it''s'";
-        std::wstring setList = L"F_BEFORE='it''s'";
-        const long inserted = data::AddInsertField(mCatalogue, fields, column.name, values, value);
-        const long updated = data::AddUpdateField(mCatalogue, setList, column.name, value);
-        ASSERT_EQ(inserted, updated);
-        if (inserted != 0)
+        if (data::AddInsertField(mCatalogue, fields, column.name, values, value) != 0)
         {
             ++mRefused;
-            EXPECT_EQ(L"F_BEFORE", fields);
-            EXPECT_EQ(L"'it''s'", values);
-            EXPECT_EQ(L"F_BEFORE='it''s'", setList);
+            EXPECT_EQ(L"F_BEFORE|'it''s'", fields + L"|" + values);
             return;
         }
         const auto literals = sandbox::ParseLiterals(values + L",'after'");
-        const auto assignments = sandbox::ParseAssignments(setList + L",F_AFTER='after'");
         ASSERT_EQ(3u, literals.size());
-        ASSERT_EQ(3u, assignments.size());
         EXPECT_EQ(L"F_BEFORE," + column.name, fields);
         EXPECT_EQ(L"it's", literals[0].text);
         EXPECT_EQ(L"after", literals[2].text);
-        EXPECT_EQ(column.name, assignments[1].column);
-        EXPECT_EQ(literals[1].text, assignments[1].literal.text);
         CheckLiteral(literals[1], column, value);
+    }
+
+    void CheckUpdate(const Column& column, const Value& value)
+    {
+        std::wstring setList = L"F_BEFORE='it''s'";
+        if (data::AddUpdateField(mCatalogue, setList, column.name, value) != 0)
+        {
+            ++mRefused;
+            EXPECT_EQ(L"F_BEFORE='it''s'", setList);
+            return;
+        }
+        const auto assignments = sandbox::ParseAssignments(setList + L",F_AFTER='after'");
+        ASSERT_EQ(3u, assignments.size());
+        EXPECT_EQ(L"it's", assignments[0].literal.text);
+        EXPECT_EQ(L"after", assignments[2].literal.text);
+        EXPECT_EQ(column.name, assignments[1].column);
+        CheckLiteral(assignments[1].literal, column, value);
     }
 
     void CheckLiteral(const Literal& literal, const Column& column, const Value& value)
@@ -106,7 +119,7 @@ class HostileFieldValues : public testing::Test
 TEST_F(HostileFieldValues, EveryValueIsOneLiteralOrIsRefused)
 {
     HostileValues values("single values");
-    const long count = Times(200000);
+    const long count = Times(120000);
     while (values.Count() < count && !HasFailure())
     {
         const Column& column = mColumns[values.Below(mColumns.size())];
@@ -123,7 +136,7 @@ TEST_F(HostileFieldValues, EveryValueIsOneLiteralOrIsRefused)
         }
     }
     EXPECT_GT(mRefused, 0);
-    EXPECT_LT(mRefused, values.Count() / 2);
+    EXPECT_LT(mRefused, values.Count());
     values.Report(std::to_string(2 * values.Count()) + " fragments, " + std::to_string(mRefused) +
                   " refused");
 }

@@ -149,14 +149,14 @@ TEST_F(HostileImport, ContactsAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("contacts from Outlook");
     const Kind kind{run::kContactCategory, L"TBLCONTACT", L"TBLCONTACT", true};
-    ImportMany(kind, values, Times(800), [](HostileValues& from) { return HostileRecord(kContact, from); });
+    ImportMany(kind, values, Times(600), [](HostileValues& from) { return HostileRecord(kContact, from); });
 }
 
 TEST_F(HostileImport, TasksAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("tasks from Outlook");
     const Kind kind{run::kTaskCategory, L"TBLACTIVITY", L"TBLACTIVITY", true};
-    ImportMany(kind, values, Times(800), [](HostileValues& from) {
+    ImportMany(kind, values, Times(600), [](HostileValues& from) {
         ItemValues item = HostileRecord(kTask, from);
         if (from.OneIn(2)) // most of what they may hold breaks the lookup, and fails the task
         {
@@ -170,7 +170,7 @@ TEST_F(HostileImport, AppointmentsAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("appointments from Outlook");
     const Kind kind{run::kCalendarCategory, L"TBLACTIVITY", L"VW_CALENDAR", false};
-    ImportMany(kind, values, Times(800), [](HostileValues& from) {
+    ImportMany(kind, values, Times(600), [](HostileValues& from) {
         ItemValues item = HostileRecord(kAppointment, from);
         item[L"GetRecurrencePattern"] =
             from.OneIn(40) ? from.Any() : Value(MakeHostileItem(HostileRecord(kPattern, from)));

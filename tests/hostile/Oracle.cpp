@@ -1,5 +1,6 @@
 #include "tests/hostile/Oracle.h"
 
+#include "automation/Error.h"
 #include "automation/Text.h"
 
 #include <cmath>
@@ -70,10 +71,28 @@ std::string Differs(const std::wstring& expected, const std::wstring& found)
     return expected == found ? "" : "expected \"" + ToUtf8(expected) + "\", found \"" + ToUtf8(found) + "\"";
 }
 
+// The system reads the same text now as a date, now as none ("12:30a" after control characters, under Wine).
+std::optional<double> SecondsIfReadable(const Value& value)
+{
+    try
+    {
+        return SecondsOf(automation::DateOf(value).days);
+    }
+    catch (const automation::Error&)
+    {
+        return std::nullopt;
+    }
+}
+
 // A date is rounded to the second, either way: both are right.
 std::string DateComplaint(const Literal& literal, const Value& value, long type)
 {
-    const double seconds = SecondsOf(automation::DateOf(value).days);
+    const std::optional<double> read = SecondsIfReadable(value);
+    if (!read)
+    {
+        return value.Type() == VT_BSTR ? "" : "what is no date was written";
+    }
+    const double seconds = *read;
     if (!std::isfinite(seconds))
     {
         return std::isnan(seconds) ? "a date that is no number was written" : "";

@@ -239,21 +239,21 @@ TEST_F(HostileExport, ContactsAreSavedWholeOrNotAtAll)
 {
     HostileValues values("contacts to Outlook");
     const Kind kind{run::kContactCategory, L"TBLCONTACT", L"Personal Folders\\Contacts", 10, true};
-    ExportMany(kind, kContact, values, Times(800));
+    ExportMany(kind, kContact, values, Times(600));
 }
 
 TEST_F(HostileExport, TasksAreSavedWholeOrThePassFails)
 {
     HostileValues values("tasks to Outlook");
     const Kind kind{run::kTaskCategory, L"TBLACTIVITY", L"Personal Folders\\Tasks", 13, false};
-    ExportMany(kind, kTask, values, Times(800));
+    ExportMany(kind, kTask, values, Times(600));
 }
 
 TEST_F(HostileExport, AppointmentsAreSavedWholeOrNotAtAll)
 {
     HostileValues values("appointments to Outlook");
     const Kind kind{run::kCalendarCategory, L"VW_CALENDAR", L"Personal Folders\\Calendar", 9, true};
-    ExportMany(kind, kEntry, values, Times(800));
+    ExportMany(kind, kEntry, values, Times(600));
 }
 
 } // namespace

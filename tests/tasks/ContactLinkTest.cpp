@@ -135,6 +135,15 @@ TEST_F(ContactLink, ADoubleQuoteInANameEndsThePassWithNothingHalfOpen)
     }
 }
 
+TEST_F(ContactLink, ANameThatGoesOnTheSearchFindsWhomItSays)
+{
+    AddContact(L"Mei", L"Li");
+    AddHostTaskWith(L"'Zhang\" Or [LastName] = \"Li'", L"'Wei'");
+    WriteNewTask();
+    EXPECT_EQ(1, CountContacts());
+    EXPECT_EQ(1u, Links(1).size());
+}
+
 TEST_F(ContactLink, AnApostropheInANameIsAPlainCharacter)
 {
     AddContact(L"Pat", L"O'Brien");
