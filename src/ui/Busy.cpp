@@ -55,6 +55,11 @@ void RemoveWaiting(UINT first, UINT last)
     MSG message;
     while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE | PM_NOYIELD))
     {
+        if (message.message == WM_QUIT) // comes whatever is asked for, and is meant for another loop
+        {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
     }
 }
 
