@@ -64,10 +64,18 @@ std::set<std::wstring> Raising(const std::wstring& member)
 class HostRaises : public testing::TestWithParam<const wchar_t*>
 {
   protected:
-    static std::vector<long> Directions()
+    // Each member with each kind in each direction; in the bounded run each member once.
+    static std::vector<long> DirectionsFor(size_t member)
     {
-        return test_support::IsLongRun() ? std::vector<long>(kDirections.begin(), kDirections.end())
-                                         : std::vector<long>{kBoth};
+        if (test_support::IsLongRun())
+        {
+            return {kDirections.begin(), kDirections.end()};
+        }
+        if (std::wstring(GetParam()) != kKinds[member % kKinds.size()])
+        {
+            return {};
+        }
+        return {std::wstring(kMembers[member].name) == L"Update" ? kImport : kBoth};
     }
 
     void ExpectNoHarm(const RaisingMember& member, const Task& task)
@@ -134,9 +142,10 @@ class HostRaises : public testing::TestWithParam<const wchar_t*>
 TEST_P(HostRaises, FromAMemberEachTimeAndNothingIsHalfWrittenAndTheNextRunPutsItRight)
 {
     size_t tried = 0;
-    for (const RaisingMember& member : kMembers)
+    for (size_t i = 0; i < std::size(kMembers); ++i)
     {
-        for (const long direction : Directions())
+        const RaisingMember& member = kMembers[i];
+        for (const long direction : DirectionsFor(i))
         {
             SCOPED_TRACE(automation::ToUtf8(member.name) + ", direction " + std::to_string(direction));
             ExpectNoHarm(member, {GetParam(), direction});

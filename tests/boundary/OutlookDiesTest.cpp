@@ -38,9 +38,8 @@ std::vector<Death> Deaths()
     {
         return {{{L"contact", kBoth}, When::Writing},
                 {{L"task", kExport}, When::Writing},
-                {{L"calendar", kImport}, When::Writing},
-                {{L"contact", kExport}, When::Collecting},
-                {{L"task", kImport}, When::Asking}};
+                {{L"calendar", kImport}, When::Collecting},
+                {{L"contact", kExport}, When::Asking}};
     }
     std::vector<Death> deaths;
     for (const wchar_t* kind : kKinds)

@@ -1,6 +1,7 @@
 #include "resources/Strings.h"
 #include "tests/boundary/ProfileKeys.h"
 #include "tests/boundary/Server.h"
+#include "tests/support/Thoroughness.h"
 
 #include <commctrl.h>
 
@@ -101,11 +102,15 @@ TEST_F(OutlookUnderConfiguration, EndingWhileTheFolderTreeIsOpenLeavesEveryDialo
 
 TEST_F(OutlookUnderConfiguration, ABusyOneIsWaitedForByTheFolderTree)
 {
+    if (!test_support::IsLongRun())
+    {
+        GTEST_SKIP() << "takes as long as Outlook is busy; run with --long";
+    }
     Server server(mSite);
     mSite.SynLoad([&](Robot& robot) {
         User user(robot);
         OpenChoice(robot, user);
-        server.Disturb(L"RejectCallsFor", 1'000);
+        server.Disturb(L"RejectCallsFor", 10'000);
         const ShownDialog picker = user.Open(mChoose, IDC_CHOOSE_BROWSE);
         EXPECT_LT(0, Nodes(picker));
         user.Leave(picker);

@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr size_t kRecords = 4; // of each kind on either side
-constexpr auto kPatience = std::chrono::minutes(2);
+constexpr auto kPatience = std::chrono::seconds(60);
 
 std::wstring NewFile(const wchar_t* name)
 {
