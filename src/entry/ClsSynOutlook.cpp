@@ -142,6 +142,8 @@ STDMETHODIMP ClsSynOutlook::putref_Font(IFontDisp* font)
 
 STDMETHODIMP ClsSynOutlook::SynLoad(IDispatch** dtc, BSTR connection, VARIANT_BOOL* refused)
 {
+    // The dialog runs the host's code, which may let go of this object; the module must stay all the same.
+    const Microsoft::WRL::ComPtr<_ClsSynOutlook> kept(this);
     return Guard([&] {
         const bool isRefused =
             entry::SynLoad(Object(dtc != nullptr ? *dtc : nullptr), TextOfBstr(connection));
