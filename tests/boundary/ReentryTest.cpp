@@ -69,6 +69,17 @@ class Reentry : public testing::TestWithParam<const wchar_t*>
     long mTimes = 0;
 };
 
+BOOL CALLBACK DestroyDialog(HWND window, LPARAM)
+{
+    wchar_t name[16] = {};
+    GetClassNameW(window, name, ARRAYSIZE(name));
+    if (lstrcmpW(name, L"#32770") == 0)
+    {
+        DestroyWindow(window);
+    }
+    return TRUE;
+}
+
 const std::vector<std::wstring> kEverywhere = {
     L"OpenRecordsetByString", L"OpenRecordset", L"PermissionOn", L"BeginTrans", L"Insert", L"CommitTrans"};
 
@@ -123,6 +134,29 @@ TEST_P(Reentry, ByAHostThatQuitsEndsTheDialogsAndTheHostGetsItsMessage)
     EXPECT_EQ(mCourse.before, mSite.Look()); // nobody has confirmed anything
     mSite.ExpectNothingLeft();
     EXPECT_EQ(SuccessStatus(), mSite.Run(mTask).status);
+}
+
+TEST_P(Reentry, ByAHostThatDestroysTheDialogEndsTheCallAndWritesNothing)
+{
+    const auto meddling = std::make_shared<Meddling>();
+    meddling->before = [&](const std::wstring& member) {
+        if (member == L"OpenRecordset")
+        {
+            EnumThreadWindows(GetCurrentThreadId(), DestroyDialog, 0);
+        }
+    };
+    EXPECT_FALSE(mSite.SynLoad(
+        [&](Robot& robot) {
+            User user(robot);
+            user.Run(mTask.kind);
+            robot.WaitUntilClosed(user.Main());
+        },
+        MakeMeddled(mSite.Host().Dtc(), meddling)));
+    EXPECT_EQ(mCourse.before, mSite.Look());
+    mSite.ExpectNothingLeft();
+    EXPECT_EQ(0, MeddledObjects());
+    EXPECT_EQ(SuccessStatus(), mSite.Run(mTask).status);
+    ExpectReached(mSite.Look(), mCourse.after);
 }
 
 TEST_P(Reentry, ByAHostThatLetsGoOfTheComponentIsSurvivedAndTheModuleStays)

@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr size_t kRecords = 4; // of each kind on either side
-constexpr auto kPatience = std::chrono::seconds(60);
+constexpr auto kPatience = std::chrono::seconds(30);
 
 std::wstring NewFile(const wchar_t* name)
 {
