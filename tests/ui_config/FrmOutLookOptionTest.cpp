@@ -195,6 +195,44 @@ TEST_P(FrmOutLookOption, AMissingDefaultIsReportedWithItsCode)
         [] { config::FrmOutLookOption().ShowModal(); });
 }
 
+// The class of a key may be longer than what a listing has room for.
+void AddProfileOfLongClass(HKEY profiles)
+{
+    std::wstring longClass(300, L'c');
+    HKEY made = nullptr;
+    RegCreateKeyExW(profiles, L"Third", 0, longClass.data(), 0, KEY_ALL_ACCESS, nullptr, &made, nullptr);
+    RegCloseKey(made);
+}
+
+TEST_P(FrmOutLookOption, ProfilesThatCannotBeListedAreReportedWithTheirCodeAndTheOthersOffered)
+{
+    AddProfileOfLongClass(mGround.Profiles().Key());
+    Drive(
+        [&](Robot& robot) {
+            ExpectMessage(robot, L"Get sub key names error, code " + std::to_wstring(ERROR_MORE_DATA));
+            const auto dialog = robot.WaitForDialog(resources::String(IDS_PROFILE_CAPTION));
+            EXPECT_EQ((Texts{L"Outlook", L"Second"}), Profiles(dialog));
+            EXPECT_EQ(L"Outlook", dialog.Text(kProfile)); // the default one is shown all the same
+            dialog.Close();
+        },
+        [] { config::FrmOutLookOption().ShowModal(); });
+}
+
+TEST_P(FrmOutLookOption, ValuesThatCannotBeListedAreReportedWithTheirCodeAndNoDefaultIsShown)
+{
+    RegSetValueExW(mGround.Profiles().Key(), std::wstring(300, L'v').c_str(), 0, REG_SZ,
+                   reinterpret_cast<const BYTE*>(L""), sizeof(wchar_t));
+    Drive(
+        [&](Robot& robot) {
+            ExpectMessage(robot, L"Get value names error, code " + std::to_wstring(ERROR_MORE_DATA));
+            const auto dialog = robot.WaitForDialog(resources::String(IDS_PROFILE_CAPTION));
+            EXPECT_EQ((Texts{L"Outlook", L"Second"}), Profiles(dialog));
+            EXPECT_EQ(L"", dialog.Text(kProfile));
+            dialog.Close();
+        },
+        [] { config::FrmOutLookOption().ShowModal(); });
+}
+
 TEST_P(FrmOutLookOption, AFailedWriteIsReportedWithItsCode)
 {
     Show([&](Robot& robot, const ShownDialog& dialog) {
