@@ -1,31 +1,26 @@
-// Access to registry keys, taken away and given back by a discretionary access list for everybody.
+// Access to a registry key taken away, as long as an object lives, by an access list for everybody.
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <windows.h>
 
 namespace boundary_tests
 {
 
-// Everybody has these rights to the key and no others (its owner may still change that).
-void SetAccess(HKEY root, const std::wstring& path, REGSAM rights);
-
-// A key below which nothing may be made or written, as long as this lives.
-class ReadOnlyKey
+class LimitedKey
 {
   public:
-    ReadOnlyKey(HKEY root, std::wstring path) : mRoot(root), mPath(std::move(path))
-    {
-        SetAccess(mRoot, mPath, KEY_READ | KEY_WOW64_64KEY);
-    }
-    ReadOnlyKey(const ReadOnlyKey&) = delete;
-    ReadOnlyKey& operator=(const ReadOnlyKey&) = delete;
-    ~ReadOnlyKey() { SetAccess(mRoot, mPath, KEY_ALL_ACCESS); }
+    // Everybody, its owner included, has these rights to the key and no others.
+    LimitedKey(HKEY root, const std::wstring& path, REGSAM rights);
+    LimitedKey(const LimitedKey&) = delete;
+    LimitedKey& operator=(const LimitedKey&) = delete;
+    ~LimitedKey();
 
   private:
-    HKEY mRoot;
-    std::wstring mPath;
+    HKEY mKey = nullptr;
+    std::vector<BYTE> mBefore; // the key's own security
 };
 
 } // namespace boundary_tests

@@ -1,20 +1,14 @@
 #include "tests/boundary/ProfileKeys.h"
 
 #include "sandbox/demo/Installation.h"
-#include "tests/boundary/KeySecurity.h"
 
 namespace boundary_tests
 {
 
-namespace
-{
-
-constexpr const wchar_t* kPaths[] = {
+const std::array<const wchar_t*, 2> ProfileKeys::kPaths = {
     L"Software\\Microsoft\\Windows Messaging Subsystem\\Profiles",
     L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem\\Profiles",
 };
-
-} // namespace
 
 ProfileKeys::ProfileKeys(const std::vector<std::wstring>& profiles)
 {
@@ -64,14 +58,6 @@ void ProfileKeys::Remove() const
     {
         RegDeleteTreeW(HKEY_CURRENT_USER, path);
         RegDeleteKeyW(HKEY_CURRENT_USER, path);
-    }
-}
-
-void ProfileKeys::Deny(bool denied) const
-{
-    for (const wchar_t* path : kPaths)
-    {
-        SetAccess(HKEY_CURRENT_USER, path, denied ? 0 : KEY_ALL_ACCESS);
     }
 }
 

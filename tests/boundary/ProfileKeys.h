@@ -2,6 +2,7 @@
 // profiles named, the first one the default. Afterwards there is the one profile that a site installs.
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -22,8 +23,7 @@ class ProfileKeys
     std::wstring Default() const;
     // Removes the keys, with all below.
     void Remove() const;
-    // Denies every access to the keys, or allows it again.
-    void Deny(bool denied) const;
+    static const std::array<const wchar_t*, 2> kPaths;
 };
 
 } // namespace boundary_tests

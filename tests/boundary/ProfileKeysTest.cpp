@@ -1,5 +1,6 @@
 #include "tests/boundary/ProfileKeys.h"
 
+#include "tests/boundary/KeySecurity.h"
 #include "tests/boundary/Site.h"
 
 namespace boundary_tests
@@ -41,9 +42,11 @@ TEST_F(OutlooksProfileKeys, MissingOnesStopARunWithTheirCode)
 
 TEST_F(OutlooksProfileKeys, DeniedOnesStopARunWithTheirCodeAndAllowedAgainTheyDoNot)
 {
-    mProfiles.Deny(true);
-    ExpectRefused(L"Open key error, code 5");
-    mProfiles.Deny(false);
+    {
+        const LimitedKey one(HKEY_CURRENT_USER, ProfileKeys::kPaths[0], 0);
+        const LimitedKey other(HKEY_CURRENT_USER, ProfileKeys::kPaths[1], 0);
+        ExpectRefused(L"Open key error, code 5");
+    }
     EXPECT_EQ(SuccessStatus(), mSite.Run({L"contact", kBoth}).status);
 }
 
@@ -51,12 +54,18 @@ TEST_F(OutlooksProfileKeys, EmptyOnesAskTheUserToConfigureOutlook)
 {
     mProfiles.Remove();
     const ProfileKeys noProfile({});
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows Messaging Subsystem\\Profiles",
-                    L"Other", REG_SZ, L"", sizeof(wchar_t));
-    RegSetKeyValueW(HKEY_CURRENT_USER,
-                    L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem\\Profiles",
-                    L"Other", REG_SZ, L"", sizeof(wchar_t));
+    for (const wchar_t* path : ProfileKeys::kPaths)
+    {
+        RegSetKeyValueW(HKEY_CURRENT_USER, path, L"Other", REG_SZ, L"", sizeof(wchar_t));
+    }
     ExpectRefused(L"Please configue Outlook.");
+}
+
+TEST_F(OutlooksProfileKeys, ThatMayOnlyBeReadStopARunSinceTheyAreOpenedForWritingToo)
+{
+    const LimitedKey one(HKEY_CURRENT_USER, ProfileKeys::kPaths[0], KEY_READ);
+    const LimitedKey other(HKEY_CURRENT_USER, ProfileKeys::kPaths[1], KEY_READ);
+    ExpectRefused(L"Open key error, code 5");
 }
 
 } // namespace boundary_tests
