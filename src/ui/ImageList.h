@@ -20,6 +20,8 @@ class ImageList
   public:
     // Throws std::bad_alloc when the system has no more.
     ImageList();
+    // Takes over a list that a control has made for itself and leaves to its owner.
+    explicit ImageList(HIMAGELIST made) noexcept : mList(made) {}
 
     // Adds a copy of an icon; its index, from 0.
     int Add(HICON icon);

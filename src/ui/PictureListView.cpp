@@ -28,6 +28,8 @@ void PictureListView::UsePictures(const ImageList& pictures)
 void PictureListView::UseCheckBoxes()
 {
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+    // A control that shares its image lists destroys none of them, not even this one of its own making.
+    mCheckMarks.emplace(reinterpret_cast<HIMAGELIST>(Send(LVM_GETIMAGELIST, LVSIL_STATE)));
 }
 
 void PictureListView::SetPicture(int row, int column, int picture)

@@ -15,7 +15,7 @@ class PictureListView : public ListView
 
     // Call once, after Prepare. The list stays the caller's.
     void UsePictures(const ImageList& pictures);
-    // Shows check boxes before the rows.
+    // Shows check boxes before the rows. The control's style must be LVS_SHAREIMAGELISTS.
     void UseCheckBoxes();
     // The picture of a cell; -1 for none.
     void SetPicture(int row, int column, int picture);
@@ -26,6 +26,9 @@ class PictureListView : public ListView
     void Check(int row, bool checked);
     // The row whose check mark this notification says has been set or taken away, if it says so.
     std::optional<int> Toggled(const NMHDR& notification) const;
+
+  private:
+    std::optional<ImageList> mCheckMarks;
 };
 
 } // namespace ui
