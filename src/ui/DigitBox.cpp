@@ -45,6 +45,7 @@ LRESULT CALLBACK Filter(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
         }
         break;
     case WM_PASTE: return 0; // it could bring anything
+    case WM_NCDESTROY: RemoveWindowSubclass(window, Filter, kSubclass); break;
     default: break;
     }
     return DefSubclassProc(window, message, wParam, lParam);

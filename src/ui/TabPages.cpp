@@ -52,6 +52,10 @@ LRESULT CALLBACK TabPages::GiveGround(HWND dialog, UINT message, WPARAM wParam, 
     auto& self = *reinterpret_cast<TabPages*>(pages);
     const auto context = reinterpret_cast<HDC>(wParam);
     const auto control = reinterpret_cast<HWND>(lParam);
+    if (message == WM_NCDESTROY)
+    {
+        RemoveWindowSubclass(dialog, GiveGround, kSubclass);
+    }
     const LRESULT result = DefSubclassProc(dialog, message, wParam, lParam);
     if (message == WM_PRINTCLIENT)
     {
