@@ -12,6 +12,30 @@
 
 using automation::Guard;
 
+#ifdef __GLIBCXX__
+namespace __gnu_cxx // NOLINT(bugprone-reserved-identifier): the run-time library's own
+{
+
+void __freeres(); // NOLINT(bugprone-reserved-identifier)
+
+} // namespace __gnu_cxx
+#endif
+
+namespace
+{
+
+// Each module that links the GNU run-time library reserves some 70 KB for exceptions that are thrown when
+// there is no memory left, and gives them back only when asked: a host may unload the module any number of
+// times.
+void FreeReserveForExceptions() noexcept
+{
+#ifdef __GLIBCXX__
+    __gnu_cxx::__freeres();
+#endif
+}
+
+} // namespace
+
 extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
 {
     switch (reason)
@@ -22,6 +46,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
         if (processEnds == nullptr)
         {
             state::FreeStateOfAllThreads();
+            FreeReserveForExceptions();
         }
         break;
     default: break;
