@@ -5,7 +5,6 @@
 #include "sandbox/host/Rejection.h"
 
 #include <cwchar>
-#include <tuple>
 
 namespace sandbox
 {
@@ -59,25 +58,16 @@ std::optional<Moment> Scan(const DateForm& form, const std::wstring& text)
     return moment;
 }
 
-std::wstring InStoredForm(const Moment& moment)
-{
-    return automation::Formatted(automation::DateOf(moment), L"yyyy-mm-dd hh:mm:ss");
-}
-
-// A day or an hour too many would be carried over into the next one: such a moment comes back as another.
-bool Exists(const Moment& moment)
+// Nothing for a moment that does not exist, such as the 30th of February.
+std::optional<std::wstring> InStoredForm(const Moment& moment)
 {
     try
     {
-        const Moment back = automation::MomentOf(automation::DateOf(moment));
-        const auto fields = [](const Moment& m) {
-            return std::tie(m.year, m.month, m.day, m.hour, m.minute, m.second);
-        };
-        return fields(back) == fields(moment);
+        return automation::Formatted(automation::DateOf(moment), L"yyyy-mm-dd hh:mm:ss");
     }
     catch (const automation::Error&)
     {
-        return false;
+        return std::nullopt;
     }
 }
 
@@ -119,7 +109,7 @@ std::optional<std::wstring> StoredDate(const std::wstring& text)
     {
         if (const std::optional<Moment> moment = Scan(form, text))
         {
-            return Exists(*moment) ? std::optional(InStoredForm(*moment)) : std::nullopt;
+            return InStoredForm(*moment);
         }
     }
     return std::nullopt;
