@@ -1,0 +1,76 @@
+#include "data/ApplyToOutlook.h"
+
+#include "sandbox/ado/Recordset.h"
+#include "sandbox/dispatch/DispatchObject.h"
+#include "tests/support/CallCounter.h"
+#include "tests/support/RecordingDisplay.h"
+#include "tests/support/WithLanguage.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using automation::Object;
+using automation::Value;
+using data::Run;
+
+// Folder.Items that gives an object for every item asked for or added.
+class Items : public sandbox::DispatchObject
+{
+    const wchar_t* ClassName() const override { return L"Items"; }
+    const sandbox::MemberTable& Members() const override
+    {
+        static const sandbox::MemberTable kMembers = {{L"Item", sandbox::Reads(&Items::Another), {}},
+                                                      {L"Add", sandbox::Reads(&Items::Another), {}}};
+        return kMembers;
+    }
+
+    Value Another(const sandbox::Call& /*call*/) { return sandbox::MakeObject<Items>(); }
+};
+
+std::vector<long> gWritten; // modes
+
+void WriteDown(Run& /*run*/, long mode, const Object& /*item*/)
+{
+    gWritten.push_back(mode);
+}
+
+class ApplyToOutlook : public testing::Test
+{
+  protected:
+    ApplyToOutlook()
+    {
+        gWritten.clear();
+        TheRun.Items = sandbox::MakeObject<Items>();
+        TheRun.HostRows = automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"first"}}}));
+    }
+
+    bool Apply() { return data::ApplyToOutlook(TheRun, {data::kTaskItem, L"SELECT", {}, WriteDown}); }
+
+    test_support::WithLanguage English{resources::Language::English};
+    test_support::RecordingDisplay Display;
+    data::Run TheRun{Display, {}, {}, {}, {}, {}, {}};
+};
+
+} // namespace
+
+TEST_F(ApplyToOutlook, NothingPendingShowsTheStatusAsksOutlookForNothingAndSucceeds)
+{
+    const test_support::CallCounter calls;
+    EXPECT_FALSE(Apply());
+    const std::vector<std::wstring> events{
+        L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"(hidden)"};
+    EXPECT_EQ(events, Display.Events);
+    EXPECT_EQ(0, calls.Total());
+    EXPECT_TRUE(gWritten.empty());
+}
+
+TEST_F(ApplyToOutlook, APendingRecordReachesOutlook)
+{
+    TheRun.Pending.NewHostRecords.Add(1, 0);
+    const test_support::CallCounter calls;
+    EXPECT_FALSE(Apply());
+    EXPECT_EQ(1, calls.Of(L"Items.Add"));
+    EXPECT_EQ(std::vector<long>{data::kNewRecord}, gWritten);
+}
