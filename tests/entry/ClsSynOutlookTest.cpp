@@ -3,6 +3,7 @@
 #include "automation/Dates.h"
 #include "automation/Object.h"
 #include "state/SharedState.h"
+#include "tests/support/HostFont.h"
 #include "tests/support/StandIns.h"
 #include "tests/support/WithLanguage.h"
 
@@ -19,6 +20,8 @@ using automation::TextOf;
 using automation::Value;
 using Microsoft::WRL::ComPtr;
 using resources::Language;
+using test_support::FontValues;
+using test_support::HostFont;
 using test_support::WithLanguage;
 
 namespace
@@ -46,37 +49,6 @@ ComPtr<IFontDisp> NewFont(const wchar_t* name, double points)
     OleCreateFontIndirect(&description, __uuidof(IFontDisp), reinterpret_cast<void**>(font.GetAddressOf()));
     return font;
 }
-
-struct FontValues
-{
-    std::wstring name = L"Tahoma";
-    double size = 9;
-};
-
-// A font object of the host's own: unlike the system's, it keeps the name of a font that is not installed.
-class HostFont : public sandbox::DispatchObject
-{
-  public:
-    explicit HostFont(std::shared_ptr<FontValues> values) : mValues(std::move(values)) {}
-
-  private:
-    Value GetName(const sandbox::Call&) { return mValues->name; }
-    void PutName(const sandbox::Call& call) { mValues->name = TextOf(call.Assigned()); }
-    Value GetSize(const sandbox::Call&) { return mValues->size; }
-    void PutSize(const sandbox::Call& call) { mValues->size = automation::DoubleOf(call.Assigned()); }
-
-    const wchar_t* ClassName() const override { return L"Font"; }
-    const sandbox::MemberTable& Members() const override
-    {
-        static const sandbox::MemberTable table{
-            {L"Name", sandbox::Reads(&HostFont::GetName), sandbox::Writes(&HostFont::PutName)},
-            {L"Size", sandbox::Reads(&HostFont::GetSize), sandbox::Writes(&HostFont::PutSize)},
-        };
-        return table;
-    }
-
-    std::shared_ptr<FontValues> mValues;
-};
 
 class PublicClass : public testing::Test
 {
