@@ -1,0 +1,91 @@
+#include "tests/endurance/Footprint.h"
+#include "tests/endurance/Office.h"
+#include "tests/endurance/ProcessLanguage.h"
+#include "tests/endurance/StaticTexts.h"
+#include "tests/support/StandIns.h"
+#include "tests/support/Thoroughness.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+using resources::Language;
+using sandbox::Edition;
+using test_support::Footprint;
+using test_support::kUsesOfRound;
+using test_support::Office;
+using test_support::ProcessLanguage;
+using test_support::StaticTexts;
+using test_support::UseNumber;
+
+namespace
+{
+
+constexpr size_t kRecordsOfKind = 4;
+constexpr long kBoundedRuns = 80;
+constexpr long kLongRuns = 1000;
+
+// The later half of the runs may be larger than the quarter before by so much, whatever their number: the
+// system's caches still take a kilobyte during the first hundred runs, and nothing afterwards. Memory in
+// pages also holds what the database driver keeps.
+constexpr Footprint kTolerance = {.heapBytes = 1500, .residentBytes = 1024 * 1024, .kernelHandles = 2};
+
+Footprint Smallest(const std::vector<Footprint>& samples, size_t first, size_t end)
+{
+    Footprint smallest = samples.at(first);
+    for (size_t i = first; i < end; ++i)
+    {
+        smallest = test_support::Smaller(smallest, samples[i]);
+    }
+    return smallest;
+}
+
+// From the second quarter of the samples to their second half; during the first the system's caches fill.
+Footprint Growth(const std::vector<Footprint>& samples)
+{
+    const size_t middle = (samples.size() + 1) / 2;
+    const size_t first = std::max<size_t>(1, samples.size() / 4);
+    return Smallest(samples, middle, samples.size()) - Smallest(samples, first, middle);
+}
+
+// One round of uses in either language.
+void UseInBothLanguages(Office& english, Office& chinese)
+{
+    for (Office* office : {&english, &chinese})
+    {
+        const ProcessLanguage language(office == &english ? Language::English : Language::Chinese);
+        for (size_t k = 0; k < kUsesOfRound; ++k)
+        {
+            ASSERT_EQ("", office->Check(UseNumber(k)));
+        }
+    }
+}
+
+} // namespace
+
+TEST(ThisProcess, StaysAsLargeAsItIsOverManyRunsOfTheComponent)
+{
+    const StaticTexts texts;
+    std::optional<ProcessLanguage> language(Language::English);
+    Office english(Edition::English, kRecordsOfKind);
+    language.emplace(Language::Chinese);
+    Office chinese(Edition::Chinese, kRecordsOfKind);
+    language.reset();
+    const long wanted = test_support::IsLongRun() ? kLongRuns : kBoundedRuns;
+    const auto runs = [&] { return english.Runs() + chinese.Runs(); };
+    std::vector<Footprint> samples;
+    samples.reserve(static_cast<size_t>(wanted));
+    while (runs() < wanted)
+    {
+        ASSERT_NO_FATAL_FAILURE(UseInBothLanguages(english, chinese));
+        samples.push_back(Footprint::Now());
+        samples.back().heapBytes -= texts.KeptBytes();
+    }
+    const Footprint growth = Growth(samples);
+    EXPECT_TRUE(growth.IsWithin(kTolerance)) << TextOf(growth);
+    test_support::ReportFigure(
+        "endurance: " + std::to_string(runs()) +
+        " runs of SynLoad in one process; from their second quarter to their second half: " + TextOf(growth));
+}

@@ -1,0 +1,59 @@
+// A process may end at any moment, whatever it holds of the component.
+#include "tests/endurance/Apartment.h"
+#include "tests/endurance/Module.h"
+#include "tests/endurance/Office.h"
+#include "tests/support/StandIns.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using sandbox::ShownDialog;
+using test_support::ApartmentThread;
+using test_support::Module;
+using test_support::Office;
+using testing::ExitedWithCode;
+
+namespace
+{
+
+constexpr int kOrderly = 7; // the code that a process ends with when nothing has gone wrong
+
+// Never to be freed by this process.
+void HoldComponentOfThisAndAnotherThread()
+{
+    static const Module* module = new Module;
+    static automation::Object* component = new automation::Object(module->NewComponent());
+    test_support::LendFont(*component);
+    static std::atomic<bool> hasUsed{false};
+    new ApartmentThread([] {
+        const automation::Object other = module->NewComponent();
+        test_support::LendFont(other);
+        hasUsed = true;
+        Sleep(INFINITE);
+    });
+    test_support::PumpUntil([] { return hasUsed.load(); });
+}
+
+} // namespace
+
+TEST(AProcess, EndsWithoutHavingReleasedAnything)
+{
+    EXPECT_EXIT(
+        {
+            HoldComponentOfThisAndAnotherThread();
+            std::exit(kOrderly);
+        },
+        ExitedWithCode(kOrderly), "");
+}
+
+TEST(AProcess, EndsWhileTheMainDialogIsOpen)
+{
+    EXPECT_EXIT(
+        {
+            Office office(sandbox::Edition::English, 2);
+            office.WhileShown = [](const ShownDialog&) { ExitProcess(kOrderly); };
+            office.Check(test_support::UseNumber(0));
+        },
+        ExitedWithCode(kOrderly), "");
+}

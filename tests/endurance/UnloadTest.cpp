@@ -1,0 +1,290 @@
+// The module goes when nobody needs it, whatever threads have used it, and comes back as new.
+#include "tests/endurance/Apartment.h"
+#include "tests/endurance/Footprint.h"
+#include "tests/endurance/Module.h"
+#include "tests/endurance/Office.h"
+#include "tests/endurance/StaticTexts.h"
+#include "tests/support/StandIns.h"
+#include "tests/support/Thoroughness.h"
+
+#include <gtest/gtest.h>
+
+#include <list>
+
+using automation::LongOf;
+using automation::Object;
+using Microsoft::WRL::ComPtr;
+using sandbox::LiveObjects;
+using test_support::ApartmentThread;
+using test_support::Footprint;
+using test_support::LendFont;
+using test_support::Module;
+using test_support::Office;
+using test_support::PumpUntil;
+using test_support::TakesFont;
+using test_support::UseNumber;
+
+namespace
+{
+
+constexpr size_t kRecordsOfKind = 4;
+constexpr size_t kFirstCycles = test_support::kUsesOfRound; // the system's caches fill
+constexpr size_t kCycles = 6;
+constexpr size_t kLongCycles = 200;
+constexpr long kReminder = 45; // minutes; not the default
+constexpr long kDefaultReminder = 20;
+constexpr int kThreads = 8;
+
+// What a cycle may leave: nothing of the component's, a little of the system's loader.
+constexpr Footprint kTolerance = {.heapBytes = 1024, .residentBytes = 1024 * 1024, .kernelHandles = 2};
+
+// An object without a font's members.
+class NoFont : public sandbox::DispatchObject
+{
+    const wchar_t* ClassName() const override { return L"NoFont"; }
+    const sandbox::MemberTable& Members() const override
+    {
+        static const sandbox::MemberTable table;
+        return table;
+    }
+};
+
+size_t Cycles()
+{
+    return test_support::IsLongRun() ? kLongCycles : kCycles;
+}
+
+long ReminderOf(const Object& component)
+{
+    return LongOf(component.Get(L"CalendarPreviewAlarmTime"));
+}
+
+// A thread that has used the module, holds nothing but its shared values, and lives until it is let go.
+class UsedThread
+{
+  public:
+    explicit UsedThread(const Module& module)
+        : mThread([this, &module] {
+              UseAndRelease(module);
+              mHasUsed = true;
+              PumpUntil([this] { return mMayEnd.load(); });
+              for (const std::function<void()>& work : mLast)
+              {
+                  work();
+              }
+          })
+    {
+        PumpUntil([this] { return mHasUsed.load(); });
+    }
+    UsedThread(const UsedThread&) = delete;
+    UsedThread& operator=(const UsedThread&) = delete;
+    ~UsedThread() { End(); }
+
+    void End()
+    {
+        mMayEnd = true;
+        mThread.Join();
+    }
+
+    // Work for the thread before it ends.
+    void EndAfter(std::function<void()> work)
+    {
+        mLast.push_back(std::move(work));
+        End();
+    }
+
+  private:
+    static void UseAndRelease(const Module& module)
+    {
+        const Object component = module.NewComponent();
+        component.Put(L"CalendarPreviewAlarmTime", kReminder);
+        LendFont(component);
+        // Inside the module an exception is thrown and caught on this thread.
+        EXPECT_FALSE(TakesFont(component, sandbox::MakeObject<NoFont>()));
+    }
+
+    std::atomic<bool> mHasUsed{false};
+    std::atomic<bool> mMayEnd{false};
+    std::vector<std::function<void()>> mLast;
+    ApartmentThread mThread;
+};
+
+// One life of the module: loaded, used in a way of its own, its shared values left to it.
+void UseAndUnload(Office& office, size_t k)
+{
+    Module module;
+    {
+        const Object component = module.NewComponent();
+        EXPECT_EQ(kDefaultReminder, ReminderOf(component));
+        component.Put(L"CalendarPreviewAlarmTime", kReminder);
+        EXPECT_EQ("", office.Check(UseNumber(k), component));
+        LendFont(component);
+    }
+    EXPECT_EQ(S_OK, module.CanUnloadNow());
+    module.Unload();
+}
+
+// Whatever the module might have left on this thread would be called now: hooks, timers, window procedures, a
+// message filter.
+void UseThisThread()
+{
+    ComPtr<IMessageFilter> filter;
+    CoRegisterMessageFilter(nullptr, &filter);
+    EXPECT_EQ(nullptr, filter.Get());
+    sandbox::Robot user([](sandbox::Robot& running) {
+        const sandbox::ShownDialog box = running.WaitForDialog();
+        box.Click(IDOK);
+        running.WaitUntilClosed(box);
+    });
+    MessageBoxW(nullptr, L"text", L"caption", MB_OK);
+    user.Finish();
+    PostMessageW(nullptr, WM_KEYDOWN, VK_RETURN, 0);
+    PostMessageW(nullptr, WM_USER, 0, 0);
+    bool handled = false;
+    EXPECT_TRUE(PumpUntil([&] { return std::exchange(handled, true); }));
+}
+
+} // namespace
+
+TEST(TheModule, IsNeededAsLongAsAnInstanceLives)
+{
+    const Module module;
+    Object first = module.NewComponent();
+    const Object second = first;
+    EXPECT_EQ(S_FALSE, module.CanUnloadNow());
+    Object third = module.NewComponent();
+    first = {};
+    EXPECT_EQ(S_FALSE, module.CanUnloadNow());
+    third = {};
+    EXPECT_EQ(S_FALSE, module.CanUnloadNow());
+}
+
+TEST(TheModule, IsNeededAsLongAsAClassObjectLives)
+{
+    const Module module;
+    ComPtr<IClassFactory> factory = module.ClassObject();
+    EXPECT_EQ(S_FALSE, module.CanUnloadNow());
+    factory.Reset();
+    EXPECT_EQ(S_OK, module.CanUnloadNow());
+}
+
+TEST(TheModule, IsNeededAsLongAsItIsLocked)
+{
+    const Module module;
+    module.ClassObject()->LockServer(TRUE);
+    module.ClassObject()->LockServer(TRUE);
+    module.ClassObject()->LockServer(FALSE);
+    EXPECT_EQ(S_FALSE, module.CanUnloadNow());
+    module.ClassObject()->LockServer(FALSE);
+    EXPECT_EQ(S_OK, module.CanUnloadNow());
+}
+
+TEST(TheModule, IsNotNeededForWhatItsInstancesShared)
+{
+    Module module;
+    LendFont(module.NewComponent());
+    EXPECT_EQ(S_OK, module.CanUnloadNow());
+    EXPECT_EQ(1, LiveObjects());
+    module.Unload();
+    EXPECT_FALSE(Module::IsLoaded());
+    EXPECT_EQ(0, LiveObjects());
+}
+
+TEST(TheModule, StaysWhileCOMKnowsOfAnInstanceAndGoesWhenCOMMayFreeIt)
+{
+    Office office(sandbox::Edition::English, kRecordsOfKind);
+    for (size_t k = 0; k < 3; ++k)
+    {
+        Object component = test_support::NewComponent();
+        CoFreeUnusedLibrariesEx(0, 0);
+        EXPECT_TRUE(Module::IsLoaded());
+        EXPECT_EQ("", office.Check(UseNumber(k), component));
+        component = {};
+        CoFreeUnusedLibrariesEx(0, 0);
+        EXPECT_FALSE(Module::IsLoaded());
+        UseThisThread();
+    }
+}
+
+TEST(TheModule, LeavesNothingBehindHoweverOftenItIsUsedUnloadedAndLoadedAgain)
+{
+    const test_support::StaticTexts texts;
+    Office office(sandbox::Edition::English, kRecordsOfKind);
+    CoFreeUnusedLibrariesEx(0, 0);
+    std::vector<Footprint> samples;
+    samples.reserve(kFirstCycles + Cycles());
+    for (size_t k = 0; k < kFirstCycles + Cycles(); ++k)
+    {
+        UseAndUnload(office, k);
+        ASSERT_FALSE(Module::IsLoaded());
+        samples.push_back(Footprint::Now());
+        samples.back().heapBytes -= texts.KeptBytes();
+    }
+    UseThisThread();
+    const Footprint growth = samples.back() - samples.at(kFirstCycles - 1);
+    EXPECT_TRUE(growth.IsWithin(kTolerance)) << TextOf(growth);
+    test_support::ReportFigure("endurance: " + std::to_string(samples.size()) +
+                               " times loaded, used and unloaded; over the last " + std::to_string(Cycles()) +
+                               ": " + TextOf(growth));
+}
+
+TEST(TheModule, GoesWhileAThreadThatUsedItLivesOn)
+{
+    for (size_t k = 0; k < Cycles(); ++k)
+    {
+        Module module;
+        UsedThread thread(module);
+        EXPECT_EQ(1, LiveObjects());
+        module.Unload();
+        EXPECT_FALSE(Module::IsLoaded());
+        EXPECT_EQ(0, LiveObjects());
+        thread.EndAfter(UseThisThread);
+        EXPECT_FALSE(Module::IsLoaded());
+    }
+}
+
+TEST(TheModule, ForgetsAThreadThatHasEnded)
+{
+    const Module module;
+    UsedThread thread(module);
+    EXPECT_EQ(1, LiveObjects());
+    thread.End();
+    EXPECT_EQ(0, LiveObjects());
+}
+
+TEST(TheModule, ComesBackAsNewForAThreadThatUsedItBefore)
+{
+    Module first;
+    UsedThread thread(first);
+    first.Unload();
+    ASSERT_FALSE(Module::IsLoaded());
+    const Module again;
+    thread.EndAfter([&] {
+        const Object component = again.NewComponent();
+        EXPECT_EQ(kDefaultReminder, ReminderOf(component));
+        LendFont(component);
+        EXPECT_EQ(1, LiveObjects());
+    });
+    EXPECT_EQ(0, LiveObjects());
+}
+
+TEST(TheModule, GoesWhileManyThreadsThatUsedItLiveOnAndOthersHaveEnded)
+{
+    Module module;
+    std::list<UsedThread> threads;
+    for (int i = 0; i < kThreads; ++i)
+    {
+        threads.emplace_back(module);
+    }
+    EXPECT_EQ(kThreads, LiveObjects());
+    for (int i = 0; i < kThreads / 2; ++i)
+    {
+        threads.pop_front();
+    }
+    EXPECT_EQ(kThreads / 2, LiveObjects());
+    EXPECT_EQ(S_OK, module.CanUnloadNow());
+    module.Unload();
+    EXPECT_FALSE(Module::IsLoaded());
+    EXPECT_EQ(0, LiveObjects());
+    threads.clear();
+}
