@@ -19,24 +19,6 @@ namespace test_support
 namespace
 {
 
-long HeapBytes()
-{
-    std::array<HANDLE, 64> heaps = {};
-    const DWORD count = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
-    SIZE_T bytes = 0;
-    for (DWORD i = 0; i < std::min<DWORD>(count, static_cast<DWORD>(heaps.size())); ++i)
-    {
-        HeapLock(heaps[i]);
-        PROCESS_HEAP_ENTRY entry = {};
-        while (HeapWalk(heaps[i], &entry))
-        {
-            bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
-        }
-        HeapUnlock(heaps[i]);
-    }
-    return static_cast<long>(bytes);
-}
-
 long ResidentBytes()
 {
     PROCESS_MEMORY_COUNTERS counters = {};
@@ -167,6 +149,24 @@ constexpr long Footprint::*kFigures[] = {&Footprint::heapBytes,     &Footprint::
 
 } // namespace
 
+long BytesInHeaps()
+{
+    std::array<HANDLE, 64> heaps = {};
+    const DWORD count = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
+    SIZE_T bytes = 0;
+    for (DWORD i = 0; i < std::min<DWORD>(count, static_cast<DWORD>(heaps.size())); ++i)
+    {
+        HeapLock(heaps[i]);
+        PROCESS_HEAP_ENTRY entry = {};
+        while (HeapWalk(heaps[i], &entry))
+        {
+            bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
+        }
+        HeapUnlock(heaps[i]);
+    }
+    return static_cast<long>(bytes);
+}
+
 Footprint Footprint::Now()
 {
     Footprint now;
@@ -175,7 +175,7 @@ Footprint Footprint::Now()
     now.kernelHandles = KernelHandles();
     now.standIns = sandbox::LiveObjects();
     now.residentBytes = ResidentBytes();
-    now.heapBytes = HeapBytes();
+    now.heapBytes = BytesInHeaps();
     return now;
 }
 

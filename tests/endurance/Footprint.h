@@ -22,6 +22,9 @@ struct Footprint
     bool IsWithin(const Footprint& tolerance) const;
 };
 
+// The first of the figures alone, which is quickly had.
+long BytesInHeaps();
+
 // For every figure the smaller one.
 Footprint Smaller(const Footprint& one, const Footprint& other);
 

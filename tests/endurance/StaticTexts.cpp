@@ -1,6 +1,5 @@
 #include "tests/endurance/StaticTexts.h"
 
-#include "tests/endurance/Footprint.h"
 #include "ui/VisualStyles.h"
 
 #include <array>
@@ -42,12 +41,12 @@ void ShowOne(DWORD type)
 long KeptForOne(DWORD type)
 {
     ShowOne(type); // what the first one makes the system load does not count
-    const long before = Footprint::Now().heapBytes;
+    const long before = BytesInHeaps();
     for (long i = 0; i < kTries; ++i)
     {
         ShowOne(type);
     }
-    return (Footprint::Now().heapBytes - before) / kTries;
+    return (BytesInHeaps() - before) / kTries;
 }
 
 } // namespace
@@ -69,9 +68,10 @@ StaticTexts::~StaticTexts()
     UnhookWindowsHookEx(mHook);
 }
 
-long StaticTexts::KeptBytes() const
+Footprint StaticTexts::Without(Footprint footprint) const
 {
-    return std::inner_product(gShown.begin(), gShown.end(), mKeptForOne.begin(), 0L);
+    footprint.heapBytes -= std::inner_product(gShown.begin(), gShown.end(), mKeptForOne.begin(), 0L);
+    return footprint;
 }
 
 } // namespace test_support

@@ -3,6 +3,8 @@
 // its thread has shown, and takes off what the system keeps for them; on Windows that is nothing.
 #pragma once
 
+#include "tests/endurance/Footprint.h"
+
 #include <array>
 
 #include <windows.h>
@@ -19,8 +21,8 @@ class StaticTexts
     StaticTexts& operator=(const StaticTexts&) = delete;
     ~StaticTexts();
 
-    // What the system has kept for all of them so far.
-    long KeptBytes() const;
+    // The footprint less what the system has kept for all of them so far.
+    Footprint Without(Footprint footprint) const;
 
     // By type of static control: text, frame, icon, ...
     using ByType = std::array<long, SS_TYPEMASK + 1>;

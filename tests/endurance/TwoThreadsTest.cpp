@@ -32,7 +32,7 @@ using test_support::Use;
 namespace
 {
 
-constexpr size_t kUses = 6;
+constexpr size_t kUses = 4;
 constexpr size_t kLongUses = 120;
 
 struct Preferences
