@@ -12,7 +12,8 @@ namespace sandbox::demo
 namespace
 {
 
-void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, long code, const std::wstring& text)
+void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, long code,
+                 const std::wstring& text)
 {
     Robot robot([&](Robot& running) {
         const ShownDialog dialog = running.WaitForDialog();
