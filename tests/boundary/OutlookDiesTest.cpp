@@ -38,8 +38,7 @@ std::vector<Death> Deaths()
     {
         return {{{L"contact", kBoth}, When::Writing},
                 {{L"task", kExport}, When::Writing},
-                {{L"calendar", kImport}, When::Collecting},
-                {{L"contact", kExport}, When::Asking}};
+                {{L"calendar", kImport}, When::Asking}};
     }
     std::vector<Death> deaths;
     for (const wchar_t* kind : kKinds)
@@ -47,7 +46,7 @@ std::vector<Death> Deaths()
         for (const long direction : kDirections)
         {
             deaths.push_back({{kind, direction}, When::Asking});
-            for (const double share : {0.1, 0.3, 0.5, 0.7, 0.9})
+            for (const double share : {0.2, 0.5, 0.9})
             {
                 deaths.push_back({{kind, direction}, When::Collecting, share});
                 deaths.push_back({{kind, direction}, When::Writing, share});

@@ -121,6 +121,10 @@ TEST_F(OutlookUnderConfiguration, ABusyOneIsWaitedForByTheFolderTree)
 
 TEST_F(OutlookUnderConfiguration, ChoosingAnotherProfileConnectsToANewOutlookInPlaceOfADeadOne)
 {
+    if (!test_support::IsLongRun())
+    {
+        GTEST_SKIP() << "takes two servers; run with --long";
+    }
     const ProfileKeys profiles({L"Outlook", L"Second"});
     Seen dead;
     Seen anew;
