@@ -19,8 +19,8 @@ using automation::Object;
 namespace
 {
 
-constexpr size_t kRecords = 4; // of each kind on either side
-constexpr auto kPatience = std::chrono::seconds(30);
+constexpr size_t kRecords = 4;                       // of each kind on either side
+constexpr auto kPatience = std::chrono::seconds(90); // more than what the component has with a busy Outlook
 
 std::wstring NewFile(const wchar_t* name)
 {
