@@ -57,3 +57,10 @@ TEST(AProcess, EndsWhileTheMainDialogIsOpen)
         },
         ExitedWithCode(kOrderly), "");
 }
+
+TEST(AProcess, ThatCrashesDoesNotPassForOneThatSucceeded)
+{
+    EXPECT_EXIT(
+        RaiseException(STATUS_ACCESS_VIOLATION, EXCEPTION_NONCONTINUABLE, 0, nullptr),
+        [](int code) { return code != EXIT_SUCCESS; }, "");
+}
