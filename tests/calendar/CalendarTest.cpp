@@ -2,6 +2,7 @@
 
 #include "calendar/CalendarFromOutlook.h"
 #include "calendar/CalendarToOutlook.h"
+#include "tests/support/InsertStatement.h"
 
 #include <algorithm>
 #include <iterator>
@@ -110,14 +111,7 @@ void CalendarTest::AddEntry(const Pairs& columns) const
     {
         entry[name] = literal;
     }
-    std::wstring names;
-    std::wstring literals;
-    for (const auto& [name, literal] : entry)
-    {
-        names += (names.empty() ? L"" : L",") + name;
-        literals += (literals.empty() ? L"" : L",") + literal;
-    }
-    Execute(L"INSERT INTO Entries (" + names + L") SELECT " + literals);
+    Execute(InsertStatement(L"Entries", entry));
 }
 
 data::Run CalendarTest::NewRun()

@@ -2,6 +2,7 @@
 
 #include "run/ChangeCollection.h"
 #include "state/SharedState.h"
+#include "tests/support/InsertStatement.h"
 
 #include <map>
 
@@ -54,14 +55,7 @@ void ExchangeTest::AddEntry(const std::wstring& name, const Pairs& columns)
     {
         entry[column] = literal;
     }
-    std::wstring names;
-    std::wstring literals;
-    for (const auto& [column, literal] : entry)
-    {
-        names += (names.empty() ? L"" : L",") + column;
-        literals += (literals.empty() ? L"" : L",") + literal;
-    }
-    mHost.Database().Execute(L"INSERT INTO TBLACTIVITY (" + names + L") VALUES (" + literals + L")");
+    mHost.Database().Execute(InsertStatement(L"TBLACTIVITY", entry));
 }
 
 void ExchangeTest::AddRepeatingEntry(const std::wstring& name, long rule, const std::wstring& firstDay,

@@ -2,9 +2,8 @@
 
 #include "resources/Strings.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/config/TellsUser.h"
 #include "tests/config_host/HostTest.h"
-#include "tests/support/Drive.h"
-#include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +12,7 @@ namespace
 
 using automation::Object;
 using automation::TextOf;
+using config_tests::ExpectTellsUser;
 using resources::Language;
 using Texts = std::vector<std::wstring>;
 
@@ -49,29 +49,20 @@ TEST_F(OutlookFoldersTest, APathThatLeadsNowhereFailsSilentlyAndLeavesTheFolder)
     }
 }
 
-void ExpectNoFolderMessage(Language language, const std::wstring& title, const std::wstring& text)
-{
-    const test_support::WithLanguage withLanguage(language);
-    test_support::Drive(
-        [&](sandbox::Robot& robot) {
-            const sandbox::ShownDialog dialog = robot.WaitForDialog(title);
-            EXPECT_EQ(text, dialog.Text(IDC_SHOWINFOR_DESCRIPTION));
-            dialog.Click(IDOK);
-        },
-        [] {
-            Object folder;
-            EXPECT_TRUE(config::ResolveOutlookFolder(L"", folder));
-            EXPECT_FALSE(static_cast<bool>(folder));
-        });
-}
-
 TEST_F(OutlookFoldersTest, AnEmptyPathTellsTheUserAndFails)
 {
-    ExpectNoFolderMessage(Language::English, L"Message",
-                          L"You have not selected the synchronise folder .\r\n\r\nPlease select an effective "
-                          L"folder for synchronization.");
-    ExpectNoFolderMessage(Language::Chinese, L"信息",
-                          L"没有选择同步的目录\r\n\r\n请选择一个有效的目录作为的同步对象,然后再进行同步。");
+    const auto resolve = [] {
+        Object folder;
+        EXPECT_TRUE(config::ResolveOutlookFolder(L"", folder));
+        EXPECT_FALSE(static_cast<bool>(folder));
+    };
+    ExpectTellsUser(Language::English, L"Message",
+                    L"You have not selected the synchronise folder .\r\n\r\nPlease select an effective "
+                    L"folder for synchronization.",
+                    resolve);
+    ExpectTellsUser(Language::Chinese, L"信息",
+                    L"没有选择同步的目录\r\n\r\n请选择一个有效的目录作为的同步对象,然后再进行同步。",
+                    resolve);
 }
 
 TEST_F(OutlookFoldersTest, FoldersWhoseStoreIsGoneAreDeletedAndOthersAreKept)

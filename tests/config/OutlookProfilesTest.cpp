@@ -3,6 +3,7 @@
 #include "config/ProfileText.h"
 #include "resources/Strings.h"
 #include "tests/config/ProfileKey.h"
+#include "tests/config/TellsUser.h"
 #include "tests/support/Drive.h"
 #include "tests/support/WithLanguage.h"
 
@@ -14,6 +15,7 @@ namespace
 using automation::Value;
 using config::CheckOutlookProfiles;
 using config::ProfileText;
+using config_tests::ExpectTellsUser;
 using config_tests::ProfileKey;
 using resources::Language;
 
@@ -24,23 +26,12 @@ TEST(CheckOutlookProfiles, OneProfileIsEnough)
     EXPECT_FALSE(CheckOutlookProfiles());
 }
 
-void ExpectNoProfileMessage(Language language, const std::wstring& title, const std::wstring& text)
-{
-    const test_support::WithLanguage withLanguage(language);
-    test_support::Drive(
-        [&](sandbox::Robot& robot) {
-            const sandbox::ShownDialog dialog = robot.WaitForDialog(title);
-            EXPECT_EQ(text, dialog.Text(IDC_SHOWINFOR_DESCRIPTION));
-            dialog.Click(IDOK);
-        },
-        [] { EXPECT_TRUE(CheckOutlookProfiles()); });
-}
-
 TEST(CheckOutlookProfiles, WithoutAProfileTheUserIsToldInHisLanguage)
 {
     const ProfileKey key;
-    ExpectNoProfileMessage(Language::English, L"Error", L"Please configue Outlook.");
-    ExpectNoProfileMessage(Language::Chinese, L"错误", L"请你先配置Outlook.");
+    const auto check = [] { EXPECT_TRUE(CheckOutlookProfiles()); };
+    ExpectTellsUser(Language::English, L"Error", L"Please configue Outlook.", check);
+    ExpectTellsUser(Language::Chinese, L"错误", L"请你先配置Outlook.", check);
 }
 
 TEST(CheckOutlookProfiles, AMissingKeyIsReportedWithItsCodeInEnglishInBothLanguages)

@@ -4,6 +4,7 @@
 #include "state/SharedState.h"
 #include "tasks/TasksFromOutlook.h"
 #include "tasks/TasksToOutlook.h"
+#include "tests/support/InsertStatement.h"
 
 #include <array>
 
@@ -78,14 +79,9 @@ void TaskTest::Relate(const Pairs& rows) const
 
 void TaskTest::AddHostTask(const Pairs& columns) const
 {
-    std::wstring names = L"F_ACTID";
-    std::wstring values = L"'ACT' || (SELECT COUNT(*) + 1 FROM Activities)";
-    for (const auto& [name, value] : columns)
-    {
-        names += L"," + name;
-        values += L"," + value;
-    }
-    Execute(L"INSERT INTO Activities (" + names + L") SELECT " + values);
+    Pairs task{{L"F_ACTID", L"'ACT' || (SELECT COUNT(*) + 1 FROM Activities)"}};
+    task.insert(task.end(), columns.begin(), columns.end());
+    Execute(InsertStatement(L"Activities", task));
 }
 
 long TaskTest::AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const
