@@ -32,6 +32,12 @@ constexpr long kLongRuns = 1000;
 // pages also holds what the database driver keeps.
 constexpr Footprint kTolerance = {.heapBytes = 1500, .residentBytes = 1024 * 1024, .kernelHandles = 2};
 
+// What nine uses of the same kind have left, the first three not counted: everything that a use needs once is
+// there then, so that a few bytes of a leak show.
+constexpr int kFirstUses = 3;
+constexpr int kUsesAlike = 6;
+constexpr Footprint kToleranceOfAlike = {.heapBytes = 200, .residentBytes = 1024 * 1024, .kernelHandles = 1};
+
 Footprint Smallest(const std::vector<Footprint>& samples, size_t first, size_t end)
 {
     Footprint smallest = samples.at(first);
@@ -41,12 +47,6 @@ Footprint Smallest(const std::vector<Footprint>& samples, size_t first, size_t e
     }
     return smallest;
 }
-
-// What nine uses of the same kind have left, the first three not counted: everything that a use needs once is
-// there then, so that a few bytes of a leak show.
-constexpr int kFirstUses = 3;
-constexpr int kUsesAlike = 6;
-constexpr Footprint kToleranceOfAlike = {.heapBytes = 200, .residentBytes = 1024 * 1024, .kernelHandles = 1};
 
 // From the second quarter of the samples to their second half; during the first the system's caches fill.
 Footprint Growth(const std::vector<Footprint>& samples)

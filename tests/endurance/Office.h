@@ -11,6 +11,7 @@
 #include "sandbox/outlook/Outlook.h"
 
 #include <array>
+#include <functional>
 #include <string>
 
 namespace test_support
@@ -55,7 +56,6 @@ class Office
     // Called on the robot's thread while the main dialog is shown.
     std::function<void(const sandbox::ShownDialog& main)> WhileShown;
 
-    sandbox::Host& HostSide() noexcept { return mHost; }
     // How often SynLoad has been called so far.
     long Runs() const noexcept { return mRuns; }
 
