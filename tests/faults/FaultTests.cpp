@@ -3,10 +3,8 @@
 #include "tests/faults/FaultTrials.h"
 
 #include "run/Runs.h"
-#include "sandbox/robot/Robot.h"
+#include "tests/support/MessageBoxes.h"
 #include "tests/support/Thoroughness.h"
-
-#include <atomic>
 
 namespace
 {
@@ -19,34 +17,14 @@ const ExchangedKind kTaskKind{"tasks", run::kTaskCategory, run::RunTaskSync, L"P
 const ExchangedKind kCalendarKind{"calendar", run::kCalendarCategory, run::RunCalendarSync,
                                   L"Personal Folders\\Calendar"};
 
-// Does the work while every dialog and message box that comes up is answered by its OK button.
-template<typename Work>
-void AcceptEverything(Work&& work)
-{
-    std::atomic<bool> done{false};
-    sandbox::Robot robot([&](sandbox::Robot& self) {
-        while (!done)
-        {
-            for (const sandbox::ShownDialog& dialog : self.Dialogs())
-            {
-                dialog.Click(IDOK);
-                self.WaitUntilClosed(dialog);
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        }
-    });
-    work();
-    done = true;
-    robot.Finish();
-}
-
 class EveryKind : public FaultTrials, public testing::WithParamInterface<Exchanged>
 {
   protected:
     void Strike(const char* what, Phase phase, long step)
     {
         long struck = 0;
-        AcceptEverything([&] { struck = StrikeEveryCall(GetParam(), phase, step); });
+        AnswerDialogsDuring([&] { struck = StrikeEveryCall(GetParam(), phase, step); },
+                            [](const sandbox::ShownDialog& dialog) { dialog.Click(IDOK); });
         EXPECT_LT(10, struck);
         ReportFigure(std::string("faults tried, ") + what + " of " + GetParam().kind.name +
                      (GetParam().IsToOutlook() ? " to Outlook: " : " from Outlook: ") +

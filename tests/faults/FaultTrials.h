@@ -62,7 +62,7 @@ class FaultTrials : public testing::Test
     ~FaultTrials() override;
 
     // Strikes every step-th call of the phase, by every kind of fault, and checks each trial; how many calls
-    // were struck. Every message and confirmation must be answered by AcceptEverything around it.
+    // were struck. Every message and confirmation must be answered around it.
     long StrikeEveryCall(const Exchanged& what, Phase phase, long step);
 
   private:

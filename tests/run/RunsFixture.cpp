@@ -1,16 +1,14 @@
 #include "tests/run/RunsFixture.h"
 
-#include "sandbox/robot/Robot.h"
 #include "state/SharedState.h"
+#include "tests/support/MessageBoxes.h"
 
 #include <algorithm>
-#include <atomic>
 
 namespace test_support
 {
 
 using automation::Moment;
-using sandbox::Robot;
 using sandbox::ShownDialog;
 
 namespace
@@ -96,22 +94,11 @@ RunsFixture::~RunsFixture()
 Outcome RunsFixture::Run(const RunKind& kind, Answer answer)
 {
     Outcome outcome;
-    std::atomic<bool> done{false};
-    Robot robot([&](Robot& self) {
-        while (!done)
-        {
-            for (const ShownDialog& dialog : self.Dialogs())
-            {
-                outcome.shown.push_back(Described(dialog));
-                Give(answer, dialog);
-                self.WaitUntilClosed(dialog);
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        }
-    });
-    outcome.failed = kind.run(Display);
-    done = true;
-    robot.Finish();
+    AnswerDialogsDuring([&] { outcome.failed = kind.run(Display); },
+                        [&](const ShownDialog& dialog) {
+                            outcome.shown.push_back(Described(dialog));
+                            Give(answer, dialog);
+                        });
     return outcome;
 }
 

@@ -1,5 +1,6 @@
 // What message boxes say during a piece of work that is not expected to be stopped by them: each is recorded
-// and answered. For programs of tests that link sandbox_robot.
+// and answered; or every dialog is answered in a way of the test's own. For programs of tests that link
+// sandbox_robot.
 #pragma once
 
 #include "sandbox/robot/Robot.h"
@@ -7,6 +8,7 @@
 #include <atomic>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace test_support
@@ -31,20 +33,18 @@ inline ShownMessage Seen(const sandbox::ShownDialog& box)
     return seen;
 }
 
-// Does the work; the message boxes that came up, in their order, each answered by its first button.
-template<typename Work>
-std::vector<ShownMessage> MessagesDuring(Work&& work)
+// Does the work while every dialog and message box that comes up is handed to answer, which must close it.
+template<typename Work, typename Answer>
+void AnswerDialogsDuring(Work&& work, Answer&& answer)
 {
-    std::vector<ShownMessage> seen;
     std::atomic<bool> done{false};
     sandbox::Robot robot([&](sandbox::Robot& self) {
         while (!done)
         {
-            for (const sandbox::ShownDialog& box : self.Dialogs())
+            for (const sandbox::ShownDialog& dialog : self.Dialogs())
             {
-                seen.push_back(Seen(box));
-                box.Click(box.Buttons().at(0));
-                self.WaitUntilClosed(box);
+                answer(dialog);
+                self.WaitUntilClosed(dialog);
             }
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
@@ -52,6 +52,17 @@ std::vector<ShownMessage> MessagesDuring(Work&& work)
     work();
     done = true;
     robot.Finish();
+}
+
+// Does the work; the message boxes that came up, in their order, each answered by its first button.
+template<typename Work>
+std::vector<ShownMessage> MessagesDuring(Work&& work)
+{
+    std::vector<ShownMessage> seen;
+    AnswerDialogsDuring(std::forward<Work>(work), [&](const sandbox::ShownDialog& box) {
+        seen.push_back(Seen(box));
+        box.Click(box.Buttons().at(0));
+    });
     return seen;
 }
 
