@@ -154,6 +154,10 @@ STDMETHODIMP DispatchObject::GetTypeInfo(UINT, LCID, ITypeInfo** info)
 STDMETHODIMP DispatchObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)
 {
     std::fill(ids, ids + count, DISPID_UNKNOWN);
+    if (CallObserver* observer = gObserver)
+    {
+        observer->OnNameLookup(ClassName(), names[0]);
+    }
     const MemberTable& members = Members();
     for (size_t i = 0; i < members.size(); ++i)
     {

@@ -64,6 +64,8 @@ class CallObserver
   public:
     virtual ~CallObserver() = default;
     virtual void OnCall(const wchar_t* className, const wchar_t* member) = 0;
+    // A client asks for the DISPID of a member by its name: a round trip of its own, but no call.
+    virtual void OnNameLookup(const wchar_t* /*className*/, const wchar_t* /*member*/) {}
 };
 
 // Sets the observer of this process (null for none) and returns the one before.

@@ -3,6 +3,21 @@
 namespace sandbox
 {
 
+namespace
+{
+
+std::wstring Written(const std::map<std::wstring, long>& counts)
+{
+    std::wstring table;
+    for (const auto& [member, count] : counts)
+    {
+        table += member + L"\t" + std::to_wstring(count) + L"\n";
+    }
+    return table;
+}
+
+} // namespace
+
 void CallCounter::OnCall(const wchar_t* className, const wchar_t* member)
 {
     if (className == mExemptClass)
@@ -24,6 +39,15 @@ void CallCounter::OnCall(const wchar_t* className, const wchar_t* member)
     }
 }
 
+void CallCounter::OnNameLookup(const wchar_t* className, const wchar_t* member)
+{
+    if (className != mExemptClass)
+    {
+        const std::lock_guard hold(mLock);
+        ++mLookups[std::wstring(className) + L"." + member];
+    }
+}
+
 long CallCounter::Total() const
 {
     const std::lock_guard hold(mLock);
@@ -38,18 +62,20 @@ long CallCounter::Total() const
 std::wstring CallCounter::Table() const
 {
     const std::lock_guard hold(mLock);
-    std::wstring table;
-    for (const auto& [member, count] : mCounts)
-    {
-        table += member + L"\t" + std::to_wstring(count) + L"\n";
-    }
-    return table;
+    return Written(mCounts);
+}
+
+std::wstring CallCounter::LookupTable() const
+{
+    const std::lock_guard hold(mLock);
+    return Written(mLookups);
 }
 
 void CallCounter::Reset()
 {
     const std::lock_guard hold(mLock);
     mCounts.clear();
+    mLookups.clear();
 }
 
 void CallCounter::BeforeCall(long n, std::function<void()> action)

@@ -11,6 +11,7 @@ const MemberTable& ControlObject::Members() const
     static const MemberTable members = {
         {L"CallCount", Reads(&ControlObject::CallCount), nullptr},
         {L"CallTable", Reads(&ControlObject::CallTable), nullptr},
+        {L"LookupTable", Reads(&ControlObject::LookupTable), nullptr},
         {L"ObjectCount", Reads(&ControlObject::ObjectCount), nullptr},
         {L"ProcessId", Reads(&ControlObject::ProcessId), nullptr},
         {L"Reset", Reads(&ControlObject::Reset), nullptr},
@@ -30,6 +31,11 @@ Value ControlObject::CallCount(const Call&)
 Value ControlObject::CallTable(const Call&)
 {
     return mServer.Calls().Table();
+}
+
+Value ControlObject::LookupTable(const Call&)
+{
+    return mServer.Calls().LookupTable();
 }
 
 // The objects that clients hold, without this one.

@@ -21,6 +21,7 @@ class ControlObject : public DispatchObject
   private:
     Value CallCount(const Call&);
     Value CallTable(const Call&);
+    Value LookupTable(const Call&);
     Value ObjectCount(const Call&);
     Value ProcessId(const Call&);
     Value Reset(const Call&);
