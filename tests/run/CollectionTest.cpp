@@ -1,7 +1,7 @@
 #include "tests/run/CollectionTest.h"
 
 #include "state/SharedState.h"
-#include "tests/run/NestedWalk.h"
+#include "tests/nested_walk/NestedWalk.h"
 
 namespace test_support
 {

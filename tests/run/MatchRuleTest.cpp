@@ -2,7 +2,7 @@
 #include "automation/Dates.h"
 #include "automation/Text.h"
 #include "state/SharedState.h"
-#include "tests/run/NestedWalk.h"
+#include "tests/nested_walk/NestedWalk.h"
 #include "tests/run/Sides.h"
 
 #include <gtest/gtest.h>

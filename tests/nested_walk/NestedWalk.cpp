@@ -1,4 +1,4 @@
-#include "tests/run/NestedWalk.h"
+#include "tests/nested_walk/NestedWalk.h"
 
 #include "data/Host.h"
 #include "state/SharedState.h"
