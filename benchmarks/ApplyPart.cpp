@@ -120,8 +120,8 @@ void MeasureSeries(const Kind& kind, Direction direction, Place place, const std
     {
         if (secondsPerRecord * static_cast<double>(size) > plan.ApplyPatience)
         {
-            Report::Progress("left out, it would take some " +
-                             Text(secondsPerRecord * static_cast<double>(size), 0) + " seconds");
+            table.Add({kind.Name, NameOf(direction), Text(size),
+                       "left out, some " + Text(secondsPerRecord * static_cast<double>(size), 0)});
             continue;
         }
         const DataFiles files(size);

@@ -95,7 +95,7 @@ Outcome Measure(const Kind& kind, Direction direction, Sides& sides, const Plan&
         {
             throw std::runtime_error("the nested walk proposed something unexpected");
         }
-        if (!walk.Agrees(sides.Count(), outcome.WalkTimes->Traffic.AllCalls()))
+        if (isCounted && !walk.Agrees(sides.Count(), outcome.WalkTimes->Traffic.AllCalls()))
         {
             throw std::runtime_error("the formula of the walk's calls is wrong");
         }
@@ -120,8 +120,10 @@ void Write(Report& report, const Outcome& outcome)
     if (outcome.WalkTimes)
     {
         report.Figure(outcome.Of, "walk seconds", outcome.WalkTimes->Seconds);
-        report.Figure(outcome.Of, "walk calls counted",
-                      static_cast<double>(outcome.WalkTimes->Traffic.AllCalls()));
+        if (const long counted = outcome.WalkTimes->Traffic.AllCalls(); counted != 0)
+        {
+            report.Figure(outcome.Of, "walk calls counted", static_cast<double>(counted));
+        }
     }
     report.Figures(outcome.Of, "", component.Traffic);
     report.Figures(outcome.Of, "bare ", bare.Traffic);

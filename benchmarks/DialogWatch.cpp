@@ -70,9 +70,8 @@ void DialogWatch::PressUntilClosed(HWND dialog, int button)
 {
     constexpr UINT kInterval = 20; // milliseconds
     // The timer's number is the button's, and the timer goes with the window.
-    SetTimer(dialog, static_cast<UINT_PTR>(button), kInterval, [](HWND window, UINT, UINT_PTR id, DWORD) {
-        Press(window, static_cast<int>(id));
-    });
+    SetTimer(dialog, static_cast<UINT_PTR>(button), kInterval,
+             [](HWND window, UINT, UINT_PTR id, DWORD) { Press(window, static_cast<int>(id)); });
 }
 
 void DialogWatch::SelectFirstRow(HWND dialog, int list)

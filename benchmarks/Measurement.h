@@ -77,7 +77,7 @@ template<typename Component, typename Bare>
 Pair InTurn(bool isInProcess, Component&& component, Bare&& bare)
 {
     constexpr int kMostRounds = 7;
-    constexpr double kEnough = 6; // seconds of measured time
+    constexpr double kEnough = 4; // seconds of measured time
     Pair pair;
     if (isInProcess)
     {

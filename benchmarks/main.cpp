@@ -34,6 +34,7 @@ struct Options
     std::vector<std::string> Names; // output, folders
     std::set<std::string> Parts;    // empty for all
     bool IsQuick = false;
+    bool IsPatient = false;
 };
 
 Options Parsed(int count, char** arguments)
@@ -45,6 +46,10 @@ Options Parsed(int count, char** arguments)
         if (argument == "--quick")
         {
             options.IsQuick = true;
+        }
+        else if (argument == "--all")
+        {
+            options.IsPatient = true;
         }
         else if (argument == "--part" && i + 1 < count)
         {
@@ -61,6 +66,10 @@ Options Parsed(int count, char** arguments)
 void Run(const Options& options)
 {
     Plan plan = options.IsQuick ? QuickPlan() : FullPlan();
+    if (options.IsPatient)
+    {
+        plan.ApplyPatience = std::numeric_limits<double>::infinity();
+    }
     plan.X64 = options.Names[1];
     plan.X86 = options.Names[2];
     Report report(options.Names[0] + ".csv", options.Names[0] + ".md");
@@ -87,7 +96,7 @@ int main(int count, char** arguments)
     const Options options = Parsed(count, arguments);
     if (options.Names.size() != 3)
     {
-        std::fputs("usage: Bench OUTPUT X64-FOLDER X86-FOLDER [--quick] [--part NAME]...\n", stderr);
+        std::fputs("usage: Bench OUTPUT X64-FOLDER X86-FOLDER [--quick | --all] [--part NAME]...\n", stderr);
         return kUsage;
     }
     try

@@ -5,6 +5,7 @@
 #include "automation/Error.h"
 #include "automation/Text.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,57 +22,44 @@ class RecordCollection
     template<typename First>
     Record& Add(First first, long recordState, const std::wstring& key = {})
     {
-        Entry entry{Record(std::move(first), recordState), automation::UpperCased(key)};
-        if (!key.empty() && PositionOf(entry.key) != mEntries.size())
+        if (!key.empty())
         {
-            throw automation::Error(E_INVALIDARG, L"Add",
-                                    L"This key is already associated with an element of this collection");
+            AddKey(automation::UpperCased(key));
         }
-        mEntries.push_back(std::move(entry));
-        return mEntries.back().record;
+        return mRecords.emplace_back(std::move(first), recordState);
     }
 
     // The record at a position from 1 to Count, or under a key. Throws automation::Error where there is none.
-    Record& Item(long position) { return mEntries[Checked(position)].record; }
-    const Record& Item(long position) const { return mEntries[Checked(position)].record; }
-    Record& Item(const std::wstring& key) { return mEntries[Checked(key)].record; }
+    Record& Item(long position) { return mRecords[Checked(position)]; }
+    const Record& Item(long position) const { return mRecords[Checked(position)]; }
+    Record& Item(const std::wstring& key) { return mRecords[Checked(key)]; }
 
-    long Count() const noexcept { return static_cast<long>(mEntries.size()); }
+    long Count() const noexcept { return static_cast<long>(mRecords.size()); }
 
     void Remove(long position) { Erase(Checked(position)); }
     void Remove(const std::wstring& key) { Erase(Checked(key)); }
 
     // The walk from the first record to the last (the enumerator of the automation collection).
-    auto begin() const noexcept { return Walk{mEntries.data()}; }
-    auto end() const noexcept { return Walk{mEntries.data() + mEntries.size()}; }
+    auto begin() const noexcept { return mRecords.begin(); }
+    auto end() const noexcept { return mRecords.end(); }
 
   private:
-    struct Entry
+    // Of the record that is about to be added.
+    void AddKey(std::wstring upperCasedKey)
     {
-        Record record;
-        std::wstring key; // in upper case; empty for none
-    };
-
-    struct Walk
-    {
-        const Entry* at;
-        const Record& operator*() const noexcept { return at->record; }
-        Walk& operator++() noexcept
+        if (PositionOf(upperCasedKey) != mKeys.size())
         {
-            ++at;
-            return *this;
+            throw automation::Error(E_INVALIDARG, L"Add",
+                                    L"This key is already associated with an element of this collection");
         }
-        bool operator==(const Walk&) const = default;
-    };
+        mKeys.resize(mRecords.size());
+        mKeys.push_back(std::move(upperCasedKey));
+    }
 
+    // The number of keys where there is none such.
     size_t PositionOf(const std::wstring& upperCasedKey) const noexcept
     {
-        size_t position = 0;
-        while (position < mEntries.size() && mEntries[position].key != upperCasedKey)
-        {
-            ++position;
-        }
-        return position;
+        return static_cast<size_t>(std::find(mKeys.begin(), mKeys.end(), upperCasedKey) - mKeys.begin());
     }
 
     size_t Checked(long position) const
@@ -85,12 +73,22 @@ class RecordCollection
 
     size_t Checked(const std::wstring& key) const
     {
-        return Checked(key.empty() ? 0 : static_cast<long>(PositionOf(automation::UpperCased(key))) + 1);
+        const size_t position = key.empty() ? mKeys.size() : PositionOf(automation::UpperCased(key));
+        return position < mKeys.size() ? position : Checked(0L);
     }
 
-    void Erase(size_t position) { mEntries.erase(mEntries.begin() + static_cast<std::ptrdiff_t>(position)); }
+    void Erase(size_t position)
+    {
+        mRecords.erase(mRecords.begin() + static_cast<std::ptrdiff_t>(position));
+        if (position < mKeys.size())
+        {
+            mKeys.erase(mKeys.begin() + static_cast<std::ptrdiff_t>(position));
+        }
+    }
 
-    std::vector<Entry> mEntries;
+    std::vector<Record> mRecords;
+    std::vector<std::wstring>
+        mKeys; // upper case, empty for none; of the records up to the last one with a key
 };
 
 } // namespace data

@@ -188,11 +188,8 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
 
     void SetProgress(double fraction) override
     {
-        if (prgbarSyn.SetFraction(fraction))
-        {
-            prgbarSyn.Repaint();
-        }
-        KeepPainted();
+        prgbarSyn.SetFraction(fraction);
+        KeepPainted(); // which paints it often enough for an eye, not once per record
     }
 
     std::wstring CategoryText() const override { return lvCategory.TextOf(*mCurrentCategory); }

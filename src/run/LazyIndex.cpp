@@ -18,7 +18,11 @@ long LazyIndex::Find(RecordKeys& others, long position)
     }
     while (ReadOne())
     {
-        if (mRecords.First(mRead) == key && SecondKeysAgree(others, position, mRead))
+        if (mRecords.First(mRead) != key)
+        {
+            mRecords.PassBy(mRead);
+        }
+        else if (SecondKeysAgree(others, position, mRead))
         {
             return mRead;
         }
@@ -62,7 +66,7 @@ long LazyIndex::FindAmongRead(RecordKeys& others, long position, std::wstring_vi
 
 bool LazyIndex::SecondKeysAgree(RecordKeys& others, long position, long candidate)
 {
-    return mRecords.Second(candidate) == others.Second(position);
+    return !mRecords.HasSecond() || mRecords.Second(candidate) == others.Second(position);
 }
 
 } // namespace run

@@ -1,5 +1,7 @@
 #include "run/RecordKeys.h"
 
+#include "automation/Error.h"
+
 namespace run
 {
 
@@ -18,6 +20,7 @@ const std::wstring& ReadOnce(std::deque<std::optional<std::wstring>>& keys, long
     if (!key)
     {
         key = read();
+        key->shrink_to_fit(); // it stays for the run
     }
     return *key;
 }
@@ -46,7 +49,10 @@ const std::wstring& RecordKeys::Second(long position)
     });
 }
 
-ItemKeys::ItemKeys(const MatchRule& rule, const automation::Object& items) : mRule(rule), mItems(items) {}
+ItemKeys::ItemKeys(const MatchRule& rule, const automation::Object& items)
+    : RecordKeys(rule.SecondKeyOfItem != nullptr), mRule(rule), mItems(items)
+{
+}
 
 long ItemKeys::CountItems()
 {
@@ -64,9 +70,25 @@ void ItemKeys::Reach(long position)
     }
 }
 
-std::wstring ItemKeys::ReadSecond()
+void ItemKeys::PassBy(long position)
 {
-    return mRule.SecondKeyOfItem == nullptr ? std::wstring() : mRule.SecondKeyOfItem(mCurrent);
+    if (!HasSecond() || position != mCurrentPosition)
+    {
+        return;
+    }
+    try
+    {
+        Second(position);
+    }
+    catch (const automation::Error&)
+    {
+        // No walk has asked for this key yet, and perhaps none will.
+    }
+}
+
+RowKeys::RowKeys(const MatchRule& rule, const automation::Recordset& rows)
+    : RecordKeys(rule.SecondKeyOfRow != nullptr), mRule(rule), mRows(rows)
+{
 }
 
 bool RowKeys::Exists(long position)
@@ -98,11 +120,6 @@ void RowKeys::Reach(long position)
         mRows.MoveTo(position);
         mCurrentPosition = position;
     }
-}
-
-std::wstring RowKeys::ReadSecond()
-{
-    return mRule.SecondKeyOfRow == nullptr ? std::wstring() : mRule.SecondKeyOfRow(mRows);
 }
 
 } // namespace run

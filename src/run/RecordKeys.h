@@ -25,16 +25,24 @@ class RecordKeys
     // Whether the record's first key has been read.
     bool IsRead(long position) const noexcept;
 
+    // Whether records whose first keys agree are compared by a second one.
+    bool HasSecond() const noexcept { return mHasSecond; }
+
     // Throw automation::Error when a key cannot be read.
     const std::wstring& First(long position);
     const std::wstring& Second(long position);
+    // The search passes the record by, whose first key it has just read: where coming back would cost more
+    // than reading on, the second key is read as well. What fails then is read, and fails, when it is needed.
+    virtual void PassBy(long /*position*/) {}
 
   protected:
-    RecordKeys() = default;
+    explicit RecordKeys(bool hasSecond) noexcept : mHasSecond(hasSecond) {}
 
   private:
     virtual std::wstring ReadFirst() = 0;
     virtual std::wstring ReadSecond() = 0;
+
+    bool mHasSecond;
 
     // A deque keeps its elements in place while it grows, so that an index can refer to the keys.
     std::deque<std::optional<std::wstring>> mFirst;
@@ -50,11 +58,13 @@ class ItemKeys : public RecordKeys
     long CountItems();
     bool Exists(long position) override { return position <= mCount; }
     void Reach(long position) override;
+    // An item is fetched from another process; to fetch it again costs more than one property.
+    void PassBy(long position) override;
     const automation::Object& Current() const noexcept { return mCurrent; }
 
   private:
     std::wstring ReadFirst() override { return mRule.FirstKeyOfItem(mCurrent); }
-    std::wstring ReadSecond() override;
+    std::wstring ReadSecond() override { return mRule.SecondKeyOfItem(mCurrent); }
 
     const MatchRule& mRule;
     automation::Object mItems;
@@ -66,14 +76,14 @@ class ItemKeys : public RecordKeys
 class RowKeys : public RecordKeys
 {
   public:
-    RowKeys(const MatchRule& rule, const automation::Recordset& rows) : mRule(rule), mRows(rows) {}
+    RowKeys(const MatchRule& rule, const automation::Recordset& rows);
 
     bool Exists(long position) override;
     void Reach(long position) override;
 
   private:
     std::wstring ReadFirst() override { return mRule.FirstKeyOfRow(mRows); }
-    std::wstring ReadSecond() override;
+    std::wstring ReadSecond() override { return mRule.SecondKeyOfRow(mRows); }
 
     const MatchRule& mRule;
     const automation::Recordset& mRows;

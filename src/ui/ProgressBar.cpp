@@ -14,7 +14,7 @@ int ProgressBar::StepOf(double fraction, int steps) noexcept
     return fraction < 1 ? static_cast<int>(fraction * steps) : steps;
 }
 
-bool ProgressBar::SetFraction(double fraction)
+void ProgressBar::SetFraction(double fraction)
 {
     if (mSteps == 0)
     {
@@ -23,13 +23,11 @@ bool ProgressBar::SetFraction(double fraction)
         Send(PBM_SETRANGE32, 0, mSteps);
     }
     const int step = StepOf(fraction, mSteps);
-    if (step == mStep)
+    if (step != mStep)
     {
-        return false;
+        mStep = step;
+        Send(PBM_SETPOS, static_cast<WPARAM>(step));
     }
-    mStep = step;
-    Send(PBM_SETPOS, static_cast<WPARAM>(step));
-    return true;
 }
 
 } // namespace ui

@@ -11,8 +11,8 @@ class ProgressBar : public Control
   public:
     using Control::Control;
 
-    // From 0 to 1; whatever is not a number between counts as the nearer end. True when the picture changed.
-    bool SetFraction(double fraction);
+    // From 0 to 1; whatever is not a number between counts as the nearer end.
+    void SetFraction(double fraction);
 
     // The position on a scale of this many steps.
     static int StepOf(double fraction, int steps) noexcept;

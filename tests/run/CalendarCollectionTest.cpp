@@ -130,6 +130,17 @@ TEST_F(CalendarCollection, TheHostsClockIsAskedOncePerRunAndOnlyForARange)
     EXPECT_EQ(1, timesAsked());
 }
 
+TEST_F(CalendarCollection, AnItemIsFetchedOnceThoughItsPartnerComesLater)
+{
+    *Items = {Appointment(L"a", kToday), Appointment(L"b", kToday), Appointment(L"c", kToday)};
+    *Rows = {Entry(L"c", kToday), Entry(L"b", kToday), Entry(L"a", kToday)};
+    const CallCounter counter;
+    EXPECT_EQ("changedRow1/1 changedRow2/1 changedRow3/1 changedItem3/1 changedItem2/1 changedItem1/1 ",
+              Collect(4, 2));
+    EXPECT_EQ(3, counter.Of(L"Items.Item"));
+    EXPECT_EQ(3, counter.Of(L"Item.Start"));
+}
+
 TEST_F(CalendarCollection, AsksForTheRightsOfCalendars)
 {
     Host.DenyRight(2); // add

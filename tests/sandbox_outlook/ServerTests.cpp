@@ -239,6 +239,9 @@ TEST_F(OutlookServer, CountsTheCallsThatItReceives)
     EXPECT_EQ(
         L"Application.GetNamespace\t1\nItems.Count\t2\nMAPIFolder.Items\t1\nNameSpace.GetDefaultFolder\t1\n",
         Text(control, L"CallTable"));
+    EXPECT_EQ(
+        L"Application.GetNamespace\t1\nItems.Count\t1\nMAPIFolder.Items\t1\nNameSpace.GetDefaultFolder\t1\n",
+        Text(control, L"LookupTable"));
 }
 
 TEST_F(OutlookServer, CanBeMadeToFailACall)
