@@ -46,16 +46,21 @@ double KeyBytes(const Kind& kind, const data::Run& run, size_t count)
     return perPair * static_cast<double>(count);
 }
 
+void DemandExpected(const data::Run& run, Direction direction, const char* complaint)
+{
+    data::Changes expected;
+    FillPending(direction, static_cast<size_t>(automation::LongOf(run.Items.Get(L"Count"))), expected);
+    if (!AreEqual(run.Pending, expected))
+    {
+        throw std::runtime_error(complaint);
+    }
+}
+
 Measured CollectOnce(const Kind& kind, Direction direction, Sides& sides, Purpose purpose)
 {
     data::Run run = sides.AnotherRun();
     const Measured measured = Measure(sides.Control(), purpose, [&] { Collect(kind, direction, run); });
-    data::Changes expected;
-    FillPending(direction, sides.Count(), expected);
-    if (!AreEqual(run.Pending, expected))
-    {
-        throw std::runtime_error("the collection proposed something else than the nested walk does");
-    }
+    DemandExpected(run, direction, "the collection proposed something else than the nested walk does");
     return measured;
 }
 
@@ -65,7 +70,22 @@ Measured ReadOnce(const Kind& kind, Sides& sides, Purpose purpose)
     return Measure(sides.Control(), purpose, [&] { ReadBare(kind, run); });
 }
 
-// The walk makes some 4 calls on a record of Outlook where the collection makes them once.
+// Counted out of process, and then held against the formula.
+Measured WalkOnce(const Kind& kind, Direction direction, Sides& sides, const WalkCalls& formula)
+{
+    const bool isCounted = sides.Where() == Place::OutOfProcess;
+    data::Run run = sides.AnotherRun();
+    const Measured measured = Measure(sides.Control(), isCounted ? Purpose::TimedAndCounted : Purpose::Timed,
+                                      [&] { Walk(kind, direction, run); });
+    DemandExpected(run, direction, "the nested walk proposed something unexpected");
+    if (isCounted && !formula.Agrees(sides.Count(), measured.Traffic.AllCalls()))
+    {
+        throw std::runtime_error("the formula of the walk's calls is wrong");
+    }
+    return measured;
+}
+
+// By the number of its calls; those of the collection are no faster.
 bool IsTooLong(const Outcome& outcome, double patience)
 {
     const double calls = static_cast<double>(outcome.Times.Component.Traffic.AllCalls());
@@ -86,19 +106,7 @@ Outcome Measure(const Kind& kind, Direction direction, Sides& sides, const Plan&
     outcome.WalkCallsByFormula = walk.At(sides.Count());
     if (!IsTooLong(outcome, plan.WalkPatience))
     {
-        data::Run run = sides.AnotherRun();
-        outcome.WalkTimes =
-            Measure(sides.Control(), Purpose::TimedAndCounted, [&] { Walk(kind, direction, run); });
-        data::Changes expected;
-        FillPending(direction, sides.Count(), expected);
-        if (!AreEqual(run.Pending, expected))
-        {
-            throw std::runtime_error("the nested walk proposed something unexpected");
-        }
-        if (isCounted && !walk.Agrees(sides.Count(), outcome.WalkTimes->Traffic.AllCalls()))
-        {
-            throw std::runtime_error("the formula of the walk's calls is wrong");
-        }
+        outcome.WalkTimes = WalkOnce(kind, direction, sides, walk);
     }
     return outcome;
 }

@@ -6,6 +6,7 @@
 #include "benchmarks/Walk.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 namespace benchmarks
@@ -89,8 +90,17 @@ bool WalkCalls::Agrees(size_t count, long counted) const
 
 std::string WalkCalls::Formula() const
 {
-    return Text(mCoefficients[0], 0) + " c + " + Text(mCoefficients[1], 0) + " m + " +
-           Text(mCoefficients[2], 0) + " n + " + Text(mCoefficients[3], 0);
+    constexpr const char* kNames[kTerms] = {" c", " m", " n", ""};
+    std::string formula;
+    for (size_t i = 0; i < kTerms; ++i)
+    {
+        if (const auto coefficient = static_cast<long>(mCoefficients[i]); coefficient != 0)
+        {
+            formula += formula.empty() ? "" : coefficient < 0 ? " - " : " + ";
+            formula += std::to_string(std::labs(coefficient)) + kNames[i];
+        }
+    }
+    return formula;
 }
 
 } // namespace benchmarks
