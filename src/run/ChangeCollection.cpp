@@ -62,6 +62,8 @@ ChangeCollection::ChangeCollection(const Category& category, data::Run& run)
       mItemIndex(mItems),
       mRowIndex(mRows)
 {
+    // An item is fetched from another process; a row is at hand.
+    mItemIndex.LookAheadIn(mRowIndex);
 }
 
 bool ChangeCollection::CollectToOutlook()

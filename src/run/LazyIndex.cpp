@@ -1,12 +1,34 @@
 #include "run/LazyIndex.h"
 
+#include "automation/Error.h"
+
 namespace run
 {
+
+namespace
+{
+
+// Reads what nobody has asked for yet, and perhaps nobody will: what fails is read again, and fails, where it
+// is needed.
+template<typename Read>
+void ReadEarly(Read&& read)
+{
+    try
+    {
+        read();
+    }
+    catch (const automation::Error&)
+    {
+    }
+}
+
+} // namespace
 
 long LazyIndex::Find(RecordKeys& others, long position)
 {
     // A walk over no records compares nothing, so it reads no key of the other side either.
-    if (mRead == 0 && !ReadOne())
+    const bool isFirstSearch = mTable.Count() == 0;
+    if (isFirstSearch && !ReadOne())
     {
         return 0;
     }
@@ -16,50 +38,62 @@ long LazyIndex::Find(RecordKeys& others, long position)
     {
         return known;
     }
+    if (isFirstSearch)
+    {
+        PassBy();
+    }
     while (ReadOne())
     {
-        if (mRecords.First(mRead) != key)
+        if (mRecords.First(mTable.Count()) == key && SecondKeysAgree(others, position, mTable.Count()))
         {
-            mRecords.PassBy(mRead);
+            return mTable.Count();
         }
-        else if (SecondKeysAgree(others, position, mRead))
-        {
-            return mRead;
-        }
+        PassBy();
     }
     return 0;
 }
 
 bool LazyIndex::ReadOne()
 {
-    const long position = mRead + 1;
+    const long position = mTable.Count() + 1;
     if (!mRecords.Exists(position))
     {
         return false;
     }
-    const std::wstring& key = mRecords.First(position);
-    mRead = position;
-    mNext.push_back(0);
-    const auto [chain, isNew] = mChains.try_emplace(key, Chain{position, position});
-    if (!isNew)
-    {
-        mNext[static_cast<size_t>(chain->second.last)] = position;
-        chain->second.last = position;
-    }
+    mRecords.First(position);
+    mTable.Add();
     return true;
+}
+
+// The record that was read last is not the one looked for.
+void LazyIndex::PassBy()
+{
+    if (mOthers != nullptr && mRecords.HasSecond() && mOthers->Has(mRecords.First(mTable.Count())))
+    {
+        ReadEarly([&] { mRecords.Second(mTable.Count()); });
+    }
+}
+
+bool LazyIndex::Has(std::wstring_view firstKey)
+{
+    if (!mHasReadAhead)
+    {
+        mHasReadAhead = true;
+        ReadEarly([&] {
+            while (ReadOne())
+            {
+            }
+        });
+    }
+    return mTable.First(firstKey) != 0;
 }
 
 long LazyIndex::FindAmongRead(RecordKeys& others, long position, std::wstring_view key)
 {
-    const auto chain = mChains.find(key);
-    if (chain == mChains.end())
-    {
-        return 0;
-    }
-    long candidate = chain->second.first;
+    long candidate = mTable.First(key);
     while (candidate != 0 && !SecondKeysAgree(others, position, candidate))
     {
-        candidate = mNext[static_cast<size_t>(candidate)];
+        candidate = mTable.Next(candidate);
     }
     return candidate;
 }

@@ -3,11 +3,9 @@
 // then by reading on from where the reading stopped.
 #pragma once
 
-#include "run/RecordKeys.h"
+#include "run/KeyTable.h"
 
 #include <string_view>
-#include <unordered_map>
-#include <vector>
 
 namespace run
 {
@@ -15,28 +13,28 @@ namespace run
 class LazyIndex
 {
   public:
-    explicit LazyIndex(RecordKeys& records) : mRecords(records) {}
+    explicit LazyIndex(RecordKeys& records) : mRecords(records), mTable(records) {}
+
+    // From now on, a record that the search passes by while a record of the other side has its first key is
+    // not left before its second key has been read as well, so that it need not be fetched again. For a side
+    // whose records are costly to fetch; the other one is read to its end then.
+    void LookAheadIn(LazyIndex& others) noexcept { mOthers = &others; }
 
     // The position of the first record that matches the other side's record at this position; 0 for none.
     // Throws automation::Error when a key on the way cannot be read.
     long Find(RecordKeys& others, long position);
 
   private:
-    // Positions of the records with one first key, a chain in ascending order.
-    struct Chain
-    {
-        long first;
-        long last;
-    };
-
     bool ReadOne();
+    void PassBy();
+    bool Has(std::wstring_view firstKey);
     long FindAmongRead(RecordKeys& others, long position, std::wstring_view key);
     bool SecondKeysAgree(RecordKeys& others, long position, long candidate);
 
     RecordKeys& mRecords;
-    long mRead = 0;
-    std::unordered_map<std::wstring_view, Chain> mChains;
-    std::vector<long> mNext{0}; // by position: the next one of the same chain, or 0
+    KeyTable mTable; // of the records read so far
+    LazyIndex* mOthers = nullptr;
+    bool mHasReadAhead = false;
 };
 
 } // namespace run

@@ -1,7 +1,5 @@
 #include "run/RecordKeys.h"
 
-#include "automation/Error.h"
-
 namespace run
 {
 
@@ -70,22 +68,6 @@ void ItemKeys::Reach(long position)
     }
 }
 
-void ItemKeys::PassBy(long position)
-{
-    if (!HasSecond() || position != mCurrentPosition)
-    {
-        return;
-    }
-    try
-    {
-        Second(position);
-    }
-    catch (const automation::Error&)
-    {
-        // No walk has asked for this key yet, and perhaps none will.
-    }
-}
-
 RowKeys::RowKeys(const MatchRule& rule, const automation::Recordset& rows)
     : RecordKeys(rule.SecondKeyOfRow != nullptr), mRule(rule), mRows(rows)
 {
@@ -101,6 +83,7 @@ bool RowKeys::Exists(long position)
     if (position > 1)
     {
         Reach(position - 1);
+        mCurrentPosition = 0; // whatever becomes of the step
         mRows.MoveNext();
     }
     else if (!mRows.HasNoRows())

@@ -31,9 +31,6 @@ class RecordKeys
     // Throw automation::Error when a key cannot be read.
     const std::wstring& First(long position);
     const std::wstring& Second(long position);
-    // The search passes the record by, whose first key it has just read: where coming back would cost more
-    // than reading on, the second key is read as well. What fails then is read, and fails, when it is needed.
-    virtual void PassBy(long /*position*/) {}
 
   protected:
     explicit RecordKeys(bool hasSecond) noexcept : mHasSecond(hasSecond) {}
@@ -58,8 +55,6 @@ class ItemKeys : public RecordKeys
     long CountItems();
     bool Exists(long position) override { return position <= mCount; }
     void Reach(long position) override;
-    // An item is fetched from another process; to fetch it again costs more than one property.
-    void PassBy(long position) override;
     const automation::Object& Current() const noexcept { return mCurrent; }
 
   private:

@@ -37,8 +37,9 @@ std::string Described(const data::Changes& changes)
 void Fill(Records& records, RandomData& random, const std::function<Record(RandomData&)>& make)
 {
     constexpr size_t kMost = 10;
+    constexpr size_t kMostAtTimes = 40; // so that the tables grow as well
     records.clear();
-    for (size_t count = random.Number(kMost); count > 0; --count)
+    for (size_t count = random.Number(random.OneIn(20) ? kMostAtTimes : kMost); count > 0; --count)
     {
         records.push_back(make(random));
     }

@@ -132,20 +132,34 @@ TEST_F(ContactCollection, ATwoWayRunReadsEachMatchKeyOnce)
     Collect(3, 3);
     EXPECT_EQ(40, counter.Of(L"Item.LastName"));
     EXPECT_EQ(40, counter.Of(L"Item.FirstName"));
-    EXPECT_EQ(40, counter.Of(L"Item.CompanyName"));
+    EXPECT_EQ(20, counter.Of(L"Item.CompanyName"));
     EXPECT_EQ(40, counter.Of(L"Items.Item"));
     EXPECT_EQ(40 * 2 + 20, counter.Of(L"Field.Value"));
 }
 
-TEST_F(ContactCollection, ACompanyIsReadWhileItsItemIsAtHandUnlessTheSearchEndsBefore)
+TEST_F(ContactCollection, TheCompanyOfAnItemWhosePartnerComesLaterIsReadWhileTheItemIsAtHand)
 {
     *Items = {Contact(L"Ode", L"Ann", L"Harbour"), Contact(L"Li", L"Ming", L"Harbour"),
-              Contact(L"Lim", L"Ing", L"Harbour")};
-    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour"), ContactRow(L"Ode", L"Ann", L"Harbour")};
+              Contact(L"Zoe", L"Ann", L"Harbour")};
+    *Rows = {ContactRow(L"New", L"Ann", L"Harbour"), ContactRow(L"Li", L"Ming", L"Harbour"),
+             ContactRow(L"Ode", L"Ann", L"Harbour")};
     const CallCounter counter;
-    EXPECT_EQ("changedRow1/1 changedRow2/1 changedItem2/1 changedItem1/1 ", Collect(4, 2));
+    EXPECT_EQ("newRow1/0 changedRow2/1 changedRow3/1 changedItem2/1 changedItem1/1 ", Collect(4, 2));
     EXPECT_EQ(2, counter.Of(L"Item.CompanyName"));
-    EXPECT_EQ(3, counter.Of(L"Items.Item")); // one more: the first of all is compared, not passed by
+    EXPECT_EQ(3, counter.Of(L"Items.Item"));
+    EXPECT_EQ(3 * 2 + 2, counter.Of(L"Field.Value"));
+}
+
+TEST_F(ContactCollection, ARowThatCannotBeReadFailsOnlyWhereTheWalkReachesIt)
+{
+    *Items = {Contact(L"Ode", L"Ann", L"Harbour"), Contact(L"Li", L"Ming", L"Harbour")};
+    Record broken = ContactRow(L"Lim", L"Ing", L"Harbour");
+    broken.erase(L"F_GIVENNAME");
+    *Rows = {ContactRow(L"New", L"Ann", L"Harbour"), broken, ContactRow(L"Li", L"Ming", L"Harbour")};
+    data::Run run = NewRun();
+    EXPECT_TRUE(run::ChangeCollection(run::kContactCategory, run).CollectToOutlook());
+    ASSERT_EQ(1, run.Pending.NewHostRecords.Count());
+    EXPECT_EQ(0, run.Pending.ChangedHostRecords.Count());
 }
 
 TEST_F(ContactCollection, ACompanyThatCannotBeReadFailsOnlyWhereItIsCompared)

@@ -1,0 +1,38 @@
+// The positions of one side's records by their first keys, each key with a chain of its records in ascending
+// order. Small, since there is one for every record of a run: the keys themselves stay with the RecordKeys
+// that the table is made over, which outlives it.
+#pragma once
+
+#include "run/RecordKeys.h"
+
+#include <string_view>
+#include <vector>
+
+namespace run
+{
+
+class KeyTable
+{
+  public:
+    explicit KeyTable(RecordKeys& records) : mRecords(records) {}
+
+    // Adds the record after the last one added, whose first key has been read.
+    void Add();
+    long Count() const noexcept { return static_cast<long>(mNext.size()) - 1; }
+
+    // The first record with this key, and the next one with the key of a record; 0 for none.
+    long First(std::wstring_view key) const;
+    long Next(long position) const { return mNext[static_cast<size_t>(position)]; }
+
+  private:
+    size_t SlotOf(std::wstring_view key) const;
+    void Grow();
+
+    RecordKeys& mRecords;
+    std::vector<long> mSlots;   // open addressing: the first record of a chain, or 0; a power of two of them
+    std::vector<long> mNext{0}; // by position: the next one of the same chain, or 0
+    std::vector<long> mLast{0}; // by the position of the first one of a chain: the last one
+    size_t mKeys = 0;           // different ones
+};
+
+} // namespace run
