@@ -145,6 +145,7 @@ void WriteBareFromOutlook(const Kind& kind, const data::Run& run, const HostCall
     const RawObject items(run.Items);
     const DISPID itemId = items.IdOf(L"Item");
     const Mover rows(run);
+    Columns columns(run);
     for (const data::ClsOlRecord& record : run.Pending.NewOutlookItems)
     {
         ReadItem(kind, RawObject(items.Get(itemId, std::stol(record.ItemIndex))));
@@ -154,6 +155,7 @@ void WriteBareFromOutlook(const Kind& kind, const data::Run& run, const HostCall
     {
         rows.To(run.Pending.ChangedHostRecords.Item(++position).RecordBookmark);
         ReadItem(kind, RawObject(items.Get(itemId, std::stol(record.ItemIndex))));
+        columns.Read(kind.RowId);
     }
     Replay(hostCalls, host);
 }

@@ -214,11 +214,11 @@ constexpr const wchar_t* kEntryReads[] = {
 
 const Kind kKinds[] = {
     {"contacts", run::kContactCategory, 10, data::kContactItem, kContactItemKeys, L"CompanyName",
-     kContactRowKeys, L"ACC_SNAME", kContactSteps, kContactReads},
+     kContactRowKeys, L"ACC_SNAME", L"F_CNTCTID", kContactSteps, kContactReads},
     {"tasks", run::kTaskCategory, 13, data::kTaskItem, kTaskItemKeys, L"Companies", kTaskRowKeys,
-     L"ACC_SNAME", kTaskSteps, kTaskReads},
+     L"ACC_SNAME", L"F_ACTID", kTaskSteps, kTaskReads},
     {"calendar", run::kCalendarCategory, 9, data::kAppointmentItem, kEntryItemKeys, nullptr, kEntryRowKeys,
-     nullptr, kEntrySteps, kEntryReads},
+     nullptr, L"F_ACTID", kEntrySteps, kEntryReads},
 };
 
 } // namespace
