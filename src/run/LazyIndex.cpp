@@ -1,6 +1,6 @@
 #include "run/LazyIndex.h"
 
-#include "automation/Error.h"
+#include "state/Failures.h"
 
 namespace run
 {
@@ -13,13 +13,10 @@ namespace
 template<typename Read>
 void ReadEarly(Read&& read)
 {
-    try
-    {
+    state::Trapped(false, [&] {
         read();
-    }
-    catch (const automation::Error&)
-    {
-    }
+        return true;
+    });
 }
 
 } // namespace
