@@ -151,8 +151,8 @@ std::string Growth(const Outcome& before, const Outcome& now)
 Table Tabled(const std::vector<Outcome>& outcomes, bool isInProcess)
 {
     Table table({"kind", "direction", "records", "seconds", "bare", isInProcess ? "beyond" : "ratio",
-                 "growth", "Outlook calls", "lookups", "host calls", "calls/record", "walk s", "walk calls",
-                 "fewer", "peak KB", "B/record"});
+                 "growth", "Outlook calls", "lookups", "more than bare", "host calls", "calls/record",
+                 "walk s", "walk calls", "fewer", "peak KB", "B/record"});
     const Outcome* before = &outcomes.front();
     for (const Outcome& outcome : outcomes)
     {
@@ -163,6 +163,7 @@ Table Tabled(const std::vector<Outcome>& outcomes, bool isInProcess)
                    isInProcess ? Text(component.Seconds - bare.Seconds, 3) : Text(outcome.Times.Ratio(), 2),
                    Growth(*before, outcome), Text(static_cast<size_t>(component.Traffic.OutlookCalls())),
                    Text(static_cast<size_t>(component.Traffic.OutlookLookups())),
+                   std::to_string(component.Traffic.RoundTrips() - bare.Traffic.RoundTrips()),
                    Text(static_cast<size_t>(component.Traffic.HostCalls())),
                    Text(calls / static_cast<double>(outcome.Of.Records), 1),
                    outcome.WalkTimes ? Text(outcome.WalkTimes->Seconds, 2) : "",

@@ -7,7 +7,7 @@ Plan FullPlan()
 {
     return {.OutOfProcess = {60, 125, 250, 500, 1000, 2000},
             .InProcess = {1000, 6250, 12500, 25000, 50000},
-            .ApplyInProcess = {1000, 5000},
+            .ApplyInProcess = {1000, 2000},
             .WalkPatience = 20,
             .ApplyPatience = 20,
             .DetailCount = 250};
