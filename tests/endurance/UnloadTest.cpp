@@ -39,8 +39,10 @@ constexpr long kReminder = 45; // minutes; not the default
 constexpr long kDefaultReminder = 20;
 constexpr int kThreads = 8;
 
-// What all cycles together may leave: nothing of the component, a little of the caches of the system.
-constexpr Footprint kTolerance = {.heapBytes = 1500, .residentBytes = 1024 * 1024, .kernelHandles = 2};
+// What all cycles together may leave: nothing of the component, a little of the caches of the system. One
+// object lost by each cycle would be as many as there are cycles.
+constexpr Footprint kTolerance = {
+    .heapBytes = 1500, .residentBytes = 1024 * 1024, .gdiObjects = kCycles / 2, .kernelHandles = 2};
 
 // An object without a font's members.
 class NoFont : public sandbox::DispatchObject
