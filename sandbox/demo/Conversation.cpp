@@ -71,8 +71,9 @@ Outcome Conversation::RunCategory(const std::wstring& category)
                 Answer(dialog, category, outcome);
             }
         }
+        const bool isAtRest = mMain.IsAtRest();
         outcome.status = mMain.Text(IDC_SYNC_STATE);
-        const bool wasRefused = outcome.status.empty() && !outcome.messages.empty() && mMain.TakesInput();
+        const bool wasRefused = outcome.status.empty() && !outcome.messages.empty() && isAtRest;
         return IsFinal(outcome.status) || wasRefused;
     });
     outcome.seconds = std::chrono::duration<double>(Clock::now() - start).count();

@@ -1,5 +1,7 @@
 #include "sandbox/robot/ShownDialog.h"
 
+#include "ui/Busy.h"
+
 #include <algorithm>
 #include <array>
 
@@ -65,6 +67,13 @@ bool ShownDialog::IsOpen() const
 bool ShownDialog::TakesInput() const
 {
     return IsOpen() && IsWindowEnabled(mWindow) != FALSE;
+}
+
+bool ShownDialog::IsAtRest() const
+{
+    const bool atRest = TakesInput() && !ui::Busy::IsIn(mWindow);
+    Ask(mWindow, WM_NULL); // answered when the thread is back in a loop of messages
+    return atRest;
 }
 
 std::wstring ShownDialog::Caption() const

@@ -20,6 +20,8 @@ class ShownDialog
     // On the screen, and not behind another modal dialog.
     bool TakesInput() const;
     bool IsOpen() const;
+    // Takes input, is not at work, and what its work wrote last can be read.
+    bool IsAtRest() const;
     std::wstring Caption() const;
 
     // Controls, by number.

@@ -21,7 +21,7 @@ bool IsUserInput(UINT message)
 bool IsInBusyDialog(HWND window)
 {
     const HWND root = window != nullptr ? GetAncestor(window, GA_ROOT) : nullptr;
-    return root != nullptr && GetPropW(root, kBusyProperty) != nullptr;
+    return root != nullptr && Busy::IsIn(root);
 }
 
 LRESULT CALLBACK DropInput(int code, WPARAM removal, LPARAM parameter)
@@ -100,6 +100,11 @@ void Busy::KeepPainted()
 void Busy::ShowHourglass()
 {
     SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+}
+
+bool Busy::IsIn(HWND dialog) noexcept
+{
+    return GetPropW(dialog, kBusyProperty) != nullptr;
 }
 
 } // namespace ui

@@ -23,6 +23,9 @@ class Busy
 
     static void ShowHourglass();
 
+    // A dialog, of whatever thread, is at work.
+    static bool IsIn(HWND dialog) noexcept;
+
   private:
     Dialog& mDialog;
     HWND mWindow;

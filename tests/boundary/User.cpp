@@ -75,12 +75,11 @@ bool User::HasEnded(Seen& seen) const
     {
         return true;
     }
-    const bool takesInput = mMain.TakesInput(); // no message is shown any more
-    mMain.Ask(mMain.Handle(), WM_NULL);         // answered when the thread is back in a loop of messages
+    const bool isAtRest = mMain.IsAtRest();
     seen.status = mMain.Text(IDC_SYNC_STATE);
     const bool isFinal =
         seen.status == SuccessStatus() || seen.status == FailureStatus() || seen.status == NoProfileStatus();
-    return isFinal || (seen.status.empty() && !seen.messages.empty() && takesInput);
+    return isFinal || (seen.status.empty() && !seen.messages.empty() && isAtRest);
 }
 
 void User::Answer(const ShownDialog& dialog, Seen& seen, const std::function<void()>& atConfirmation) const

@@ -143,6 +143,8 @@ long KernelHandles()
     return count != 0 ? static_cast<long>(count) : CountOfTable();
 }
 
+constexpr int kSeries = 4; // at most
+
 constexpr long Footprint::*kFigures[] = {&Footprint::heapBytes,     &Footprint::residentBytes,
                                          &Footprint::gdiObjects,    &Footprint::userObjects,
                                          &Footprint::kernelHandles, &Footprint::standIns};
@@ -203,6 +205,16 @@ Footprint Smaller(const Footprint& one, const Footprint& other)
         smaller.*figure = std::min(one.*figure, other.*figure);
     }
     return smaller;
+}
+
+Footprint GrowthOfLevelSeries(const Footprint& tolerance, const std::function<Footprint()>& growthOfSeries)
+{
+    Footprint growth = growthOfSeries();
+    for (int series = 1; series < kSeries && !growth.IsWithin(tolerance); ++series)
+    {
+        growth = growthOfSeries();
+    }
+    return growth;
 }
 
 std::string TextOf(const Footprint& footprint)

@@ -3,6 +3,7 @@
 // tests that compare two moments; FootprintTest shows that each figure notices a leak.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace test_support
@@ -27,6 +28,10 @@ long BytesInHeaps();
 
 // For every figure the smaller one.
 Footprint Smaller(const Footprint& one, const Footprint& other);
+
+// What a series of the same work leaves: of the first series that stays within the tolerance, or of the last
+// of a few. A cache of the system fills at a moment of its own and shows in one series, a leak in each.
+Footprint GrowthOfLevelSeries(const Footprint& tolerance, const std::function<Footprint()>& growthOfSeries);
 
 // "heap 1234 bytes, resident ..., GDI 5, USER 6, handles 7, stand-ins 0".
 std::string TextOf(const Footprint& footprint);
