@@ -35,12 +35,13 @@ BOOL CALLBACK CollectButtons(HWND window, LPARAM collected)
     return TRUE;
 }
 
+// Within the window alone: when it closes meanwhile, its key must not reach the dialog below.
 HWND FocusOf(HWND window)
 {
     GUITHREADINFO info = {};
     info.cbSize = sizeof(info);
     GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-    return info.hwndFocus != nullptr ? info.hwndFocus : window;
+    return IsChild(window, info.hwndFocus) ? info.hwndFocus : window;
 }
 
 int LeftOf(HWND window)

@@ -106,35 +106,41 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
 
     void OnSynchronize()
     {
-        const bool failed = state::Trapped(true, [&] {
-            Synchronize();
-            return false;
-        });
-        if (failed)
+        const std::wstring outcome = AtWork([&] { return Synchronize(); });
+        if (!outcome.empty())
         {
-            SetStatus(OutcomeText(true));
+            SetStatus(outcome);
         }
     }
 
-    void Synchronize()
+    // The dialog takes no input from before the first thing is read. That is over before the outcome is
+    // written: who reads it may go on.
+    template<typename Work>
+    std::wstring AtWork(Work&& work)
+    {
+        const ui::Busy busy(*this);
+        return state::Trapped(OutcomeText(true), work);
+    }
+
+    // What the status line is to say; nothing where the user has been told why there is no run.
+    std::wstring Synchronize()
     {
         if (mServices.CheckOutlookProfiles())
         {
             state::LogError();
-            SetStatus(resources::String(IDS_RUN_NO_PROFILE));
+            return resources::String(IDS_RUN_NO_PROFILE);
         }
-        else if (!mCurrentCategory)
+        if (!mCurrentCategory)
         {
             ui::ShowMessageBox(kNoCategoryChosen, MB_ICONINFORMATION);
+            return {};
         }
-        else if (!LoadParameters().IsTrans)
+        if (!LoadParameters().IsTrans)
         {
             ui::ShowMessage(resources::String(IDS_MESSAGE), 0, NotEnabledText());
+            return {};
         }
-        else
-        {
-            SetStatus(OutcomeText(RunChosenCategory()));
-        }
+        return OutcomeText(RunChosenCategory());
     }
 
     const state::SynParameter& LoadParameters()
@@ -151,7 +157,6 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
     // By the row's text as it reads in the language of this moment, not by its key. True for failure.
     bool RunChosenCategory()
     {
-        const ui::Busy busy(*this); // over before the outcome is written: who reads it may go on
         const std::wstring text = CategoryText();
         for (const CategoryRow& row : kCategories)
         {

@@ -89,7 +89,7 @@ TEST_F(OutlookUnderConfiguration, EndingWhileTheFolderTreeIsOpenLeavesEveryDialo
         seen = user.Run(L"contact");
         user.Leave();
     });
-    EXPECT_EQ(FailureStatus(), seen.status);
+    EXPECT_EQ(FailureStatus(), seen.status) << testing::PrintToString(seen.messages);
     EXPECT_EQ(folders, FolderRows());
     mSite.ExpectNothingLeft();
 

@@ -90,7 +90,7 @@ TEST(FrmSynchronizeItem, WithoutACategoryAChineseMessageBoxSaysSoInBothLanguages
             EXPECT_EQ(1u, box.Buttons().size());
             EXPECT_FALSE(dialog.TakesInput());
             box.Close();
-            robot.WaitUntil("the main dialog", [&] { return dialog.TakesInput(); });
+            robot.WaitUntil("the main dialog", [&] { return dialog.IsAtRest(); });
             EXPECT_EQ(L"", dialog.Text(IDC_SYNC_STATE));
         });
         EXPECT_EQ(L"", recorder.Loaded);
@@ -115,7 +115,7 @@ TEST(FrmSynchronizeItem, ACategoryThatTakesNoPartShowsTheInformationDialogAndDoe
                          L"按钮，选择允许同步。"),
                       information.Text(IDC_SHOWINFOR_DESCRIPTION));
             information.Click(IDOK);
-            robot.WaitUntil("the main dialog", [&] { return dialog.TakesInput(); });
+            robot.WaitUntil("the main dialog", [&] { return dialog.IsAtRest(); });
             EXPECT_EQ(L"", dialog.Text(IDC_SYNC_STATE));
         });
         EXPECT_EQ(L"Calendar ", recorder.Loaded);

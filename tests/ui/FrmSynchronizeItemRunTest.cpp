@@ -42,6 +42,31 @@ TEST(FrmSynchronizeItem, DuringARunNothingStartsASecondOneOrClosesTheDialog)
     EXPECT_EQ(L"tasks ", recorder.Ran);
 }
 
+// The host's database, or a call to a busy Outlook, may let the thread handle its messages.
+TEST(FrmSynchronizeItem, WhileItsParametersAreReadNothingStartsASecondRunOrClosesTheDialog)
+{
+    const Interface english(Language::English);
+    Recorder recorder;
+    recorder.DuringLoading = [] {
+        const ShownDialog dialog(ui::Dialog::Shown(IDD_SYNCHRONIZEITEM)->Handle());
+        dialog.Click(IDC_SYNC_START);
+        dialog.Click(IDCANCEL);
+        dialog.Close();
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+        {
+            DispatchMessageW(&message);
+        }
+        EXPECT_TRUE(dialog.IsOpen());
+    };
+    Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
+        ChooseAndStart(dialog, kTaskRow);
+        WaitForStatus(robot, dialog, L"Synchronize Succeed.");
+    });
+    EXPECT_EQ(L"Task ", recorder.Loaded);
+    EXPECT_EQ(L"tasks ", recorder.Ran);
+}
+
 TEST(FrmSynchronizeItem, DuringARunTheConfirmationTakesInputAsAlways)
 {
     const Interface english(Language::English);

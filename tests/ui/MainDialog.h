@@ -27,6 +27,7 @@ struct Recorder
     bool NoProfile = false;
     bool IsTrans = true;
     bool Fails = false;
+    std::function<void()> DuringLoading;
     std::function<void(data::RunDisplay&)> DuringRun;
     std::wstring Loaded; // names whose parameters were loaded, each followed by a blank
     std::wstring Ran;    // procedures that ran, likewise
@@ -52,6 +53,10 @@ struct Recorder
                 [this](state::SynParameter& parameter, const std::wstring& name) {
                     Loaded += name + L" ";
                     parameter.IsTrans = IsTrans;
+                    if (DuringLoading)
+                    {
+                        DuringLoading();
+                    }
                 },
             .ShowConfigure = [this] { ++Configured; },
             .RunTaskSync = runs(L"tasks "),
