@@ -34,10 +34,10 @@ constexpr long kLongRuns = 1000;
 constexpr Footprint kTolerance = {
     .heapBytes = 1500, .residentBytes = 1024 * 1024, .gdiObjects = 1, .kernelHandles = 2};
 
-// What nine uses of the same kind have left, the first three not counted: everything that a use needs once is
-// there then, so that a few bytes of a leak show.
+// What seven uses of the same kind have left, the first three not counted: everything that a use needs once
+// is there then, so that a few bytes of a leak show.
 constexpr int kFirstUses = 3;
-constexpr int kUsesAlike = 6;
+constexpr int kUsesAlike = 4;
 constexpr Footprint kToleranceOfAlike = {.heapBytes = 200, .residentBytes = 1024 * 1024, .kernelHandles = 1};
 
 Footprint Smallest(const std::vector<Footprint>& samples, size_t first, size_t end)
