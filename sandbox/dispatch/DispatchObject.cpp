@@ -141,14 +141,19 @@ STDMETHODIMP_(ULONG) DispatchObject::Release()
 
 STDMETHODIMP DispatchObject::GetTypeInfoCount(UINT* count)
 {
-    *count = 0;
+    *count = TypeInformation() != nullptr ? 1 : 0;
     return S_OK;
 }
 
-STDMETHODIMP DispatchObject::GetTypeInfo(UINT, LCID, ITypeInfo** info)
+STDMETHODIMP DispatchObject::GetTypeInfo(UINT index, LCID, ITypeInfo** info)
 {
+    if (CallObserver* observer = gObserver)
+    {
+        observer->OnNameLookup(ClassName(), L"(type)");
+    }
+    const Microsoft::WRL::ComPtr<ITypeInfo> information = TypeInformation();
     *info = nullptr;
-    return DISP_E_BADINDEX;
+    return index == 0 && information != nullptr ? information.CopyTo(info) : DISP_E_BADINDEX;
 }
 
 STDMETHODIMP DispatchObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)

@@ -64,7 +64,8 @@ class CallObserver
   public:
     virtual ~CallObserver() = default;
     virtual void OnCall(const wchar_t* className, const wchar_t* member) = 0;
-    // A client asks for the DISPID of a member by its name: a round trip of its own, but no call.
+    // A client asks for the DISPID of a member by its name, or for the object's type information ("(type)"):
+    // a round trip of its own, but no call.
     virtual void OnNameLookup(const wchar_t* /*className*/, const wchar_t* /*member*/) {}
 };
 
@@ -105,6 +106,8 @@ class DispatchObject : public IDispatch
     virtual const MemberTable& Members() const = 0;
     // The index of the default member (DISPID 0), for collections usually "Item"; -1 for none.
     virtual int DefaultMember() const { return -1; }
+    // The dispinterface that the object's type information describes; nothing for an object without one.
+    virtual Microsoft::WRL::ComPtr<ITypeInfo> TypeInformation() const { return nullptr; }
 
   private:
     Value Run(DISPID id, WORD flags, const Call& call);

@@ -1,13 +1,18 @@
 #include "sandbox/outlook/OutlookItem.h"
 
+#include "sandbox/dispatch/TypeInformation.h"
 #include "sandbox/outlook/Failures.h"
 #include "sandbox/outlook/Folders.h"
 #include "sandbox/outlook/Links.h"
 #include "sandbox/outlook/PatternRules.h"
 #include "sandbox/outlook/RecurrencePattern.h"
 
+#include <map>
+
 namespace sandbox::outlook
 {
+
+using Microsoft::WRL::ComPtr;
 
 namespace
 {
@@ -15,6 +20,9 @@ namespace
 // Answered by the stand-in's own items only, to tell them from what a client may put before them.
 constexpr GUID kOutlookItemId = {
     0x5a1e0f7c, 0x3b52, 0x4f0e, {0x9d, 0x3c, 0x62, 0x1b, 0x0e, 0x8f, 0x47, 0xa1}};
+
+// The last byte is the kind's.
+constexpr GUID kInterfaceIds = {0x2f84c9d6, 0x71ab, 0x4e35, {0x88, 0x0d, 0x5b, 0xe2, 0x16, 0x9a, 0xc3, 0x00}};
 
 struct KindRow
 {
@@ -74,6 +82,32 @@ MemberTable MembersOfKind(ItemKind kind)
     return members;
 }
 
+namespace
+{
+
+ComPtr<ITypeInfo> TypeOfKind(ItemKind kind)
+{
+    GUID interfaceId = kInterfaceIds;
+    interfaceId.Data4[7] = static_cast<unsigned char>(kind);
+    return MakeTypeInformation(interfaceId, RowOf(kind).className, MembersOfKind(kind));
+}
+
+template<typename T>
+using ByKind = std::map<ItemKind, T>;
+
+template<typename T>
+ByKind<T> ForEveryKind(T (*make)(ItemKind kind))
+{
+    ByKind<T> made;
+    for (const KindRow& row : kKinds)
+    {
+        made.emplace(row.kind, make(row.kind));
+    }
+    return made;
+}
+
+} // namespace
+
 OutlookItem::OutlookItem(MailboxRef mailbox, std::shared_ptr<ItemDraft> draft)
     : OutlookObject(std::move(mailbox)), mDraft(std::move(draft))
 {
@@ -97,19 +131,14 @@ const wchar_t* OutlookItem::ClassName() const
 
 const MemberTable& OutlookItem::Members() const
 {
-    static const MemberTable mail = MembersOfKind(ItemKind::Mail);
-    static const MemberTable appointment = MembersOfKind(ItemKind::Appointment);
-    static const MemberTable contact = MembersOfKind(ItemKind::Contact);
-    static const MemberTable task = MembersOfKind(ItemKind::Task);
-    static const MemberTable note = MembersOfKind(ItemKind::Note);
-    switch (mDraft->Kind())
-    {
-    case ItemKind::Appointment: return appointment;
-    case ItemKind::Contact: return contact;
-    case ItemKind::Task: return task;
-    case ItemKind::Note: return note;
-    default: return mail;
-    }
+    static const ByKind<MemberTable> tables = ForEveryKind(MembersOfKind);
+    return tables.at(mDraft->Kind());
+}
+
+ComPtr<ITypeInfo> OutlookItem::TypeInformation() const
+{
+    static const ByKind<ComPtr<ITypeInfo>> types = ForEveryKind(TypeOfKind);
+    return types.at(mDraft->Kind());
 }
 
 // Given when the item is first saved.

@@ -20,6 +20,7 @@ class OutlookItem : public OutlookObject
   protected:
     const wchar_t* ClassName() const override;
     const MemberTable& Members() const override;
+    Microsoft::WRL::ComPtr<ITypeInfo> TypeInformation() const override;
 
   private:
     friend MemberTable MembersOfKind(ItemKind kind);

@@ -4,7 +4,7 @@
 #include "automation/Error.h"
 
 #include <array>
-#include <vector>
+#include <cstring>
 
 #include <dispex.h>
 #include <objbase.h>
@@ -61,7 +61,46 @@ HRESULT IdThroughDispatchEx(IDispatch& dispatch, const wchar_t* member, DISPID& 
     return result;
 }
 
+struct TypeAttributes
+{
+    explicit TypeAttributes(ITypeInfo& of) : type(of)
+    {
+        RetriedWhileBusy([&] { return type.GetTypeAttr(&attributes); });
+    }
+    TypeAttributes(const TypeAttributes&) = delete;
+    TypeAttributes& operator=(const TypeAttributes&) = delete;
+    ~TypeAttributes()
+    {
+        if (attributes != nullptr)
+        {
+            type.ReleaseTypeAttr(attributes);
+        }
+    }
+
+    ITypeInfo& type;
+    TYPEATTR* attributes = nullptr;
+};
+
+// The identifier of the object's dispinterface; GUID_NULL for an object that has none, or does not tell it.
+GUID InterfaceOf(IDispatch& dispatch)
+{
+    ComPtr<ITypeInfo> type;
+    const HRESULT result =
+        RetriedWhileBusy([&] { return dispatch.GetTypeInfo(0, LOCALE_SYSTEM_DEFAULT, &type); });
+    if (FAILED(result) || type == nullptr)
+    {
+        return GUID_NULL;
+    }
+    const TypeAttributes of(*type.Get());
+    return of.attributes != nullptr ? of.attributes->guid : GUID_NULL;
+}
+
 } // namespace
+
+bool GuidOrder::operator()(const GUID& left, const GUID& right) const noexcept
+{
+    return std::memcmp(&left, &right, sizeof(GUID)) < 0;
+}
 
 struct Object::Target
 {
@@ -69,7 +108,7 @@ struct Object::Target
 
     DISPID IdOf(const wchar_t* member)
     {
-        for (const auto& [name, id] : ids)
+        for (const auto& [name, id] : *ids)
         {
             if (name == member)
             {
@@ -85,12 +124,12 @@ struct Object::Target
             result = IdThroughDispatchEx(*dispatch.Get(), member, id);
         }
         Check(result, member);
-        ids.emplace_back(member, id);
+        ids->emplace_back(member, id);
         return id;
     }
 
     ComPtr<IDispatch> dispatch;
-    std::vector<std::pair<std::wstring, DISPID>> ids;
+    std::shared_ptr<MemberIds> ids = std::make_shared<MemberIds>();
 };
 
 Object::Object(IDispatch* dispatch)
@@ -114,6 +153,15 @@ Object Object::Create(const wchar_t* progId)
 IDispatch* Object::Dispatch() const noexcept
 {
     return mTarget ? mTarget->dispatch.Get() : nullptr;
+}
+
+void Object::ShareMembers(InterfaceIds& interfaces) const
+{
+    const GUID interfaceId = mTarget ? InterfaceOf(*mTarget->dispatch.Get()) : GUID_NULL;
+    if (interfaceId != GUID_NULL)
+    {
+        mTarget->ids = interfaces.try_emplace(interfaceId, mTarget->ids).first->second;
+    }
 }
 
 void Object::Put(const wchar_t* member, const Value& value) const

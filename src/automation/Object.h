@@ -6,11 +6,23 @@
 #include "automation/Argument.h"
 #include "automation/Value.h"
 
+#include <map>
 #include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace automation
 {
+
+// The DISPIDs of members by name, as far as they have been asked for.
+using MemberIds = std::vector<std::pair<std::wstring, DISPID>>;
+struct GuidOrder
+{
+    bool operator()(const GUID& left, const GUID& right) const noexcept;
+};
+// The same for every dispinterface met, by its identifier.
+using InterfaceIds = std::map<GUID, std::shared_ptr<MemberIds>, GuidOrder>;
 
 class Object
 {
@@ -25,6 +37,12 @@ class Object
     explicit operator bool() const noexcept { return mTarget != nullptr; }
     // The interface held, without a further reference; null for nothing.
     IDispatch* Dispatch() const noexcept;
+
+    // From now on what is known of the members is shared with the other objects of the same dispinterface:
+    // its DISPIDs never change once it is published (COM), and an object's type information names it. Costs
+    // two calls, so it pays for objects of which many members are used. An object that does not tell its
+    // interface keeps its own knowledge; so does one that cannot be reached, whose next call fails.
+    void ShareMembers(InterfaceIds& interfaces) const;
 
     // The member's value or the method's result; arguments in the order in which the object's documentation
     // lists them. Each throws Error when the call fails or the object is nothing.

@@ -15,9 +15,10 @@ namespace
 // A changed Outlook item is written to the host when it carries this mark.
 constexpr long kMarkToHost = 0;
 
-Object ItemOf(const Run& run, const ClsOlRecord& record)
+Object ItemOf(Run& run, const ClsOlRecord& record)
 {
-    return run.Items.GetObject(L"Item", static_cast<long>(automation::LeadingNumber(record.ItemIndex)));
+    const double index = automation::LeadingNumber(record.ItemIndex);
+    return ForPass(run, run.Items.GetObject(L"Item", static_cast<long>(index)));
 }
 
 void Insert(Run& run, const PassFromOutlook& pass, long position)

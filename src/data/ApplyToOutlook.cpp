@@ -16,7 +16,7 @@ constexpr long kMarkToOutlook = 1;
 void WriteNewRecord(Run& run, const PassToOutlook& pass, long i)
 {
     run.HostRows.MoveTo(run.Pending.NewHostRecords.Item(i).RecordBookmark);
-    pass.Write(run, kNewRecord, run.Items.GetObject(L"Add", pass.ItemType));
+    pass.Write(run, kNewRecord, ForPass(run, run.Items.GetObject(L"Add", pass.ItemType)));
 }
 
 void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
@@ -27,7 +27,7 @@ void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
     }
     run.HostRows.MoveTo(run.Pending.ChangedHostRecords.Item(i).RecordBookmark);
     const double index = automation::LeadingNumber(run.Pending.ChangedOutlookItems.Item(i).ItemIndex);
-    pass.Write(run, kExistingRecord, run.Items.GetObject(L"Item", static_cast<long>(index)));
+    pass.Write(run, kExistingRecord, ForPass(run, run.Items.GetObject(L"Item", static_cast<long>(index))));
 }
 
 } // namespace

@@ -21,6 +21,15 @@ struct Run
     Changes Pending{};
     RelationTable Relations{};  // of the apply pass
     FieldCatalogue Catalogue{}; // of the apply pass
+    automation::InterfaceIds ItemInterfaces{};
 };
+
+// An item as an apply pass uses it: with many members, and after others of its class, so that the members are
+// asked for once per class and not once per item. A folder may mix classes.
+inline automation::Object ForPass(Run& run, automation::Object item)
+{
+    item.ShareMembers(run.ItemInterfaces);
+    return item;
+}
 
 } // namespace data

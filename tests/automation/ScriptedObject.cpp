@@ -1,14 +1,9 @@
 #include "tests/automation/ScriptedObject.h"
 
+#include "sandbox/dispatch/TypeInformation.h"
+
 namespace test_support
 {
-
-namespace
-{
-
-constexpr DISPID kMember = 42;
-
-} // namespace
 
 HRESULT ScriptedObject::QueryInterface(REFIID id, void** result)
 {
@@ -25,8 +20,19 @@ HRESULT ScriptedObject::QueryInterface(REFIID id, void** result)
 
 HRESULT ScriptedObject::GetTypeInfoCount(UINT* count)
 {
-    *count = 0;
+    *count = HasType ? 1 : 0;
     return S_OK;
+}
+
+HRESULT ScriptedObject::GetTypeInfo(UINT index, LCID, ITypeInfo** info)
+{
+    EXPECT_EQ(0u, index);
+    *info = nullptr;
+    if (!HasType || FAILED(TypeAnswer))
+    {
+        return HasType ? TypeAnswer : E_NOTIMPL;
+    }
+    return sandbox::MakeTypeInformation(mInterfaceId, L"Scripted", {}).CopyTo(info);
 }
 
 HRESULT ScriptedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)
@@ -45,14 +51,14 @@ HRESULT ScriptedObject::Find(const wchar_t* name, DISPID* id)
 {
     ++NamesAsked;
     const bool isMember = lstrcmpiW(name, Member.c_str()) == 0;
-    *id = isMember ? kMember : DISPID_UNKNOWN;
+    *id = isMember ? Id : DISPID_UNKNOWN;
     return isMember ? S_OK : DISP_E_UNKNOWNNAME;
 }
 
 HRESULT ScriptedObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                                EXCEPINFO* exception, UINT*)
 {
-    EXPECT_EQ(kMember, id);
+    EXPECT_EQ(Id, id);
     return OnCall({id, flags, *parameters, result, exception});
 }
 

@@ -35,12 +35,17 @@ class ScriptedObject : public IDispatchEx
 {
   public:
     ScriptedObject() = default;
+    // One with type information, which tells this dispinterface.
+    explicit ScriptedObject(const GUID& interfaceId) : HasType(true), mInterfaceId(interfaceId) {}
     ScriptedObject(const ScriptedObject&) = delete;
     ScriptedObject& operator=(const ScriptedObject&) = delete;
     ~ScriptedObject() { EXPECT_EQ(0, mReferences) << "somebody still holds the object"; }
 
-    // The only member that the object has, in any letter case.
+    // The only member that the object has, in any letter case, and its number.
     std::wstring Member = L"Member";
+    DISPID Id = 42;
+    bool HasType = false;
+    HRESULT TypeAnswer = S_OK;
     // Answers each call; by default it succeeds.
     std::function<HRESULT(const ArrivedCall& call)> OnCall = [](const ArrivedCall&) { return S_OK; };
     // An object of a script class knows its members through IDispatchEx only.
@@ -56,7 +61,7 @@ class ScriptedObject : public IDispatchEx
     STDMETHODIMP_(ULONG) Release() override { return static_cast<ULONG>(--mReferences); }
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
     STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
                                DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters,
@@ -78,6 +83,7 @@ class ScriptedObject : public IDispatchEx
     HRESULT Find(const wchar_t* name, DISPID* id);
 
     long mReferences = 0;
+    GUID mInterfaceId = GUID_NULL;
 };
 
 // The code of the automation::Error that the body throws; S_OK when it throws none.

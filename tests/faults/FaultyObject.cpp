@@ -88,7 +88,9 @@ class FaultyObject : public IDispatch
     STDMETHODIMP GetTypeInfoCount(UINT* count) override { return mInside->GetTypeInfoCount(count); }
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override
     {
-        return mInside->GetTypeInfo(index, locale, info);
+        *info = nullptr;
+        const bool strikes = mFaults->Kind != Fault::Refuses && Strikes(*mFaults, L"(type)");
+        return strikes ? RPC_E_DISCONNECTED : mInside->GetTypeInfo(index, locale, info);
     }
     STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
                                DISPID* ids) override;
@@ -98,6 +100,7 @@ class FaultyObject : public IDispatch
   private:
     virtual ~FaultyObject() { --gLiveWrappers; }
 
+    const std::wstring& NameOf(DISPID id);
     bool IsStatus(const std::wstring& member) const
     {
         return mIsHost && std::ranges::find(kStatusMembers, member) != kStatusMembers.end();
@@ -215,11 +218,27 @@ STDMETHODIMP FaultyObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LC
     return result;
 }
 
+// An id that this object was not asked for is known from another one of its interface.
+const std::wstring& FaultyObject::NameOf(DISPID id)
+{
+    std::wstring& known = mNames[id];
+    ComPtr<ITypeInfo> type;
+    BSTR name = nullptr;
+    UINT count = 0;
+    if (known.empty() && SUCCEEDED(mInside->GetTypeInfo(0, LOCALE_SYSTEM_DEFAULT, &type)) &&
+        SUCCEEDED(type->GetNames(id, &name, 1, &count)) && count == 1)
+    {
+        known = name;
+        SysFreeString(name);
+    }
+    return known;
+}
+
 STDMETHODIMP FaultyObject::Invoke(DISPID id, REFIID, LCID locale, WORD flags, DISPPARAMS* parameters,
                                   VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument)
 {
     const ComPtr<IDispatch> alive(this);
-    const std::wstring& member = mNames[id];
+    const std::wstring& member = NameOf(id);
     const bool canStrike = mFaults->Kind != Fault::Refuses || IsStatus(member);
     const bool strikes = canStrike && Strikes(*mFaults, member);
     if (strikes && mFaults->Kind == Fault::Refuses)
