@@ -15,7 +15,7 @@ using Microsoft::WRL::ComPtr;
 void AddProperty(ICreateTypeInfo& type, UINT index, const wchar_t* name)
 {
     VARDESC property = {};
-    property.memid = static_cast<MEMBERID>(index + 1);
+    property.memid = static_cast<MEMBERID>(index) + 1;
     property.varkind = VAR_DISPATCH;
     property.elemdescVar.tdesc.vt = VT_VARIANT;
     automation::Check(type.AddVarDesc(index, &property), name);
