@@ -105,7 +105,7 @@ Pictures::Pictures()
 {
     for (const Picture& picture : kPictures)
     {
-        mList.Add(PaintPicture(picture.key, ui::SmallPictureSize()).ToIcon().get());
+        mList.Add(PaintPicture(picture.key, ui::SmallPictureSize()));
     }
 }
 

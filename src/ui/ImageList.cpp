@@ -26,9 +26,15 @@ ImageList::ImageList()
     }
 }
 
-int ImageList::Add(HICON icon)
+// Without an icon in between, which some systems fail to make while another thread makes one.
+int ImageList::Add(const PaintedIcon& picture)
 {
-    return ImageList_ReplaceIcon(mList.get(), -1, icon);
+    const int index = ImageList_Add(mList.get(), picture.ColorBitmap().get(), picture.MaskBitmap().get());
+    if (index < 0)
+    {
+        throw std::bad_alloc();
+    }
+    return index;
 }
 
 } // namespace ui

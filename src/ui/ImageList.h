@@ -2,6 +2,8 @@
 // Lives as long as the dialog whose controls show it.
 #pragma once
 
+#include "ui/PaintedIcon.h"
+
 #include <memory>
 #include <type_traits>
 
@@ -23,8 +25,8 @@ class ImageList
     // Takes over a list that a control has made for itself and leaves to its owner.
     explicit ImageList(HIMAGELIST made) noexcept : mList(made) {}
 
-    // Adds a copy of an icon; its index, from 0.
-    int Add(HICON icon);
+    // Adds a copy of a picture of the list's size; its index, from 0. Throws std::bad_alloc as above.
+    int Add(const PaintedIcon& picture);
     HIMAGELIST Handle() const noexcept { return mList.get(); }
 
   private:

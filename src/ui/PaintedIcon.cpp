@@ -13,33 +13,18 @@ namespace
 // Points looked at per pixel, each way.
 constexpr int kSamples = 4;
 
-struct BitmapDestroyer
-{
-    void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
-};
-using Bitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapDestroyer>;
-
 DWORD ByteOf(double part)
 {
     return static_cast<DWORD>(std::lround(part * 255));
 }
 
-Bitmap ColorBitmap(int size, DWORD*& bits)
+Bitmap Checked(HBITMAP made)
 {
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = size;
-    info.bmiHeader.biHeight = -size; // the first line is the top one
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* data = nullptr;
-    Bitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &data, nullptr, 0));
-    if (bitmap == nullptr)
+    if (made == nullptr)
     {
         throw std::bad_alloc();
     }
-    bits = static_cast<DWORD*>(data);
-    return bitmap;
+    return Bitmap(made);
 }
 
 } // namespace
@@ -127,31 +112,34 @@ DWORD PaintedIcon::PixelAt(int x, int y) const
            ByteOf(pixel.green / pixel.opacity) << 8 | ByteOf(pixel.blue / pixel.opacity);
 }
 
-Icon PaintedIcon::ToIcon() const
+Bitmap PaintedIcon::ColorBitmap() const
 {
-    DWORD* bits = nullptr;
-    const Bitmap color = ColorBitmap(mSize, bits);
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = mSize;
+    info.bmiHeader.biHeight = -mSize; // the first line is the top one
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    Bitmap bitmap = Checked(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     for (int i = 0; i < mSize * mSize; ++i)
     {
-        bits[i] = PixelAt(i % mSize, i / mSize);
+        static_cast<DWORD*>(bits)[i] = PixelAt(i % mSize, i / mSize);
     }
-    // For devices without opacity: white is transparent. Lines are padded to 16 pixels.
-    const size_t lineBytes = static_cast<size_t>(mSize + 15) / 16 * 2;
-    std::vector<BYTE> maskBits(lineBytes * mSize);
+    return bitmap;
+}
+
+Bitmap PaintedIcon::MaskBitmap() const
+{
+    const size_t lineBytes = static_cast<size_t>(mSize + 15) / 16 * 2; // lines are padded to 16 pixels
+    std::vector<BYTE> bits(lineBytes * mSize);
     for (int i = 0; i < mSize * mSize; ++i)
     {
-        const bool transparent = bits[i] >> 24 < 128;
-        maskBits[lineBytes * (i / mSize) + i % mSize / 8] |=
+        const bool transparent = PixelAt(i % mSize, i / mSize) >> 24 < 128;
+        bits[lineBytes * (i / mSize) + i % mSize / 8] |=
             static_cast<BYTE>((transparent ? 0x80 : 0) >> i % mSize % 8);
     }
-    const Bitmap mask(CreateBitmap(mSize, mSize, 1, 1, maskBits.data()));
-    ICONINFO info = {TRUE, 0, 0, mask.get(), color.get()};
-    Icon icon(CreateIconIndirect(&info));
-    if (icon == nullptr)
-    {
-        throw std::bad_alloc();
-    }
-    return icon;
+    return Checked(CreateBitmap(mSize, mSize, 1, 1, bits.data()));
 }
 
 } // namespace ui

@@ -27,11 +27,11 @@ Shape Box(double left, double top, double right, double bottom);
 // The part that both shapes cover.
 Shape Within(Shape shape, Shape other);
 
-struct IconDestroyer
+struct BitmapDestroyer
 {
-    void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
+    void operator()(HBITMAP bitmap) const noexcept { DeleteObject(bitmap); }
 };
-using Icon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer>;
+using Bitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapDestroyer>;
 
 class PaintedIcon
 {
@@ -46,8 +46,10 @@ class PaintedIcon
 
     // The colour of a pixel as 0xAARRGGBB, not multiplied by its opacity.
     DWORD PixelAt(int x, int y) const;
-    // Throws std::bad_alloc when the system has no more.
-    Icon ToIcon() const;
+    // The pixels with their opacity, 32 bits each, and for devices without opacity the mask, in which white
+    // is transparent. Both throw std::bad_alloc when the system has no more.
+    Bitmap ColorBitmap() const;
+    Bitmap MaskBitmap() const;
 
   private:
     struct Pixel

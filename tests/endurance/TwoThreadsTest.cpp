@@ -114,7 +114,7 @@ Use UseOf(const Preferences& own, size_t k)
     return use;
 }
 
-void Work(const Preferences& own, Edition edition, Meeting& meeting, size_t uses, Faults& faults)
+void Exchange(const Preferences& own, Edition edition, Meeting& meeting, size_t uses, Faults& faults)
 {
     Office office(edition, own.records);
     const Object component = test_support::NewComponent();
@@ -136,6 +136,19 @@ void Work(const Preferences& own, Edition edition, Meeting& meeting, size_t uses
             faults.push_back(fault);
         }
         ExpectOwn(own, component, faults);
+    }
+}
+
+// What is thrown must not leave the thread, which would end the process.
+void Work(const Preferences& own, Edition edition, Meeting& meeting, size_t uses, Faults& faults)
+{
+    try
+    {
+        Exchange(own, edition, meeting, uses, faults);
+    }
+    catch (const std::exception& failure)
+    {
+        faults.emplace_back(failure.what());
     }
 }
 
