@@ -32,7 +32,7 @@ Measured ApplyOnce(const Kind& kind, Direction direction, const DataFiles& files
     Sides sides(files, kind, place);
     data::Run run = sides.NewRun();
     FillPending(direction, files.Count(), run.Pending);
-    const Measured measured = Measure(sides.Control(), purpose, [&] { Apply(kind, direction, run); });
+    Measured measured = Measure(sides.Control(), purpose, [&] { Apply(kind, direction, run); });
     if (const std::wstring refused = sides.HostSide().LastRejection(); !refused.empty())
     {
         throw std::runtime_error("the host refused something");

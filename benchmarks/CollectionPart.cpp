@@ -59,7 +59,7 @@ void DemandExpected(const data::Run& run, Direction direction, const char* compl
 Measured CollectOnce(const Kind& kind, Direction direction, Sides& sides, Purpose purpose)
 {
     data::Run run = sides.AnotherRun();
-    const Measured measured = Measure(sides.Control(), purpose, [&] { Collect(kind, direction, run); });
+    Measured measured = Measure(sides.Control(), purpose, [&] { Collect(kind, direction, run); });
     DemandExpected(run, direction, "the collection proposed something else than the nested walk does");
     return measured;
 }
@@ -75,8 +75,8 @@ Measured WalkOnce(const Kind& kind, Direction direction, Sides& sides, const Wal
 {
     const bool isCounted = sides.Where() == Place::OutOfProcess;
     data::Run run = sides.AnotherRun();
-    const Measured measured = Measure(sides.Control(), isCounted ? Purpose::TimedAndCounted : Purpose::Timed,
-                                      [&] { Walk(kind, direction, run); });
+    Measured measured = Measure(sides.Control(), isCounted ? Purpose::TimedAndCounted : Purpose::Timed,
+                                [&] { Walk(kind, direction, run); });
     DemandExpected(run, direction, "the nested walk proposed something unexpected");
     if (isCounted && !formula.Agrees(sides.Count(), measured.Traffic.AllCalls()))
     {

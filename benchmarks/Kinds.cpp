@@ -9,7 +9,6 @@ namespace benchmarks
 namespace
 {
 
-using automation::Date;
 using automation::DateOf;
 using automation::IsEmptyOrNull;
 using automation::Value;

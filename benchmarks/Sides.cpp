@@ -52,7 +52,7 @@ void AddAll(sandbox::Mailbox& mailbox, const wchar_t* folder, const std::vector<
 sandbox::MailboxRef MailboxInMemory(size_t count)
 {
     const sandbox::SampleRecords records = sandbox::NumberedRecords(count / 2, count);
-    const sandbox::MailboxRef mailbox = sandbox::MakeMailbox();
+    sandbox::MailboxRef mailbox = sandbox::MakeMailbox();
     AddAll(*mailbox, L"Personal Folders\\Contacts", records.contacts);
     AddAll(*mailbox, L"Personal Folders\\Tasks", records.tasks);
     AddAll(*mailbox, L"Personal Folders\\Calendar", records.entries);

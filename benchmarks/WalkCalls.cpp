@@ -65,7 +65,8 @@ WalkCalls::WalkCalls(const Kind& kind, Direction direction) : mDirection(directi
 WalkCalls::Terms WalkCalls::TermsAt(size_t count) const
 {
     const double all = static_cast<double>(count);
-    const double alone = static_cast<double>(count / 2);
+    const size_t half = count / 2;
+    const double alone = static_cast<double>(half);
     const double matched = all - alone;
     const double before = mDirection == Direction::FromOutlook ? alone : 0; // a partner in the other side
     const double comparisons = alone * all + matched * before + matched * (matched + 1) / 2;

@@ -24,7 +24,7 @@ std::wstring LeftDescription()
     {
         return {};
     }
-    const std::wstring description(text, SysStringLen(text));
+    std::wstring description(text, SysStringLen(text));
     SysFreeString(text);
     return description;
 }

@@ -11,7 +11,6 @@ namespace boundary_tests
 namespace
 {
 
-using automation::ByRef;
 using automation::Object;
 
 class MisbehavingHost : public testing::TestWithParam<const wchar_t*>

@@ -27,7 +27,7 @@ class CalendarWriting : public CalendarTest
     std::vector<ShownMessage> MessagesOf(long mode, long expectedResult)
     {
         long result = 1;
-        const auto messages = MessagesDuring([&] { result = Write(mode); });
+        auto messages = MessagesDuring([&] { result = Write(mode); });
         EXPECT_EQ(expectedResult, result);
         return messages;
     }

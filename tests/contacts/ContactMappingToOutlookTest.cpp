@@ -8,7 +8,6 @@ namespace
 {
 
 using automation::Date;
-using automation::Value;
 using resources::Language;
 using test_support::Day;
 using test_support::WithLanguage;

@@ -8,7 +8,6 @@
 namespace
 {
 
-using automation::Value;
 using test_support::Day;
 using test_support::MessagesDuring;
 using test_support::ShownMessage;

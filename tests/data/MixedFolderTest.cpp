@@ -32,9 +32,9 @@ long Read(data::Run& /*run*/, long /*mode*/, const Object& item)
 Object MixedItems()
 {
     const Object outlook = sandbox::MakeOutlook(sandbox::MakeMailbox());
-    const Object items = outlook.GetObject(L"GetNamespace", L"MAPI")
-                             .GetObject(L"GetDefaultFolder", kContactsFolder)
-                             .GetObject(L"Items");
+    Object items = outlook.GetObject(L"GetNamespace", L"MAPI")
+                       .GetObject(L"GetDefaultFolder", kContactsFolder)
+                       .GetObject(L"Items");
     for (long i = 0; i < kRounds * std::ssize(kItemTypes); ++i)
     {
         const Object item = items.GetObject(L"Add", kItemTypes[i % std::ssize(kItemTypes)]);

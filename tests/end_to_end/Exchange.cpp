@@ -23,8 +23,8 @@ std::wstring NewFolder()
     static int number = 0;
     wchar_t temporary[MAX_PATH];
     GetTempPathW(ARRAYSIZE(temporary), temporary);
-    const std::wstring folder = std::wstring(temporary) + L"telvix-exchange-" +
-                                std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++number);
+    std::wstring folder = std::wstring(temporary) + L"telvix-exchange-" +
+                          std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++number);
     CreateDirectoryW(folder.c_str(), nullptr);
     DeleteFileW((folder + L"\\host.db").c_str());
     DeleteFileW((folder + L"\\outlook.db").c_str());

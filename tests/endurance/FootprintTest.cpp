@@ -15,7 +15,7 @@ using test_support::Footprint;
 namespace
 {
 
-constexpr size_t kBlock = 64 * 1024;
+constexpr size_t kBlock = size_t{64} * 1024;
 constexpr int kSmallBlocks = 100;
 constexpr size_t kSmallBlock = 40;
 

@@ -24,7 +24,6 @@ using resources::Language;
 using sandbox::Edition;
 using sandbox::ShownDialog;
 using test_support::ApartmentThread;
-using test_support::kKinds;
 using test_support::Office;
 using test_support::ProcessLanguage;
 using test_support::Use;

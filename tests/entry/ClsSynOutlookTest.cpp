@@ -11,7 +11,6 @@
 
 #include <thread>
 
-using automation::ByRef;
 using automation::Date;
 using automation::DateOf;
 using automation::LongOf;

@@ -12,7 +12,6 @@ using automation::Value;
 using sandbox::Call;
 using sandbox::DispatchObject;
 using sandbox::MakeObject;
-using sandbox::Member;
 using sandbox::MemberTable;
 using sandbox::Reads;
 

@@ -15,8 +15,6 @@ namespace test_support
 namespace
 {
 
-using automation::Date;
-
 uint32_t SeedOf(const std::string& name)
 {
     uint32_t seed = 2166136261u;
@@ -137,7 +135,7 @@ Value HostileValues::Date()
 {
     ++mCount;
     const double base = kDates[Below(std::size(kDates))];
-    const double drift = OneIn(2) ? 0 : static_cast<double>(Below(86400 * 3)) / 86400 - 1.5;
+    const double drift = OneIn(2) ? 0 : static_cast<double>(Below(size_t{86400} * 3)) / 86400 - 1.5;
     return automation::Date{base + drift};
 }
 

@@ -262,7 +262,7 @@ TEST_F(Runs, TheHostRowsAreClosedAtEveryWayOut)
     expectClosed("applying fails", [&](const RunKind& kind) {
         CallOrder order({});
         order.Failing = L"Items.Add";
-        const Outcome outcome = Run(kind, 2, Answer::Accept);
+        Outcome outcome = Run(kind, 2, Answer::Accept);
         EXPECT_TRUE(outcome.failed);
         return outcome;
     });

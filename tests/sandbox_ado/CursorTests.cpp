@@ -34,7 +34,7 @@ class AdoCursor : public testing::Test
 
     Object Open(const std::wstring& sql = L"SELECT * FROM Thing", long cursorType = kKeyset)
     {
-        const Object rows = sandbox::MakeRecordset();
+        Object rows = sandbox::MakeRecordset();
         rows.Call(L"Open", sql, mFile.ConnectionString(), cursorType, kReadOnly, kText);
         return rows;
     }

@@ -12,7 +12,6 @@
 using automation::Error;
 using automation::Recordset;
 using automation::TextOf;
-using automation::Value;
 
 namespace
 {

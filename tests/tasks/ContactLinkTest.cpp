@@ -11,7 +11,6 @@ namespace
 
 using automation::Object;
 using automation::TextOf;
-using automation::Value;
 using test_support::CallCounter;
 using test_support::kContacts;
 using test_support::kTasks;

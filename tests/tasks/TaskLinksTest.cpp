@@ -8,7 +8,6 @@
 namespace
 {
 
-using automation::Value;
 using resources::Language;
 using test_support::MessagesDuring;
 using test_support::ScriptedHost;

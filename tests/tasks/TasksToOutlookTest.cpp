@@ -16,7 +16,6 @@ using automation::LongOf;
 using automation::Object;
 using automation::TextOf;
 using automation::TruthOf;
-using automation::Value;
 using resources::Language;
 using test_support::CallCounter;
 using test_support::Day;
