@@ -24,8 +24,7 @@ void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, l
         dialog.Click(IDOK);
         running.WaitUntilClosed(dialog);
     });
-    std::wstring shown = text; // the routine may change it
-    ui::ShowMessage(resources::String(titleId), code, shown);
+    ui::ShowMessage(resources::String(titleId), code, text);
     robot.Finish();
 }
 

@@ -1,19 +1,22 @@
 #include "config/ProfileText.h"
 
+#include <algorithm>
+
 namespace config
 {
 
 namespace
 {
 
-std::wstring HexFromLastByte(const std::vector<BYTE>& bytes)
+std::wstring HexFromLastByte(std::vector<BYTE> bytes)
 {
+    std::reverse(bytes.begin(), bytes.end());
     constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
     std::wstring text = L"0x";
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte)
+    for (const BYTE byte : bytes)
     {
-        text += kDigits[*byte >> 4];
-        text += kDigits[*byte & 15];
+        text += kDigits[byte >> 4];
+        text += kDigits[byte & 15];
     }
     return text;
 }
