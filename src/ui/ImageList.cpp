@@ -26,7 +26,7 @@ ImageList::ImageList()
     }
 }
 
-// Without an icon in between, which some systems fail to make while another thread makes one.
+// Without an icon in between, which Wine now and then fails to make while another thread destroys a window.
 int ImageList::Add(const PaintedIcon& picture)
 {
     const int index = ImageList_Add(mList.get(), picture.ColorBitmap().get(), picture.MaskBitmap().get());

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
+#include <new>
 #include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace
@@ -105,6 +108,36 @@ TEST(Pictures, TheListHoldsAllOfThemInTheOrderOfTheirIndexes)
     ImageList_GetIconSize(pictures.List().Handle(), &width, &height);
     EXPECT_EQ(GetSystemMetrics(SM_CXSMICON), width);
     EXPECT_EQ(width, height);
+}
+
+// An icon as the way from a picture into a list fails under Wine now and then, while another thread is at
+// work with windows.
+TEST(Pictures, AreAllThereWhileAnotherThreadMakesAndDestroysWindows)
+{
+    std::atomic<bool> ended = false;
+    std::thread other([&] {
+        while (!ended)
+        {
+            DestroyWindow(
+                CreateWindowExW(0, L"Static", L"", 0, 0, 0, 8, 8, nullptr, nullptr, nullptr, nullptr));
+        }
+    });
+    size_t complete = 0;
+    constexpr size_t kLists = 200;
+    for (size_t i = 0; i < kLists; ++i)
+    {
+        try
+        {
+            const Pictures pictures;
+            complete += ImageList_GetImageCount(pictures.List().Handle()) == std::size(kKeys) ? 1 : 0;
+        }
+        catch (const std::bad_alloc&) // noticed by its absence
+        {
+        }
+    }
+    ended = true;
+    other.join();
+    EXPECT_EQ(kLists, complete);
 }
 
 } // namespace
