@@ -8,7 +8,7 @@ namespace
 
 using enum FieldRule;
 
-constexpr FieldRow kRows[] = {
+constexpr FieldRow kFieldRows[] = {
     // keys and links
     {L"F_CNTCTID", Text, 36},
     {L"F_ACCID", Text, 36},
@@ -79,7 +79,7 @@ constexpr FieldRow kRows[] = {
 
 std::span<const FieldRow> FieldRows()
 {
-    return kRows;
+    return kFieldRows;
 }
 
 } // namespace sandbox

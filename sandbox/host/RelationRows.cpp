@@ -24,7 +24,7 @@ constexpr RelationRow kChineseNames[] = {
 // Of a task the percentage comes first and its status before what is written only to a completed task, so
 // that a completed one arrives whole. Its start comes after the date that it is due: Outlook moves the other
 // one when the two contradict each other, and a task is known again by its start.
-constexpr RelationRow kRows[] = {
+constexpr RelationRow kRelationRows[] = {
     {kContacts, L"F_NICKNAME", L"NickName"},
     {kContacts, L"F_TITLE", L"Title"},
     {kContacts, L"F_SUFFIX", L"Suffix"},
@@ -80,7 +80,7 @@ constexpr RelationRow kRows[] = {
 
 std::span<const RelationRow> RelationRows()
 {
-    return kRows;
+    return kRelationRows;
 }
 
 std::span<const RelationRow> NameRows(Edition edition)

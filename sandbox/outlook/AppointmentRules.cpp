@@ -103,7 +103,7 @@ void WriteAllDayEvent(ItemDraft& item, const Value& converted)
     }
 }
 
-constexpr PropertyRule kRules[] = {
+constexpr PropertyRule kAppointmentRules[] = {
     {Start, ReadStart, WriteStart},
     {End, ReadEnd, WriteEnd},
     {Duration, ReadDuration, WriteDuration},
@@ -137,7 +137,7 @@ Date OwnEnd(const ItemDraft& item)
 
 std::span<const PropertyRule> AppointmentRules()
 {
-    return kRules;
+    return kAppointmentRules;
 }
 
 // The next full or half hour, for thirty minutes.

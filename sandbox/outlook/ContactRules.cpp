@@ -22,7 +22,7 @@ bool IsEastAsian(const std::wstring& text)
     return std::ranges::any_of(text, [](wchar_t character) { return IsEastAsian(character); });
 }
 
-std::wstring Joined(std::initializer_list<std::wstring> parts, const wchar_t* separator)
+std::wstring JoinedText(std::initializer_list<std::wstring> parts, const wchar_t* separator)
 {
     std::wstring joined;
     for (const std::wstring& part : parts)
@@ -56,7 +56,7 @@ Value ReadFullName(const ItemDraft& item)
     {
         return last + middle + first;
     }
-    return Joined({item.Text(Title), first, middle, last, item.Text(Suffix)}, L" ");
+    return JoinedText({item.Text(Title), first, middle, last, item.Text(Suffix)}, L" ");
 }
 
 // A full name is taken apart: the family name stands last, in East Asian names it is the first character.
@@ -82,7 +82,7 @@ Value ReadFileAs(const ItemDraft& item)
 {
     const std::wstring first = item.Text(FirstName);
     const std::wstring last = item.Text(LastName);
-    const std::wstring name = IsEastAsian(first + last) ? last + first : Joined({last, first}, L", ");
+    const std::wstring name = IsEastAsian(first + last) ? last + first : JoinedText({last, first}, L", ");
     return OwnOr(item, FileAs, name.empty() ? item.Text(CompanyName) : name);
 }
 
@@ -91,7 +91,7 @@ Value ReadSubject(const ItemDraft& item)
     return OwnOr(item, Subject, item.Text(FullName));
 }
 
-constexpr PropertyRule kRules[] = {
+constexpr PropertyRule kContactRules[] = {
     {FullName, ReadFullName, WriteFullName},
     {FileAs, ReadFileAs, nullptr},
     {Subject, ReadSubject, nullptr},
@@ -101,7 +101,7 @@ constexpr PropertyRule kRules[] = {
 
 std::span<const PropertyRule> ContactRules()
 {
-    return kRules;
+    return kContactRules;
 }
 
 } // namespace sandbox::outlook

@@ -15,8 +15,8 @@ namespace
 
 using enum PropertyId;
 
-constexpr size_t kKinds = 6;
-using RuleTable = std::array<std::array<const PropertyRule*, static_cast<size_t>(Count)>, kKinds>;
+constexpr size_t kKindCount = 6;
+using RuleTable = std::array<std::array<const PropertyRule*, static_cast<size_t>(Count)>, kKindCount>;
 
 void Enter(RuleTable& table, ItemKind kind, std::span<const PropertyRule> rules)
 {

@@ -44,7 +44,7 @@ bool HasDefaultName(const MailFolder& folder)
 }
 
 // What every item states, whoever wrote it.
-void Complete(StoredItem& item)
+void FillIn(StoredItem& item)
 {
     if (item.properties.Find(PropertyId::MessageClass) == nullptr)
     {
@@ -79,7 +79,7 @@ StoredItemRef ItemOfRows(MailFolder& folder, long index, ItemRows&& rows)
         }
     }
     item->links = std::move(rows.links);
-    Complete(*item);
+    FillIn(*item);
     return item;
 }
 
@@ -235,7 +235,7 @@ StoredItemRef Mailbox::Save(MailFolder& folder, StoredItemRef item, ItemKind kin
     {
         value.Type() == VT_EMPTY ? item->properties.Remove(id) : item->properties.Put(id, value);
     }
-    Complete(*item);
+    FillIn(*item);
     if (links != nullptr)
     {
         item->links = *links;

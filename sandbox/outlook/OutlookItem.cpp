@@ -31,7 +31,7 @@ struct KindRow
     const wchar_t* className;
 };
 
-constexpr KindRow kKinds[] = {
+constexpr KindRow kKindRows[] = {
     {ItemKind::Mail, 43, L"MailItem"},       {ItemKind::Appointment, 26, L"AppointmentItem"},
     {ItemKind::Contact, 40, L"ContactItem"}, {ItemKind::Task, 48, L"TaskItem"},
     {ItemKind::Note, 44, L"NoteItem"},
@@ -39,18 +39,18 @@ constexpr KindRow kKinds[] = {
 
 const KindRow& RowOf(ItemKind kind)
 {
-    return *std::ranges::find(kKinds, kind, &KindRow::kind);
+    return *std::ranges::find(kKindRows, kind, &KindRow::kind);
 }
 
-ItemDraft& DraftOf(DispatchObject& self)
+ItemDraft& DraftOfItem(DispatchObject& self)
 {
     return const_cast<ItemDraft&>(static_cast<OutlookItem&>(self).Draft());
 }
 
 Member MemberOf(PropertyId id)
 {
-    return {PropertyOf(id).name, [id](DispatchObject& self, const Call&) { return DraftOf(self).Read(id); },
-            [id](DispatchObject& self, const Call& call) { DraftOf(self).Assign(id, call.Assigned()); }};
+    return {PropertyOf(id).name, [id](DispatchObject& self, const Call&) { return DraftOfItem(self).Read(id); },
+            [id](DispatchObject& self, const Call& call) { DraftOfItem(self).Assign(id, call.Assigned()); }};
 }
 
 } // namespace
@@ -99,7 +99,7 @@ template<typename T>
 ByKind<T> ForEveryKind(T (*make)(ItemKind kind))
 {
     ByKind<T> made;
-    for (const KindRow& row : kKinds)
+    for (const KindRow& row : kKindRows)
     {
         made.emplace(row.kind, make(row.kind));
     }

@@ -174,7 +174,7 @@ void WritePatternStart(ItemDraft& item, const Value& converted)
     item.Put(RecurrencePatternStartDate, converted);
 }
 
-constexpr PropertyRule kRules[] = {
+constexpr PropertyRule kPatternRules[] = {
     {RecurrenceStartTime, ReadStartTime, WriteStartTime},
     {RecurrenceEndTime, ReadEndTime, WriteEndTime},
     {RecurrenceDuration, ReadPatternDuration, WritePatternDuration},
@@ -188,7 +188,7 @@ constexpr PropertyRule kRules[] = {
 
 std::span<const PropertyRule> PatternRules()
 {
-    return kRules;
+    return kPatternRules;
 }
 
 bool IsRecurrent(const ItemDraft& item)

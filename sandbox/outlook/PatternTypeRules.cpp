@@ -119,7 +119,7 @@ void WriteMask(ItemDraft& item, const Value& converted)
     WriteTyped<RecurrenceDayOfWeekMask>(item, converted);
 }
 
-constexpr PropertyRule kRules[] = {
+constexpr PropertyRule kPatternTypeRules[] = {
     {RecurrenceType, nullptr, WriteType},
     {RecurrenceInterval, ReadTyped<RecurrenceInterval, ImpliedInterval>, WriteTyped<RecurrenceInterval>},
     {RecurrenceDayOfWeekMask, ReadTyped<RecurrenceDayOfWeekMask, ImpliedMask>, WriteMask},
@@ -133,7 +133,7 @@ constexpr PropertyRule kRules[] = {
 
 std::span<const PropertyRule> PatternTypeRules()
 {
-    return kRules;
+    return kPatternTypeRules;
 }
 
 Recurrence RecurrenceOf(const ItemDraft& item)

@@ -10,7 +10,7 @@ namespace
 
 constexpr size_t kPrefix = std::char_traits<wchar_t>::length(L"Recurrence.");
 
-ItemDraft& DraftOf(DispatchObject& self)
+ItemDraft& DraftOfPattern(DispatchObject& self)
 {
     return static_cast<RecurrencePattern&>(self).Draft();
 }
@@ -23,9 +23,9 @@ MemberTable MadeMembers()
         if (IsOfPattern(id) && id != PropertyId::RecurrenceEndsByDate)
         {
             members.push_back({PropertyOf(id).name + kPrefix,
-                               [id](DispatchObject& self, const Call&) { return DraftOf(self).Read(id); },
+                               [id](DispatchObject& self, const Call&) { return DraftOfPattern(self).Read(id); },
                                [id](DispatchObject& self, const Call& call) {
-                                   DraftOf(self).Assign(id, call.Assigned());
+                                   DraftOfPattern(self).Assign(id, call.Assigned());
                                }});
         }
     }

@@ -173,7 +173,7 @@ Value ReadContactNames(const ItemDraft& item)
     return joined;
 }
 
-constexpr PropertyRule kRules[] = {
+constexpr PropertyRule kTaskRules[] = {
     {Status, nullptr, WriteStatus},
     {Complete, nullptr, WriteComplete},
     {PercentComplete, nullptr, WritePercentComplete},
@@ -188,7 +188,7 @@ constexpr PropertyRule kRules[] = {
 
 std::span<const PropertyRule> TaskRules()
 {
-    return kRules;
+    return kTaskRules;
 }
 
 } // namespace sandbox::outlook

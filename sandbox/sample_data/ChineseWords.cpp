@@ -6,13 +6,13 @@ namespace sandbox
 namespace
 {
 
-constexpr PersonName kSurnames[] = {
+constexpr PersonName kChineseSurnames[] = {
     {L"王", L"wang"},     {L"李", L"li"},    {L"张", L"zhang"}, {L"刘", L"liu"},  {L"陈", L"chen"},
     {L"杨", L"yang"},     {L"赵", L"zhao"},  {L"黄", L"huang"}, {L"周", L"zhou"}, {L"吴", L"wu"},
     {L"徐", L"xu"},       {L"孙", L"sun"},   {L"胡", L"hu"},    {L"朱", L"zhu"},  {L"高", L"gao"},
     {L"欧阳", L"ouyang"}, {L"司马", L"sima"}};
 
-constexpr GivenName kGivenNames[] = {
+constexpr GivenName kChineseGivenNames[] = {
     {{L"伟", L"wei"}, L"先生"},        {{L"芳", L"fang"}, L"女士"},       {{L"娜", L"na"}, L"女士"},
     {{L"秀英", L"xiuying"}, L"女士"},  {{L"敏", L"min"}, L"女士"},        {{L"静", L"jing"}, L"女士"},
     {{L"丽", L"li"}, L"女士"},         {{L"强", L"qiang"}, L"先生"},      {{L"磊", L"lei"}, L"先生"},
@@ -21,7 +21,7 @@ constexpr GivenName kGivenNames[] = {
     {{L"雨桐", L"yutong"}, L"女士"},   {{L"国庆", L"guoqing"}, L"先生"},  {{L"海燕", L"haiyan"}, L"女士"},
     {{L"思源", L"siyuan"}, L"先生"}};
 
-constexpr Company kCompanies[] = {
+constexpr Company kChineseCompanies[] = {
     {L"北京华信科技有限公司", L"huaxin.example"}, {L"上海东方贸易公司", L"dongfang.example"},
     {L"广州南海食品厂", L"nanhai.example"},       {L"深圳新星电子", L"xinxing.example"},
     {L"杭州西湖丝绸", L"xihu.example"},           {L"成都锦江酒店", L"jinjiang.example"},
@@ -38,7 +38,7 @@ constexpr Company kCompanies[] = {
     {L"贵阳黔酒集团", L"qianjiu.example"},        {L"兰州黄河农业", L"huanghe.example"},
     {L"海口椰风度假村", L"yefeng.example"},       {L"宁波北仑造船", L"beilun.example"}};
 
-constexpr Place kPlaces[] = {{L"中国", L"北京", L"北京", L"朝阳区建国路%号", L"100022", L"+86 10"},
+constexpr Place kChinesePlaces[] = {{L"中国", L"北京", L"北京", L"朝阳区建国路%号", L"100022", L"+86 10"},
                              {L"中国", L"上海", L"上海", L"浦东新区世纪大道%号", L"200120", L"+86 21"},
                              {L"中国", L"广东", L"广州", L"天河区体育西路%号", L"510620", L"+86 20"},
                              {L"中国", L"广东", L"深圳", L"福田区深南大道%号", L"518026", L"+86 755"},
@@ -46,29 +46,29 @@ constexpr Place kPlaces[] = {{L"中国", L"北京", L"北京", L"朝阳区建国
                              {L"中国", L"四川", L"成都", L"锦江区春熙路%号", L"610016", L"+86 28"},
                              {L"中国", L"", L"武汉", L"武昌区中南路%号", L"430071", L"+86 27"}};
 
-constexpr const wchar_t* kJobTitles[] = {L"总经理",     L"采购经理", L"销售工程师", L"财务主管",
+constexpr const wchar_t* kChineseJobTitles[] = {L"总经理",     L"采购经理", L"销售工程师", L"财务主管",
                                          L"办公室主任", L"",         L"秘书",       L"技术总监"};
 
-constexpr const wchar_t* kDepartments[] = {L"采购部", L"销售部", L"技术部", L"财务部", L"", L"行政部"};
+constexpr const wchar_t* kChineseDepartments[] = {L"采购部", L"销售部", L"技术部", L"财务部", L"", L"行政部"};
 
-constexpr const wchar_t* kTaskSubjects[] = {
+constexpr const wchar_t* kChineseTaskSubjects[] = {
     L"寄送报价单", L"回电确认交货日期", L"准备年度合同", L"催收货款",     L"寄送样品",
     L"更新价格表", L"安排参观工厂",     L"处理客户投诉", L"核对客户信用", L"整理会议纪要"};
 
-constexpr const wchar_t* kEntrySubjects[] = {L"拜访客户", L"产品演示", L"合同谈判", L"商务午餐",
+constexpr const wchar_t* kChineseEntrySubjects[] = {L"拜访客户", L"产品演示", L"合同谈判", L"商务午餐",
                                              L"展览会",   L"现场培训", L"设备验收", L"电话会议"};
 
-constexpr const wchar_t* kRepeatedSubjects[] = {L"晨会",     L"销售例会", L"月度报告",
+constexpr const wchar_t* kChineseRepeatedSubjects[] = {L"晨会",     L"销售例会", L"月度报告",
                                                 L"季度洽谈", L"半年盘点", L"生日问候"};
 
-constexpr const wchar_t* kCategories[] = {L"商务", L"电话", L"重要客户", L"内部"};
+constexpr const wchar_t* kChineseCategories[] = {L"商务", L"电话", L"重要客户", L"内部"};
 
 } // namespace
 
 const Words& ChineseWords()
 {
-    static constexpr Words words{kSurnames,    kGivenNames,   kCompanies,     kPlaces,           kJobTitles,
-                                 kDepartments, kTaskSubjects, kEntrySubjects, kRepeatedSubjects, kCategories};
+    static constexpr Words words{kChineseSurnames,    kChineseGivenNames,   kChineseCompanies,     kChinesePlaces,           kChineseJobTitles,
+                                 kChineseDepartments, kChineseTaskSubjects, kChineseEntrySubjects, kChineseRepeatedSubjects, kChineseCategories};
     return words;
 }
 

@@ -6,7 +6,7 @@ namespace sandbox
 namespace
 {
 
-constexpr PersonName kSurnames[] = {
+constexpr PersonName kEnglishSurnames[] = {
     {L"O'Brien", L"obrien"},    {L"Müller", L"mueller"},    {L"Smith", L"smith"},
     {L"Johnson", L"johnson"},   {L"García", L"garcia"},     {L"Dubois", L"dubois"},
     {L"Rossi", L"rossi"},       {L"Kowalski", L"kowalski"}, {L"Andersen", L"andersen"},
@@ -16,7 +16,7 @@ constexpr PersonName kSurnames[] = {
     {L"Lefèvre", L"lefevre"},   {L"Bianchi", L"bianchi"},   {L"Walker", L"walker"},
     {L"Schröder", L"schroeder"}};
 
-constexpr GivenName kGivenNames[] = {{{L"Anna", L"anna"}, L"Ms."},
+constexpr GivenName kEnglishGivenNames[] = {{{L"Anna", L"anna"}, L"Ms."},
                                      {{L"Patrick", L"patrick"}, L"Mr."},
                                      {{L"Jürgen", L"juergen"}, L"Mr."},
                                      {{L"Sofía", L"sofia"}, L"Ms."},
@@ -34,7 +34,7 @@ constexpr GivenName kGivenNames[] = {{{L"Anna", L"anna"}, L"Ms."},
                                      {{L"Michael", L"michael"}, L"Mr."},
                                      {{L"Zoë", L"zoe"}, L"Ms."}};
 
-constexpr Company kCompanies[] = {{L"O'Brien & Söhne GmbH", L"obrien-soehne.example"},
+constexpr Company kEnglishCompanies[] = {{L"O'Brien & Söhne GmbH", L"obrien-soehne.example"},
                                   {L"Northwind Traders Ltd.", L"northwind.example"},
                                   {L"Harbour Street Bakery", L"harbourbakery.example"},
                                   {L"Lefèvre et Fils S.A.", L"lefevre.example"},
@@ -65,7 +65,7 @@ constexpr Company kCompanies[] = {{L"O'Brien & Söhne GmbH", L"obrien-soehne.exa
                                   {L"York Instruments", L"york.example"},
                                   {L"Åkesson Möbler AB", L"akesson.example"}};
 
-constexpr Place kPlaces[] = {
+constexpr Place kEnglishPlaces[] = {
     {L"Germany", L"Thüringen", L"Jena", L"Goethestraße %", L"07743", L"+49 3641"},
     {L"United Kingdom", L"Yorkshire", L"Leeds", L"% Harbour Street", L"LS1 4DY", L"+44 113"},
     {L"Ireland", L"Munster", L"Cork", L"% St. Patrick's Quay", L"T23 AX00", L"+353 21"},
@@ -75,34 +75,34 @@ constexpr Place kPlaces[] = {
     {L"Sweden", L"", L"Malmö", L"Östergatan %", L"211 25", L"+46 40"},
     {L"Netherlands", L"Zuid-Holland", L"Leiden", L"Breestraat %", L"2311 CS", L"+31 71"}};
 
-constexpr const wchar_t* kJobTitles[] = {
+constexpr const wchar_t* kEnglishJobTitles[] = {
     L"Managing Director", L"Buyer", L"Sales Engineer", L"Head of Purchasing", L"Assistant",
     L"Accountant",        L"",      L"Foreman"};
 
-constexpr const wchar_t* kDepartments[] = {L"Purchasing", L"Sales", L"R&D", L"Finance", L"", L"Logistics"};
+constexpr const wchar_t* kEnglishDepartments[] = {L"Purchasing", L"Sales", L"R&D", L"Finance", L"", L"Logistics"};
 
-constexpr const wchar_t* kTaskSubjects[] = {
+constexpr const wchar_t* kEnglishTaskSubjects[] = {
     L"Send the quotation",        L"Call back about the delivery date", L"Prepare the annual contract",
     L"Ask for the signed order",  L"Check the customer's credit",       L"Send samples",
     L"Update the price list",     L"Arrange the factory visit",         L"Answer the complaint",
     L"Remind of the open invoice"};
 
-constexpr const wchar_t* kEntrySubjects[] = {
+constexpr const wchar_t* kEnglishEntrySubjects[] = {
     L"Visit at the customer's", L"Product presentation", L"Negotiate the contract",
     L"Lunch with the buyer",    L"Trade fair",           L"Training on site",
     L"Acceptance test",         L"Telephone conference"};
 
-constexpr const wchar_t* kRepeatedSubjects[] = {L"Morning round",   L"Sales meeting", L"Monthly report",
+constexpr const wchar_t* kEnglishRepeatedSubjects[] = {L"Morning round",   L"Sales meeting", L"Monthly report",
                                                 L"Quarterly talks", L"Stocktaking",   L"Birthday call"};
 
-constexpr const wchar_t* kCategories[] = {L"Business", L"Phone calls", L"Key Customer", L"Ideas"};
+constexpr const wchar_t* kEnglishCategories[] = {L"Business", L"Phone calls", L"Key Customer", L"Ideas"};
 
 } // namespace
 
 const Words& EnglishWords()
 {
-    static constexpr Words words{kSurnames,    kGivenNames,   kCompanies,     kPlaces,           kJobTitles,
-                                 kDepartments, kTaskSubjects, kEntrySubjects, kRepeatedSubjects, kCategories};
+    static constexpr Words words{kEnglishSurnames,    kEnglishGivenNames,   kEnglishCompanies,     kEnglishPlaces,           kEnglishJobTitles,
+                                 kEnglishDepartments, kEnglishTaskSubjects, kEnglishEntrySubjects, kEnglishRepeatedSubjects, kEnglishCategories};
     return words;
 }
 

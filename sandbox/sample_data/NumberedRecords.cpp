@@ -13,7 +13,7 @@ namespace
 using automation::Date;
 
 constexpr size_t kContactsOfCompany = 10;
-constexpr size_t kDays = 365;
+constexpr size_t kDaysOfNumbers = 365;
 
 std::wstring Numbered(const wchar_t* word, size_t number)
 {
@@ -29,7 +29,7 @@ std::wstring CompanyOf(size_t number)
 
 Date DayOf(size_t number)
 {
-    return {kSampleToday.days + static_cast<double>(number % kDays)};
+    return {kSampleToday.days + static_cast<double>(number % kDaysOfNumbers)};
 }
 
 SampleContact Contact(size_t number)

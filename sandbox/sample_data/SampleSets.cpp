@@ -9,7 +9,7 @@ namespace
 using automation::Date;
 
 constexpr unsigned kSeed = 2003;
-constexpr long kRules = 6;
+constexpr long kRuleCount = 6;
 
 // How many records there are of each kind; of the entries those that repeat come last.
 struct Counts
@@ -39,12 +39,12 @@ SampleRecords Made(SampleMaker& maker, const Counts& counts, std::vector<SampleA
     {
         const bool isRepeated = i >= counts.singleEntries;
         records.entries.push_back(
-            maker.Entry(records, isRepeated ? 1 + static_cast<long>(i - counts.singleEntries) % kRules : 0));
+            maker.Entry(records, isRepeated ? 1 + static_cast<long>(i - counts.singleEntries) % kRuleCount : 0));
     }
     return records;
 }
 
-Date TimeOfDay(int hour, int minute = 0)
+Date Time(int hour, int minute = 0)
 {
     return {(hour * 60 + minute) / 1440.0};
 }
@@ -67,21 +67,21 @@ void AddSpecialEntries(std::vector<SampleEntry>& entries)
     entry.isAllDay = false;
     entry.subject = L"Night shift at the customer's";
     entry.day = day(3);
-    entry.start = TimeOfDay(22);
-    entry.end = TimeOfDay(1);
+    entry.start = Time(22);
+    entry.end = Time(1);
     entries.push_back(entry);
 
     entry.subject = L"Stand-up meeting";
     entry.category = L"Business";
     entry.day = day(1);
-    entry.start = TimeOfDay(9);
-    entry.end = TimeOfDay(9, 15);
+    entry.start = Time(9);
+    entry.end = Time(9, 15);
     entry.repeat = 1;
     entry.lastRepeat = day(60);
     entries.push_back(entry);
     entry.subject = L"Evening course";
-    entry.start = TimeOfDay(18, 30);
-    entry.end = TimeOfDay(20);
+    entry.start = Time(18, 30);
+    entry.end = Time(20);
     entry.repeat = 2;
     entry.lastRepeat.reset();
     entries.push_back(entry);

@@ -122,7 +122,7 @@ HostValue ReadIsRecurring(const SourceProperty& property)
     return data::ReadAsIs(property);
 }
 
-constexpr data::PropertyFromOutlook kMapping[] = {
+constexpr data::PropertyFromOutlook kAppointmentToColumns[] = {
     {L"Subject", data::ReadUnlessEmpty}, {L"Categories", data::ReadCategories}, {L"Start", ReadStart},
     {L"ReminderSet", data::ReadAsIs},    {L"IsRecurring", ReadIsRecurring},
 };
@@ -132,7 +132,7 @@ constexpr data::PropertyFromOutlook kMapping[] = {
 bool AddCalendarColumns(data::RelationTable& relations, const Object& item, RowColumns& entry)
 {
     ItemProperties properties(item);
-    return data::AddRelatedColumns(relations, kMapping, data::kNoColumn, properties, entry);
+    return data::AddRelatedColumns(relations, kAppointmentToColumns, data::kNoColumn, properties, entry);
 }
 
 } // namespace calendar

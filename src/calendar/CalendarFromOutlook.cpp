@@ -20,7 +20,7 @@ using data::RowColumns;
 namespace
 {
 
-constexpr data::PassFromOutlook kPass{
+constexpr data::PassFromOutlook kCalendarFromOutlook{
     .RelationStatement = kRelationStatement,
     .RelationOptions = kRelationOptions,
     .Write = SynOlCalendarToSynCalendar,
@@ -100,7 +100,7 @@ void Save(const data::Run& run, RowColumns& entry)
 
 bool SynCalendarFromOutlook(data::Run& run)
 {
-    return data::ApplyFromOutlook(run, kPass);
+    return data::ApplyFromOutlook(run, kCalendarFromOutlook);
 }
 
 long SynOlCalendarToSynCalendar(data::Run& run, long mode, const Object& item)

@@ -34,7 +34,7 @@ void Write(data::Run& run, long mode, const Object& item)
     }
 }
 
-constexpr data::PassToOutlook kPass{
+constexpr data::PassToOutlook kCalendarToOutlook{
     .ItemType = data::kAppointmentItem,
     .RelationStatement = kRelationStatement,
     .RelationOptions = kRelationOptions,
@@ -130,7 +130,7 @@ void PutRecurrence(const TargetProperty& property)
     PutWhereGiven(pattern, L"PatternEndDate", rows.ValueOf(L"F_ACTREPTEDATE"), AsItIs);
 }
 
-constexpr data::PropertyToOutlook kMapping[] = {
+constexpr data::PropertyToOutlook kEntryToAppointment[] = {
     {L"Subject", PutAsIs},          {L"Start", PutStartAndEnd},    {L"Categories", PutAsIs},
     {L"Recipients", LinkToContact}, {L"ReminderSet", PutReminder}, {L"IsRecurring", PutRecurrence},
 };
@@ -139,7 +139,7 @@ constexpr data::PropertyToOutlook kMapping[] = {
 
 bool SynCalendarToOutlook(data::Run& run)
 {
-    return data::ApplyToOutlook(run, kPass);
+    return data::ApplyToOutlook(run, kCalendarToOutlook);
 }
 
 bool SynSynCalendarToOlCalendar(data::Run& run, long mode, const Object& item)
@@ -147,7 +147,7 @@ bool SynSynCalendarToOlCalendar(data::Run& run, long mode, const Object& item)
     return state::Trapped(true, [&] {
         if (mode == data::kNewRecord || mode == data::kExistingRecord)
         {
-            data::WriteRelatedProperties(run, kMapping, item, data::Saves::OnceAtTheEnd);
+            data::WriteRelatedProperties(run, kEntryToAppointment, item, data::Saves::OnceAtTheEnd);
         }
         return false;
     });

@@ -2,6 +2,7 @@
 
 #include "config/AdvancedOptions.h"
 #include "resources/Strings.h"
+#include "state/SharedState.h"
 
 namespace config
 {
@@ -9,7 +10,7 @@ namespace config
 namespace
 {
 
-constexpr int kRangeCount = 2;
+constexpr int kTaskRangeCount = 2;
 
 } // namespace
 
@@ -17,7 +18,7 @@ FrmAdvActivites::FrmAdvActivites()
     : FrmAdvanced(IDD_ADVACTIVITES, L"Task"),
       lblRange(*this, IDC_ADV_RANGE_EXPLANATION),
       fraRange(*this, IDC_ADV_RANGE_FRAME),
-      OptTransRange(*this, IDC_ADV_RANGE, kRangeCount, state::kAllTasks)
+      OptTransRange(*this, IDC_ADV_RANGE, kTaskRangeCount, state::kAllTasks)
 {
 }
 
@@ -33,13 +34,13 @@ void FrmAdvActivites::AddRangePage(ui::TabPages& tabs)
     OptTransRange.SetText(state::kAllTasks, resources::String(IDS_TASKS_ALL));
     OptTransRange.SetText(state::kPendingTasks, resources::String(IDS_TASKS_PENDING));
     tabs.AddPage(resources::Choose(L"任务", L"Activities"),
-                 {{IDC_ADV_RANGE_EXPLANATION, IDC_ADV_RANGE + kRangeCount - 1}});
+                 {{IDC_ADV_RANGE_EXPLANATION, IDC_ADV_RANGE + kTaskRangeCount - 1}});
 }
 
 void FrmAdvActivites::LoadRange(const automation::Recordset& row)
 {
-    Record().TaskTransItem = automation::LongOf(row.ValueOf(L"TaskTransItem"));
-    mRangeCode = Record().TaskTransItem;
+    state::EditedParameter().TaskTransItem = automation::LongOf(row.ValueOf(L"TaskTransItem"));
+    mRangeCode = state::EditedParameter().TaskTransItem;
     OptTransRange.Select(mRangeCode);
 }
 
@@ -53,13 +54,13 @@ void FrmAdvActivites::OnRange(int id, int notification)
 
 void FrmAdvActivites::Store()
 {
-    if (!TaskOptionsDiffer(Record(), ConflictCode(), mRangeCode))
+    if (!TaskOptionsDiffer(state::EditedParameter(), ConflictCode(), mRangeCode))
     {
         return;
     }
     UpdateRow(TaskSetClause(ConflictCode(), mRangeCode));
-    Record().TransConflictOption = ConflictCode();
-    Record().TaskTransItem = mRangeCode;
+    state::EditedParameter().TransConflictOption = ConflictCode();
+    state::EditedParameter().TaskTransItem = mRangeCode;
 }
 
 } // namespace config

@@ -2,6 +2,7 @@
 
 #include "config/AdvancedOptions.h"
 #include "resources/Strings.h"
+#include "state/SharedState.h"
 
 namespace config
 {
@@ -10,7 +11,7 @@ namespace
 {
 
 constexpr UINT kRangeCaptions[] = {IDS_CALENDAR_ALL, IDS_CALENDAR_FUTURE, IDS_CALENDAR_RANGE};
-constexpr int kRangeCount = static_cast<int>(std::size(kRangeCaptions));
+constexpr int kCalendarRangeCount = static_cast<int>(std::size(kRangeCaptions));
 constexpr int kMostDigits = 4; // whatever is typed fits the column
 
 } // namespace
@@ -19,7 +20,7 @@ FrmAdvCalendar::FrmAdvCalendar()
     : FrmAdvanced(IDD_ADVCALENDAR, L"Calendar"),
       lblRange(*this, IDC_ADV_RANGE_EXPLANATION),
       fraRange(*this, IDC_ADV_RANGE_FRAME),
-      OptTransItems(*this, IDC_ADV_RANGE, kRangeCount, state::kAllEntries),
+      OptTransItems(*this, IDC_ADV_RANGE, kCalendarRangeCount, state::kAllEntries),
       lblPrior(*this, IDC_ADVCALENDAR_PRIOR_LABEL),
       txtPrior(*this, IDC_ADVCALENDAR_PRIOR),
       lblAfter(*this, IDC_ADVCALENDAR_AFTER_LABEL),
@@ -36,7 +37,7 @@ void FrmAdvCalendar::AddRangePage(ui::TabPages& tabs)
 {
     lblRange.SetText(resources::String(IDS_RANGE_EXPLANATION));
     fraRange.SetText(resources::String(IDS_OPTIONS));
-    for (int i = 0; i < kRangeCount; ++i)
+    for (int i = 0; i < kCalendarRangeCount; ++i)
     {
         OptTransItems.SetText(state::kAllEntries + i, resources::String(kRangeCaptions[i]));
     }
@@ -45,20 +46,20 @@ void FrmAdvCalendar::AddRangePage(ui::TabPages& tabs)
     txtPrior.Prepare(kMostDigits, ui::DigitBox::EnterKey::MovesFocusOn);
     txtAfter.Prepare(kMostDigits, ui::DigitBox::EnterKey::ActsOnDefaultButton);
     tabs.AddPage(resources::Choose(L"日期范围", L"Date Range"),
-                 {{IDC_ADV_RANGE_EXPLANATION, IDC_ADV_RANGE + kRangeCount - 1},
+                 {{IDC_ADV_RANGE_EXPLANATION, IDC_ADV_RANGE + kCalendarRangeCount - 1},
                   {IDC_ADVCALENDAR_PRIOR_LABEL, IDC_ADVCALENDAR_AFTER}});
 }
 
 void FrmAdvCalendar::LoadRange(const automation::Recordset& row)
 {
-    Record().CalendarTransItem = automation::LongOf(row.ValueOf(L"CalendarTransItem"));
-    if (Record().CalendarTransItem == state::kEntriesWithinDays)
+    state::EditedParameter().CalendarTransItem = automation::LongOf(row.ValueOf(L"CalendarTransItem"));
+    if (state::EditedParameter().CalendarTransItem == state::kEntriesWithinDays)
     {
-        Record().CalendarPrior = automation::ShortOf(row.ValueOf(L"CalendarPrior"));
-        Record().CalendarAfter = automation::ShortOf(row.ValueOf(L"CalendarAfter"));
+        state::EditedParameter().CalendarPrior = automation::ShortOf(row.ValueOf(L"CalendarPrior"));
+        state::EditedParameter().CalendarAfter = automation::ShortOf(row.ValueOf(L"CalendarAfter"));
     }
-    OptTransItems.Select(Record().CalendarTransItem);
-    ChooseRange(Record().CalendarTransItem);
+    OptTransItems.Select(state::EditedParameter().CalendarTransItem);
+    ChooseRange(state::EditedParameter().CalendarTransItem);
 }
 
 void FrmAdvCalendar::OnRange(int id, int notification)
@@ -79,7 +80,7 @@ void FrmAdvCalendar::ChooseRange(long code)
     else if (!txtPrior.IsEnabled())
     {
         EnableDays(true);
-        const DayBoxes boxes = DayBoxesOf(Record());
+        const DayBoxes boxes = DayBoxesOf(state::EditedParameter());
         txtPrior.SetText(boxes.prior);
         txtAfter.SetText(boxes.after);
     }
@@ -96,11 +97,11 @@ void FrmAdvCalendar::Store()
     const bool hasDays = mRangeCode == state::kEntriesWithinDays;
     const short after = hasDays ? DaysIn(txtAfter.Text()) : short{0};
     const short prior = hasDays ? DaysIn(txtPrior.Text()) : short{0};
-    Record().CalendarAfter = after;
-    Record().CalendarPrior = prior;
+    state::EditedParameter().CalendarAfter = after;
+    state::EditedParameter().CalendarPrior = prior;
     UpdateRow(CalendarSetClause(ConflictCode(), mRangeCode, prior, after));
-    Record().TransConflictOption = ConflictCode();
-    Record().CalendarTransItem = mRangeCode;
+    state::EditedParameter().TransConflictOption = ConflictCode();
+    state::EditedParameter().CalendarTransItem = mRangeCode;
 }
 
 } // namespace config

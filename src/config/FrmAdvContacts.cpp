@@ -16,7 +16,7 @@ const wchar_t* FrmAdvContacts::Caption() const
 void FrmAdvContacts::Store()
 {
     UpdateRow(ContactSetClause(ConflictCode()));
-    Record().TransConflictOption = ConflictCode();
+    state::EditedParameter().TransConflictOption = ConflictCode();
 }
 
 } // namespace config

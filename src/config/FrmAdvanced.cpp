@@ -37,11 +37,6 @@ FrmAdvanced::FrmAdvanced(UINT templateId, const wchar_t* objectName)
 {
 }
 
-state::SynParameter& FrmAdvanced::Record()
-{
-    return state::Shared().gConfigureParameter;
-}
-
 void FrmAdvanced::OnInit()
 {
     SetCaptions();
@@ -76,8 +71,8 @@ void FrmAdvanced::Load()
     {
         return;
     }
-    Record().TransConflictOption = automation::LongOf(row.ValueOf(L"TransConflictOption"));
-    mConflictCode = Record().TransConflictOption;
+    state::EditedParameter().TransConflictOption = automation::LongOf(row.ValueOf(L"TransConflictOption"));
+    mConflictCode = state::EditedParameter().TransConflictOption;
     OptConflict.Select(mConflictCode);
     LoadRange(row);
 }

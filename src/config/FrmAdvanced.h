@@ -34,7 +34,6 @@ class FrmAdvanced : public ui::Dialog
     // Writes the codes to the host's table and the record.
     virtual void Store() = 0;
 
-    static state::SynParameter& Record();
     void UpdateRow(const std::wstring& setClause) const;
     long ConflictCode() const noexcept { return mConflictCode; }
 

@@ -20,11 +20,6 @@ namespace
 constexpr int kArrowColumn = 1;
 constexpr int kArrowColumnWidth = 10; // dialog units; the column then takes what is left
 
-state::SynParameter& Record()
-{
-    return state::Shared().gConfigureParameter;
-}
-
 // The row's own picture, or that of its kind where the row names none that there is.
 int PictureOfKind(const Translation& row)
 {
@@ -83,7 +78,7 @@ void FrmConfigure::SelectKindOfRecord()
 {
     for (size_t i = 0; i < mRows.size(); ++i)
     {
-        if (mRows[i].TransObject == Record().TransObject)
+        if (mRows[i].TransObject == state::EditedParameter().TransObject)
         {
             lvTran.Select(static_cast<int>(i));
             return;
@@ -95,13 +90,13 @@ void FrmConfigure::SelectKindOfRecord()
 void FrmConfigure::DescribeSelected(int row)
 {
     const Translation& translation = mRows.at(static_cast<size_t>(row));
-    SetSynParamenter(Record(), translation.TransObject);
-    Record().TransObject = translation.TransObject;
+    SetSynParamenter(state::EditedParameter(), translation.TransObject);
+    state::EditedParameter().TransObject = translation.TransObject;
     if (const ObjectKind* kind = FindObjectKind(translation.TransObject); kind != nullptr)
     {
-        Record().TransObjectPic = kind->Picture;
+        state::EditedParameter().TransObjectPic = kind->Picture;
     }
-    ApplyTo(Record(), translation);
+    ApplyTo(state::EditedParameter(), translation);
     cmdChoose.Enable(true);
     cmdAdvance.Enable(true);
 }
@@ -121,7 +116,7 @@ void FrmConfigure::TakeCheckMark(int row)
     Redraw(row);
     if (lvTran.Selected() == row)
     {
-        ApplyTo(Record(), mRows[static_cast<size_t>(row)]);
+        ApplyTo(state::EditedParameter(), mRows[static_cast<size_t>(row)]);
     }
 }
 
@@ -162,13 +157,13 @@ void FrmConfigure::OnChoose()
         return;
     }
     FrmSynChoose().ShowModal();
-    TakeFrom(mRows.at(static_cast<size_t>(*row)), Record());
+    TakeFrom(mRows.at(static_cast<size_t>(*row)), state::EditedParameter());
     Redraw(*row);
 }
 
 void FrmConfigure::OnAdvance()
 {
-    ShowAdvancedOptions(Record().TransObject);
+    ShowAdvancedOptions(state::EditedParameter().TransObject);
 }
 
 void FrmConfigure::OnOk()

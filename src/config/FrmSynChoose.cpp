@@ -23,11 +23,6 @@ constexpr wchar_t kOutlookSource[] = L"Outlook";
 
 constexpr int kDirectionCount = 3;
 
-state::SynParameter& Record()
-{
-    return state::Shared().gConfigureParameter;
-}
-
 } // namespace
 
 FrmSynChoose::FrmSynChoose()
@@ -53,7 +48,7 @@ void FrmSynChoose::OnInit()
     lstTran.Add(L"Ms Outlook");
     state::Trapped(false, [&] {
         TakeFromRecord();
-        LoadDefaultFolder(Record(), Record().TransObject);
+        LoadDefaultFolder(state::EditedParameter(), state::EditedParameter().TransObject);
         ShowFolder();
         return true;
     });
@@ -61,7 +56,7 @@ void FrmSynChoose::OnInit()
 
 void FrmSynChoose::SetCaptions()
 {
-    if (const ObjectKind* kind = FindObjectKind(Record().TransObject); kind != nullptr)
+    if (const ObjectKind* kind = FindObjectKind(state::EditedParameter().TransObject); kind != nullptr)
     {
         SetCaption(resources::String(kind->Caption));
     }
@@ -81,16 +76,16 @@ void FrmSynChoose::SetCaptions()
 
 void FrmSynChoose::TakeFromRecord()
 {
-    mTransType = Record().TransType;
-    mTransTypePic = Record().TransTypePic;
-    mTransSource = Record().TransSource;
+    mTransType = state::EditedParameter().TransType;
+    mTransTypePic = state::EditedParameter().TransTypePic;
+    mTransSource = state::EditedParameter().TransSource;
     OptSynType.Select(mTransType);
     lstTran.Select(mTransSource.empty() ? kNone : kOutlook);
 }
 
 void FrmSynChoose::ShowFolder()
 {
-    txtFolder.SetText(mTransSource.empty() ? std::wstring() : Record().CurrentFolder);
+    txtFolder.SetText(mTransSource.empty() ? std::wstring() : state::EditedParameter().CurrentFolder);
 }
 
 void FrmSynChoose::OnCommand(int id, int notification)
@@ -127,11 +122,11 @@ void FrmSynChoose::OnTranslator()
         return;
     }
     mTransSource = kOutlookSource;
-    const std::wstring& current = Record().CurrentFolder;
-    txtFolder.SetText(current.empty() ? Record().DefaultFolder : current);
+    const std::wstring& current = state::EditedParameter().CurrentFolder;
+    txtFolder.SetText(current.empty() ? state::EditedParameter().DefaultFolder : current);
     if (!mDirectionChosen) // or the picture would contradict the option that the user sees set
     {
-        mTransTypePic = Record().TransTypePic;
+        mTransTypePic = state::EditedParameter().TransTypePic;
     }
 }
 
@@ -151,7 +146,7 @@ void FrmSynChoose::OnBrowse()
     {
         return;
     }
-    FrmSynContent(Record()).ShowModalOver(*this);
+    FrmSynContent(state::EditedParameter()).ShowModalOver(*this);
     ShowFolder();
 }
 
@@ -167,10 +162,10 @@ void FrmSynChoose::OnOption()
 
 void FrmSynChoose::OnOk()
 {
-    Record().TransSource = mTransSource;
-    Record().TransType = mTransType;
-    Record().TransTypePic = mTransTypePic;
-    Record().IsTrans = !mTransSource.empty();
+    state::EditedParameter().TransSource = mTransSource;
+    state::EditedParameter().TransType = mTransType;
+    state::EditedParameter().TransTypePic = mTransTypePic;
+    state::EditedParameter().IsTrans = !mTransSource.empty();
     Unload(IDOK);
 }
 

@@ -49,7 +49,7 @@ HostValue ReadDate(const SourceProperty& property)
 }
 
 // Company and business address are not here: they reach the host through the account and address links.
-constexpr data::PropertyFromOutlook kMapping[] = {
+constexpr data::PropertyFromOutlook kItemToContactColumns[] = {
     {L"LastName", ReadName},
     {L"FirstName", ReadName},
     {L"Suffix", ReadInChineseWhenFilled},
@@ -80,7 +80,7 @@ bool AddContactColumns(data::RelationTable& relations, const automation::Object&
                        data::RowColumns& contact)
 {
     data::ItemProperties properties(item);
-    return data::AddRelatedColumns(relations, kMapping, data::kNoColumn, properties, contact);
+    return data::AddRelatedColumns(relations, kItemToContactColumns, data::kNoColumn, properties, contact);
 }
 
 } // namespace contacts

@@ -14,7 +14,7 @@ using data::PutAsIs;
 using data::PutDate;
 using data::TargetProperty;
 
-constexpr data::PassToOutlook kPass{
+constexpr data::PassToOutlook kContactsToOutlook{
     .ItemType = data::kContactItem,
     .RelationStatement = L"Select * From SynRelation Where QuenlarTblName='TBLCONTACT'",
     .RelationOptions = {},
@@ -54,7 +54,7 @@ void PutCompany(const TargetProperty& property)
     property.Item.Put(L"Companies", property.HostValue);
 }
 
-constexpr data::PropertyToOutlook kMapping[] = {
+constexpr data::PropertyToOutlook kContactToItem[] = {
     {L"FirstName", PutFirstName},
     {L"LastName", PutLastName},
     {L"Suffix", PutInChinese},
@@ -89,12 +89,12 @@ constexpr data::PropertyToOutlook kMapping[] = {
 
 bool SynContactToOutlook(data::Run& run)
 {
-    return data::ApplyToOutlook(run, kPass);
+    return data::ApplyToOutlook(run, kContactsToOutlook);
 }
 
 void SynSynContactToOlContact(data::Run& run, long /*mode*/, const automation::Object& item)
 {
-    data::WriteRelatedProperties(run, kMapping, item, data::Saves::OnceAtTheEnd);
+    data::WriteRelatedProperties(run, kContactToItem, item, data::Saves::OnceAtTheEnd);
 }
 
 } // namespace contacts

@@ -79,6 +79,11 @@ SharedState& Shared()
     return TheRegistry().OfThread();
 }
 
+SynParameter& EditedParameter()
+{
+    return Shared().gConfigureParameter;
+}
+
 void FreeStateOfThread() noexcept
 {
     if (gRegistry != nullptr)

@@ -39,6 +39,8 @@ struct SharedState
 
 // The calling thread's state, made on first use.
 SharedState& Shared();
+// The record that the thread's configuration dialogs edit.
+SynParameter& EditedParameter();
 
 // For the module's entry point: the thread ends, the module goes.
 void FreeStateOfThread() noexcept;

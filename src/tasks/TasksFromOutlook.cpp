@@ -25,7 +25,7 @@ using data::HostValue;
 using data::ReadAsIs;
 using data::SourceProperty;
 
-constexpr data::PassFromOutlook kPass{
+constexpr data::PassFromOutlook kTasksFromOutlook{
     .RelationStatement = kRelationStatement,
     .RelationOptions = kRelationOptions,
     .Write = SynOlTaskToSynTask,
@@ -79,7 +79,7 @@ HostValue ReadReminder(const SourceProperty& property)
 }
 
 // Contact and company are not here: they reach the host through the links.
-constexpr data::PropertyFromOutlook kMapping[] = {
+constexpr data::PropertyFromOutlook kTaskToColumns[] = {
     {L"Subject", data::ReadUnlessEmpty},
     {L"StartDate", ReadDay},
     {L"DueDate", ReadDay},
@@ -129,7 +129,7 @@ void Write(const Host& host, const data::Run& run, const Object& item, RowColumn
 
 bool SynTaskFromOutlook(data::Run& run)
 {
-    return data::ApplyFromOutlook(run, kPass);
+    return data::ApplyFromOutlook(run, kTasksFromOutlook);
 }
 
 long SynOlTaskToSynTask(data::Run& run, long mode, const Object& item)
@@ -137,7 +137,7 @@ long SynOlTaskToSynTask(data::Run& run, long mode, const Object& item)
     return state::Trapped(-1L, [&] {
         RowColumns task(run.Catalogue, mode);
         data::ItemProperties properties(item);
-        data::Demand(data::AddRelatedColumns(run.Relations, kMapping, Value(), properties, task), L"Subject");
+        data::Demand(data::AddRelatedColumns(run.Relations, kTaskToColumns, Value(), properties, task), L"Subject");
         const Host host;
         data::Transaction transaction(host);
         Write(host, run, item, task);

@@ -19,7 +19,7 @@ using data::PutAsIs;
 using data::PutDate;
 using data::TargetProperty;
 
-constexpr data::PassToOutlook kPass{
+constexpr data::PassToOutlook kTasksToOutlook{
     .ItemType = data::kTaskItem,
     .RelationStatement = kRelationStatement,
     .RelationOptions = kRelationOptions,
@@ -88,7 +88,7 @@ void PutReminder(const TargetProperty& property)
     }
 }
 
-constexpr data::PropertyToOutlook kMapping[] = {
+constexpr data::PropertyToOutlook kActivityToTask[] = {
     {L"Subject", PutAsIs},
     {L"StartDate", PutDate},
     {L"DueDate", PutDate},
@@ -109,14 +109,14 @@ constexpr data::PropertyToOutlook kMapping[] = {
 
 bool SynTaskToOutlook(data::Run& run)
 {
-    return data::ApplyToOutlook(run, kPass);
+    return data::ApplyToOutlook(run, kTasksToOutlook);
 }
 
 void SynSynTaskToOlTask(data::Run& run, long mode, const automation::Object& item)
 {
     if (mode == data::kNewRecord || mode == data::kExistingRecord)
     {
-        data::WriteRelatedProperties(run, kMapping, item, data::Saves::AfterEachRowToo);
+        data::WriteRelatedProperties(run, kActivityToTask, item, data::Saves::AfterEachRowToo);
     }
 }
 

@@ -8,7 +8,7 @@ namespace ui
 namespace
 {
 
-constexpr UINT_PTR kSubclass = 1;
+constexpr UINT_PTR kDigitBoxSubclass = 1;
 constexpr WPARAM kBackspace = 8;
 constexpr WPARAM kEnter = 13;
 
@@ -45,7 +45,7 @@ LRESULT CALLBACK Filter(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
         }
         break;
     case WM_PASTE: return 0; // it could bring anything
-    case WM_NCDESTROY: RemoveWindowSubclass(window, Filter, kSubclass); break;
+    case WM_NCDESTROY: RemoveWindowSubclass(window, Filter, kDigitBoxSubclass); break;
     default: break;
     }
     return DefSubclassProc(window, message, wParam, lParam);
@@ -56,7 +56,7 @@ LRESULT CALLBACK Filter(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
 void DigitBox::Prepare(int digits, EnterKey enter)
 {
     Send(EM_SETLIMITTEXT, static_cast<WPARAM>(digits));
-    SetWindowSubclass(Handle(), Filter, kSubclass, enter == EnterKey::MovesFocusOn ? 1 : 0);
+    SetWindowSubclass(Handle(), Filter, kDigitBoxSubclass, enter == EnterKey::MovesFocusOn ? 1 : 0);
 }
 
 } // namespace ui

@@ -8,7 +8,7 @@ namespace ui
 namespace
 {
 
-constexpr UINT_PTR kSubclass = 1;
+constexpr UINT_PTR kTabPagesSubclass = 1;
 
 // Text boxes that are disabled ask like labels do, but keep their own ground.
 bool IsTextBox(HWND control)
@@ -54,7 +54,7 @@ LRESULT CALLBACK TabPages::GiveGround(HWND dialog, UINT message, WPARAM wParam, 
     const auto control = reinterpret_cast<HWND>(lParam);
     if (message == WM_NCDESTROY)
     {
-        RemoveWindowSubclass(dialog, GiveGround, kSubclass);
+        RemoveWindowSubclass(dialog, GiveGround, kTabPagesSubclass);
     }
     const LRESULT result = DefSubclassProc(dialog, message, wParam, lParam);
     if (message == WM_PRINTCLIENT)
@@ -73,7 +73,7 @@ LRESULT CALLBACK TabPages::GiveGround(HWND dialog, UINT message, WPARAM wParam, 
 void TabPages::AddPage(const std::wstring& caption, std::initializer_list<Range> controls)
 {
     AddTab(caption);
-    SetWindowSubclass(GetParent(Handle()), GiveGround, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowSubclass(GetParent(Handle()), GiveGround, kTabPagesSubclass, reinterpret_cast<DWORD_PTR>(this));
     mPages.emplace_back(controls);
     ShowPage(0);
 }

@@ -18,7 +18,7 @@ long BusyPeriod()
 }
 
 // When Outlook begins to refuse calls.
-enum When
+enum BusyPhase
 {
     kCreating = 1, // before SynLoad
     kCollecting = 2,
@@ -28,7 +28,7 @@ enum When
 struct Busy
 {
     Task task;
-    int when; // of When, added
+    int when; // of BusyPhase, added
 };
 
 std::vector<Busy> Tried()
@@ -40,7 +40,7 @@ std::vector<Busy> Tried()
     std::vector<Busy> tried;
     for (const wchar_t* kind : kKinds)
     {
-        for (const When when : {kCreating, kCollecting, kWriting})
+        for (const BusyPhase when : {kCreating, kCollecting, kWriting})
         {
             tried.push_back({{kind, kBoth}, when});
         }
@@ -55,7 +55,7 @@ class OutlookIsBusy : public testing::Test
     {
         site.Prepare(busy.task.direction);
         Server server(site);
-        const auto disturb = [&](When when) {
+        const auto disturb = [&](BusyPhase when) {
             if ((busy.when & when) != 0)
             {
                 server.Disturb(L"RejectCallsFor", milliseconds);

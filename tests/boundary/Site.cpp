@@ -19,8 +19,9 @@ using automation::Object;
 namespace
 {
 
-constexpr size_t kRecords = 4;                       // of each kind on either side
-constexpr auto kPatience = std::chrono::seconds(90); // more than what the component has with a busy Outlook
+constexpr size_t kRecords = 4; // of each kind on either side
+constexpr auto kRunPatience =
+    std::chrono::seconds(90); // more than what the component has with a busy Outlook
 
 std::wstring NewFile(const wchar_t* name)
 {
@@ -155,7 +156,7 @@ bool Site::SynLoad(Robot::Script user, const Object& dtc)
 
 bool Site::SynLoad(Robot::Script user, const Object& dtc, const std::wstring& connection)
 {
-    Robot robot(std::move(user), kPatience);
+    Robot robot(std::move(user), kRunPatience);
     const Object component = Object::Create(L"TelvixOutlook.ClsSynOutlook");
     Object given = dtc;
     const bool refused = automation::TruthOf(component.Call(L"SynLoad", ByRef(given), connection));

@@ -129,7 +129,10 @@ TEST(Pictures, AreAllThereWhileAnotherThreadMakesAndDestroysWindows)
         try
         {
             const Pictures pictures;
-            complete += ImageList_GetImageCount(pictures.List().Handle()) == std::size(kKeys) ? 1 : 0;
+            complete +=
+                static_cast<size_t>(ImageList_GetImageCount(pictures.List().Handle())) == std::size(kKeys)
+                    ? 1
+                    : 0;
         }
         catch (const std::bad_alloc&) // noticed by its absence
         {

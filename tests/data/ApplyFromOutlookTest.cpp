@@ -47,14 +47,14 @@ class Items : public sandbox::DispatchObject
     long mPosition;
 };
 
-std::vector<std::wstring> gWritten;
+std::vector<std::wstring> gWrittenRows;
 
 // Writes down mode, item and host row, and fails for every second item.
-long WriteDown(Run& run, long mode, const Object& item)
+long WriteRow(Run& run, long mode, const Object& item)
 {
     const long position = LongOf(item.Get(L"Position"));
-    gWritten.push_back((mode == data::kNewRecord ? L"new " : L"row ") + std::to_wstring(position) +
-                       (mode == data::kNewRecord ? L"" : L" " + TextOf(run.HostRows.ValueOf(L"Id"))));
+    gWrittenRows.push_back((mode == data::kNewRecord ? L"new " : L"row ") + std::to_wstring(position) +
+                           (mode == data::kNewRecord ? L"" : L" " + TextOf(run.HostRows.ValueOf(L"Id"))));
     return position % 2 == 0 ? -1 : 0;
 }
 
@@ -63,7 +63,7 @@ class ApplyFromOutlook : public testing::Test
   protected:
     ApplyFromOutlook()
     {
-        gWritten.clear();
+        gWrittenRows.clear();
         TheRun.Items = sandbox::MakeObject<Items>();
         TheRun.HostRows =
             automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"first"}, {L"second"}, {L"third"}}}));
@@ -75,7 +75,7 @@ class ApplyFromOutlook : public testing::Test
         TheRun.Pending.ChangedHostRecords.Add(row, mark);
     }
 
-    bool Apply() { return data::ApplyFromOutlook(TheRun, {L"SELECT", {}, WriteDown}); }
+    bool Apply() { return data::ApplyFromOutlook(TheRun, {L"SELECT", {}, WriteRow}); }
 
     test_support::RecordingDisplay Display;
     data::Run TheRun{Display, {}, {}, {}, {}, {}, {}};
@@ -85,7 +85,7 @@ TEST_F(ApplyFromOutlook, NothingPendingWritesNothingAndSucceeds)
 {
     const test_support::WithLanguage english(resources::Language::English);
     EXPECT_FALSE(Apply());
-    EXPECT_TRUE(gWritten.empty());
+    EXPECT_TRUE(gWrittenRows.empty());
     EXPECT_EQ(Display.Status, L"Begin Synchronize...");
     EXPECT_EQ(Display.TimesShown, 1);
     EXPECT_FALSE(Display.IsShown);
@@ -98,7 +98,7 @@ TEST_F(ApplyFromOutlook, NewItemsAreWrittenInOrderAndAFailedOneDoesNotStopTheWal
         TheRun.Pending.NewOutlookItems.Add(item, 0);
     }
     EXPECT_FALSE(Apply());
-    EXPECT_EQ(gWritten, (std::vector<std::wstring>{L"new 1", L"new 2", L"new 5"}));
+    EXPECT_EQ(gWrittenRows, (std::vector<std::wstring>{L"new 1", L"new 2", L"new 5"}));
 }
 
 TEST_F(ApplyFromOutlook, ARecordWithoutAnItemIsPassedOverAndStillAdvancesTheBar)
@@ -107,7 +107,7 @@ TEST_F(ApplyFromOutlook, ARecordWithoutAnItemIsPassedOverAndStillAdvancesTheBar)
     TheRun.Pending.NewOutlookItems.Add(L"3", 0);
     AddPair(L"", 0, 1);
     EXPECT_FALSE(Apply());
-    EXPECT_EQ(gWritten, (std::vector<std::wstring>{L"new 3"}));
+    EXPECT_EQ(gWrittenRows, (std::vector<std::wstring>{L"new 3"}));
     EXPECT_EQ(Display.Progress, (Progress{0, 0, 0.5, 1, 0, 1}));
 }
 
@@ -116,7 +116,7 @@ TEST_F(ApplyFromOutlook, AChangedItemIsWrittenOverTheRowOfItsPair)
     AddPair(L"7", 0, 3);
     AddPair(L"4", 0, 1);
     EXPECT_FALSE(Apply());
-    EXPECT_EQ(gWritten, (std::vector<std::wstring>{L"row 7 third", L"row 4 first"}));
+    EXPECT_EQ(gWrittenRows, (std::vector<std::wstring>{L"row 7 third", L"row 4 first"}));
 }
 
 TEST_F(ApplyFromOutlook, OnlyMarkZeroIsWrittenToTheHostAndTheOthersStillAdvanceTheBar)
@@ -126,7 +126,7 @@ TEST_F(ApplyFromOutlook, OnlyMarkZeroIsWrittenToTheHostAndTheOthersStillAdvanceT
     AddPair(L"5", 0, 3);
     AddPair(L"7", -1, 1);
     EXPECT_FALSE(Apply());
-    EXPECT_EQ(gWritten, (std::vector<std::wstring>{L"row 5 third"}));
+    EXPECT_EQ(gWrittenRows, (std::vector<std::wstring>{L"row 5 third"}));
     EXPECT_EQ(Display.Progress, (Progress{0, 0, 0, 0.25, 0.5, 0.75, 1}));
 }
 
@@ -136,7 +136,7 @@ TEST_F(ApplyFromOutlook, AnItemThatOutlookDoesNotGiveEndsThePassAsAFailure)
     TheRun.Pending.NewOutlookItems.Add(L"13", 0);
     TheRun.Pending.NewOutlookItems.Add(L"3", 0);
     EXPECT_TRUE(Apply());
-    EXPECT_EQ(gWritten, (std::vector<std::wstring>{L"new 1"}));
+    EXPECT_EQ(gWrittenRows, (std::vector<std::wstring>{L"new 1"}));
     EXPECT_FALSE(Display.IsShown);
 }
 
@@ -144,7 +144,7 @@ TEST_F(ApplyFromOutlook, AHostRowThatIsGoneEndsThePassAsAFailure)
 {
     AddPair(L"1", 0, 99);
     EXPECT_TRUE(Apply());
-    EXPECT_TRUE(gWritten.empty());
+    EXPECT_TRUE(gWrittenRows.empty());
 }
 
 TEST_F(ApplyFromOutlook, AChangedItemWithoutAPairEndsThePassAsAFailure)

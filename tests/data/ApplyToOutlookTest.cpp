@@ -16,24 +16,24 @@ using automation::Value;
 using data::Run;
 
 // Folder.Items that gives an object for every item asked for or added.
-class Items : public sandbox::DispatchObject
+class FolderItems : public sandbox::DispatchObject
 {
     const wchar_t* ClassName() const override { return L"Items"; }
     const sandbox::MemberTable& Members() const override
     {
-        static const sandbox::MemberTable kMembers = {{L"Item", sandbox::Reads(&Items::Another), {}},
-                                                      {L"Add", sandbox::Reads(&Items::Another), {}}};
+        static const sandbox::MemberTable kMembers = {{L"Item", sandbox::Reads(&FolderItems::Another), {}},
+                                                      {L"Add", sandbox::Reads(&FolderItems::Another), {}}};
         return kMembers;
     }
 
-    Value Another(const sandbox::Call& /*call*/) { return sandbox::MakeObject<Items>(); }
+    Value Another(const sandbox::Call& /*call*/) { return sandbox::MakeObject<FolderItems>(); }
 };
 
-std::vector<long> gWritten; // modes
+std::vector<long> gWrittenModes; // modes
 
-void WriteDown(Run& /*run*/, long mode, const Object& /*item*/)
+void WriteMode(Run& /*run*/, long mode, const Object& /*item*/)
 {
-    gWritten.push_back(mode);
+    gWrittenModes.push_back(mode);
 }
 
 class ApplyToOutlook : public testing::Test
@@ -41,12 +41,12 @@ class ApplyToOutlook : public testing::Test
   protected:
     ApplyToOutlook()
     {
-        gWritten.clear();
-        TheRun.Items = sandbox::MakeObject<Items>();
+        gWrittenModes.clear();
+        TheRun.Items = sandbox::MakeObject<FolderItems>();
         TheRun.HostRows = automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"first"}}}));
     }
 
-    bool Apply() { return data::ApplyToOutlook(TheRun, {data::kTaskItem, L"SELECT", {}, WriteDown}); }
+    bool Apply() { return data::ApplyToOutlook(TheRun, {data::kTaskItem, L"SELECT", {}, WriteMode}); }
 
     test_support::WithLanguage English{resources::Language::English};
     test_support::RecordingDisplay Display;
@@ -63,7 +63,7 @@ TEST_F(ApplyToOutlook, NothingPendingShowsTheStatusAsksOutlookForNothingAndSucce
         L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"(hidden)"};
     EXPECT_EQ(events, Display.Events);
     EXPECT_EQ(0, calls.Total());
-    EXPECT_TRUE(gWritten.empty());
+    EXPECT_TRUE(gWrittenModes.empty());
 }
 
 TEST_F(ApplyToOutlook, APendingRecordReachesOutlook)
@@ -72,5 +72,5 @@ TEST_F(ApplyToOutlook, APendingRecordReachesOutlook)
     const test_support::CallCounter calls;
     EXPECT_FALSE(Apply());
     EXPECT_EQ(1, calls.Of(L"Items.Add"));
-    EXPECT_EQ(std::vector<long>{data::kNewRecord}, gWritten);
+    EXPECT_EQ(std::vector<long>{data::kNewRecord}, gWrittenModes);
 }

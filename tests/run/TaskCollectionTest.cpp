@@ -13,15 +13,15 @@ using automation::Date;
 using automation::Value;
 using state::Shared;
 
-constexpr Date kDay{37747};     // 2003-05-06
-constexpr Date kNextDay{37748}; //
-constexpr Date kNoDate{949998}; // 4501-01-01
+constexpr Date kTaskDay{37747};     // 2003-05-06
+constexpr Date kNextTaskDay{37748}; //
+constexpr Date kNoTaskDate{949998}; // 4501-01-01
 
 Record Task(Value subject, Value complete = false)
 {
     return {{L"Subject", std::move(subject)},
             {L"Categories", L""},
-            {L"StartDate", kDay},
+            {L"StartDate", kTaskDay},
             {L"Companies", L""},
             {L"Complete", std::move(complete)}};
 }
@@ -30,7 +30,7 @@ Record TaskRow(Value name, Value completed = Value::Null())
 {
     return {{L"F_ACTNAME", std::move(name)},
             {L"F_ACTTYPE", Value::Null()},
-            {L"F_ACTPSTIME", kDay},
+            {L"F_ACTPSTIME", kTaskDay},
             {L"ACC_SNAME", Value::Null()},
             {L"F_ACTCOMPLETED", std::move(completed)}};
 }
@@ -121,7 +121,8 @@ Record RandomTask(RandomData& random)
     Record record{
         {L"Subject", random.Pick({L"Call", L" call ", L"", Value(), Value::Null()})},
         {L"Categories", random.Pick({L"Phone", L"PHONE", L"", L"(Unspecified)", Value::Null()})},
-        {L"StartDate", random.Pick({kDay, Date{kDay.days + 0.4}, kNextDay, kNoDate, Value()})},
+        {L"StartDate",
+         random.Pick({kTaskDay, Date{kTaskDay.days + 0.4}, kNextTaskDay, kNoTaskDate, Value()})},
         {L"Companies", random.Pick({L"Harbour", L"harbour ", L"", Value()})},
         {L"Complete", random.Pick({true, false, false, 0L})},
     };
@@ -137,7 +138,8 @@ Record RandomTaskRow(RandomData& random)
     Record record{
         {L"F_ACTNAME", random.Pick({L"Call", L"CALL", L"", Value::Null()})},
         {L"F_ACTTYPE", random.Pick({L"Phone", L"(未指定)", L"(Unspecified)", L"", Value::Null()})},
-        {L"F_ACTPSTIME", random.Pick({kDay, Date{kDay.days + 0.9}, kNextDay, kNoDate, Value::Null()})},
+        {L"F_ACTPSTIME",
+         random.Pick({kTaskDay, Date{kTaskDay.days + 0.9}, kNextTaskDay, kNoTaskDate, Value::Null()})},
         {L"ACC_SNAME", random.Pick({L"Harbour", L"", Value::Null()})},
         {L"F_ACTCOMPLETED", random.Pick({true, false, 1L, Value::Null()})},
     };

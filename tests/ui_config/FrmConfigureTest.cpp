@@ -12,7 +12,7 @@ namespace
 using namespace ui_config_tests;
 using config::Pictures;
 
-constexpr int kList = IDC_CONFIGURE_LIST;
+constexpr int kKindList = IDC_CONFIGURE_LIST;
 constexpr int kContact = 0;
 constexpr int kTask = 1;
 constexpr int kCalendar = 2;
@@ -42,9 +42,9 @@ TEST_P(FrmConfigure, SpeaksTheLanguageOfTheInterface)
             EXPECT_EQ(In(GetParam(), L"Choo&se...", L"选择(&S)..."), dialog.Text(IDC_CONFIGURE_CHOOSE));
             EXPECT_EQ(In(GetParam(), L"&OK", L"确定(&O)"), dialog.Text(IDOK));
             EXPECT_EQ(In(GetParam(), L"&Cancel", L"取消(&C)"), dialog.Text(IDCANCEL));
-            EXPECT_EQ(In(GetParam(), L"Contact", L"联系人"), dialog.Row(kList, kContact));
-            EXPECT_EQ(In(GetParam(), L"Task", L"任务"), dialog.Row(kList, kTask));
-            EXPECT_EQ(In(GetParam(), L"Calendar", L"日历"), dialog.Row(kList, kCalendar));
+            EXPECT_EQ(In(GetParam(), L"Contact", L"联系人"), dialog.Row(kKindList, kContact));
+            EXPECT_EQ(In(GetParam(), L"Task", L"任务"), dialog.Row(kKindList, kTask));
+            EXPECT_EQ(In(GetParam(), L"Calendar", L"日历"), dialog.Row(kKindList, kCalendar));
             dialog.Close();
         },
         config::ShowConfigure);
@@ -55,16 +55,16 @@ TEST_P(FrmConfigure, RowsShowTheirKindTheirCheckMarkAndTheirDirection)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            EXPECT_EQ(3, dialog.Rows(kList));
-            EXPECT_TRUE(IsChecked(dialog, kList, kContact));
-            EXPECT_FALSE(IsChecked(dialog, kList, kTask));
-            EXPECT_FALSE(IsChecked(dialog, kList, kCalendar));
-            EXPECT_EQ(Pictures::IndexOf(L"contact"), PictureOf(dialog, kList, kContact, 0));
-            EXPECT_EQ(Pictures::IndexOf(L"task"), PictureOf(dialog, kList, kTask, 0));
-            EXPECT_EQ(Pictures::IndexOf(L"calendar"), PictureOf(dialog, kList, kCalendar, 0));
-            EXPECT_EQ(Pictures::IndexOf(L"each"), PictureOf(dialog, kList, kContact, 1));
-            EXPECT_EQ(-1, PictureOf(dialog, kList, kTask, 1));
-            EXPECT_EQ(-1, PictureOf(dialog, kList, kCalendar, 1));
+            EXPECT_EQ(3, dialog.Rows(kKindList));
+            EXPECT_TRUE(IsChecked(dialog, kKindList, kContact));
+            EXPECT_FALSE(IsChecked(dialog, kKindList, kTask));
+            EXPECT_FALSE(IsChecked(dialog, kKindList, kCalendar));
+            EXPECT_EQ(Pictures::IndexOf(L"contact"), PictureOf(dialog, kKindList, kContact, 0));
+            EXPECT_EQ(Pictures::IndexOf(L"task"), PictureOf(dialog, kKindList, kTask, 0));
+            EXPECT_EQ(Pictures::IndexOf(L"calendar"), PictureOf(dialog, kKindList, kCalendar, 0));
+            EXPECT_EQ(Pictures::IndexOf(L"each"), PictureOf(dialog, kKindList, kContact, 1));
+            EXPECT_EQ(-1, PictureOf(dialog, kKindList, kTask, 1));
+            EXPECT_EQ(-1, PictureOf(dialog, kKindList, kCalendar, 1));
             dialog.Close();
         },
         config::ShowConfigure);
@@ -76,7 +76,7 @@ TEST_P(FrmConfigure, AUserWithoutRowsGetsThemFromTheTemplates)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            EXPECT_EQ(3, dialog.Rows(kList));
+            EXPECT_EQ(3, dialog.Rows(kKindList));
             dialog.Close();
         },
         config::ShowConfigure);
@@ -89,7 +89,7 @@ TEST_P(FrmConfigure, WithoutAHostTheListIsEmptyAndTheDialogOpens)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            EXPECT_EQ(0, dialog.Rows(kList));
+            EXPECT_EQ(0, dialog.Rows(kKindList));
             dialog.Press(VK_ESCAPE);
         },
         config::ShowConfigure);
@@ -102,7 +102,7 @@ TEST_P(FrmConfigure, TheButtonsOfARowWaitForOneToBeSelected)
             const auto dialog = robot.WaitForDialog(Caption());
             EXPECT_FALSE(dialog.IsEnabled(IDC_CONFIGURE_CHOOSE));
             EXPECT_FALSE(dialog.IsEnabled(IDC_CONFIGURE_ADVANCE));
-            dialog.ChooseRow(kList, kTask);
+            dialog.ChooseRow(kKindList, kTask);
             EXPECT_TRUE(dialog.IsEnabled(IDC_CONFIGURE_CHOOSE));
             EXPECT_TRUE(dialog.IsEnabled(IDC_CONFIGURE_ADVANCE));
             dialog.Close();
@@ -119,7 +119,7 @@ TEST_P(FrmConfigure, TheRowOfTheRecordsKindIsSelectedAtFirst)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            EXPECT_EQ(kCalendar, SelectedRow(dialog, kList));
+            EXPECT_EQ(kCalendar, SelectedRow(dialog, kKindList));
             EXPECT_TRUE(dialog.IsEnabled(IDC_CONFIGURE_CHOOSE));
             dialog.Close();
         },
@@ -131,7 +131,7 @@ TEST_P(FrmConfigure, TheRecordOfARowWithoutATranslatorHasNone)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            dialog.ChooseRow(kList, kCalendar);
+            dialog.ChooseRow(kKindList, kCalendar);
             dialog.Close();
         },
         config::ShowConfigure);
@@ -153,15 +153,15 @@ TEST_P(FrmConfigure, TheSpaceBarSetsAndTakesCheckMarksAndTheArrowFollows)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            robot.WaitUntil("focus on the list", [&] { return dialog.Focused() == kList; });
-            dialog.ChooseRow(kList, kTask);
+            robot.WaitUntil("focus on the list", [&] { return dialog.Focused() == kKindList; });
+            dialog.ChooseRow(kKindList, kTask);
             dialog.Press(VK_SPACE);
-            robot.WaitUntil("a check mark", [&] { return IsChecked(dialog, kList, kTask); });
-            EXPECT_EQ(Pictures::IndexOf(L"left"), PictureOf(dialog, kList, kTask, 1));
-            dialog.ChooseRow(kList, kContact);
+            robot.WaitUntil("a check mark", [&] { return IsChecked(dialog, kKindList, kTask); });
+            EXPECT_EQ(Pictures::IndexOf(L"left"), PictureOf(dialog, kKindList, kTask, 1));
+            dialog.ChooseRow(kKindList, kContact);
             dialog.Press(VK_SPACE);
-            robot.WaitUntil("no check mark", [&] { return !IsChecked(dialog, kList, kContact); });
-            EXPECT_EQ(-1, PictureOf(dialog, kList, kContact, 1));
+            robot.WaitUntil("no check mark", [&] { return !IsChecked(dialog, kKindList, kContact); });
+            EXPECT_EQ(-1, PictureOf(dialog, kKindList, kContact, 1));
             dialog.Press(VK_RETURN);
         },
         config::ShowConfigure);
@@ -181,9 +181,9 @@ TEST_P(FrmConfigure, CancelEscapeAndTheCloseButtonWriteNothing)
         Drive(
             [&](Robot& robot) {
                 const auto dialog = robot.WaitForDialog(Caption());
-                dialog.ChooseRow(kList, kContact);
+                dialog.ChooseRow(kKindList, kContact);
                 dialog.Press(VK_SPACE);
-                robot.WaitUntil("no check mark", [&] { return !IsChecked(dialog, kList, kContact); });
+                robot.WaitUntil("no check mark", [&] { return !IsChecked(dialog, kKindList, kContact); });
                 way(dialog);
             },
             config::ShowConfigure);
@@ -198,7 +198,7 @@ TEST_P(FrmConfigure, TabGoesFromTheListOverTheButtonsAndBackToIt)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            for (const int id : {kList, IDC_CONFIGURE_CHOOSE, IDC_CONFIGURE_ADVANCE, IDOK, IDCANCEL, kList})
+            for (const int id : {kKindList, IDC_CONFIGURE_CHOOSE, IDC_CONFIGURE_ADVANCE, IDOK, IDCANCEL, kKindList})
             {
                 robot.WaitUntil("focus on " + std::to_string(id), [&] { return dialog.Focused() == id; });
                 dialog.Press(VK_TAB);
@@ -220,7 +220,7 @@ TEST_P(FrmConfigure, AdvancedOpensTheDialogOfTheSelectedKind)
             const auto dialog = robot.WaitForDialog(Caption());
             for (int row = kContact; row <= kCalendar; ++row)
             {
-                dialog.ChooseRow(kList, row);
+                dialog.ChooseRow(kKindList, row);
                 dialog.PressAlt(L'a');
                 const auto advanced = robot.WaitForDialog(captions[row]);
                 advanced.Press(VK_ESCAPE);
@@ -237,7 +237,7 @@ TEST_P(FrmConfigure, ARowIsRedrawnAfterItsTranslatorHasBeenChosenAndWrittenOnOk)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            dialog.ChooseRow(kList, kCalendar);
+            dialog.ChooseRow(kKindList, kCalendar);
             dialog.PressAlt(L's');
             const auto choose = robot.WaitForDialog(In(GetParam(), L"Calendar", L"日历"));
             ChooseEntry(choose, IDC_CHOOSE_TRANSLATORS, 1);
@@ -245,8 +245,8 @@ TEST_P(FrmConfigure, ARowIsRedrawnAfterItsTranslatorHasBeenChosenAndWrittenOnOk)
             choose.Click(IDOK);
             robot.WaitUntilClosed(choose);
             robot.WaitForDialog(Caption());
-            EXPECT_TRUE(IsChecked(dialog, kList, kCalendar));
-            EXPECT_EQ(Pictures::IndexOf(L"left"), PictureOf(dialog, kList, kCalendar, 1));
+            EXPECT_TRUE(IsChecked(dialog, kKindList, kCalendar));
+            EXPECT_EQ(Pictures::IndexOf(L"left"), PictureOf(dialog, kKindList, kCalendar, 1));
             EXPECT_EQ(L"0|Null|2|right", mGround.Translation(L"Calendar")); // not yet
             dialog.Click(IDOK);
         },
@@ -259,14 +259,14 @@ TEST_P(FrmConfigure, WhatHasBeenEditedIsKeptWhileAnotherRowIsSelected)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            dialog.ChooseRow(kList, kContact);
+            dialog.ChooseRow(kKindList, kContact);
             dialog.Click(IDC_CONFIGURE_CHOOSE);
             auto choose = robot.WaitForDialog(In(GetParam(), L"Contact", L"联系人"));
             choose.Click(IDC_CHOOSE_DIRECTION + 1); // export
             choose.Click(IDOK);
             robot.WaitUntilClosed(choose);
-            dialog.ChooseRow(kList, kTask);
-            dialog.ChooseRow(kList, kContact);
+            dialog.ChooseRow(kKindList, kTask);
+            dialog.ChooseRow(kKindList, kContact);
             dialog.Click(IDC_CONFIGURE_CHOOSE);
             choose = robot.WaitForDialog(In(GetParam(), L"Contact", L"联系人"));
             EXPECT_TRUE(IsSet(choose, IDC_CHOOSE_DIRECTION + 1));

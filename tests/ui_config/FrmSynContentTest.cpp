@@ -16,7 +16,7 @@ using namespace ui_config_tests;
 using sandbox::ItemKind;
 
 constexpr int kTree = IDC_CONTENT_TREE;
-constexpr int kList = IDC_CONTENT_LIST;
+constexpr int kFolderList = IDC_CONTENT_LIST;
 const std::wstring kStore = L"Personal Folders";
 
 class FrmSynContent : public testing::TestWithParam<Language>
@@ -33,7 +33,7 @@ class FrmSynContent : public testing::TestWithParam<Language>
     // Selects a folder by its names and presses Add.
     static void Add(Robot& robot, const ShownDialog& dialog, const Texts& names)
     {
-        const int before = dialog.Rows(kList);
+        const int before = dialog.Rows(kFolderList);
         HTREEITEM node = nullptr;
         for (const std::wstring& name : names)
         {
@@ -42,7 +42,7 @@ class FrmSynContent : public testing::TestWithParam<Language>
         ASSERT_NE(nullptr, node);
         SelectNode(dialog, kTree, node);
         dialog.Click(IDC_CONTENT_ADD);
-        robot.WaitUntil("a new row", [&] { return dialog.Rows(kList) == before + 1; });
+        robot.WaitUntil("a new row", [&] { return dialog.Rows(kFolderList) == before + 1; });
     }
 
     Ground mGround{GetParam()};
@@ -55,7 +55,7 @@ TEST_P(FrmSynContent, SpeaksTheLanguageOfTheInterface)
     Show([&](Robot&, const ShownDialog& dialog) {
         EXPECT_EQ(In(GetParam(), L"Choose", L"选择"), dialog.Text(IDC_CONTENT_TREE_LABEL));
         EXPECT_EQ(In(GetParam(), L"Selected Folder(s):", L"选择目录："), dialog.Text(IDC_CONTENT_LIST_LABEL));
-        EXPECT_EQ(In(GetParam(), L"Folder(s)", L"目录"), dialog.ColumnHeader(kList, 0));
+        EXPECT_EQ(In(GetParam(), L"Folder(s)", L"目录"), dialog.ColumnHeader(kFolderList, 0));
         EXPECT_EQ(In(GetParam(), L"&Add", L"添加(&A)"), dialog.Text(IDC_CONTENT_ADD));
         EXPECT_EQ(In(GetParam(), L"&Default", L"缺省(&D)"), dialog.Text(IDC_CONTENT_DEFAULT));
         EXPECT_EQ(In(GetParam(), L"&Remove", L"移除(&R)"), dialog.Text(IDC_CONTENT_REMOVE));
@@ -104,11 +104,11 @@ TEST_P(FrmSynContent, StoredFoldersAreListedWithTheDefaultMarked)
     mGround.AddFolderRow(10, L"Store\\B", true);
     mGround.AddFolderRow(20, L"Store\\Tasks", true);
     Show([&](Robot&, const ShownDialog& dialog) {
-        ASSERT_EQ(2, dialog.Rows(kList));
-        EXPECT_EQ(L"Store\\A", dialog.Row(kList, 0));
-        EXPECT_EQ(L"Store\\B", dialog.Row(kList, 1));
-        EXPECT_EQ(-1, PictureOf(dialog, kList, 0, 0));
-        EXPECT_NE(-1, PictureOf(dialog, kList, 1, 0));
+        ASSERT_EQ(2, dialog.Rows(kFolderList));
+        EXPECT_EQ(L"Store\\A", dialog.Row(kFolderList, 0));
+        EXPECT_EQ(L"Store\\B", dialog.Row(kFolderList, 1));
+        EXPECT_EQ(-1, PictureOf(dialog, kFolderList, 0, 0));
+        EXPECT_NE(-1, PictureOf(dialog, kFolderList, 1, 0));
         dialog.Close();
     });
 }
@@ -150,11 +150,11 @@ TEST_P(FrmSynContent, ADoubleClickOnANodeAddsItAndLeavesItOpen)
         // The place of the pointer reaches the messages with some delay; a second time adds nothing.
         robot.WaitUntil("a new row", [&] {
             DoubleClickNode(dialog, kTree, friends);
-            return dialog.Rows(kList) == 1;
+            return dialog.Rows(kFolderList) == 1;
         });
         robot.WaitUntil("a second row", [&] {
             DoubleClickNode(dialog, kTree, store);
-            return dialog.Rows(kList) == 2;
+            return dialog.Rows(kFolderList) == 2;
         });
         const auto state = dialog.Ask(dialog.Control(kTree), TVM_GETITEMSTATE,
                                       reinterpret_cast<WPARAM>(store), TVIS_EXPANDED);
@@ -169,11 +169,11 @@ TEST_P(FrmSynContent, DefaultMovesTheMarkToTheSelectedFolder)
     mGround.AddFolderRow(10, L"Store\\A", true);
     mGround.AddFolderRow(10, L"Store\\B", false);
     Show([&](Robot& robot, const ShownDialog& dialog) {
-        dialog.ChooseRow(kList, 1);
+        dialog.ChooseRow(kFolderList, 1);
         dialog.PressAlt(L'd');
-        robot.WaitUntil("the mark", [&] { return PictureOf(dialog, kList, 1, 0) != -1; });
-        EXPECT_EQ(-1, PictureOf(dialog, kList, 0, 0));
-        EXPECT_EQ(1, SelectedRow(dialog, kList));
+        robot.WaitUntil("the mark", [&] { return PictureOf(dialog, kFolderList, 1, 0) != -1; });
+        EXPECT_EQ(-1, PictureOf(dialog, kFolderList, 0, 0));
+        EXPECT_EQ(1, SelectedRow(dialog, kFolderList));
         dialog.Press(VK_RETURN);
     });
     EXPECT_EQ((Texts{L"Store\\A|0", L"Store\\B|1"}), mGround.Folders(10));
@@ -198,7 +198,7 @@ TEST_P(FrmSynContent, OkWithAnEmptyListDeletesAllRowsOfTheKind)
     Show([&](Robot& robot, const ShownDialog& dialog) {
         dialog.Click(IDC_CONTENT_REMOVE);
         dialog.PressAlt(L'r');
-        robot.WaitUntil("an empty list", [&] { return dialog.Rows(kList) == 0; });
+        robot.WaitUntil("an empty list", [&] { return dialog.Rows(kFolderList) == 0; });
         dialog.Click(IDOK);
     });
     EXPECT_TRUE(mGround.Folders(10).empty());
@@ -211,7 +211,7 @@ TEST_P(FrmSynContent, CancelKeepsTheStoredFolders)
     mGround.AddFolderRow(10, L"Store\\A", true);
     Show([&](Robot& robot, const ShownDialog& dialog) {
         dialog.Click(IDC_CONTENT_REMOVE);
-        robot.WaitUntil("an empty list", [&] { return dialog.Rows(kList) == 0; });
+        robot.WaitUntil("an empty list", [&] { return dialog.Rows(kFolderList) == 0; });
         dialog.Press(VK_ESCAPE);
     });
     EXPECT_EQ(Texts{L"Store\\A|1"}, mGround.Folders(10));
@@ -237,7 +237,7 @@ TEST_P(FrmSynContent, AnUnknownKindShowsAndWritesNothing)
     mGround.Record().TransObject = L"Notes";
     Show([&](Robot&, const ShownDialog& dialog) {
         EXPECT_TRUE(NodesBelow(dialog, kTree, nullptr).empty());
-        EXPECT_EQ(0, dialog.Rows(kList));
+        EXPECT_EQ(0, dialog.Rows(kFolderList));
         dialog.Click(IDOK);
     });
     EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Delete"));
@@ -256,7 +256,7 @@ TEST_P(FrmSynContent, WithoutOutlookTheDialogOpensWithoutATree)
 TEST_P(FrmSynContent, TabFollowsTheLayout)
 {
     Show([&](Robot& robot, const ShownDialog& dialog) {
-        for (const int id : {kTree, IDC_CONTENT_ADD, IDC_CONTENT_REMOVE, IDC_CONTENT_DEFAULT, kList,
+        for (const int id : {kTree, IDC_CONTENT_ADD, IDC_CONTENT_REMOVE, IDC_CONTENT_DEFAULT, kFolderList,
                              static_cast<int>(IDOK), static_cast<int>(IDCANCEL), kTree})
         {
             robot.WaitUntil("focus on " + std::to_string(id), [&] { return dialog.Focused() == id; });

@@ -1,0 +1,1 @@
+// The precompiled headers need one source file that is compiled with them.
