@@ -79,13 +79,60 @@ function(telvix_program name)
   telvix_build_fast(${name} telvix_precompiled 12)
 endfunction()
 
-# telvix_tests(NAME lib...): a program of tests over GoogleTest, run under the emulator by ctest.
-function(telvix_tests name)
+# The test programs that run longest, the longest first: they start first, so that no lane waits for them at the end.
+set(telvix_longest_tests boundary_tests endurance_tests faults_tests hostile_tests end_to_end_tests
+  end_to_end_tests_zh ui_config_tests ui_tests)
+
+# telvix_add_test(NAME [COMMAND arg...] [LOCALE name] [TIMEOUT seconds] [FILES file...] [USES target...]): a test
+# that ctest runs, in a lane of its own. Without COMMAND it runs the program of that name. ./test --changed runs it
+# when one of its files, or a file of the targets that it loads at run time, is newer than its last success.
+function(telvix_add_test name)
+  cmake_parse_arguments(arg "" "LOCALE;TIMEOUT" "COMMAND;FILES;USES" ${ARGN})
+  if(NOT arg_COMMAND)
+    set(arg_COMMAND $<TARGET_FILE:${name}>)
+    list(APPEND arg_USES ${name})
+  endif()
+  list(GET arg_COMMAND 0 program)
+  if(NOT program MATCHES "[.]sh$")
+    list(PREPEND arg_COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR})
+  endif()
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/scripts/in_lane ${arg_COMMAND})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+  if(arg_LOCALE)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT LC_ALL=${arg_LOCALE})
+  endif()
+  list(FIND telvix_longest_tests ${name} place)
+  if(place GREATER_EQUAL 0)
+    math(EXPR cost "100 - ${place}")
+    set_tests_properties(${name} PROPERTIES COST ${cost})
+  endif()
+  foreach(target IN LISTS arg_USES)
+    list(APPEND arg_FILES $<TARGET_FILE:${target}>)
+  endforeach()
+  list(JOIN arg_FILES " " files)
+  set_property(GLOBAL APPEND_STRING PROPERTY telvix_test_files "${name}|${files}\n")
+endfunction()
+
+# telvix_write_test_files(): writes build/.../test_files, a line for each test: its name and its files.
+function(telvix_write_test_files)
+  get_property(lines GLOBAL PROPERTY telvix_test_files)
+  file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/test_files CONTENT "${lines}")
+endfunction()
+
+# telvix_test_program(NAME lib...): a program of tests over GoogleTest.
+function(telvix_test_program name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${ARGN} test_support telvix_options)
   telvix_test_options(${name})
   telvix_build_fast(${name} telvix_tests_precompiled 6)
-  add_test(NAME ${name} COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}>)
-  set_tests_properties(${name} PROPERTIES TIMEOUT 120)
+endfunction()
+
+# telvix_tests(NAME lib...): a program of tests that runs as it is.
+function(telvix_tests name)
+  telvix_test_program(${name} ${ARGN})
+  telvix_add_test(${name})
 endfunction()

@@ -32,27 +32,48 @@ install_packages() {
         fail "these packages could not be installed: ${missing[*]} (see build/packages.log)"
 }
 
-# build PRESET [TARGET...]: configures where needed, and builds.
+# build PRESET [TARGET...]: configures where needed, and builds. Shows how far it is: on a terminal in one line
+# that it renews, in a log every ten seconds.
 build() {
     local preset=$1 log=$root/build/$1.log
     shift
     mkdir -p "$root/build"
     { [ -f "$root/build/$preset/build.ninja" ] || (cd "$root" && cmake --preset "$preset"); } >"$log" 2>&1 &&
-        (cd "$root" && cmake --build "build/$preset" ${1:+--target "$@"}) >>"$log" 2>&1 ||
-        { tail -n 30 "$log" >&2; fail "the build ($preset) failed (see build/$preset.log)"; }
+        (cd "$root" && NINJA_STATUS='[%f/%t] ' ninja -C "build/$preset" "$@" 2>&1) | tee -a "$log" | show_progress "$preset"
+    [ "${PIPESTATUS[0]}" -eq 0 ] ||
+        { grep -B 2 -A 20 -m 1 -E '^FAILED|[Ee]rror' "$log" >&2; fail "the build ($preset) failed (see build/$preset.log)"; }
 }
 
-display_pid=
+show_progress() {
+    local line shown=$SECONDS status=
+    while IFS= read -r line; do
+        case $line in '['[0-9]*'/'*) status=${line%%]*}] ;; *) continue ;; esac
+        if [ -t 1 ]; then
+            printf '\r  %s %s\033[K' "$1" "$status"
+        elif [ $((SECONDS - shown)) -ge 10 ]; then
+            printf '  %s %s\n' "$1" "$status"
+            shown=$SECONDS
+        fi
+    done
+    [ -z "$status" ] || if [ -t 1 ]; then printf '\r\033[K'; else printf '  %s %s\n' "$1" "$status"; fi
+}
+
+# A lane is a Wine prefix with a display: what runs in one shares neither desktop nor registry with another.
+# The first lane's prefix is $prefix.
+display_pids=()
+lane_prefixes=()
+
+# start_display: a virtual display; its name is in DISPLAY.
 start_display() {
     local number_file=$root/build/display.$$
     mkdir -p "$root/build"
     : >"$number_file"
     Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp -noreset 3>"$number_file" >/dev/null 2>&1 &
-    display_pid=$!
-    local waited=0
+    local pid=$! waited=0
+    display_pids+=("$pid")
     until [ -s "$number_file" ]; do
         waited=$((waited + 1))
-        [ $waited -gt 100 ] || ! kill -0 "$display_pid" 2>/dev/null && { rm -f "$number_file"; fail "the virtual display did not come up"; }
+        [ $waited -gt 100 ] || ! kill -0 "$pid" 2>/dev/null && { rm -f "$number_file"; fail "the virtual display did not come up"; }
         sleep 0.1
     done
     DISPLAY=:$(cat "$number_file")
@@ -61,9 +82,14 @@ start_display() {
 }
 
 stop_environment() {
-    [ -d "$prefix" ] && { timeout 20 wineserver -k; timeout 20 wineserver -w; } >/dev/null 2>&1
-    [ -n "$display_pid" ] && kill "$display_pid" 2>/dev/null && wait "$display_pid" 2>/dev/null
-    display_pid=
+    local lane pid
+    for lane in "${lane_prefixes[@]}"; do
+        [ -d "$lane" ] && { WINEPREFIX=$lane timeout 20 wineserver -k; WINEPREFIX=$lane timeout 20 wineserver -w; } >/dev/null 2>&1
+    done
+    for pid in "${display_pids[@]}"; do kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null; done
+    display_pids=()
+    lane_prefixes=()
+    rm -rf "$root/build/lanes"
 }
 
 # Chinese and Latin text in one font that has both, for every face that dialogs ask for.
@@ -79,25 +105,75 @@ font_replacements() {
     } | iconv -f UTF-8 -t UTF-16LE
 }
 
-# Makes the prefix (once), and starts its server, so that services do not inherit a pipe of ours.
-prepare_wine() {
-    local ready=$prefix/telvix-ready
-    mkdir -p "$prefix"
+# make_prefix: makes the prefix that WINEPREFIX names, unless it is there.
+make_prefix() {
+    local ready=$WINEPREFIX/telvix-ready
+    [ -f "$ready" ] && return
+    mkdir -p "$WINEPREFIX"
     wineserver -p
-    if [ ! -f "$ready" ]; then
-        timeout 180 wine wineboot -i >/dev/null 2>&1 </dev/null
-        timeout 60 wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1 </dev/null &&
-            timeout 60 wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1 </dev/null ||
-            fail "Wine could not be set up"
-        font_replacements >"$prefix/fonts.reg"
-        timeout 60 wine regedit "$(winepath -w "$prefix/fonts.reg" 2>/dev/null)" >/dev/null 2>&1 </dev/null
-        cp /usr/share/wine/fonts/marlett.ttf "$prefix/drive_c/windows/Fonts/" 2>/dev/null
-        wineserver -k
-        wineserver -w
-        wineserver -p
-        touch "$ready"
-    fi
+    timeout 180 wine wineboot -i >/dev/null 2>&1 </dev/null
+    timeout 60 wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1 </dev/null &&
+        timeout 60 wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1 </dev/null ||
+        fail "Wine could not be set up"
+    font_replacements >"$WINEPREFIX/fonts.reg"
+    timeout 60 wine regedit "$(winepath -w "$WINEPREFIX/fonts.reg" 2>/dev/null)" >/dev/null 2>&1 </dev/null
+    cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/" 2>/dev/null
+    wineserver -k
+    wineserver -w
+    touch "$ready"
+}
+
+# make_prefix_meanwhile: makes the prefix in the background, while something else goes on; await_prefix waits for it.
+prefix_job=
+make_prefix_meanwhile() {
+    lane_prefixes+=("$WINEPREFIX")
+    make_prefix &
+    prefix_job=$!
+}
+
+await_prefix() {
+    wait "$prefix_job" || fail "Wine could not be set up"
+    lane_prefixes=()
+}
+
+# prepare_wine: makes the prefix and starts its server, so that services do not inherit a pipe of ours.
+prepare_wine() {
+    lane_prefixes+=("$WINEPREFIX")
+    make_prefix
+    wineserver -p
     timeout 120 wine wineboot >/dev/null 2>&1 </dev/null
+}
+
+# prepare_lanes COUNT BUILD: prepares that many lanes with the sandbox and component of a build registered, and
+# writes each one's environment to build/lanes, where scripts/in_lane finds it.
+prepare_lanes() {
+    local count=$1 build=$2 lane
+    rm -rf "$root/build/lanes"
+    mkdir -p "$root/build/lanes"
+    for ((lane = 1; lane <= count; ++lane)); do
+        WINEPREFIX=$prefix
+        if [ "$lane" -gt 1 ]; then
+            WINEPREFIX=$prefix-$lane
+            [ -f "$WINEPREFIX/telvix-ready" ] || { rm -rf "$WINEPREFIX"; cp -a "$prefix" "$WINEPREFIX"; } ||
+                fail "the Wine prefix could not be copied"
+        fi
+        lane_prefixes+=("$WINEPREFIX")
+        make_prefix
+        [ "$lane" -eq 1 ] && [ ${#display_pids[@]} -gt 0 ] || start_display
+        cat >"$root/build/lanes/$lane" <<LANE
+export WINEPREFIX='$WINEPREFIX' DISPLAY='$DISPLAY'
+export TELVIX_FIGURES='Z:${root//\//\\}\\build\\lanes\\figures.$lane'
+LANE
+    done
+    for lane in "${lane_prefixes[@]}"; do
+        (
+            export WINEPREFIX=$lane
+            wineserver -p
+            timeout 120 wine wineboot >/dev/null 2>&1 </dev/null
+            register_sandbox "$build"
+        ) &
+    done
+    for ((; count > 0; --count)); do wait -n -f || fail "a lane could not be prepared"; done
 }
 
 # register_sandbox BUILD: registers the component and the stand-ins of a build in the prefix, as an

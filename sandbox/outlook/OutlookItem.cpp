@@ -49,7 +49,8 @@ ItemDraft& DraftOfItem(DispatchObject& self)
 
 Member MemberOf(PropertyId id)
 {
-    return {PropertyOf(id).name, [id](DispatchObject& self, const Call&) { return DraftOfItem(self).Read(id); },
+    return {PropertyOf(id).name,
+            [id](DispatchObject& self, const Call&) { return DraftOfItem(self).Read(id); },
             [id](DispatchObject& self, const Call& call) { DraftOfItem(self).Assign(id, call.Assigned()); }};
 }
 

@@ -22,11 +22,12 @@ MemberTable MadeMembers()
     {
         if (IsOfPattern(id) && id != PropertyId::RecurrenceEndsByDate)
         {
-            members.push_back({PropertyOf(id).name + kPrefix,
-                               [id](DispatchObject& self, const Call&) { return DraftOfPattern(self).Read(id); },
-                               [id](DispatchObject& self, const Call& call) {
-                                   DraftOfPattern(self).Assign(id, call.Assigned());
-                               }});
+            members.push_back(
+                {PropertyOf(id).name + kPrefix,
+                 [id](DispatchObject& self, const Call&) { return DraftOfPattern(self).Read(id); },
+                 [id](DispatchObject& self, const Call& call) {
+                     DraftOfPattern(self).Assign(id, call.Assigned());
+                 }});
         }
     }
     return members;

@@ -39,15 +39,15 @@ constexpr Company kChineseCompanies[] = {
     {L"海口椰风度假村", L"yefeng.example"},       {L"宁波北仑造船", L"beilun.example"}};
 
 constexpr Place kChinesePlaces[] = {{L"中国", L"北京", L"北京", L"朝阳区建国路%号", L"100022", L"+86 10"},
-                             {L"中国", L"上海", L"上海", L"浦东新区世纪大道%号", L"200120", L"+86 21"},
-                             {L"中国", L"广东", L"广州", L"天河区体育西路%号", L"510620", L"+86 20"},
-                             {L"中国", L"广东", L"深圳", L"福田区深南大道%号", L"518026", L"+86 755"},
-                             {L"中国", L"浙江", L"杭州", L"西湖区文三路%号", L"310012", L"+86 571"},
-                             {L"中国", L"四川", L"成都", L"锦江区春熙路%号", L"610016", L"+86 28"},
-                             {L"中国", L"", L"武汉", L"武昌区中南路%号", L"430071", L"+86 27"}};
+                                    {L"中国", L"上海", L"上海", L"浦东新区世纪大道%号", L"200120", L"+86 21"},
+                                    {L"中国", L"广东", L"广州", L"天河区体育西路%号", L"510620", L"+86 20"},
+                                    {L"中国", L"广东", L"深圳", L"福田区深南大道%号", L"518026", L"+86 755"},
+                                    {L"中国", L"浙江", L"杭州", L"西湖区文三路%号", L"310012", L"+86 571"},
+                                    {L"中国", L"四川", L"成都", L"锦江区春熙路%号", L"610016", L"+86 28"},
+                                    {L"中国", L"", L"武汉", L"武昌区中南路%号", L"430071", L"+86 27"}};
 
 constexpr const wchar_t* kChineseJobTitles[] = {L"总经理",     L"采购经理", L"销售工程师", L"财务主管",
-                                         L"办公室主任", L"",         L"秘书",       L"技术总监"};
+                                                L"办公室主任", L"",         L"秘书",       L"技术总监"};
 
 constexpr const wchar_t* kChineseDepartments[] = {L"采购部", L"销售部", L"技术部", L"财务部", L"", L"行政部"};
 
@@ -56,10 +56,10 @@ constexpr const wchar_t* kChineseTaskSubjects[] = {
     L"更新价格表", L"安排参观工厂",     L"处理客户投诉", L"核对客户信用", L"整理会议纪要"};
 
 constexpr const wchar_t* kChineseEntrySubjects[] = {L"拜访客户", L"产品演示", L"合同谈判", L"商务午餐",
-                                             L"展览会",   L"现场培训", L"设备验收", L"电话会议"};
+                                                    L"展览会",   L"现场培训", L"设备验收", L"电话会议"};
 
 constexpr const wchar_t* kChineseRepeatedSubjects[] = {L"晨会",     L"销售例会", L"月度报告",
-                                                L"季度洽谈", L"半年盘点", L"生日问候"};
+                                                       L"季度洽谈", L"半年盘点", L"生日问候"};
 
 constexpr const wchar_t* kChineseCategories[] = {L"商务", L"电话", L"重要客户", L"内部"};
 
@@ -67,8 +67,10 @@ constexpr const wchar_t* kChineseCategories[] = {L"商务", L"电话", L"重要�
 
 const Words& ChineseWords()
 {
-    static constexpr Words words{kChineseSurnames,    kChineseGivenNames,   kChineseCompanies,     kChinesePlaces,           kChineseJobTitles,
-                                 kChineseDepartments, kChineseTaskSubjects, kChineseEntrySubjects, kChineseRepeatedSubjects, kChineseCategories};
+    static constexpr Words words{kChineseSurnames,     kChineseGivenNames,    kChineseCompanies,
+                                 kChinesePlaces,       kChineseJobTitles,     kChineseDepartments,
+                                 kChineseTaskSubjects, kChineseEntrySubjects, kChineseRepeatedSubjects,
+                                 kChineseCategories};
     return words;
 }
 

@@ -17,53 +17,53 @@ constexpr PersonName kEnglishSurnames[] = {
     {L"Schröder", L"schroeder"}};
 
 constexpr GivenName kEnglishGivenNames[] = {{{L"Anna", L"anna"}, L"Ms."},
-                                     {{L"Patrick", L"patrick"}, L"Mr."},
-                                     {{L"Jürgen", L"juergen"}, L"Mr."},
-                                     {{L"Sofía", L"sofia"}, L"Ms."},
-                                     {{L"Emily", L"emily"}, L"Ms."},
-                                     {{L"Thomas", L"thomas"}, L"Mr."},
-                                     {{L"Chloé", L"chloe"}, L"Ms."},
-                                     {{L"Marco", L"marco"}, L"Mr."},
-                                     {{L"Ewa", L"ewa"}, L"Ms."},
-                                     {{L"Lars", L"lars"}, L"Mr."},
-                                     {{L"Charlotte", L"charlotte"}, L"Ms."},
-                                     {{L"David", L"david"}, L"Mr."},
-                                     {{L"Siobhán", L"siobhan"}, L"Ms."},
-                                     {{L"Hans-Peter", L"hans-peter"}, L"Mr."},
-                                     {{L"Laura", L"laura"}, L"Ms."},
-                                     {{L"Michael", L"michael"}, L"Mr."},
-                                     {{L"Zoë", L"zoe"}, L"Ms."}};
+                                            {{L"Patrick", L"patrick"}, L"Mr."},
+                                            {{L"Jürgen", L"juergen"}, L"Mr."},
+                                            {{L"Sofía", L"sofia"}, L"Ms."},
+                                            {{L"Emily", L"emily"}, L"Ms."},
+                                            {{L"Thomas", L"thomas"}, L"Mr."},
+                                            {{L"Chloé", L"chloe"}, L"Ms."},
+                                            {{L"Marco", L"marco"}, L"Mr."},
+                                            {{L"Ewa", L"ewa"}, L"Ms."},
+                                            {{L"Lars", L"lars"}, L"Mr."},
+                                            {{L"Charlotte", L"charlotte"}, L"Ms."},
+                                            {{L"David", L"david"}, L"Mr."},
+                                            {{L"Siobhán", L"siobhan"}, L"Ms."},
+                                            {{L"Hans-Peter", L"hans-peter"}, L"Mr."},
+                                            {{L"Laura", L"laura"}, L"Ms."},
+                                            {{L"Michael", L"michael"}, L"Mr."},
+                                            {{L"Zoë", L"zoe"}, L"Ms."}};
 
 constexpr Company kEnglishCompanies[] = {{L"O'Brien & Söhne GmbH", L"obrien-soehne.example"},
-                                  {L"Northwind Traders Ltd.", L"northwind.example"},
-                                  {L"Harbour Street Bakery", L"harbourbakery.example"},
-                                  {L"Lefèvre et Fils S.A.", L"lefevre.example"},
-                                  {L"Keller Maschinenbau AG", L"keller-mb.example"},
-                                  {L"Blue Ridge Paper Co.", L"blueridgepaper.example"},
-                                  {L"D'Angelo Costruzioni", L"dangelo.example"},
-                                  {L"Kowalski Transport", L"kowalski.example"},
-                                  {L"Fjord Seafood A/S", L"fjordseafood.example"},
-                                  {L"Green & Partners, Solicitors", L"greenpartners.example"},
-                                  {L"Castle Optics", L"castleoptics.example"},
-                                  {L"Peña Hermanos", L"pena.example"},
-                                  {L"Van Dijk Bloemen B.V.", L"vandijk.example"},
-                                  {L"St. Mary's Hospital", L"stmarys.example"},
-                                  {L"Silverlake Software", L"silverlake.example"},
-                                  {L"Walker's Garage", L"walkersgarage.example"},
-                                  {L"Alpine Tools KG", L"alpinetools.example"},
-                                  {L"Atlantic Freight Services", L"atlanticfreight.example"},
-                                  {L"Novák Sklo s.r.o.", L"novaksklo.example"},
-                                  {L"Quayside Hotels", L"quayside.example"},
-                                  {L"Rossi Tessuti S.p.A.", L"rossitessuti.example"},
-                                  {L"Schröder Elektro", L"schroeder.example"},
-                                  {L"Summit Insurance", L"summit.example"},
-                                  {L"The Copper Kettle", L"copperkettle.example"},
-                                  {L"Thompson & Daughters", L"thompson.example"},
-                                  {L"Ullman Druck", L"ullman.example"},
-                                  {L"Vista Printing 100%", L"vista.example"},
-                                  {L"Western Dairy Co-op", L"westerndairy.example"},
-                                  {L"York Instruments", L"york.example"},
-                                  {L"Åkesson Möbler AB", L"akesson.example"}};
+                                         {L"Northwind Traders Ltd.", L"northwind.example"},
+                                         {L"Harbour Street Bakery", L"harbourbakery.example"},
+                                         {L"Lefèvre et Fils S.A.", L"lefevre.example"},
+                                         {L"Keller Maschinenbau AG", L"keller-mb.example"},
+                                         {L"Blue Ridge Paper Co.", L"blueridgepaper.example"},
+                                         {L"D'Angelo Costruzioni", L"dangelo.example"},
+                                         {L"Kowalski Transport", L"kowalski.example"},
+                                         {L"Fjord Seafood A/S", L"fjordseafood.example"},
+                                         {L"Green & Partners, Solicitors", L"greenpartners.example"},
+                                         {L"Castle Optics", L"castleoptics.example"},
+                                         {L"Peña Hermanos", L"pena.example"},
+                                         {L"Van Dijk Bloemen B.V.", L"vandijk.example"},
+                                         {L"St. Mary's Hospital", L"stmarys.example"},
+                                         {L"Silverlake Software", L"silverlake.example"},
+                                         {L"Walker's Garage", L"walkersgarage.example"},
+                                         {L"Alpine Tools KG", L"alpinetools.example"},
+                                         {L"Atlantic Freight Services", L"atlanticfreight.example"},
+                                         {L"Novák Sklo s.r.o.", L"novaksklo.example"},
+                                         {L"Quayside Hotels", L"quayside.example"},
+                                         {L"Rossi Tessuti S.p.A.", L"rossitessuti.example"},
+                                         {L"Schröder Elektro", L"schroeder.example"},
+                                         {L"Summit Insurance", L"summit.example"},
+                                         {L"The Copper Kettle", L"copperkettle.example"},
+                                         {L"Thompson & Daughters", L"thompson.example"},
+                                         {L"Ullman Druck", L"ullman.example"},
+                                         {L"Vista Printing 100%", L"vista.example"},
+                                         {L"Western Dairy Co-op", L"westerndairy.example"},
+                                         {L"York Instruments", L"york.example"},
+                                         {L"Åkesson Möbler AB", L"akesson.example"}};
 
 constexpr Place kEnglishPlaces[] = {
     {L"Germany", L"Thüringen", L"Jena", L"Goethestraße %", L"07743", L"+49 3641"},
@@ -79,7 +79,8 @@ constexpr const wchar_t* kEnglishJobTitles[] = {
     L"Managing Director", L"Buyer", L"Sales Engineer", L"Head of Purchasing", L"Assistant",
     L"Accountant",        L"",      L"Foreman"};
 
-constexpr const wchar_t* kEnglishDepartments[] = {L"Purchasing", L"Sales", L"R&D", L"Finance", L"", L"Logistics"};
+constexpr const wchar_t* kEnglishDepartments[] = {L"Purchasing", L"Sales", L"R&D",
+                                                  L"Finance",    L"",      L"Logistics"};
 
 constexpr const wchar_t* kEnglishTaskSubjects[] = {
     L"Send the quotation",        L"Call back about the delivery date", L"Prepare the annual contract",
@@ -92,8 +93,9 @@ constexpr const wchar_t* kEnglishEntrySubjects[] = {
     L"Lunch with the buyer",    L"Trade fair",           L"Training on site",
     L"Acceptance test",         L"Telephone conference"};
 
-constexpr const wchar_t* kEnglishRepeatedSubjects[] = {L"Morning round",   L"Sales meeting", L"Monthly report",
-                                                L"Quarterly talks", L"Stocktaking",   L"Birthday call"};
+constexpr const wchar_t* kEnglishRepeatedSubjects[] = {L"Morning round",  L"Sales meeting",
+                                                       L"Monthly report", L"Quarterly talks",
+                                                       L"Stocktaking",    L"Birthday call"};
 
 constexpr const wchar_t* kEnglishCategories[] = {L"Business", L"Phone calls", L"Key Customer", L"Ideas"};
 
@@ -101,8 +103,10 @@ constexpr const wchar_t* kEnglishCategories[] = {L"Business", L"Phone calls", L"
 
 const Words& EnglishWords()
 {
-    static constexpr Words words{kEnglishSurnames,    kEnglishGivenNames,   kEnglishCompanies,     kEnglishPlaces,           kEnglishJobTitles,
-                                 kEnglishDepartments, kEnglishTaskSubjects, kEnglishEntrySubjects, kEnglishRepeatedSubjects, kEnglishCategories};
+    static constexpr Words words{kEnglishSurnames,     kEnglishGivenNames,    kEnglishCompanies,
+                                 kEnglishPlaces,       kEnglishJobTitles,     kEnglishDepartments,
+                                 kEnglishTaskSubjects, kEnglishEntrySubjects, kEnglishRepeatedSubjects,
+                                 kEnglishCategories};
     return words;
 }
 

@@ -38,8 +38,8 @@ SampleRecords Made(SampleMaker& maker, const Counts& counts, std::vector<SampleA
     for (size_t i = 0; i < counts.singleEntries + counts.repeatedEntries; ++i)
     {
         const bool isRepeated = i >= counts.singleEntries;
-        records.entries.push_back(
-            maker.Entry(records, isRepeated ? 1 + static_cast<long>(i - counts.singleEntries) % kRuleCount : 0));
+        records.entries.push_back(maker.Entry(
+            records, isRepeated ? 1 + static_cast<long>(i - counts.singleEntries) % kRuleCount : 0));
     }
     return records;
 }

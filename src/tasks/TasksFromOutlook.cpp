@@ -137,7 +137,8 @@ long SynOlTaskToSynTask(data::Run& run, long mode, const Object& item)
     return state::Trapped(-1L, [&] {
         RowColumns task(run.Catalogue, mode);
         data::ItemProperties properties(item);
-        data::Demand(data::AddRelatedColumns(run.Relations, kTaskToColumns, Value(), properties, task), L"Subject");
+        data::Demand(data::AddRelatedColumns(run.Relations, kTaskToColumns, Value(), properties, task),
+                     L"Subject");
         const Host host;
         data::Transaction transaction(host);
         Write(host, run, item, task);

@@ -198,7 +198,8 @@ TEST_P(FrmConfigure, TabGoesFromTheListOverTheButtonsAndBackToIt)
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
-            for (const int id : {kKindList, IDC_CONFIGURE_CHOOSE, IDC_CONFIGURE_ADVANCE, IDOK, IDCANCEL, kKindList})
+            for (const int id :
+                 {kKindList, IDC_CONFIGURE_CHOOSE, IDC_CONFIGURE_ADVANCE, IDOK, IDCANCEL, kKindList})
             {
                 robot.WaitUntil("focus on " + std::to_string(id), [&] { return dialog.Focused() == id; });
                 dialog.Press(VK_TAB);
