@@ -27,7 +27,8 @@ Function* Export(HMODULE module, const char* name)
 
 } // namespace
 
-Module::Module() : mModule(LoadLibraryW(kModule))
+// COM keeps the module of an earlier test loaded until it may free what is unused.
+Module::Module() : mModule((CoFreeUnusedLibrariesEx(0, 0), LoadLibraryW(kModule)))
 {
     Check(mModule != nullptr ? S_OK : HRESULT_FROM_WIN32(GetLastError()), kModule);
 }
