@@ -136,3 +136,17 @@ function(telvix_tests name)
   telvix_test_program(${name} ${ARGN})
   telvix_add_test(${name})
 endfunction()
+
+# telvix_check_headers(NAME folder...): a target, built on demand, that compiles each header of the folders alone,
+# without precompiled headers, so that a header includes everything it uses.
+function(telvix_check_headers name)
+  list(TRANSFORM ARGN REPLACE "(.+)" "${CMAKE_SOURCE_DIR}/\\1/*.h" OUTPUT_VARIABLE patterns)
+  file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${patterns})
+  foreach(header IN LISTS headers)
+    set(source ${CMAKE_BINARY_DIR}/headers/${header}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${header}\"\n")
+    list(APPEND sources ${source})
+  endforeach()
+  add_library(${name} OBJECT EXCLUDE_FROM_ALL ${sources})
+  target_compile_options(${name} PRIVATE $<$<NOT:$<BOOL:${MSVC}>>:-O0>)
+endfunction()
