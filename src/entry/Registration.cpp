@@ -102,31 +102,51 @@ bool KeyExists(HKEY root, const std::wstring& path)
     return exists;
 }
 
-LSTATUS DeleteTree(HKEY root, const std::wstring& key)
+// What the removal of the keys below one root comes to.
+struct Removal
+{
+    bool found = false;  // a key was there, and is gone
+    bool denied = false; // a key is there, and may not be removed
+    bool failed = false; // a key is there, and is not removed for another reason
+};
+
+void DeleteTree(HKEY root, const std::wstring& key, Removal& removal)
 {
     const std::wstring path = kClasses + key;
-    const LSTATUS emptied = RegDeleteTreeW(root, path.c_str());
-    if (emptied == ERROR_SUCCESS)
+    switch (RegDeleteTreeW(root, path.c_str()))
     {
+    case ERROR_SUCCESS:
         RegDeleteKeyW(root, path.c_str()); // some systems leave the emptied key itself
+        removal.found = true;
+        break;
+    case ERROR_FILE_NOT_FOUND: break;
+    case ERROR_ACCESS_DENIED: removal.denied = true; break;
+    default: removal.failed = true;
     }
-    return emptied == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : emptied;
 }
 
-// The other architecture's module shares the type library's key; it keeps what is its own.
-LSTATUS DeleteAll(HKEY root)
+// Both architectures share the programmatic identifier and the type library's key, since Windows redirects
+// neither of them. They stay as long as the other architecture is registered, which its platform's entry in
+// the type library tells.
+std::vector<std::wstring> KeysToDelete(HKEY root)
 {
     const Keys keys;
     const std::wstring platforms = keys.versionKey + L"\\0\\";
-    const bool isShared = KeyExists(root, kClasses + platforms + kOtherPlatform);
-    LSTATUS result = ERROR_SUCCESS;
-    for (const std::wstring& key : {std::wstring(kProgId), keys.classKey, keys.interfaceKey,
-                                    isShared ? platforms + kPlatform : keys.libraryKey})
+    if (KeyExists(root, kClasses + platforms + kOtherPlatform))
     {
-        const LSTATUS deleted = DeleteTree(root, key);
-        result = result == ERROR_SUCCESS ? deleted : result;
+        return {keys.classKey, keys.interfaceKey, platforms + kPlatform};
     }
-    return result;
+    return {kProgId, keys.classKey, keys.interfaceKey, keys.libraryKey};
+}
+
+Removal DeleteAll(HKEY root)
+{
+    Removal removal;
+    for (const std::wstring& key : KeysToDelete(root))
+    {
+        DeleteTree(root, key, removal);
+    }
+    return removal;
 }
 
 LSTATUS WriteAll(HKEY root, const std::vector<Row>& rows)
@@ -169,11 +189,11 @@ HRESULT Register(HMODULE module)
 
 HRESULT Unregister()
 {
-    const LSTATUS user = DeleteAll(HKEY_CURRENT_USER);
-    const LSTATUS machine = DeleteAll(HKEY_LOCAL_MACHINE);
-    // Nothing of ours can be where the caller may not write, unless somebody else put it there.
-    const bool isMachineLeft = machine != ERROR_SUCCESS && machine != ERROR_ACCESS_DENIED;
-    return user == ERROR_SUCCESS && !isMachineLeft ? S_OK : SELFREG_E_CLASS;
+    const Removal user = DeleteAll(HKEY_CURRENT_USER);
+    const Removal machine = DeleteAll(HKEY_LOCAL_MACHINE);
+    // A caller who has a registration of his own removes that one. The machine's then belongs to all users.
+    const bool isMachineLeft = machine.failed || (machine.denied && !user.found);
+    return user.denied || user.failed || isMachineLeft ? SELFREG_E_CLASS : S_OK;
 }
 
 } // namespace entry

@@ -10,7 +10,9 @@ namespace entry
 // Registers the module; SELFREG_E_CLASS where a key cannot be written.
 HRESULT Register(HMODULE module);
 
-// Removes every key that Register writes, per machine and per user; keys that are absent count as removed.
+// Removes every key that Register writes, per machine and per user, except those that the other architecture
+// shares while it is registered; keys that are absent count as removed. SELFREG_E_CLASS where a key stays. A
+// caller without rights to the machine's keys succeeds when he had a registration of his own.
 HRESULT Unregister();
 
 } // namespace entry

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <vector>
@@ -21,6 +23,9 @@ constexpr wchar_t kClasses[] = L"Software\\Classes";
 
 // Below it, where a registration makes one key each.
 constexpr const wchar_t* kPlaces[] = {L"", L"CLSID\\", L"Interface\\", L"TypeLib\\"};
+
+constexpr const wchar_t* kThisPlatform = sizeof(void*) == 8 ? L"win64" : L"win32";
+constexpr const wchar_t* kOtherPlatform = sizeof(void*) == 8 ? L"win32" : L"win64";
 
 // The names of all keys directly below the places where a registration writes.
 using Names = std::map<std::wstring, std::set<std::wstring>>;
@@ -125,6 +130,15 @@ class Registration : public testing::Test
         return keys;
     }
 
+    // The entry that the other architecture's registration makes in the library's key, which both share.
+    static void SetOtherPlatform(const std::wstring& library)
+    {
+        const std::wstring path = std::wstring(kClasses) + L"\\" + library + L"\\1.0\\0\\" + kOtherPlatform;
+        constexpr wchar_t kOther[] = L"C:\\Other\\Telvix.dll";
+        EXPECT_EQ(ERROR_SUCCESS,
+                  RegSetKeyValueW(HKEY_LOCAL_MACHINE, path.c_str(), nullptr, REG_SZ, kOther, sizeof kOther));
+    }
+
     void ExpectPerUser() const
     {
         const Names user = Registered(HKEY_CURRENT_USER);
@@ -138,6 +152,12 @@ class Registration : public testing::Test
     Names mMachine;
     Names mUser;
 };
+
+std::wstring WithPrefix(const std::vector<std::wstring>& keys, const std::wstring& prefix)
+{
+    const auto found = std::ranges::find_if(keys, [&](const auto& key) { return key.starts_with(prefix); });
+    return found != keys.end() ? *found : std::wstring();
+}
 
 // One of the component's own keys, put there by somebody else and not to be written.
 class ForeignKey
@@ -164,6 +184,18 @@ class ForeignKey
     std::wstring mPath;
     std::optional<LimitedKey> mLimited;
 };
+
+// Keys of the machine that are denied whole: Wine removes a key that may only be read.
+std::vector<std::unique_ptr<LimitedKey>> Denied(const std::vector<std::wstring>& names)
+{
+    std::vector<std::unique_ptr<LimitedKey>> limited;
+    for (const std::wstring& name : names)
+    {
+        limited.push_back(
+            std::make_unique<LimitedKey>(HKEY_LOCAL_MACHINE, std::wstring(kClasses) + L"\\" + name, 0));
+    }
+    return limited;
+}
 
 } // namespace
 
@@ -210,6 +242,53 @@ TEST_F(Registration, FailsWithoutATraceWhereTheUsersClassesAreDeniedToo)
         }
         ExpectNothing();
     }
+}
+
+TEST_F(Registration, TakenBackKeepsWhatTheOtherArchitectureSharesWithIt)
+{
+    const std::vector<std::wstring> own = OwnKeys();
+    const std::wstring library = WithPrefix(own, L"TypeLib\\");
+    const std::wstring progId = WithPrefix(own, L"TelvixOutlook.");
+    EXPECT_EQ(S_OK, Call("DllRegisterServer"));
+    SetOtherPlatform(library);
+    EXPECT_EQ(S_OK, Call("DllUnregisterServer"));
+    const std::wstring classes = std::wstring(kClasses) + L"\\";
+    EXPECT_EQ((std::set<std::wstring>{L"CLSID"}), NamesBelow(HKEY_LOCAL_MACHINE, classes + progId));
+    EXPECT_EQ((std::set<std::wstring>{kOtherPlatform}),
+              NamesBelow(HKEY_LOCAL_MACHINE, classes + library + L"\\1.0\\0"));
+    const Names left = Registered(HKEY_LOCAL_MACHINE);
+    for (const wchar_t* place : {L"CLSID\\", L"Interface\\"})
+    {
+        EXPECT_EQ(mMachine.at(place), left.at(place)); // these are each architecture's own
+    }
+
+    // Once the other one has gone too, nothing is shared any more.
+    EXPECT_EQ(S_OK, Call("DllRegisterServer"));
+    EXPECT_EQ((std::set<std::wstring>{kThisPlatform, kOtherPlatform}),
+              NamesBelow(HKEY_LOCAL_MACHINE, classes + library + L"\\1.0\\0"));
+    RegDeleteKeyW(HKEY_LOCAL_MACHINE, (classes + library + L"\\1.0\\0\\" + kOtherPlatform).c_str());
+    EXPECT_EQ(S_OK, Call("DllUnregisterServer"));
+    ExpectNothing();
+}
+
+TEST_F(Registration, OfTheMachineThatMayNotBeTakenBackIsAFailureUnlessTheUserHadOneOfHisOwn)
+{
+    const std::vector<std::wstring> own = OwnKeys();
+    EXPECT_EQ(S_OK, Call("DllRegisterServer"));
+    const Names machine = Registered(HKEY_LOCAL_MACHINE);
+    {
+        const auto denied = Denied(own);
+        EXPECT_EQ(SELFREG_E_CLASS, Call("DllUnregisterServer"));
+        EXPECT_EQ(machine, Registered(HKEY_LOCAL_MACHINE));
+
+        EXPECT_EQ(S_OK, Call("DllRegisterServer"));
+        ExpectPerUser();
+        EXPECT_EQ(S_OK, Call("DllUnregisterServer"));
+        EXPECT_EQ(machine, Registered(HKEY_LOCAL_MACHINE));
+        EXPECT_EQ(mUser, Registered(HKEY_CURRENT_USER));
+    }
+    EXPECT_EQ(S_OK, Call("DllUnregisterServer"));
+    ExpectNothing();
 }
 
 TEST_F(Registration, TakenBackTwiceAndWithoutRightsToTheMachineIsNoFailure)
