@@ -4,6 +4,8 @@
 #include "data/Host.h"
 #include "state/Failures.h"
 
+#include <set>
+
 namespace config
 {
 
@@ -13,6 +15,8 @@ namespace
 using automation::Recordset;
 using automation::Value;
 
+constexpr wchar_t kRowsOf[] = L"Select * From T_POutlookSyncParam Where F_UID=";
+
 std::wstring Bare(const Value& value)
 {
     return automation::IsEmptyOrNull(value) ? L"NULL" : automation::TextOf(value);
@@ -20,7 +24,9 @@ std::wstring Bare(const Value& value)
 
 std::wstring Quoted(const Value& value)
 {
-    return L"'" + automation::Replaced(automation::TextOrEmpty(value), L"'", L"''") + L"'";
+    return automation::IsEmptyOrNull(value)
+               ? L"NULL"
+               : L"'" + automation::Replaced(automation::TextOf(value), L"'", L"''") + L"'";
 }
 
 std::wstring Flag(const Value& value)
@@ -43,6 +49,25 @@ constexpr CopiedColumn kCopied[] = {
     {L"TransNameEnglish", &Quoted},  {L"TransNameChinese", &Quoted}, {L"IsTrans", &Flag},
 };
 
+std::wstring KindOf(const Recordset& rows)
+{
+    return automation::TextOrEmpty(rows.ValueOf(L"TransObject"));
+}
+
+// The kinds that the user has a row of.
+std::set<std::wstring> KindsOf(const data::Host& host, const std::wstring& userId)
+{
+    Recordset rows;
+    const automation::ClosesRecordset closes(rows);
+    RequireAccepted(host.OpenRecordsetByString(rows, kRowsOf + userId), L"OpenRecordsetByString");
+    std::set<std::wstring> kinds;
+    for (; !rows.AtEnd(); rows.MoveNext())
+    {
+        kinds.insert(KindOf(rows));
+    }
+    return kinds;
+}
+
 void CopyTemplate(const data::Host& host, const Recordset& templates, const std::wstring& userId)
 {
     std::wstring columns = L"F_UID";
@@ -59,19 +84,23 @@ void CopyTemplate(const data::Host& host, const Recordset& templates, const std:
 
 Recordset CreateDefaultParameters()
 {
-    const std::wstring sql = L"Select * From " + std::wstring(kParameterTable) + L" Where F_UID=";
     Recordset templates;
     const automation::ClosesRecordset closes(templates);
     return state::Trapped(Recordset(), [&] {
         const data::Host host;
         const std::wstring userId = host.UserId();
-        RequireAccepted(host.OpenRecordsetByString(templates, sql + L"0"), L"OpenRecordsetByString");
+        const std::set<std::wstring> present = KindsOf(host, userId);
+        RequireAccepted(host.OpenRecordsetByString(templates, kRowsOf + std::wstring(L"0")),
+                        L"OpenRecordsetByString");
         for (; !templates.AtEnd(); templates.MoveNext())
         {
-            CopyTemplate(host, templates, userId);
+            if (!present.contains(KindOf(templates)))
+            {
+                CopyTemplate(host, templates, userId);
+            }
         }
         Recordset rows;
-        RequireAccepted(host.OpenRecordsetByString(rows, sql + userId), L"OpenRecordsetByString");
+        RequireAccepted(host.OpenRecordsetByString(rows, kRowsOf + userId), L"OpenRecordsetByString");
         return rows;
     });
 }

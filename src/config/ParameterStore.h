@@ -21,8 +21,8 @@ bool SetSynParamenter(state::SynParameter& record, const std::wstring& objectNam
 // Returns the default folder; a failure leaves both as they are and returns "".
 std::wstring LoadDefaultFolder(state::SynParameter& record, const std::wstring& objectName);
 
-// Copies every template row (of user 0) for the current user, and returns the user's rows, open; nothing on
-// failure. The rows copied before a failure stay.
+// Copies the template rows (of user 0) of the kinds that the current user has no row of, and returns the
+// user's rows, open; nothing on failure. The rows copied before a failure stay.
 automation::Recordset CreateDefaultParameters();
 
 } // namespace config

@@ -114,15 +114,16 @@ TEST_F(ParameterStoreTest, ATemplateIsCopiedColumnByColumnInTheContractsOrder)
         L"F_UID,TransObjectID,TransObject,TransObjectPic,TransType,TransTypePic,TransConflictOption,"
         L"TransSourceConfig,TransSource,CalendarTransItem,CalendarPrior,CalendarAfter,TaskTransItem,"
         L"TransNameEnglish,TransNameChinese,IsTrans";
-    EXPECT_EQ((Texts{L"Insert(T_POutlookSyncParam; " + columns +
-                         L"; 7,10,'Contact','contact',3,'each',2,'','Outlook',NULL,NULL,NULL,NULL,'Contact',"
-                         L"'联系人',1; )",
-                     L"Insert(T_POutlookSyncParam; " + columns +
-                         L"; 7,20,'Task','task',1,'left',3,'','Outlook',0,0,0,1,'Task','任务',1; )",
-                     L"Insert(T_POutlookSyncParam; " + columns +
-                         L"; 7,30,'Calendar','calendar',2,'right',4,'config','Null',2,7,3,0,'Calendar','日历"
-                         L"',0; )"}),
-              mLog.CallsOf(L"Insert"));
+    EXPECT_EQ(
+        (Texts{L"Insert(T_POutlookSyncParam; " + columns +
+                   L"; 7,10,'Contact','contact',3,'each',2,NULL,'Outlook',NULL,NULL,NULL,NULL,'Contact',"
+                   L"'联系人',1; )",
+               L"Insert(T_POutlookSyncParam; " + columns +
+                   L"; 7,20,'Task','task',1,'left',3,NULL,'Outlook',0,0,0,1,'Task','任务',1; )",
+               L"Insert(T_POutlookSyncParam; " + columns +
+                   L"; 7,30,'Calendar','calendar',2,'right',4,'config','Null',2,7,3,0,'Calendar','日历"
+                   L"',0; )"}),
+        mLog.CallsOf(L"Insert"));
 }
 
 TEST_F(ParameterStoreTest, TheStatementsOfALoadAreTheContractsOwn)
