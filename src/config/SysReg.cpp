@@ -63,7 +63,7 @@ long TSysReg::OpenSubKey(const std::wstring& name)
     return WithKey([&] {
         HKEY opened = nullptr;
         const long code = RegOpenKeyExA(mKey.get(), NarrowText(name).c_str(), 0, KEY_ALL_ACCESS, &opened);
-        return MoveTo(code, opened, name);
+        return MoveTo(code, opened, name) == kDone ? kDone : kNoKey;
     });
 }
 

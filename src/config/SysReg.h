@@ -2,9 +2,10 @@
 // key holds, and reads and writes values of the common types. Made and used by the profile selection for the
 // length of one operation or one dialog; an open key is closed with the object.
 //
-// Nothing but an unknown value type raises. Every other operation returns 0 for success, -1 when a registry
-// call failed (its code is in APIErrorCode) and -2 when no key is open or opening failed; listings return the
-// number of names found. Texts cross to the registry in the system's single-byte code page.
+// Nothing but an unknown value type raises. Every other operation returns 0 for success, -2 when no key is
+// open, a key cannot be opened or a value does not fit its type, and -1 when any other registry call failed;
+// APIErrorCode has the code of a failed call. Listings return the number of names found. Texts cross to the
+// registry in the system's single-byte code page.
 #pragma once
 
 #include "automation/Value.h"
@@ -31,11 +32,13 @@ class TSysReg
 
     // Closes the open key, if any, and opens root\path with all access rights; 0 or -2.
     long OpenKey(HKEY root, const std::wstring& path);
-    // Moves to a sub-key; CreateSubKey makes it where it is missing. A failure keeps the key that was open.
+    // Moves to a sub-key; CreateSubKey makes it where it is missing. A failure (-2 to open, -1 to create)
+    // keeps the key that was open.
     long OpenSubKey(const std::wstring& name);
     long CreateSubKey(const std::wstring& name);
     long DeleteSubKey(const std::wstring& name);
-    // Moves to the parent; from a path of one part to the root itself.
+    // Moves to the parent; from a path of one part to the root itself. As OpenKey, a failure leaves no key
+    // open.
     long GoUpPath();
 
     // The names of the sub-keys and of the values, in the registry's order. The vector is left alone without

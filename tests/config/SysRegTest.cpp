@@ -154,11 +154,31 @@ TEST_F(SysRegTest, CreatingAndOpeningASubKeyMovesToIt)
 
 TEST_F(SysRegTest, AMissingSubKeyLeavesTheOpenKeyOpen)
 {
-    EXPECT_EQ(-1, mRegistry.OpenSubKey(L"Missing"));
+    EXPECT_EQ(-2, mRegistry.OpenSubKey(L"Missing"));
     EXPECT_EQ(ERROR_FILE_NOT_FOUND, mRegistry.APIErrorCode());
     EXPECT_TRUE(mRegistry.IsOpened());
     EXPECT_EQ(mBranch.Path(), mRegistry.Path());
     EXPECT_EQ(0, mRegistry.SetValue(L"Still", REG_SZ, L"open"));
+}
+
+TEST_F(SysRegTest, ASubKeyThatCannotBeCreatedIsAFailedCall)
+{
+    ASSERT_EQ(0, mRegistry.CreateSubKey(L"Doomed"));
+    RegDeleteKeyW(mBranch.Key(), L"Doomed");
+    EXPECT_EQ(-1, mRegistry.CreateSubKey(L"Below"));
+    EXPECT_EQ(ERROR_KEY_DELETED, mRegistry.APIErrorCode());
+    EXPECT_TRUE(mRegistry.IsOpened());
+    EXPECT_EQ(mBranch.Path() + L"\\Doomed", mRegistry.Path());
+}
+
+TEST_F(SysRegTest, AParentThatIsGoneLeavesNoKeyOpen)
+{
+    ASSERT_EQ(0, mRegistry.CreateSubKey(L"Doomed"));
+    ASSERT_EQ(0, mRegistry.CreateSubKey(L"Below"));
+    RegDeleteTreeW(mBranch.Key(), L"Doomed");
+    EXPECT_EQ(-2, mRegistry.GoUpPath());
+    EXPECT_EQ(ERROR_FILE_NOT_FOUND, mRegistry.APIErrorCode());
+    EXPECT_FALSE(mRegistry.IsOpened());
 }
 
 TEST_F(SysRegTest, DeletingASubKeyRemovesIt)
