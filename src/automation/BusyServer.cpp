@@ -23,10 +23,12 @@ bool WaitForBusyServer(ULONGLONG start) noexcept
     {
         return false;
     }
-    DWORD signaled = 0;
-    HANDLE handles[] = {never};
-    CoWaitForMultipleHandles(COWAIT_DISPATCH_CALLS | COWAIT_DISPATCH_WINDOW_MESSAGES, kPause, 1, handles,
-                             &signaled);
+    AtLeast(kPause, [&] {
+        DWORD signaled = 0;
+        HANDLE handles[] = {never};
+        CoWaitForMultipleHandles(COWAIT_DISPATCH_CALLS | COWAIT_DISPATCH_WINDOW_MESSAGES, kPause, 1, handles,
+                                 &signaled);
+    });
     CloseHandle(never);
     return true;
 }

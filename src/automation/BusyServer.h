@@ -16,6 +16,20 @@ inline bool IsRejection(HRESULT result) noexcept
     return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
 }
 
+// Waits for a time in milliseconds. What is left of it when the wait ends early, as one that fails does at
+// once, is slept, so that whoever waits in a loop does not spin.
+template<typename Wait>
+void AtLeast(DWORD time, Wait&& wait)
+{
+    const ULONGLONG start = GetTickCount64();
+    wait();
+    const ULONGLONG waited = GetTickCount64() - start;
+    if (waited < time)
+    {
+        Sleep(static_cast<DWORD>(time - waited));
+    }
+}
+
 // Waits a moment while the thread's windows stay alive; false when the patience since start (a tick count) is
 // used up.
 bool WaitForBusyServer(ULONGLONG start) noexcept;

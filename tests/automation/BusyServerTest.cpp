@@ -80,6 +80,17 @@ TEST(BusyServer, AnyOtherFailureIsReportedAtOnce)
     EXPECT_EQ(1, calls);
 }
 
+TEST(BusyServer, AWaitThatFailsAtOnceLastsItsTimeAllTheSame)
+{
+    constexpr DWORD kTime = 200;
+    constexpr DWORD kClock = 20; // milliseconds by which the clock is inexact
+    const ULONGLONG start = GetTickCount64();
+    bool isTried = false;
+    AtLeast(kTime, [&] { isTried = true; });
+    EXPECT_TRUE(isTried);
+    EXPECT_LE(kTime - kClock, GetTickCount64() - start);
+}
+
 TEST(BusyServer, PatienceEnds)
 {
     const ULONGLONG now = GetTickCount64();
