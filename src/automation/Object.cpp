@@ -2,6 +2,7 @@
 
 #include "automation/BusyServer.h"
 #include "automation/Error.h"
+#include "automation/ProxyHome.h"
 
 #include <array>
 #include <cstring>
@@ -104,7 +105,16 @@ bool GuidOrder::operator()(const GUID& left, const GUID& right) const noexcept
 
 struct Object::Target
 {
-    explicit Target(IDispatch* given) : dispatch(given) {}
+    explicit Target(IDispatch* given) : dispatch(given), home(*given) {}
+    Target(const Target&) = delete;
+    Target& operator=(const Target&) = delete;
+    ~Target()
+    {
+        if (!home.MayRelease())
+        {
+            dispatch.Detach();
+        }
+    }
 
     DISPID IdOf(const wchar_t* member)
     {
@@ -129,6 +139,7 @@ struct Object::Target
     }
 
     ComPtr<IDispatch> dispatch;
+    ProxyHome home;
     std::shared_ptr<MemberIds> ids = std::make_shared<MemberIds>();
 };
 

@@ -1,6 +1,7 @@
 // A counted reference to an automation object that is reached by member name (late binding). Copies share
 // the reference and what is known of its members: each member's DISPID is asked for once per object, which
-// saves a cross-process round trip on every later use. Used on the thread (apartment) that obtained it.
+// saves a cross-process round trip on every later use. Used on the thread (apartment) that obtained it; if it
+// ends after the thread has left COM, a reference to another process is abandoned instead of released.
 #pragma once
 
 #include "automation/Argument.h"

@@ -99,7 +99,7 @@ STDMETHODIMP ClsSynOutlook::put_FontName(BSTR name)
 {
     return Guard([&] {
         Shared().gFontName = TextOfBstr(name);
-        Object(Shared().gFont.Get()).Put(L"Name", Shared().gFontName);
+        Shared().gFont.Put(L"Name", Shared().gFontName);
         return S_OK;
     });
 }
@@ -113,14 +113,18 @@ STDMETHODIMP ClsSynOutlook::put_FontSize(LONG points)
 {
     return Guard([&] {
         Shared().gFontSize = points;
-        Object(Shared().gFont.Get()).Put(L"Size", points);
+        Shared().gFont.Put(L"Size", points);
         return S_OK;
     });
 }
 
 STDMETHODIMP ClsSynOutlook::get_Font(IFontDisp** font)
 {
-    return Guard([&] { return Shared().gFont.CopyTo(font); });
+    return Guard([&] {
+        // A font's dispatch interface has no members beside those of IDispatch.
+        const Microsoft::WRL::ComPtr<IFontDisp> held(static_cast<IFontDisp*>(Shared().gFont.Dispatch()));
+        return held.CopyTo(font);
+    });
 }
 
 STDMETHODIMP ClsSynOutlook::putref_Font(IFontDisp* font)
@@ -128,11 +132,11 @@ STDMETHODIMP ClsSynOutlook::putref_Font(IFontDisp* font)
     return Guard([&] {
         if (font != nullptr)
         {
-            const Object given(font);
+            Object given(font);
             // Read both before anything is taken over, so that a failing font object changes nothing.
             std::wstring name = automation::TextOf(given.Get(L"Name"));
             const long points = automation::LongOf(given.Get(L"Size")); // rounds half to even
-            Shared().gFont = font;
+            Shared().gFont = std::move(given);
             Shared().gFontName = std::move(name);
             Shared().gFontSize = points;
         }

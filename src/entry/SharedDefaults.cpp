@@ -4,6 +4,9 @@
 #include "automation/Error.h"
 #include "resources/Strings.h"
 
+#include <olectl.h>
+#include <wrl/client.h>
+
 namespace entry
 {
 
@@ -14,7 +17,7 @@ constexpr automation::Moment kStart{.hour = 6, .minute = 0};
 constexpr automation::Moment kEnd{.hour = 17, .minute = 30};
 constexpr long kReminderMinutes = 20;
 
-Microsoft::WRL::ComPtr<IFontDisp> NewFont(std::wstring name, long points)
+automation::Object NewFont(std::wstring name, long points)
 {
     FONTDESC description{};
     description.cbSizeofstruct = sizeof description;
@@ -26,7 +29,7 @@ Microsoft::WRL::ComPtr<IFontDisp> NewFont(std::wstring name, long points)
     automation::Check(OleCreateFontIndirect(&description, __uuidof(IFontDisp),
                                             reinterpret_cast<void**>(font.GetAddressOf())),
                       L"StdFont");
-    return font;
+    return automation::Object(font.Get());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "state/SharedState.h"
 
+#include <algorithm>
 #include <memory>
 #include <mutex>
 #include <new>
@@ -47,36 +48,69 @@ class Registry
     {
         auto* state = static_cast<SharedState*>(TlsGetValue(mSlot));
         TlsSetValue(mSlot, nullptr);
-        const std::lock_guard lock(mMutex);
-        std::erase_if(mStates, [state](const auto& one) { return one.get() == state; });
+        // Freed after the lock is given back: what it releases is foreign code.
+        const std::unique_ptr<SharedState> taken = Take(state);
     }
 
   private:
+    std::unique_ptr<SharedState> Take(const SharedState* state)
+    {
+        const std::lock_guard lock(mMutex);
+        const auto found = std::ranges::find(mStates, state, &std::unique_ptr<SharedState>::get);
+        if (found == mStates.end())
+        {
+            return nullptr;
+        }
+        std::unique_ptr<SharedState> taken = std::move(*found);
+        mStates.erase(found);
+        return taken;
+    }
+
     DWORD mSlot;
     std::mutex mMutex;
     std::vector<std::unique_ptr<SharedState>> mStates;
 };
 
-// Made on first use and never destroyed by the run-time library: at the end of the process the modules behind
-// the references may be gone already. The module's own unloading deletes it.
-std::mutex gRegistryMutex;
-Registry* gRegistry = nullptr;
-
-Registry& TheRegistry()
+// The one registry, made on first use and never destroyed by the run-time library: at the end of the process
+// the modules behind the references may be gone already. The module's own unloading deletes it.
+class OneRegistry
 {
-    const std::lock_guard lock(gRegistryMutex);
-    if (gRegistry == nullptr)
+  public:
+    Registry& Get()
     {
-        gRegistry = new Registry;
+        const std::lock_guard lock(mMutex);
+        if (mRegistry == nullptr)
+        {
+            mRegistry = new Registry;
+        }
+        return *mRegistry;
     }
-    return *gRegistry;
-}
+
+    // Null where it has not been made.
+    Registry* Find()
+    {
+        const std::lock_guard lock(mMutex);
+        return mRegistry;
+    }
+
+    std::unique_ptr<Registry> Take()
+    {
+        const std::lock_guard lock(mMutex);
+        return std::unique_ptr<Registry>(std::exchange(mRegistry, nullptr));
+    }
+
+  private:
+    std::mutex mMutex;
+    Registry* mRegistry = nullptr;
+};
+
+OneRegistry gRegistry;
 
 } // namespace
 
 SharedState& Shared()
 {
-    return TheRegistry().OfThread();
+    return gRegistry.Get().OfThread();
 }
 
 SynParameter& EditedParameter()
@@ -86,15 +120,15 @@ SynParameter& EditedParameter()
 
 void FreeStateOfThread() noexcept
 {
-    if (gRegistry != nullptr)
+    if (Registry* const registry = gRegistry.Find())
     {
-        gRegistry->FreeThread();
+        registry->FreeThread();
     }
 }
 
 void FreeStateOfAllThreads() noexcept
 {
-    delete std::exchange(gRegistry, nullptr);
+    const std::unique_ptr<Registry> taken = gRegistry.Take(); // freed after the lock is given back
 }
 
 } // namespace state

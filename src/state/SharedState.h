@@ -8,12 +8,6 @@
 
 #include <string>
 
-#include <windows.h>
-
-#include <ocidl.h>
-#include <olectl.h>
-#include <wrl/client.h>
-
 namespace state
 {
 
@@ -30,7 +24,7 @@ struct SharedState
 
     std::wstring gFontName;
     long gFontSize = 0; // points
-    Microsoft::WRL::ComPtr<IFontDisp> gFont;
+    automation::Object gFont;
 
     SynParameter gSynParameter;       // of the run
     SynParameter gConfigureParameter; // of the configuration dialogs

@@ -8,7 +8,8 @@ namespace test_support
 HRESULT ScriptedObject::QueryInterface(REFIID id, void** result)
 {
     const bool isKnown = id == __uuidof(IUnknown) || id == __uuidof(IDispatch) ||
-                         (IsOfScriptClass && id == __uuidof(IDispatchEx));
+                         (IsOfScriptClass && id == __uuidof(IDispatchEx)) ||
+                         (IsProxy && id == __uuidof(IClientSecurity));
     *result = isKnown ? static_cast<IDispatchEx*>(this) : nullptr;
     if (!isKnown)
     {

@@ -50,11 +50,15 @@ class ScriptedObject : public IDispatchEx
     std::function<HRESULT(const ArrivedCall& call)> OnCall = [](const ArrivedCall&) { return S_OK; };
     // An object of a script class knows its members through IDispatchEx only.
     bool IsOfScriptClass = false;
+    // It looks like a proxy, which stands for an object of another apartment.
+    bool IsProxy = false;
     // How often the member's number was asked for, by either interface.
     long NamesAsked = 0;
     DWORD FlagsOfName = 0;
 
     long References() const noexcept { return mReferences; }
+    // A reference that is rightly not given back.
+    void Forget() noexcept { --mReferences; }
 
     STDMETHODIMP QueryInterface(REFIID id, void** result) override;
     STDMETHODIMP_(ULONG) AddRef() override { return static_cast<ULONG>(++mReferences); }

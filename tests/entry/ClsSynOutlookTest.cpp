@@ -107,6 +107,22 @@ TEST_F(PublicClass, ANewInstanceResetsTheValuesThatAllInstancesShare)
     }
 }
 
+TEST_F(PublicClass, ANewInstanceMakesANewFontObjectAndLeavesTheHostsOneAlone)
+{
+    const Object first = LateBound(NewInstance());
+    const Object ofHost(NewFont(L"Tahoma", 11).Get());
+    first.PutRef(L"Font", ofHost);
+    const Object second = LateBound(NewInstance());
+    const Object made = second.GetObject(L"Font");
+    EXPECT_NE(ofHost.Dispatch(), made.Dispatch());
+    EXPECT_EQ(L"Tahoma", TextOf(ofHost.Get(L"Name")));
+    EXPECT_EQ(11, LongOf(ofHost.Get(L"Size")));
+    EXPECT_EQ(L"Arial", TextOf(made.Get(L"Name")));
+    EXPECT_EQ(8, LongOf(made.Get(L"Size")));
+    const Object third = LateBound(NewInstance());
+    EXPECT_NE(made.Dispatch(), third.GetObject(L"Font").Dispatch());
+}
+
 TEST_F(PublicClass, AChineseInstanceReportsSongtiNineAndAnEnglishOneArialEight)
 {
     {
