@@ -34,7 +34,7 @@ class ClsSynOutlook : public automation::ComObject<_ClsSynOutlook, ISupportError
     STDMETHODIMP putref_Font(IFontDisp* font) override;
 
     // True when the arguments are refused and nothing was done; False when the dialog was shown and has
-    // closed, or an automation error stopped the call.
+    // closed, an automation error stopped the call, or the thread's dialog is open already.
     STDMETHODIMP SynLoad(IDispatch** dtc, BSTR connection, VARIANT_BOOL* refused) override;
 
     // Late binding, through the type library.

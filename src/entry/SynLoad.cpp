@@ -10,6 +10,24 @@ namespace entry
 
 using automation::Object;
 
+namespace
+{
+
+// From the start of Outlook until the dialog has closed, whatever loop of messages brings the host back.
+class Loading
+{
+  public:
+    explicit Loading(state::SharedState& shared) : mShared(shared) { mShared.isLoading = true; }
+    Loading(const Loading&) = delete;
+    Loading& operator=(const Loading&) = delete;
+    ~Loading() { mShared.isLoading = false; }
+
+  private:
+    state::SharedState& mShared;
+};
+
+} // namespace
+
 bool SynLoad(const Object& dtc, const std::wstring& connection)
 {
     if (connection.empty() || !dtc)
@@ -19,6 +37,11 @@ bool SynLoad(const Object& dtc, const std::wstring& connection)
     }
     return state::Trapped(false, [&] {
         state::SharedState& shared = state::Shared();
+        if (shared.isLoading)
+        {
+            return false;
+        }
+        const Loading loading(shared);
         const automation::MessageFilterScope busyOutlookIsAskedAgain;
         shared.gDTC = dtc;
         shared.gOlApplication = Object::Create(L"Outlook.Application");

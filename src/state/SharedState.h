@@ -29,6 +29,8 @@ struct SharedState
     SynParameter gSynParameter;       // of the run
     SynParameter gConfigureParameter; // of the configuration dialogs
     bool gChangesAccepted = false;    // the user's answer to the confirmation dialog
+
+    bool isLoading = false; // a call of SynLoad has not returned yet
 };
 
 // The calling thread's state, made on first use.

@@ -87,16 +87,17 @@ INSTANTIATE_TEST_SUITE_P(, Reentry, testing::ValuesIn(kKinds));
 
 } // namespace
 
-TEST_P(Reentry, ByASecondSynLoadShowsNoSecondDialogAndTheRunGoesOn)
+TEST_P(Reentry, ByASecondSynLoadShowsNoSecondDialogAndTheRunGoesOnWithItsOwnHost)
 {
+    const auto ofSecond = std::make_shared<Meddling>();
     ExpectUnimpressed(RunWhile(kEverywhere, [&](const Object& component) {
-        Object dtc = mSite.Host().Dtc();
-        EXPECT_FALSE(
-            automation::TruthOf(component.Call(L"SynLoad", ByRef(dtc), mSite.Host().ConnectionString())));
+        Object dtc = MakeMeddled(mSite.Host().Dtc(), ofSecond);
+        EXPECT_FALSE(automation::TruthOf(component.Call(L"SynLoad", ByRef(dtc), L"Driver=Other")));
         Object nothing;
         EXPECT_TRUE(
             automation::TruthOf(component.Call(L"SynLoad", ByRef(nothing), mSite.Host().ConnectionString())));
     }));
+    EXPECT_TRUE(ofSecond->calls.empty());
 }
 
 TEST_P(Reentry, ByPropertiesAndANewObjectOfTheClassLeavesTheRunAlone)

@@ -1,9 +1,12 @@
 #include "entry/ClsSynOutlook.h"
 
+#include "automation/Error.h"
 #include "automation/Object.h"
 #include "sandbox/outlook/Outlook.h"
 #include "sandbox/robot/Robot.h"
 #include "state/SharedState.h"
+#include "tests/support/Drive.h"
+#include "tests/support/MessageBoxes.h"
 #include "tests/support/StandIns.h"
 
 #include <gtest/gtest.h>
@@ -57,6 +60,23 @@ class SynLoadCall : public testing::Test
         EXPECT_EQ(L"Driver=x", Shared().gCnnString);
     }
 
+    // Calls SynLoad with other arguments while a call of this thread has not returned.
+    void ExpectSecondCallRefused()
+    {
+        const IDispatch* const held[] = {Shared().gDTC.Dispatch(), Shared().gOlApplication.Dispatch(),
+                                         Shared().gOlNamespace.Dispatch()};
+        const std::wstring connection = Shared().gCnnString;
+        const Object second(ComPtr<IDispatch>(new entry::ClsSynOutlook).Get());
+        Object other = sandbox::MakeObject<SilentDtc>();
+        Object nothing;
+        EXPECT_FALSE(TruthOf(second.Call(L"SynLoad", ByRef(other), L"Driver=y")));
+        EXPECT_TRUE(TruthOf(second.Call(L"SynLoad", ByRef(nothing), L"Driver=y")));
+        EXPECT_EQ(held[0], Shared().gDTC.Dispatch());
+        EXPECT_EQ(held[1], Shared().gOlApplication.Dispatch());
+        EXPECT_EQ(held[2], Shared().gOlNamespace.Dispatch());
+        EXPECT_EQ(connection, Shared().gCnnString);
+    }
+
     Object Instance;
     Object Dtc = sandbox::MakeObject<SilentDtc>();
 };
@@ -106,6 +126,58 @@ TEST_F(SynLoadWithOutlook, ServesAnEarlyBoundCallerThroughTheInterface)
         SysFreeString(connection);
         return Value(refused != VARIANT_FALSE);
     });
+}
+
+TEST_F(SynLoadWithOutlook, WhileTheDialogIsShownASecondCallReturnsFalseAndStoresNothing)
+{
+    const test_support::MainThread mainThread;
+    sandbox::Robot robot([&](sandbox::Robot& user) {
+        const sandbox::ShownDialog dialog = user.WaitForDialog(L"Synchronization");
+        mainThread.Invoke([&] {
+            EXPECT_EQ(Dtc.Dispatch(), Shared().gDTC.Dispatch());
+            ExpectSecondCallRefused();
+        });
+        dialog.Click(IDCANCEL);
+    });
+    EXPECT_FALSE(TruthOf(Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=x")));
+    robot.Finish();
+    ExpectShownAndClosed([&] { return Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=x"); });
+}
+
+TEST_F(SynLoadCall, WhileOutlookStartsASecondCallReturnsFalseAndStoresNothing)
+{
+    long started = 0;
+    const sandbox::RegisteredClass outlook(sandbox::outlook::kOutlookClass, CLSCTX_INPROC_SERVER, [&] {
+        if (++started == 1)
+        {
+            ExpectSecondCallRefused();
+        }
+        return sandbox::MakeOutlook(sandbox::MakeMailbox());
+    });
+    sandbox::RegisterProgId(sandbox::outlook::kOutlookProgId, sandbox::outlook::kOutlookClass);
+    int shown = 0;
+    test_support::AnswerDialogsDuring(
+        [&] { EXPECT_FALSE(TruthOf(Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=x"))); },
+        [&](const sandbox::ShownDialog& dialog) {
+            ++shown;
+            dialog.Click(IDCANCEL);
+        });
+    EXPECT_EQ(1, started);
+    EXPECT_EQ(1, shown);
+}
+
+TEST_F(SynLoadCall, AnOutlookThatDoesNotStartLeavesTheThreadFreeForTheNextCall)
+{
+    {
+        const sandbox::RegisteredClass broken(
+            sandbox::outlook::kOutlookClass, CLSCTX_INPROC_SERVER,
+            []() -> Object { throw automation::Error(E_FAIL, L"Outlook.Application"); });
+        sandbox::RegisterProgId(sandbox::outlook::kOutlookProgId, sandbox::outlook::kOutlookClass);
+        EXPECT_FALSE(TruthOf(Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=y")));
+        EXPECT_EQ(Dtc.Dispatch(), Shared().gDTC.Dispatch());
+    }
+    const sandbox::OutlookInProcess outlook(sandbox::MakeMailbox());
+    ExpectShownAndClosed([&] { return Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=x"); });
 }
 
 TEST_F(SynLoadWithOutlook, MayBeCalledAgainOnTheSameInstance)
