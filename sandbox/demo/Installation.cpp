@@ -10,11 +10,26 @@ namespace sandbox::demo
 namespace
 {
 
-constexpr const wchar_t* kProfileKeys[] = {
-    L"Software\\Microsoft\\Windows Messaging Subsystem\\Profiles",
-    L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem\\Profiles",
-};
 constexpr wchar_t kProfile[] = L"Outlook";
+constexpr wchar_t kDefaultProfile[] = L"DefaultProfile";
+
+struct ProfileKey
+{
+    Profiles where;
+    const wchar_t* profiles;
+    const wchar_t* keyOfDefault;
+};
+
+constexpr wchar_t kWindowsProfiles[] = L"Software\\Microsoft\\Windows Messaging Subsystem\\Profiles";
+constexpr wchar_t kWindowsNtProfiles[] =
+    L"Software\\Microsoft\\Windows NT\\CurrentVersion\\Windows Messaging Subsystem\\Profiles";
+
+constexpr ProfileKey kProfileKeys[] = {
+    {Profiles::Classic, kWindowsProfiles, kWindowsProfiles},
+    {Profiles::Classic, kWindowsNtProfiles, kWindowsNtProfiles},
+    {Profiles::Modern, L"Software\\Microsoft\\Office\\16.0\\Outlook\\Profiles",
+     L"Software\\Microsoft\\Office\\16.0\\Outlook"},
+};
 
 struct Direction
 {
@@ -30,16 +45,31 @@ void CheckStatus(LSTATUS status, const wchar_t* key)
 
 } // namespace
 
-void InstallOutlookProfile()
+void InstallOutlookProfile(Profiles where)
 {
-    for (const wchar_t* key : kProfileKeys)
+    RemoveOutlookProfiles();
+    for (const ProfileKey& key : kProfileKeys)
     {
-        CheckStatus(RegSetKeyValueW(HKEY_CURRENT_USER, (std::wstring(key) + L"\\" + kProfile).c_str(),
-                                    L"Name", REG_SZ, kProfile, sizeof kProfile),
-                    key);
-        CheckStatus(
-            RegSetKeyValueW(HKEY_CURRENT_USER, key, L"DefaultProfile", REG_SZ, kProfile, sizeof kProfile),
-            key);
+        if (key.where == where)
+        {
+            const std::wstring profile = std::wstring(key.profiles) + L"\\" + kProfile;
+            CheckStatus(RegSetKeyValueW(HKEY_CURRENT_USER, profile.c_str(), L"Name", REG_SZ, kProfile,
+                                        sizeof kProfile),
+                        key.profiles);
+            CheckStatus(RegSetKeyValueW(HKEY_CURRENT_USER, key.keyOfDefault, kDefaultProfile, REG_SZ,
+                                        kProfile, sizeof kProfile),
+                        key.keyOfDefault);
+        }
+    }
+}
+
+void RemoveOutlookProfiles()
+{
+    for (const ProfileKey& key : kProfileKeys)
+    {
+        RegDeleteTreeW(HKEY_CURRENT_USER, key.profiles);
+        RegDeleteKeyW(HKEY_CURRENT_USER, key.profiles); // some systems leave the emptied key itself
+        RegDeleteKeyValueW(HKEY_CURRENT_USER, key.keyOfDefault, kDefaultProfile);
     }
 }
 

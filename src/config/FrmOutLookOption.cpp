@@ -28,7 +28,7 @@ bool UserWantsTheChange()
 void ConnectAnew()
 {
     auto& shared = state::Shared();
-    shared.gOlNamespace = automation::Object();
+    shared.gOlNamespace = {};
     shared.gOlApplication = automation::Object::Create(L"Outlook.Application");
     shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
 }
@@ -73,6 +73,12 @@ void FrmOutLookOption::LoadProfiles()
         return;
     }
     ListProfiles();
+    if (MoveToDefaultProfile(mRegistry) != 0)
+    {
+        ShowRegistryFailure(L"Open key error, code ", mRegistry);
+        state::LogError();
+        return;
+    }
     ShowDefaultProfile();
 }
 

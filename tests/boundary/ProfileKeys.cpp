@@ -33,7 +33,7 @@ ProfileKeys::ProfileKeys(const std::vector<std::wstring>& profiles)
 ProfileKeys::~ProfileKeys()
 {
     Remove();
-    sandbox::demo::InstallOutlookProfile();
+    sandbox::demo::InstallOutlookProfile(sandbox::demo::Profiles::Classic);
 }
 
 std::wstring ProfileKeys::Default() const
@@ -54,11 +54,7 @@ std::wstring ProfileKeys::Default() const
 
 void ProfileKeys::Remove() const
 {
-    for (const wchar_t* path : kPaths)
-    {
-        RegDeleteTreeW(HKEY_CURRENT_USER, path);
-        RegDeleteKeyW(HKEY_CURRENT_USER, path);
-    }
+    sandbox::demo::RemoveOutlookProfiles();
 }
 
 } // namespace boundary_tests

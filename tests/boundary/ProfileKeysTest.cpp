@@ -1,5 +1,6 @@
 #include "tests/boundary/ProfileKeys.h"
 
+#include "sandbox/demo/Installation.h"
 #include "tests/boundary/KeySecurity.h"
 #include "tests/boundary/Site.h"
 
@@ -48,6 +49,19 @@ TEST_F(OutlooksProfileKeys, DeniedOnesStopARunWithTheirCodeAndAllowedAgainTheyDo
         ExpectRefused(L"Open key error, code 5");
     }
     EXPECT_EQ(SuccessStatus(), mSite.Run({L"contact", kBoth}).status);
+}
+
+TEST_F(OutlooksProfileKeys, MissingOnesDoNotStopARunWhereOfficeHasAProfileOfItsOwn)
+{
+    sandbox::demo::InstallOutlookProfile(sandbox::demo::Profiles::Modern);
+    EXPECT_EQ(SuccessStatus(), mSite.Run({L"contact", kBoth}).status);
+}
+
+TEST_F(OutlooksProfileKeys, ANewerOneThatIsDeniedStopsARunWithItsCode)
+{
+    RegDeleteTreeW(HKEY_CURRENT_USER, ProfileKeys::kPaths[0]);
+    const LimitedKey newer(HKEY_CURRENT_USER, ProfileKeys::kPaths[1], KEY_READ);
+    ExpectRefused(L"Open key error, code 5");
 }
 
 TEST_F(OutlooksProfileKeys, EmptyOnesAskTheUserToConfigureOutlook)

@@ -129,7 +129,7 @@ Site::Site()
     pattern.CopyTo(mHostFile, mMailboxFile);
     OpenHost();
     mMailbox = std::make_unique<sandbox::Connection>(sandbox::ConnectionStringOf(mMailboxFile));
-    sandbox::demo::InstallOutlookProfile();
+    sandbox::demo::InstallOutlookProfile(sandbox::demo::Profiles::Classic);
 }
 
 Site::~Site()

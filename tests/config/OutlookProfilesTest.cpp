@@ -2,9 +2,10 @@
 
 #include "config/ProfileText.h"
 #include "resources/Strings.h"
-#include "tests/config/ProfileKey.h"
+#include "tests/config/NewerProfiles.h"
 #include "tests/config/TellsUser.h"
 #include "tests/support/Drive.h"
+#include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>
@@ -16,14 +17,29 @@ using automation::Value;
 using config::CheckOutlookProfiles;
 using config::ProfileText;
 using config_tests::ExpectTellsUser;
+using config_tests::NewerProfiles;
 using config_tests::ProfileKey;
 using resources::Language;
+
+// The check finds a profile, and shows nothing.
+void ExpectAProfile()
+{
+    bool isRefused = true;
+    int shown = 0;
+    test_support::AnswerDialogsDuring([&] { isRefused = CheckOutlookProfiles(); },
+                                      [&](const sandbox::ShownDialog& dialog) {
+                                          ++shown;
+                                          dialog.Close();
+                                      });
+    EXPECT_FALSE(isRefused);
+    EXPECT_EQ(0, shown);
+}
 
 TEST(CheckOutlookProfiles, OneProfileIsEnough)
 {
     const ProfileKey key;
     key.AddProfile(L"Outlook");
-    EXPECT_FALSE(CheckOutlookProfiles());
+    ExpectAProfile();
 }
 
 TEST(CheckOutlookProfiles, WithoutAProfileTheUserIsToldInHisLanguage)
@@ -50,6 +66,116 @@ TEST(CheckOutlookProfiles, AMissingKeyIsReportedWithItsCodeInEnglishInBothLangua
             },
             [] { EXPECT_TRUE(CheckOutlookProfiles()); });
     }
+}
+
+// The class of a key may be longer than what a listing has room for.
+void AddUnlistable(HKEY profiles, const wchar_t* name)
+{
+    std::wstring longClass(300, L'c');
+    HKEY made = nullptr;
+    RegCreateKeyExW(profiles, name, 0, longClass.data(), 0, KEY_ALL_ACCESS, nullptr, &made, nullptr);
+    RegCloseKey(made);
+}
+
+TEST(CheckOutlookProfiles, AProfileListedBeforeAFailureIsEnough)
+{
+    const ProfileKey key;
+    key.AddProfile(L"First");
+    AddUnlistable(key.Key(), L"Second");
+    std::vector<std::wstring> names;
+    config::TSysReg registry;
+    config::OpenProfileKey(registry);
+    ASSERT_EQ(-1, registry.GetSubKeyNames(names));
+    ASSERT_EQ(std::vector<std::wstring>{L"First"}, names);
+    ExpectAProfile();
+}
+
+TEST(CheckOutlookProfiles, AListingThatFailsAtTheFirstProfileCountsAsNone)
+{
+    const ProfileKey key;
+    AddUnlistable(key.Key(), L"Only");
+    ExpectTellsUser(Language::English, L"Error", L"Please configue Outlook.",
+                    [] { EXPECT_TRUE(CheckOutlookProfiles()); });
+}
+
+// The path of the profile key that is opened.
+std::wstring OpenedProfileKey()
+{
+    config::TSysReg registry;
+    EXPECT_EQ(0, config::OpenProfileKey(registry));
+    return registry.Path();
+}
+
+class NewerProfileKeys : public testing::Test
+{
+  protected:
+    NewerProfileKeys() { ProfileKey::Remove(); }
+};
+
+TEST_F(NewerProfileKeys, AreNotLookedAtWhereTheUsualKeyExistsEvenWithoutAProfile)
+{
+    const ProfileKey usual;
+    const NewerProfiles ofOffice(ProfileKey::OfficePath(L"16.0"), {L"Outlook"});
+    const NewerProfiles ofNt(ProfileKey::NtPath(), {L"Outlook"});
+    EXPECT_EQ(ProfileKey::Path(), OpenedProfileKey());
+    ExpectTellsUser(Language::English, L"Error", L"Please configue Outlook.",
+                    [] { EXPECT_TRUE(CheckOutlookProfiles()); });
+}
+
+TEST_F(NewerProfileKeys, BeginWithTheKeyOfTheNtFamily)
+{
+    const NewerProfiles ofOffice(ProfileKey::OfficePath(L"16.0"), {L"Outlook"});
+    const NewerProfiles ofNt(ProfileKey::NtPath(), {L"Outlook"});
+    EXPECT_EQ(ProfileKey::NtPath(), OpenedProfileKey());
+    ExpectAProfile();
+}
+
+TEST_F(NewerProfileKeys, GoOnWithThoseOfOfficeTheNewestVersionFirst)
+{
+    const NewerProfiles old(ProfileKey::OfficePath(L"9.0"), {L"Outlook"});
+    EXPECT_EQ(old.Path(), OpenedProfileKey());
+    const NewerProfiles newer(ProfileKey::OfficePath(L"15.0"), {L"Outlook"});
+    EXPECT_EQ(newer.Path(), OpenedProfileKey());
+    const NewerProfiles newest(ProfileKey::OfficePath(L"15.10"), {L"Outlook"});
+    EXPECT_EQ(newest.Path(), OpenedProfileKey());
+    ExpectAProfile();
+}
+
+TEST_F(NewerProfileKeys, AreThoseOfVersionsOnly)
+{
+    const NewerProfiles old(ProfileKey::OfficePath(L"9.0"), {L"Outlook"});
+    for (const wchar_t* name : {L"Common", L"17", L"17.", L".17", L"17.0x"})
+    {
+        const NewerProfiles other(ProfileKey::OfficePath(name), {L"Outlook"});
+        EXPECT_EQ(old.Path(), OpenedProfileKey());
+        RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring(L"Software\\Microsoft\\Office\\") + name).c_str());
+    }
+}
+
+TEST_F(NewerProfileKeys, WithAProfileGoBeforeThoseWithout)
+{
+    const NewerProfiles left(ProfileKey::NtPath(), {});
+    const NewerProfiles newest(ProfileKey::OfficePath(L"16.0"), {});
+    EXPECT_EQ(left.Path(), OpenedProfileKey());
+    ExpectTellsUser(Language::English, L"Error", L"Please configue Outlook.",
+                    [] { EXPECT_TRUE(CheckOutlookProfiles()); });
+    const NewerProfiles used(ProfileKey::OfficePath(L"15.0"), {L"Outlook"});
+    EXPECT_EQ(used.Path(), OpenedProfileKey());
+    ExpectAProfile();
+}
+
+TEST_F(NewerProfileKeys, HaveTheDefaultInTheKeyItselfAndThoseOfOfficeInTheOneAbove)
+{
+    const auto keyOfDefault = [] {
+        config::TSysReg registry;
+        EXPECT_EQ(0, config::OpenProfileKey(registry));
+        EXPECT_EQ(0, config::MoveToDefaultProfile(registry));
+        return registry.Path();
+    };
+    const NewerProfiles ofOffice(ProfileKey::OfficePath(L"16.0"), {L"Outlook"});
+    EXPECT_EQ(L"Software\\Microsoft\\Office\\16.0\\Outlook", keyOfDefault());
+    const NewerProfiles ofNt(ProfileKey::NtPath(), {L"Outlook"});
+    EXPECT_EQ(ProfileKey::NtPath(), keyOfDefault());
 }
 
 TEST(ProfileText, TextsReadAsTheyAre)

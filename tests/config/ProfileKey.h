@@ -1,5 +1,6 @@
 // The registry key of Outlook's profiles, as this system has it, empty at the start of a test and gone at the
-// end; what was there before is not touched by tests that run in a prefix of their own.
+// end, and the keys that take its place where it does not exist. The tests run in a prefix of their own: no
+// profile of a user's is lost.
 #pragma once
 
 #include "config/LocalSysInfo.h"
@@ -28,7 +29,19 @@ class ProfileKey
     }
 
     static const wchar_t* Path() { return config::ProfileKeyPath(config::GetOSVersionCode()); }
-    static void Remove() { RegDeleteTreeW(HKEY_CURRENT_USER, Path()); }
+    // None of the keys that profiles are looked for in is left.
+    static void Remove()
+    {
+        for (const std::wstring& path : {std::wstring(Path()), std::wstring(NtPath()), OfficePath(L"16.0")})
+        {
+            RegDeleteTreeW(HKEY_CURRENT_USER, path.c_str());
+        }
+    }
+    static const wchar_t* NtPath() { return config::ProfileKeyPath(1); }
+    static std::wstring OfficePath(const std::wstring& version)
+    {
+        return L"Software\\Microsoft\\Office\\" + version + L"\\Outlook\\Profiles";
+    }
 
     HKEY Key() const { return mKey; }
     void AddProfile(const std::wstring& name) const

@@ -41,7 +41,7 @@ Exchange::Exchange() : mFolder(NewFolder())
     WriteNumberedMailbox(mailboxFile, kRecords);
     mHost = std::make_unique<Host>(hostFile);
     mMailbox = std::make_unique<Connection>(ConnectionStringOf(mailboxFile));
-    InstallOutlookProfile();
+    InstallOutlookProfile(Profiles::Modern);
     outlook::ChooseMailbox(mailboxFile);
 }
 

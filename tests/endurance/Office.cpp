@@ -51,7 +51,7 @@ Office::Office(Edition edition, size_t records)
       mMailbox(OpenMailbox(mMailboxFile)),
       mRecords(static_cast<long>(records + records / 2))
 {
-    InstallOutlookProfile();
+    InstallOutlookProfile(Profiles::Modern);
     for (const Kind& kind : kKinds)
     {
         Run({&kind, kToOutlook}, NewComponent());

@@ -1,5 +1,6 @@
 #include "config/FrmOutLookOption.h"
 
+#include "tests/config/NewerProfiles.h"
 #include "tests/ui_config/Ground.h"
 #include "tests/ui_config/Look.h"
 
@@ -107,6 +108,22 @@ TEST_P(FrmOutLookOption, TheSameProfileAgainAsksAndWritesNothing)
     EXPECT_EQ(before, state::Shared().gOlApplication.Dispatch());
 }
 
+TEST_P(FrmOutLookOption, TheSameProfileAgainLeavesTheTypeOfTheStoredValue)
+{
+    constexpr wchar_t kName[] = L"Outlook";
+    RegSetValueExW(mGround.Profiles().Key(), L"DefaultProfile", 0, REG_EXPAND_SZ,
+                   reinterpret_cast<const BYTE*>(kName), sizeof kName);
+    Show([&](Robot&, const ShownDialog& dialog) {
+        EXPECT_EQ(L"Outlook", dialog.Text(kProfile));
+        Choose(dialog, L"Second");
+        Choose(dialog, L"Outlook");
+        dialog.Click(IDOK);
+    });
+    DWORD type = REG_NONE;
+    RegQueryValueExW(mGround.Profiles().Key(), L"DefaultProfile", nullptr, &type, nullptr, nullptr);
+    EXPECT_EQ(DWORD{REG_EXPAND_SZ}, type);
+}
+
 // Answers the question whether the profile is to be changed.
 void Answer(Robot& robot, const ShownDialog& dialog, Language language, int button)
 {
@@ -147,6 +164,23 @@ TEST_P(FrmOutLookOption, YesWritesTheProfileConnectsAnewAndDropsStaleFolders)
     EXPECT_NE(before.Dispatch(), state::Shared().gOlNamespace.Dispatch());
     ASSERT_TRUE(static_cast<bool>(state::Shared().gOlNamespace));
     EXPECT_EQ(Texts{L"Personal Folders\\Contacts|1"}, mGround.Folders(10));
+}
+
+TEST_P(FrmOutLookOption, ReadsAndWritesTheDefaultAboveTheProfilesOfOffice)
+{
+    config_tests::ProfileKey::Remove();
+    const std::wstring profiles = config_tests::ProfileKey::OfficePath(L"16.0");
+    const config_tests::NewerProfiles ofOffice(profiles, {L"Home", L"Work"},
+                                               L"Software\\Microsoft\\Office\\16.0\\Outlook");
+    Show([&](Robot& robot, const ShownDialog& dialog) {
+        EXPECT_EQ((Texts{L"Home", L"Work"}), Profiles(dialog));
+        EXPECT_EQ(L"Home", dialog.Text(kProfile));
+        Choose(dialog, L"Work");
+        dialog.Click(IDOK);
+        Answer(robot, dialog, GetParam(), IDYES);
+    });
+    EXPECT_EQ(L"Work", ofOffice.Default());
+    EXPECT_EQ(L"", config_tests::NewerProfiles::DefaultIn(profiles));
 }
 
 TEST_P(FrmOutLookOption, CancelWritesNothing)

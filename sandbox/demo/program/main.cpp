@@ -145,7 +145,7 @@ bool Run(const Options& options)
     Host host(options.HostFile);
     UseEdition(host.Database(), EditionOfInterface());
     StoreSettings(host.Database(), std::to_wstring(host.UserId()), options);
-    InstallOutlookProfile();
+    InstallOutlookProfile(Profiles::Modern);
     outlook::ChooseMailbox(options.MailboxFile);
     // Keeps the Outlook server from starting anew for every object.
     const Object control = Object::Create(outlook::kControlProgId);
