@@ -29,6 +29,9 @@ void ConnectAnew()
 {
     auto& shared = state::Shared();
     shared.gOlNamespace = {};
+    // Outlook keeps its session as long as anybody holds it: the old one has to end before the new one
+    // starts.
+    shared.gOlApplication = {};
     shared.gOlApplication = automation::Object::Create(L"Outlook.Application");
     shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
 }

@@ -280,6 +280,29 @@ TEST_P(FrmOutLookOption, AFailedWriteIsReportedWithItsCode)
     });
 }
 
+// Outlook's session lasts as long as anybody holds it, so a new one would come with the old profile.
+TEST(ANewProfile, IsConnectedToAfterTheOldOutlookHasBeenLetGo)
+{
+    const auto mailbox = sandbox::MakeMailbox();
+    std::vector<bool> isOldHeld;
+    const sandbox::RegisteredClass outlook(sandbox::outlook::kOutlookClass, CLSCTX_INPROC_SERVER, [&] {
+        isOldHeld.push_back(state::Shared().gOlApplication || state::Shared().gOlNamespace);
+        return sandbox::MakeOutlook(mailbox);
+    });
+    const Ground ground; // which connects for the first time
+    Drive(
+        [](Robot& robot) {
+            const auto dialog = robot.WaitForDialog();
+            dialog.Ask(dialog.Control(kProfile), CB_SELECTSTRING, static_cast<WPARAM>(-1),
+                       reinterpret_cast<LPARAM>(L"Second"));
+            dialog.Click(IDOK);
+            Answer(robot, dialog, Language::English, IDYES);
+        },
+        [] { config::FrmOutLookOption().ShowModal(); });
+    EXPECT_EQ((std::vector<bool>{false, false}), isOldHeld);
+    EXPECT_TRUE(static_cast<bool>(state::Shared().gOlNamespace));
+}
+
 TEST_P(FrmOutLookOption, TabFollowsTheLayout)
 {
     Show([&](Robot& robot, const ShownDialog& dialog) {
