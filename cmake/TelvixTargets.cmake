@@ -32,7 +32,7 @@ else()
   endif()
 endif()
 target_link_libraries(telvix_options INTERFACE
-  ole32 oleaut32 uuid comctl32 comdlg32 gdi32 user32 advapi32)
+  ole32 oleaut32 uuid comctl32 comdlg32 gdi32 user32 uxtheme advapi32)
 
 # telvix_test_options(NAME): the options of a test's own sources. The code under test keeps its optimisation;
 # assertions compile in half the time without. A fixture in an unnamed namespace has one linkage, also where

@@ -54,6 +54,8 @@ Conversation::Conversation(Robot& robot, const Options& options)
 
 Outcome Conversation::RunCategory(const std::wstring& category)
 {
+    mMain.Ask(mMain.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(mMain.Control(IDC_SYNC_CATEGORY)),
+              TRUE);
     mMain.ChooseRow(IDC_SYNC_CATEGORY, RowOf(category));
     mRobot.WaitUntil("Synchronize is enabled", [&] { return mMain.IsEnabled(IDC_SYNC_START); });
     // The outcome of the run before says nothing about this one.

@@ -3,6 +3,8 @@
 
 #include "resources/ids.h"
 
+#include <commctrl.h>
+
 namespace sandbox::demo
 {
 
@@ -45,6 +47,11 @@ void Conversation::TourKind(const ShownDialog& configure, int row, const std::ws
 
     const ShownDialog advanced = OpenedBy(configure, IDC_CONFIGURE_ADVANCE);
     SavePictureOf(advanced, L"advanced" + suffix);
+    if (!advanced.Tab(IDC_ADV_TABS, 1).empty())
+    {
+        advanced.Ask(advanced.Control(IDC_ADV_TABS), TCM_SETCURFOCUS, 1); // with its notification
+        SavePictureOf(advanced, L"advanced" + suffix + L"-range");
+    }
     Leave(advanced);
 }
 

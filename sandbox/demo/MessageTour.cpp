@@ -1,10 +1,13 @@
 #include "sandbox/demo/MessageTour.h"
 
+#include "config/OutlookFolders.h"
+#include "data/Permissions.h"
 #include "resources/Strings.h"
 #include "sandbox/robot/Picture.h"
 #include "sandbox/robot/Robot.h"
 #include "state/SharedState.h"
-#include "ui/ShowMessage.h"
+
+#include <functional>
 
 namespace sandbox::demo
 {
@@ -12,8 +15,7 @@ namespace sandbox::demo
 namespace
 {
 
-void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, long code,
-                 const std::wstring& text)
+void TourMessage(const Options& options, const wchar_t* picture, const std::function<void()>& tell)
 {
     Robot robot([&](Robot& running) {
         const ShownDialog dialog = running.WaitForDialog();
@@ -24,7 +26,7 @@ void TourMessage(const Options& options, const wchar_t* picture, UINT titleId, l
         dialog.Click(IDOK);
         running.WaitUntilClosed(dialog);
     });
-    ui::ShowMessage(resources::String(titleId), code, text);
+    tell();
     robot.Finish();
 }
 
@@ -34,9 +36,13 @@ void TourMessages(const Options& options)
 {
     state::Shared().gFontName = resources::Choose(L"宋体", L"Arial");
     state::Shared().gFontSize = resources::IsChinese() ? 9 : 8;
-    const std::wstring text = resources::Choose(L"请你先配置Outlook.", L"Please configue Outlook.");
-    TourMessage(options, L"message", IDS_MESSAGE, 0, text);
-    TourMessage(options, L"error", IDS_ERROR, 2, text);
+    TourMessage(options, L"message", [] {
+        automation::Object folder;
+        config::ResolveOutlookFolder(L"", folder);
+    });
+    TourMessage(options, L"refusal", [] {
+        data::CheckPermission(data::kContactRecord, 1, data::kAddOperation); // there is no host to permit it
+    });
 }
 
 } // namespace sandbox::demo

@@ -1,4 +1,4 @@
-// The component's two message dialogs, for the tour: in a run that goes well neither comes up.
+// Messages that a user may meet, for the tour: in a run that goes well none comes up.
 #pragma once
 
 #include "sandbox/demo/Options.h"
@@ -6,8 +6,8 @@
 namespace sandbox::demo
 {
 
-// Shows the information dialog and the error dialog, has the robot take their pictures and closes them.
-// Throws what the robot's script threw.
+// Lets the component tell the user that no folder is chosen, and that a right is missing; the robot takes
+// pictures of both messages and closes them. Throws what the robot's script threw.
 void TourMessages(const Options& options);
 
 } // namespace sandbox::demo

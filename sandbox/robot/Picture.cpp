@@ -87,10 +87,19 @@ Bitmap CaptureAtRest(HWND window)
     return last;
 }
 
+// A user's own window is the active one, and his pointer is somewhere else: a button below it would look hot.
+void Pose(const ShownDialog& dialog)
+{
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+    SetForegroundWindow(dialog.Handle());
+    dialog.Ask(dialog.Handle(), WM_NCACTIVATE, TRUE); // without a window manager the first window is none
+}
+
 } // namespace
 
 void SavePicture(const ShownDialog& dialog, const std::wstring& path)
 {
+    Pose(dialog);
     RedrawWindow(dialog.Handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     const Bitmap captured = CaptureAtRest(dialog.Handle());

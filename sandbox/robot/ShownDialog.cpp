@@ -26,6 +26,12 @@ bool IsButton(HWND window)
     return lstrcmpiW(name.data(), L"Button") == 0;
 }
 
+bool IsPushButton(HWND window)
+{
+    const LONG type = GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK;
+    return IsButton(window) && (type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON);
+}
+
 BOOL CALLBACK CollectButtons(HWND window, LPARAM collected)
 {
     if (IsButton(window) && IsWindowVisible(window))
@@ -108,7 +114,13 @@ std::wstring ShownDialog::Text(int id) const
 
 void ShownDialog::Click(int id) const
 {
-    PostMessageW(Control(id), BM_CLICK, 0, 0);
+    const HWND control = Control(id);
+    if (IsPushButton(control) && IsWindowEnabled(control))
+    {
+        // As the mouse does: the button takes the focus, and from the others the border of a default button.
+        PostMessageW(mWindow, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    }
+    PostMessageW(control, BM_CLICK, 0, 0);
 }
 
 int ShownDialog::Focused() const

@@ -6,36 +6,54 @@
 namespace config
 {
 
+namespace
+{
+
+void AppendCode(std::wstring& clause, const wchar_t* column, Code code)
+{
+    if (code)
+    {
+        clause += (clause.empty() ? L"" : L",") + std::wstring(column) + L"=" + std::to_wstring(*code);
+    }
+}
+
+} // namespace
+
 short DaysIn(const std::wstring& text)
 {
     return automation::ShortOf(automation::Value(automation::LeadingNumber(text)));
 }
 
-std::wstring ContactSetClause(long conflictCode)
+std::wstring ContactSetClause(Code conflictCode)
 {
-    return L"TransConflictOption=" + std::to_wstring(conflictCode);
+    std::wstring clause;
+    AppendCode(clause, L"TransConflictOption", conflictCode);
+    return clause;
 }
 
-std::wstring TaskSetClause(long conflictCode, long rangeCode)
+std::wstring TaskSetClause(Code conflictCode, Code rangeCode)
 {
-    return L"TransConflictOption=" + std::to_wstring(conflictCode) + L",TaskTransItem=" +
-           std::to_wstring(rangeCode);
+    std::wstring clause = ContactSetClause(conflictCode);
+    AppendCode(clause, L"TaskTransItem", rangeCode);
+    return clause;
 }
 
-std::wstring CalendarSetClause(long conflictCode, long rangeCode, short prior, short after)
+std::wstring CalendarSetClause(Code conflictCode, Code rangeCode, short prior, short after)
 {
-    std::wstring clause = L"TransConflictOption=" + std::to_wstring(conflictCode) + L",CalendarTransItem=" +
-                          std::to_wstring(rangeCode);
+    std::wstring clause = ContactSetClause(conflictCode);
+    AppendCode(clause, L"CalendarTransItem", rangeCode);
     if (rangeCode == state::kEntriesWithinDays)
     {
-        clause += L",CalendarAfter=" + std::to_wstring(after) + L",CalendarPrior=" + std::to_wstring(prior);
+        AppendCode(clause, L"CalendarAfter", after);
+        AppendCode(clause, L"CalendarPrior", prior);
     }
     return clause;
 }
 
-bool TaskOptionsDiffer(const state::SynParameter& record, long conflictCode, long rangeCode)
+bool TaskOptionsDiffer(const state::SynParameter& record, Code conflictCode, Code rangeCode)
 {
-    return rangeCode != record.TaskTransItem || conflictCode != record.TransConflictOption;
+    return rangeCode.value_or(kNoCode) != record.TaskTransItem ||
+           conflictCode.value_or(kNoCode) != record.TransConflictOption;
 }
 
 DayBoxes DayBoxesOf(const state::SynParameter& record)

@@ -4,6 +4,7 @@
 
 #include "state/SynParameter.h"
 
+#include <optional>
 #include <string>
 
 namespace config
@@ -12,14 +13,21 @@ namespace config
 // The number of days that a day box stands for: its leading number, 0 where there is none.
 short DaysIn(const std::wstring& text);
 
-// The set clauses that OK writes.
-std::wstring ContactSetClause(long conflictCode);
-std::wstring TaskSetClause(long conflictCode, long rangeCode);
+// A code that was loaded or chosen; nothing where the column is NULL and the user has chosen none.
+using Code = std::optional<long>;
+
+// What the record holds of a code that there is not.
+inline constexpr long kNoCode = -1;
+
+// The set clauses that OK writes, without the codes that there are not: their columns keep what they have.
+// Empty when there is nothing to write.
+std::wstring ContactSetClause(Code conflictCode);
+std::wstring TaskSetClause(Code conflictCode, Code rangeCode);
 // The days are written only with the range "within days"; the columns otherwise keep what they have.
-std::wstring CalendarSetClause(long conflictCode, long rangeCode, short prior, short after);
+std::wstring CalendarSetClause(Code conflictCode, Code rangeCode, short prior, short after);
 
 // Whether OK of the task dialog has anything to write.
-bool TaskOptionsDiffer(const state::SynParameter& record, long conflictCode, long rangeCode);
+bool TaskOptionsDiffer(const state::SynParameter& record, Code conflictCode, Code rangeCode);
 
 // What the two day boxes show when the range "within days" is chosen: crosswise, so that days which are not
 // retyped are exchanged by OK. The host's users rely on it.

@@ -11,17 +11,18 @@ namespace config
 
 using automation::Recordset;
 
-ChosenFolders LoadChosenFolders(const ObjectKind& kind)
+std::optional<ChosenFolders> LoadChosenFolders(const ObjectKind& kind)
 {
-    ChosenFolders folders;
+    using Result = std::optional<ChosenFolders>;
     Recordset rows;
     const automation::ClosesRecordset closes(rows);
-    state::Trapped(false, [&] {
+    return state::Trapped(Result(), [&] {
         if (OpenUserRecordset(rows, L"Select * From " + std::wstring(kFolderTable) +
                                         L" Where TransObjectID=" + std::to_wstring(kind.TransObjectID)))
         {
-            return false;
+            return Result();
         }
+        ChosenFolders folders;
         for (; !rows.AtEnd(); rows.MoveNext())
         {
             folders.push_back({automation::TextOrEmpty(rows.ValueOf(L"OutlookFolder")), false});
@@ -30,19 +31,33 @@ ChosenFolders LoadChosenFolders(const ObjectKind& kind)
                 MakeDefault(folders, folders.size() - 1);
             }
         }
-        return true;
+        return Result(std::move(folders));
     });
-    return folders;
+}
+
+bool IsListed(const ChosenFolders& folders, const std::wstring& path)
+{
+    return std::any_of(folders.begin(), folders.end(), [&](const auto& one) { return one.Path == path; });
 }
 
 bool AddFolder(ChosenFolders& folders, const std::wstring& path)
 {
-    if (std::any_of(folders.begin(), folders.end(), [&](const auto& one) { return one.Path == path; }))
+    if (IsListed(folders, path))
     {
         return false;
     }
-    folders.push_back({path, folders.empty()});
+    folders.push_back({path, !DefaultOf(folders)});
     return true;
+}
+
+void RemoveFolder(ChosenFolders& folders, size_t index)
+{
+    const bool wasDefault = folders.at(index).IsDefault;
+    folders.erase(folders.begin() + static_cast<std::ptrdiff_t>(index));
+    if (wasDefault && !folders.empty())
+    {
+        MakeDefault(folders, std::min(index, folders.size() - 1));
+    }
 }
 
 void MakeDefault(ChosenFolders& folders, size_t index)
@@ -51,6 +66,14 @@ void MakeDefault(ChosenFolders& folders, size_t index)
     {
         folders[i].IsDefault = i == index;
     }
+}
+
+std::optional<size_t> DefaultOf(const ChosenFolders& folders)
+{
+    const auto found =
+        std::find_if(folders.begin(), folders.end(), [](const auto& one) { return one.IsDefault; });
+    return found != folders.end() ? std::optional(static_cast<size_t>(found - folders.begin()))
+                                  : std::nullopt;
 }
 
 std::wstring FolderValueList(const ObjectKind& kind, const ChosenFolder& folder)

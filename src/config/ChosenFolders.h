@@ -22,15 +22,24 @@ struct ChosenFolder
 
 using ChosenFolders = std::vector<ChosenFolder>;
 
-// The current user's folders of a kind; what could be read before a failure.
-ChosenFolders LoadChosenFolders(const ObjectKind& kind);
+// The current user's folders of a kind; nothing on failure.
+std::optional<ChosenFolders> LoadChosenFolders(const ObjectKind& kind);
 
-// Adds a folder at the end and returns true; false for one that is listed already. The first one becomes the
-// default.
+bool IsListed(const ChosenFolders& folders, const std::wstring& path);
+
+// Adds a folder at the end and returns true; false for one that is listed already. It becomes the default
+// where there is none.
 bool AddFolder(ChosenFolders& folders, const std::wstring& path);
+
+// Takes a folder, by its index, out. If it was the default, the one that takes its place (else the last one)
+// is, so that a run finds a folder.
+void RemoveFolder(ChosenFolders& folders, size_t index);
 
 // Makes one folder, by its index, the only default.
 void MakeDefault(ChosenFolders& folders, size_t index);
+
+// The index of the default folder.
+std::optional<size_t> DefaultOf(const ChosenFolders& folders);
 
 // The literals of a folder's row, for the columns "TransObjectID,OutlookFolder,IsDefault".
 std::wstring FolderValueList(const ObjectKind& kind, const ChosenFolder& folder);

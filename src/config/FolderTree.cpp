@@ -1,5 +1,10 @@
 #include "config/FolderTree.h"
 
+#include "automation/Text.h"
+#include "state/Failures.h"
+
+#include <optional>
+
 namespace config
 {
 
@@ -9,45 +14,53 @@ namespace
 using automation::LongOf;
 using automation::Object;
 
-FolderNode NodeOf(const Object& parent)
+// Nothing for a folder that is not shown.
+std::optional<FolderNode> ChildAt(const Object& folders, long index, const std::wstring& parentPath,
+                                  long outlookItemType)
 {
     FolderNode node;
-    const Object folders = parent.GetObject(L"Folders");
-    node.Count = LongOf(folders.Get(L"Count"));
-    if (node.Count > 0)
+    node.Folder = folders.GetObject(L"Item", index);
+    node.IsContainer = LongOf(node.Folder.GetObject(L"Folders").Get(L"Count")) > 0;
+    if (!node.IsContainer && LongOf(node.Folder.Get(L"DefaultItemType")) != outlookItemType)
     {
-        node.Folders = folders;
+        return std::nullopt;
     }
+    node.Name = automation::TextOf(node.Folder.Get(L"Name"));
+    node.Path = parentPath.empty() ? node.Name : parentPath + L"\\" + node.Name;
     return node;
-}
-
-bool IsShown(const FolderNode& node, const Object& folder, long outlookItemType)
-{
-    return node.IsContainer() || LongOf(folder.Get(L"DefaultItemType")) == outlookItemType;
 }
 
 } // namespace
 
 FolderNode RootNode(const Object& mapiNamespace)
 {
-    return NodeOf(mapiNamespace);
+    FolderNode root;
+    root.Folder = mapiNamespace;
+    root.IsContainer = true;
+    return root;
 }
 
 std::vector<FolderNode> ChildrenOf(const FolderNode& parent, long outlookItemType)
 {
+    const Object folders = parent.Folder.GetObject(L"Folders");
+    const long count = LongOf(folders.Get(L"Count"));
     std::vector<FolderNode> children;
-    for (long index = 1; index <= parent.Count; ++index)
+    for (long index = 1; index <= count; ++index)
     {
-        const Object folder = parent.Folders.GetObject(L"Item", index);
-        FolderNode node = NodeOf(folder);
-        if (IsShown(node, folder, outlookItemType))
+        auto child = state::Trapped(std::optional<FolderNode>(),
+                                    [&] { return ChildAt(folders, index, parent.Path, outlookItemType); });
+        if (child)
         {
-            node.Name = automation::TextOf(folder.Get(L"Name"));
-            node.Path = parent.Path.empty() ? node.Name : parent.Path + L"\\" + node.Name;
-            children.push_back(std::move(node));
+            children.push_back(std::move(*child));
         }
     }
     return children;
+}
+
+bool LeadsThrough(const std::wstring& path, const FolderNode& node)
+{
+    const std::wstring whole = automation::UpperCased(path) + L"\\";
+    return whole.starts_with(automation::UpperCased(node.Path) + L"\\");
 }
 
 } // namespace config

@@ -1,7 +1,7 @@
 // The tree of Outlook's folders, reduced to what can be chosen for one kind of data: containers, and folders
-// that hold the kind's items. A level is read when it is looked at, since every question to Outlook crosses
-// processes; each folder is asked for its sub-folders and their number, and for its name and item type only
-// where they are needed. Used by the folder picker.
+// that hold the kind's items. A level is read when it is opened, since every question to Outlook crosses
+// processes. A folder that cannot be read (a store that is not at hand, a folder without rights) is left out;
+// the others are shown. Used by the folder picker.
 #pragma once
 
 #include "automation/Object.h"
@@ -15,17 +15,18 @@ namespace config
 struct FolderNode
 {
     std::wstring Name;
-    std::wstring Path;          // names from the top-level store down, joined by "\"
-    automation::Object Folders; // the sub-folders of a container; nothing for a folder without any
-    long Count = 0;             // how many there are
-
-    bool IsContainer() const noexcept { return Count > 0; }
+    std::wstring Path;         // names from the top-level store down, joined by "\"
+    automation::Object Folder; // or the MAPI namespace
+    bool IsContainer = false;  // it has sub-folders
 };
 
-// The node above all: it stands for the MAPI namespace. Throws automation::Error.
+// The node above all: it stands for the MAPI namespace.
 FolderNode RootNode(const automation::Object& mapiNamespace);
 
-// The nodes directly below a container. Throws automation::Error.
+// The nodes directly below a container. Throws automation::Error when the container itself cannot be asked.
 std::vector<FolderNode> ChildrenOf(const FolderNode& parent, long outlookItemType);
+
+// Whether a path leads to a node or through it, in whatever letter case: Outlook's folder names have none.
+bool LeadsThrough(const std::wstring& path, const FolderNode& node);
 
 } // namespace config

@@ -39,9 +39,9 @@ void FrmAdvActivites::AddRangePage(ui::TabPages& tabs)
 
 void FrmAdvActivites::LoadRange(const automation::Recordset& row)
 {
-    state::EditedParameter().TaskTransItem = automation::LongOf(row.ValueOf(L"TaskTransItem"));
-    mRangeCode = state::EditedParameter().TaskTransItem;
-    OptTransRange.Select(mRangeCode);
+    mRangeCode = CodeIn(row, L"TaskTransItem");
+    state::EditedParameter().TaskTransItem = mRangeCode.value_or(kNoCode);
+    OptTransRange.Select(state::EditedParameter().TaskTransItem);
 }
 
 void FrmAdvActivites::OnRange(int id, int notification)
@@ -59,8 +59,8 @@ void FrmAdvActivites::Store()
         return;
     }
     UpdateRow(TaskSetClause(ConflictCode(), mRangeCode));
-    state::EditedParameter().TransConflictOption = ConflictCode();
-    state::EditedParameter().TaskTransItem = mRangeCode;
+    state::EditedParameter().TransConflictOption = ConflictCode().value_or(kNoCode);
+    state::EditedParameter().TaskTransItem = mRangeCode.value_or(kNoCode);
 }
 
 } // namespace config

@@ -22,7 +22,7 @@ class FrmAdvActivites : public FrmAdvanced
     ui::Frame fraRange;
     ui::OptionGroup OptTransRange;
 
-    long mRangeCode = 0;
+    Code mRangeCode;
 };
 
 } // namespace config

@@ -4,6 +4,9 @@
 #include "resources/Strings.h"
 #include "state/SharedState.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace config
 {
 
@@ -12,7 +15,13 @@ namespace
 
 constexpr UINT kRangeCaptions[] = {IDS_CALENDAR_ALL, IDS_CALENDAR_FUTURE, IDS_CALENDAR_RANGE};
 constexpr int kCalendarRangeCount = static_cast<int>(std::size(kRangeCaptions));
-constexpr int kMostDigits = 4; // whatever is typed fits the column
+constexpr long kMostDays = std::numeric_limits<short>::max(); // what the columns hold
+
+short DaysOf(Code days)
+{
+    return static_cast<short>(
+        std::clamp<long>(days.value_or(0), std::numeric_limits<short>::min(), kMostDays));
+}
 
 } // namespace
 
@@ -43,8 +52,8 @@ void FrmAdvCalendar::AddRangePage(ui::TabPages& tabs)
     }
     lblPrior.SetText(resources::String(IDS_CALENDAR_PRIOR));
     lblAfter.SetText(resources::String(IDS_CALENDAR_AFTER));
-    txtPrior.Prepare(kMostDigits, ui::DigitBox::EnterKey::MovesFocusOn);
-    txtAfter.Prepare(kMostDigits, ui::DigitBox::EnterKey::ActsOnDefaultButton);
+    txtPrior.Prepare(kMostDays, ui::DigitBox::EnterKey::MovesFocusOn);
+    txtAfter.Prepare(kMostDays, ui::DigitBox::EnterKey::ActsOnDefaultButton);
     tabs.AddPage(resources::Choose(L"日期范围", L"Date Range"),
                  {{IDC_ADV_RANGE_EXPLANATION, IDC_ADV_RANGE + kCalendarRangeCount - 1},
                   {IDC_ADVCALENDAR_PRIOR_LABEL, IDC_ADVCALENDAR_AFTER}});
@@ -52,25 +61,26 @@ void FrmAdvCalendar::AddRangePage(ui::TabPages& tabs)
 
 void FrmAdvCalendar::LoadRange(const automation::Recordset& row)
 {
-    state::EditedParameter().CalendarTransItem = automation::LongOf(row.ValueOf(L"CalendarTransItem"));
-    if (state::EditedParameter().CalendarTransItem == state::kEntriesWithinDays)
+    const Code range = CodeIn(row, L"CalendarTransItem");
+    state::EditedParameter().CalendarTransItem = range.value_or(kNoCode);
+    if (range == state::kEntriesWithinDays)
     {
-        state::EditedParameter().CalendarPrior = automation::ShortOf(row.ValueOf(L"CalendarPrior"));
-        state::EditedParameter().CalendarAfter = automation::ShortOf(row.ValueOf(L"CalendarAfter"));
+        state::EditedParameter().CalendarPrior = DaysOf(CodeIn(row, L"CalendarPrior"));
+        state::EditedParameter().CalendarAfter = DaysOf(CodeIn(row, L"CalendarAfter"));
     }
     OptTransItems.Select(state::EditedParameter().CalendarTransItem);
-    ChooseRange(state::EditedParameter().CalendarTransItem);
+    ChooseRange(range);
 }
 
 void FrmAdvCalendar::OnRange(int id, int notification)
 {
     if (const auto code = OptTransItems.Clicked(id, notification))
     {
-        ChooseRange(*code);
+        ChooseRange(code);
     }
 }
 
-void FrmAdvCalendar::ChooseRange(long code)
+void FrmAdvCalendar::ChooseRange(Code code)
 {
     mRangeCode = code;
     if (code != state::kEntriesWithinDays)
@@ -88,8 +98,11 @@ void FrmAdvCalendar::ChooseRange(long code)
 
 void FrmAdvCalendar::EnableDays(bool enabled)
 {
-    txtPrior.Enable(enabled);
-    txtAfter.Enable(enabled);
+    for (ui::Control* const control :
+         std::initializer_list<ui::Control*>{&lblPrior, &txtPrior, &lblAfter, &txtAfter})
+    {
+        control->Enable(enabled);
+    }
 }
 
 void FrmAdvCalendar::Store()
@@ -100,8 +113,8 @@ void FrmAdvCalendar::Store()
     state::EditedParameter().CalendarAfter = after;
     state::EditedParameter().CalendarPrior = prior;
     UpdateRow(CalendarSetClause(ConflictCode(), mRangeCode, prior, after));
-    state::EditedParameter().TransConflictOption = ConflictCode();
-    state::EditedParameter().CalendarTransItem = mRangeCode;
+    state::EditedParameter().TransConflictOption = ConflictCode().value_or(kNoCode);
+    state::EditedParameter().CalendarTransItem = mRangeCode.value_or(kNoCode);
 }
 
 } // namespace config

@@ -20,7 +20,7 @@ class FrmAdvCalendar : public FrmAdvanced
     void OnRange(int id, int notification) override;
     void Store() override;
 
-    void ChooseRange(long code);
+    void ChooseRange(Code code);
     void EnableDays(bool enabled);
 
     ui::Label lblRange;
@@ -31,7 +31,7 @@ class FrmAdvCalendar : public FrmAdvanced
     ui::Label lblAfter;
     ui::DigitBox txtAfter;
 
-    long mRangeCode = 0;
+    Code mRangeCode;
 };
 
 } // namespace config

@@ -2,6 +2,7 @@
 
 #include "config/AdvancedOptions.h"
 #include "resources/Strings.h"
+#include "state/SharedState.h"
 
 namespace config
 {
@@ -16,7 +17,7 @@ const wchar_t* FrmAdvContacts::Caption() const
 void FrmAdvContacts::Store()
 {
     UpdateRow(ContactSetClause(ConflictCode()));
-    state::EditedParameter().TransConflictOption = ConflictCode();
+    state::EditedParameter().TransConflictOption = ConflictCode().value_or(kNoCode);
 }
 
 } // namespace config

@@ -3,10 +3,12 @@
 #include "config/FrmAdvActivites.h"
 #include "config/FrmAdvCalendar.h"
 #include "config/FrmAdvContacts.h"
+#include "config/NotLoaded.h"
 #include "config/UserRows.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
+#include "ui/FitText.h"
 
 namespace config
 {
@@ -43,10 +45,27 @@ void FrmAdvanced::OnInit()
     SstbOption.AddPage(resources::String(IDS_CONFLICT_TAB),
                        {{IDC_ADV_CONFLICT_EXPLANATION, IDC_ADV_CONFLICT + kConflictCount - 1}});
     AddRangePage(SstbOption);
-    state::Trapped(false, [&] {
-        Load();
-        return true;
-    });
+    FitExplanations();
+    mIsLoaded = state::Trapped(false, [&] { return Load(); });
+    if (!mIsLoaded)
+    {
+        TellThatNothingIsLoaded();
+        CmdOk.Enable(false);
+    }
+}
+
+// The pages' explanations lie in one place.
+void FrmAdvanced::FitExplanations()
+{
+    ui::Label lblRange(*this, IDC_ADV_RANGE_EXPLANATION);
+    if (lblRange.Handle() != nullptr)
+    {
+        ui::FitLabels(*this, {&lblConflict, &lblRange});
+    }
+    else
+    {
+        ui::FitLabels(*this, {&lblConflict});
+    }
 }
 
 void FrmAdvanced::SetCaptions()
@@ -62,24 +81,38 @@ void FrmAdvanced::SetCaptions()
     cmdCancel.SetText(resources::String(IDS_CANCEL));
 }
 
-void FrmAdvanced::Load()
+// False for failure.
+bool FrmAdvanced::Load()
 {
     automation::Recordset row;
     const automation::ClosesRecordset closes(row);
     if (OpenUserRecordset(row, L"Select * From " + std::wstring(kParameterTable) + L" Where " +
-                                   WhereOf(mObjectName)))
+                                   WhereOf(mObjectName)) ||
+        row.AtEnd())
     {
-        return;
+        return false;
     }
-    state::EditedParameter().TransConflictOption = automation::LongOf(row.ValueOf(L"TransConflictOption"));
-    mConflictCode = state::EditedParameter().TransConflictOption;
-    OptConflict.Select(mConflictCode);
+    mConflictCode = CodeIn(row, L"TransConflictOption");
+    state::EditedParameter().TransConflictOption = mConflictCode.value_or(kNoCode);
+    OptConflict.Select(state::EditedParameter().TransConflictOption);
     LoadRange(row);
+    return true;
+}
+
+Code FrmAdvanced::CodeIn(const automation::Recordset& row, const wchar_t* column)
+{
+    const automation::Value value = row.ValueOf(column);
+    return automation::IsEmptyOrNull(value)
+               ? Code()
+               : state::Trapped(Code(), [&] { return Code(automation::LongOf(value)); });
 }
 
 void FrmAdvanced::UpdateRow(const std::wstring& setClause) const
 {
-    UpdateUserRows(setClause, kParameterTable, WhereOf(mObjectName));
+    if (!setClause.empty())
+    {
+        UpdateUserRows(setClause, kParameterTable, WhereOf(mObjectName));
+    }
 }
 
 void FrmAdvanced::OnCommand(int id, int notification)
@@ -91,7 +124,10 @@ void FrmAdvanced::OnCommand(int id, int notification)
         }
         else if (id == IDOK)
         {
-            Store();
+            if (mIsLoaded)
+            {
+                Store();
+            }
             Unload(IDOK);
         }
         else if (id == IDCANCEL)

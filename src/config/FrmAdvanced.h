@@ -1,10 +1,12 @@
 // What the three advanced option dialogs have in common: a tabbed frame whose first tab is the conflict rule
 // of one kind of data. Each dialog loads its row of the user's parameters as it opens, keeps the codes that
-// are clicked, and writes them on OK to the host's table and into the configuration record. Opened by the
+// are clicked, and writes them on OK to the host's table and into the configuration record: those that were
+// loaded or clicked, and nothing at all when the row could not be loaded. Opened by the
 // Advanced button of FrmConfigure.
 #pragma once
 
 #include "automation/Recordset.h"
+#include "config/AdvancedOptions.h"
 #include "state/SynParameter.h"
 #include "ui/Choices.h"
 #include "ui/Control.h"
@@ -34,12 +36,16 @@ class FrmAdvanced : public ui::Dialog
     // Writes the codes to the host's table and the record.
     virtual void Store() = 0;
 
+    // Throws automation::Error for a row that cannot be read; a column that holds no code is none.
+    static Code CodeIn(const automation::Recordset& row, const wchar_t* column);
+    // Writes nothing for an empty clause.
     void UpdateRow(const std::wstring& setClause) const;
-    long ConflictCode() const noexcept { return mConflictCode; }
+    Code ConflictCode() const noexcept { return mConflictCode; }
 
   private:
     void SetCaptions();
-    void Load();
+    void FitExplanations();
+    bool Load();
 
     ui::TabPages SstbOption;
     ui::Label lblConflict;
@@ -49,7 +55,8 @@ class FrmAdvanced : public ui::Dialog
     ui::Button cmdCancel;
 
     const wchar_t* mObjectName;
-    long mConflictCode = 0;
+    Code mConflictCode;
+    bool mIsLoaded = false;
 };
 
 // Shows the dialog of the kind with this name, modally; any other name does nothing. Throws as

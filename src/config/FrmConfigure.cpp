@@ -2,6 +2,7 @@
 
 #include "config/FrmAdvanced.h"
 #include "config/FrmSynChoose.h"
+#include "config/NotLoaded.h"
 #include "config/ObjectKinds.h"
 #include "config/ParameterStore.h"
 #include "config/UserRows.h"
@@ -61,7 +62,13 @@ void FrmConfigure::OnInit()
 
 void FrmConfigure::FillList()
 {
-    mRows = LoadTranslations();
+    auto rows = LoadTranslations();
+    if (!rows)
+    {
+        TellThatNothingIsLoaded();
+        CmdOk.Enable(false);
+    }
+    mRows = std::move(rows).value_or(std::vector<Translation>());
     lvTran.AddColumn(resources::String(IDS_CATEGORY), 0);
     lvTran.AddColumn(resources::String(IDS_CHOOSE_OPERATION), kArrowColumnWidth);
     for (const Translation& translation : mRows)
@@ -90,6 +97,9 @@ void FrmConfigure::SelectKindOfRecord()
 void FrmConfigure::DescribeSelected(int row)
 {
     const Translation& translation = mRows.at(static_cast<size_t>(row));
+    // What cannot be loaded stays as it is in the record, and a folder of another kind must not be shown.
+    state::EditedParameter().CurrentFolder.clear();
+    state::EditedParameter().DefaultFolder.clear();
     SetSynParamenter(state::EditedParameter(), translation.TransObject);
     state::EditedParameter().TransObject = translation.TransObject;
     if (const ObjectKind* kind = FindObjectKind(translation.TransObject); kind != nullptr)
@@ -97,8 +107,13 @@ void FrmConfigure::DescribeSelected(int row)
         state::EditedParameter().TransObjectPic = kind->Picture;
     }
     ApplyTo(state::EditedParameter(), translation);
-    cmdChoose.Enable(true);
-    cmdAdvance.Enable(true);
+}
+
+void FrmConfigure::EnableButtons()
+{
+    const bool isSelected = lvTran.Selected().has_value();
+    cmdChoose.Enable(isSelected);
+    cmdAdvance.Enable(isSelected);
 }
 
 void FrmConfigure::Redraw(int row)
@@ -106,6 +121,9 @@ void FrmConfigure::Redraw(int row)
     const Translation& translation = mRows.at(static_cast<size_t>(row));
     const bool drawingBefore = std::exchange(mDrawing, true);
     lvTran.Check(row, translation.Checked);
+    const Direction* direction = FindDirection(translation.Arrow());
+    lvTran.SetText(row, kArrowColumn,
+                   direction != nullptr ? resources::String(direction->Caption) : std::wstring());
     lvTran.SetPicture(row, kArrowColumn, Pictures::IndexOf(translation.Arrow()));
     mDrawing = drawingBefore;
 }
@@ -123,9 +141,13 @@ void FrmConfigure::TakeCheckMark(int row)
 LRESULT FrmConfigure::OnNotify(const NMHDR& notification)
 {
     return state::Trapped(LRESULT{0}, [&] {
-        if (const auto selected = lvTran.NewlySelected(notification))
+        if (lvTran.IsSelectionChange(notification))
         {
-            DescribeSelected(*selected);
+            if (const auto selected = lvTran.NewlySelected(notification))
+            {
+                DescribeSelected(*selected);
+            }
+            EnableButtons();
         }
         else if (const auto toggled = lvTran.Toggled(notification); toggled && !mDrawing)
         {

@@ -1,6 +1,7 @@
 // The dialog "Config Translation": the kinds of data, whether each takes part and in which direction. Opened
 // by the Configure button of the main dialog. Its rows are edited in memory and written on OK; the
-// configuration record of the shared state always describes the selected row.
+// configuration record of the shared state always describes the selected row. At first that is the row of the
+// kind that the record names: the one chosen in the main dialog.
 #pragma once
 
 #include "config/Pictures.h"
@@ -25,6 +26,7 @@ class FrmConfigure : public ui::Dialog
     void FillList();
     void SelectKindOfRecord();
     void DescribeSelected(int row);
+    void EnableButtons();
     void Redraw(int row);
     void TakeCheckMark(int row);
     void OnChoose();

@@ -6,6 +6,7 @@
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
+#include "ui/FitText.h"
 #include "ui/ShowMessageBox.h"
 
 namespace config
@@ -51,6 +52,7 @@ FrmOutLookOption::FrmOutLookOption()
 void FrmOutLookOption::OnInit()
 {
     SetCaptions();
+    ui::FitLabels(*this, {&lblExplanation});
     state::Trapped(false, [&] {
         LoadProfiles();
         return true;

@@ -9,6 +9,7 @@
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
+#include "ui/FitText.h"
 
 namespace config
 {
@@ -44,6 +45,7 @@ FrmSynChoose::FrmSynChoose()
 void FrmSynChoose::OnInit()
 {
     SetCaptions();
+    ui::FitLabels(*this, {&lblPrompt});
     lstTran.Add(L"<None>");
     lstTran.Add(L"Ms Outlook");
     state::Trapped(false, [&] {

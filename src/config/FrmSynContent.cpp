@@ -1,9 +1,11 @@
 #include "config/FrmSynContent.h"
 
+#include "config/NotLoaded.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 #include "ui/Busy.h"
+#include "ui/FitText.h"
 
 #include <algorithm>
 
@@ -30,28 +32,45 @@ FrmSynContent::FrmSynContent(state::SynParameter& record)
 void FrmSynContent::OnInit()
 {
     SetCaptions();
+    ui::FitLabels(*this, {&lblPrompt});
+    tvOlFolder.Prepare();
     tvOlFolder.UsePictures(mPictures.List());
     lvSelItems.Prepare();
     lvSelItems.UsePictures(mPictures.List());
     lvSelItems.AddColumn(resources::Choose(L"目录", L"Folder(s)"), 0);
     lvSelItems.FitFirstColumn();
-    if (mKind == nullptr)
+    if (mKind != nullptr)
     {
-        return;
+        mIsLoaded = LoadChosen();
+        state::Trapped(false, [&] {
+            FillTree();
+            return true;
+        });
     }
-    state::Trapped(false, [&] {
-        mChosen = LoadChosenFolders(*mKind);
-        ShowChosen(0);
-        FillTree();
-        return true;
-    });
+    EnableButtons();
+}
+
+// False for failure, of which the user is told.
+bool FrmSynContent::LoadChosen()
+{
+    const auto stored = LoadChosenFolders(*mKind);
+    if (!stored)
+    {
+        TellThatNothingIsLoaded();
+        CmdOk.Enable(false);
+        return false;
+    }
+    mChosen = mStored = *stored;
+    ShowChosen(DefaultOf(mChosen).value_or(0));
+    mFirstSelected = lvSelItems.Selected();
+    return true;
 }
 
 void FrmSynContent::SetCaptions()
 {
     if (mKind != nullptr)
     {
-        SetCaption(resources::String(mKind->Caption));
+        SetCaption(resources::String(mKind->FolderPickerCaption));
         lblPrompt.SetText(resources::String(mKind->FolderPickerPrompt));
     }
     lblTree.SetText(resources::Choose(L"选择", L"Choose"));
@@ -63,40 +82,72 @@ void FrmSynContent::SetCaptions()
     cmdCancel.SetText(resources::String(IDS_CANCEL));
 }
 
-// The first store is opened, since a user's folders are usually there.
+// The tree is opened down to the default folder; without one the first store is, since a user's folders are
+// usually there.
 void FrmSynContent::FillTree()
 {
     const ui::Busy busy(*this);
-    const HTREEITEM first = AddNodes(nullptr, RootNode(state::Shared().gOlNamespace));
-    if (first != nullptr)
+    const auto stores = AddNodes(nullptr, RootNode(state::Shared().gOlNamespace));
+    if (stores.empty())
     {
-        OpenNode(first);
-        tvOlFolder.Open(first);
-        tvOlFolder.Select(first);
+        return;
     }
+    const auto chosen = DefaultOf(mChosen);
+    HTREEITEM node = chosen ? OpenDownTo(mChosen[*chosen].Path, stores) : nullptr;
+    if (node == nullptr)
+    {
+        node = stores.front();
+        OpenNode(node);
+        tvOlFolder.Open(node);
+    }
+    tvOlFolder.Select(node);
 }
 
-// Returns the first node added; null when there is none.
-HTREEITEM FrmSynContent::AddNodes(HTREEITEM parent, const FolderNode& folder)
+// Returns the nodes added.
+std::vector<HTREEITEM> FrmSynContent::AddNodes(HTREEITEM parent, const FolderNode& folder)
 {
-    HTREEITEM first = nullptr;
+    std::vector<HTREEITEM> added;
     for (FolderNode& child : ChildrenOf(folder, mKind->OutlookItemType))
     {
-        const auto picture = child.IsContainer() ? kOutlookPicture : std::wstring_view(mKind->Picture);
-        const HTREEITEM node = tvOlFolder.Add(parent, child.Name, Pictures::IndexOf(picture),
-                                              child.IsContainer(), mNodes.size());
+        const auto picture = child.IsContainer ? kOutlookPicture : std::wstring_view(mKind->Picture);
+        added.push_back(
+            tvOlFolder.Add(parent, child.Name, Pictures::IndexOf(picture), child.IsContainer, mNodes.size()));
         mNodes.push_back(std::move(child));
-        first = first != nullptr ? first : node;
     }
-    return first;
+    return added;
 }
 
-void FrmSynContent::OpenNode(HTREEITEM node)
+std::vector<HTREEITEM> FrmSynContent::OpenNode(HTREEITEM node)
 {
     const FolderNode folder = mNodes.at(tvOlFolder.NumberOf(node));
-    if (AddNodes(node, folder) == nullptr)
+    auto added = folder.IsContainer ? AddNodes(node, folder) : std::vector<HTREEITEM>();
+    if (added.empty())
     {
         tvOlFolder.SetWithoutChildren(node);
+    }
+    return added;
+}
+
+// The last node on the way to the folder, which is its own where the tree shows it; null for none.
+HTREEITEM FrmSynContent::OpenDownTo(const std::wstring& path, std::vector<HTREEITEM> nodes)
+{
+    HTREEITEM reached = nullptr;
+    for (;;)
+    {
+        const auto next = std::find_if(nodes.begin(), nodes.end(), [&](HTREEITEM node) {
+            return LeadsThrough(path, mNodes.at(tvOlFolder.NumberOf(node)));
+        });
+        if (next == nodes.end())
+        {
+            return reached;
+        }
+        reached = *next;
+        if (mNodes.at(tvOlFolder.NumberOf(reached)).Path.size() >= path.size())
+        {
+            return reached;
+        }
+        nodes = OpenNode(reached);
+        tvOlFolder.Open(reached);
     }
 }
 
@@ -106,13 +157,25 @@ void FrmSynContent::ShowChosen(size_t selected)
     for (const ChosenFolder& folder : mChosen)
     {
         const int row = lvSelItems.Add(folder.Path, folder.IsDefault ? L"Default" : L"");
-        lvSelItems.SetPicture(row, 0, folder.IsDefault ? Pictures::IndexOf(kDefaultPicture) : -1);
+        lvSelItems.SetPicture(row, 0, Pictures::IndexOf(folder.IsDefault ? kDefaultPicture : kEmptyPicture));
     }
     lvSelItems.FitFirstColumn();
     if (!mChosen.empty())
     {
         lvSelItems.Select(static_cast<int>(std::min(selected, mChosen.size() - 1)));
     }
+    EnableButtons();
+}
+
+// A button that would do nothing is disabled.
+void FrmSynContent::EnableButtons()
+{
+    const auto node = tvOlFolder.Selected();
+    const auto row = lvSelItems.Selected();
+    cmdAdd.Enable(mIsLoaded && node && !IsListed(mChosen, mNodes.at(tvOlFolder.NumberOf(*node)).Path),
+                  tvOlFolder);
+    cmdRemove.Enable(row.has_value(), lvSelItems);
+    cmdDefault.Enable(row && !mChosen.at(static_cast<size_t>(*row)).IsDefault, lvSelItems);
 }
 
 LRESULT FrmSynContent::OnNotify(const NMHDR& notification)
@@ -127,6 +190,10 @@ LRESULT FrmSynContent::OnNotify(const NMHDR& notification)
         {
             OnAdd();
             return LRESULT{TRUE}; // and the node stays open or closed as it is
+        }
+        else if (tvOlFolder.IsSelectionChange(notification) || lvSelItems.IsSelectionChange(notification))
+        {
+            EnableButtons();
         }
         return LRESULT{FALSE};
     });
@@ -150,7 +217,7 @@ void FrmSynContent::OnCommand(int id, int notification)
 void FrmSynContent::OnAdd()
 {
     const auto node = tvOlFolder.Selected();
-    if (node && AddFolder(mChosen, mNodes.at(tvOlFolder.NumberOf(*node)).Path))
+    if (mIsLoaded && node && AddFolder(mChosen, mNodes.at(tvOlFolder.NumberOf(*node)).Path))
     {
         ShowChosen(mChosen.size() - 1);
     }
@@ -160,7 +227,7 @@ void FrmSynContent::OnRemove()
 {
     if (const auto row = lvSelItems.Selected())
     {
-        mChosen.erase(mChosen.begin() + *row);
+        RemoveFolder(mChosen, static_cast<size_t>(*row));
         ShowChosen(static_cast<size_t>(*row));
     }
 }
@@ -174,15 +241,24 @@ void FrmSynContent::OnDefault()
     }
 }
 
+// Nothing is changed by an OK without a change, not even which folder FrmSynChoose shows.
+bool FrmSynContent::IsChanged() const
+{
+    return mChosen != mStored || lvSelItems.Selected() != mFirstSelected;
+}
+
 void FrmSynContent::OnOk()
 {
-    if (mKind != nullptr)
+    if (mIsLoaded)
     {
         if (StoreChosenFolders(*mKind, mChosen))
         {
             return;
         }
-        TakeCurrentFolder(mRecord, mChosen, lvSelItems.Selected());
+        if (IsChanged())
+        {
+            TakeCurrentFolder(mRecord, mChosen, lvSelItems.Selected());
+        }
     }
     Unload(IDOK);
 }

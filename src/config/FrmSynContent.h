@@ -28,9 +28,13 @@ class FrmSynContent : public ui::Dialog
 
     void SetCaptions();
     void FillTree();
-    HTREEITEM AddNodes(HTREEITEM parent, const FolderNode& folder);
-    void OpenNode(HTREEITEM node);
+    std::vector<HTREEITEM> AddNodes(HTREEITEM parent, const FolderNode& folder);
+    std::vector<HTREEITEM> OpenNode(HTREEITEM node);
+    HTREEITEM OpenDownTo(const std::wstring& path, std::vector<HTREEITEM> nodes);
+    bool LoadChosen();
     void ShowChosen(size_t selected);
+    void EnableButtons();
+    bool IsChanged() const;
     void OnAdd();
     void OnRemove();
     void OnDefault();
@@ -52,6 +56,9 @@ class FrmSynContent : public ui::Dialog
     Pictures mPictures;
     std::vector<FolderNode> mNodes; // by the number that the tree's nodes carry
     ChosenFolders mChosen;
+    ChosenFolders mStored;
+    std::optional<int> mFirstSelected; // row of the list
+    bool mIsLoaded = false;
 };
 
 } // namespace config

@@ -14,10 +14,11 @@ struct ObjectKind
 {
     const wchar_t* TransObject; // also the key of the kind's rows in the dialogs' lists
     long TransObjectID;
-    const wchar_t* Picture;  // picture key
-    long OutlookItemType;    // Outlook's OlItemType of the kind's items
-    UINT Caption;            // resource string: the kind's name
-    UINT FolderPickerPrompt; // resource string
+    const wchar_t* Picture;   // picture key
+    long OutlookItemType;     // Outlook's OlItemType of the kind's items
+    UINT Caption;             // resource string: the kind's name
+    UINT FolderPickerCaption; // resource string
+    UINT FolderPickerPrompt;  // resource string
 };
 
 // Contacts, tasks, calendar.

@@ -86,6 +86,8 @@ void PaintDefault(PaintedIcon& icon)
               kPaper);
 }
 
+void PaintEmpty(PaintedIcon& /*icon*/) {}
+
 struct Picture
 {
     std::wstring_view key;
@@ -97,6 +99,7 @@ constexpr Picture kPictures[] = {
     {L"calendar", &PaintCalendar},    {L"left", &PaintLeft},
     {L"right", &PaintRight},          {L"each", &PaintEach},
     {kOutlookPicture, &PaintOutlook}, {kDefaultPicture, &PaintDefault},
+    {kEmptyPicture, &PaintEmpty},
 };
 
 } // namespace

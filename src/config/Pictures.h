@@ -13,6 +13,8 @@ namespace config
 
 inline constexpr std::wstring_view kOutlookPicture = L"outlook";
 inline constexpr std::wstring_view kDefaultPicture = L"default";
+// Nothing is painted: beside rows with a picture, the texts of those without one begin in the same place.
+inline constexpr std::wstring_view kEmptyPicture = L"empty";
 
 class Pictures
 {

@@ -83,25 +83,25 @@ bool HasTranslator(const Value& transSource)
            automation::UpperCased(automation::TextOf(transSource)) != L"NULL";
 }
 
-std::vector<Translation> LoadTranslations()
+std::optional<std::vector<Translation>> LoadTranslations()
 {
+    using Result = std::optional<std::vector<Translation>>;
     Recordset rows;
     const automation::ClosesRecordset closes(rows);
-    std::vector<Translation> translations;
-    state::Trapped(false, [&] {
+    return state::Trapped(Result(), [&] {
         OpenTranslations(rows);
         if (!rows)
         {
             state::LogError();
-            return false;
+            return Result();
         }
+        std::vector<Translation> translations;
         for (; !rows.AtEnd(); rows.MoveNext())
         {
             translations.push_back(TranslationOf(rows));
         }
-        return true;
+        return Result(std::move(translations));
     });
-    return translations;
 }
 
 void SetChecked(Translation& row, bool checked)
@@ -131,9 +131,13 @@ std::wstring TranslationSetClause(const Translation& row)
     // The picture decides; a row whose picture is none of the three keeps the code that it was loaded with.
     const Direction* direction = FindDirection(row.TransTypePic);
     const long type = direction != nullptr ? direction->TransType : row.TransType;
-    return std::wstring(L"IsTrans=") + (row.Checked ? L"1" : L"0") +
-           (row.Translator ? L",TransSource='Outlook'" : L",TransSource='Null'") + L",TransType=" +
-           std::to_wstring(type) + L",TransTypePic='" + row.TransTypePic + L"'";
+    std::wstring clause = std::wstring(L"IsTrans=") + (row.Checked ? L"1" : L"0") +
+                          (row.Translator ? L",TransSource='Outlook'" : L",TransSource='Null'");
+    if (type != 0)
+    {
+        clause += L",TransType=" + std::to_wstring(type) + L",TransTypePic='" + row.TransTypePic + L"'";
+    }
+    return clause;
 }
 
 } // namespace config

@@ -5,6 +5,7 @@
 #include "automation/Recordset.h"
 #include "state/SynParameter.h"
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -44,8 +45,8 @@ struct Translation
     std::wstring Arrow() const { return Checked && Translator ? TransTypePic : std::wstring(); }
 };
 
-// The current user's rows; they are created from the templates when there are none. Empty on failure.
-std::vector<Translation> LoadTranslations();
+// The current user's rows; they are created from the templates when there are none. Nothing on failure.
+std::optional<std::vector<Translation>> LoadTranslations();
 
 // A check mark set or taken away by the user. A row that had no translator gets the only one there is.
 void SetChecked(Translation& row, bool checked);
@@ -54,7 +55,7 @@ void SetChecked(Translation& row, bool checked);
 void ApplyTo(state::SynParameter& record, const Translation& row);
 void TakeFrom(Translation& row, const state::SynParameter& record);
 
-// What OK writes for the row.
+// What OK writes for the row; nothing of a direction that was neither loaded nor chosen.
 std::wstring TranslationSetClause(const Translation& row);
 
 } // namespace config

@@ -4,6 +4,7 @@
 #include "state/SharedState.h"
 #include "ui/Control.h"
 #include "ui/Dialog.h"
+#include "ui/FitText.h"
 
 namespace data
 {
@@ -32,6 +33,7 @@ class FrmMessage : public ui::Dialog
     void OnInit() override
     {
         LblTitle.SetText(resources::String(IDS_CONFIRM_INSTRUCTION));
+        ui::FitLabels(*this, {&LblTitle});
         SetCaption(ConfirmCaption(mCategoryText));
         cmdAccept.SetText(resources::Choose(L"接受(&A)", L"&Accept"));
         cmdCancel.SetText(resources::Choose(L"取消(&C)", L"&Cancel"));

@@ -1,7 +1,11 @@
 // The numbers of the component's resources, kept by hand. Strings keep the numbers of the host contract (0 to
-// 1095; a number that is not here is absent from the table). Dialogs and their controls have a block of one
-// hundred per dialog, from 2000 on: the dialog's own number ends in 00.
+// 1095; a number that is not here is absent from the table), those of our own follow from 4000 on. Dialogs
+// and their controls have a block of one hundred per dialog, from 2000 on: the dialog's own number ends in
+// 00.
 #pragma once
+
+// The component's icon, which its dialogs show.
+#define IDI_TELVIX 1
 
 // The manifest that selects the common controls' visual styles; 2 is the number that a DLL's manifest has.
 #define IDR_MANIFEST 2
@@ -70,6 +74,12 @@
 #define IDS_CONFIRM_INSTRUCTION 1049
 #define IDS_CONFIRM_ADDITIONS 1090
 #define IDS_CONFIRM_MODIFICATIONS 1091
+
+// Strings of the component's own, which the contract does not know.
+#define IDS_NOT_LOADED 4000
+#define IDS_PICKER_CAPTION_CONTACTS 4001
+#define IDS_PICKER_CAPTION_TASKS 4002
+#define IDS_PICKER_CAPTION_CALENDAR 4003
 
 // Dialogs. The OK and Cancel roles are IDOK and IDCANCEL, so that Enter and Escape reach them.
 #define IDD_SYNCHRONIZEITEM 2000 // FrmSynchronizeItem

@@ -98,10 +98,20 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
     {
         switch (id)
         {
-        case IDC_SYNC_CONFIGURE: mServices.ShowConfigure(); break;
+        case IDC_SYNC_CONFIGURE: OnConfigure(); break;
         case IDC_SYNC_START: OnSynchronize(); break;
         default: Dialog::OnCommand(id, notification);
         }
+    }
+
+    // The configuration opens on the kind that its record names.
+    void OnConfigure()
+    {
+        if (mCurrentCategory)
+        {
+            state::Shared().gConfigureParameter.TransObject = lvCategory.KeyOf(*mCurrentCategory);
+        }
+        mServices.ShowConfigure();
     }
 
     void OnSynchronize()

@@ -38,12 +38,18 @@ void OptionGroup::Select(long index)
         CheckDlgButton(mDialog.Handle(), mFirstId + i,
                        index == mFirstIndex + i ? BST_CHECKED : BST_UNCHECKED);
     }
+    // An option button that is not set is left out by the Tab key; without a set one all of them would be.
+    const HWND reached = GetDlgItem(mDialog.Handle(), IdToFocus());
+    SetWindowLongPtrW(reached, GWL_STYLE, GetWindowLongPtrW(reached, GWL_STYLE) | WS_TABSTOP);
 }
 
 std::optional<long> OptionGroup::Clicked(int id, int notification) const
 {
     const bool ours = notification == BN_CLICKED && id >= mFirstId && id < mFirstId + mCount;
-    return ours ? std::optional(mFirstIndex + (id - mFirstId)) : std::nullopt;
+    // An option button says that it has been clicked when it gets the focus, too.
+    return ours && IsDlgButtonChecked(mDialog.Handle(), id) == BST_CHECKED
+               ? std::optional(mFirstIndex + (id - mFirstId))
+               : std::nullopt;
 }
 
 int OptionGroup::IdToFocus() const

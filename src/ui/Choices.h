@@ -38,7 +38,8 @@ class OptionGroup
     }
 
     void SetText(long index, const std::wstring& text);
-    // Sets the button with this index; an index that no button has clears all of them.
+    // Sets the button with this index; an index that no button has clears all of them. Either way the Tab key
+    // reaches the group.
     void Select(long index);
     // The index of the button that this command says has been clicked.
     std::optional<long> Clicked(int id, int notification) const;

@@ -2,6 +2,8 @@
 
 #include "ui/Dialog.h"
 
+#include <uxtheme.h>
+
 namespace ui
 {
 
@@ -43,9 +45,10 @@ void Control::Show(bool visible)
     ShowWindow(Handle(), visible ? SW_SHOW : SW_HIDE);
 }
 
+// By the dialog's own message, which also gives the right button the border of a default button.
 void Control::Focus()
 {
-    SetFocus(Handle());
+    SendMessageW(mDialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Handle()), TRUE);
 }
 
 void Control::Repaint()
@@ -72,6 +75,20 @@ void Control::MoveBy(int right, int down)
     RECT place = Place();
     OffsetRect(&place, right, down);
     MoveTo(place);
+}
+
+void Control::UseExplorerTheme()
+{
+    SetWindowTheme(Handle(), L"Explorer", nullptr);
+}
+
+void Button::Enable(bool enabled, Control& next)
+{
+    if (!enabled && GetFocus() == Handle())
+    {
+        next.Focus();
+    }
+    Control::Enable(enabled);
 }
 
 void TextBox::Append(const std::wstring& text)

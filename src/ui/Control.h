@@ -37,6 +37,8 @@ class Control
 
   protected:
     ~Control() = default;
+    // The looks that lists and trees have in the system's own windows, where there are visual styles.
+    void UseExplorerTheme();
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     // For messages that take a structure or a text.
     template<typename T>
@@ -54,6 +56,9 @@ class Button : public Control
 {
   public:
     using Control::Control;
+    using Control::Enable;
+    // A button that has the focus as it is disabled gives it to another control.
+    void Enable(bool enabled, Control& next);
 };
 
 class Label : public Control

@@ -4,11 +4,14 @@
 #include "resources/Strings.h"
 #include "ui/ApplyFormFont.h"
 #include "ui/Busy.h"
+#include "ui/RowPainting.h"
 #include "ui/VisualStyles.h"
 
 #include <span>
 #include <stdexcept>
 #include <utility>
+
+#include <commctrl.h>
 
 namespace ui
 {
@@ -35,6 +38,12 @@ std::span<const std::byte> TemplateResource(UINT id)
         throw automation::Error(HRESULT_FROM_WIN32(GetLastError()), L"dialog template");
     }
     return {static_cast<const std::byte*>(data), SizeofResource(module, found)};
+}
+
+HICON IconOfSize(int width, int height)
+{
+    return static_cast<HICON>(
+        LoadImageW(resources::Module(), MAKEINTRESOURCEW(IDI_TELVIX), IMAGE_ICON, width, height, LR_SHARED));
 }
 
 struct Search
@@ -121,6 +130,7 @@ void Dialog::GrowBy(int pixels)
     GetWindowRect(mWindow, &place);
     SetWindowPos(mWindow, nullptr, 0, 0, place.right - place.left, place.bottom - place.top + pixels,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SendMessageW(mWindow, DM_REPOSITION, 0, 0);
 }
 
 void Dialog::KeepPainted()
@@ -201,6 +211,7 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 
 INT_PTR Dialog::HandleInit()
 {
+    SetIcons();
     OnInit();
     CenterOverActiveBefore();
     if (const int first = FirstFocus(); first != 0)
@@ -211,8 +222,23 @@ INT_PTR Dialog::HandleInit()
     return TRUE;
 }
 
+// Shown before the caption and, since the dialogs have no owner, in the task bar.
+void Dialog::SetIcons()
+{
+    const auto set = [this](WPARAM which, int width, int height) {
+        SendMessageW(mWindow, WM_SETICON, which, reinterpret_cast<LPARAM>(IconOfSize(width, height)));
+    };
+    set(ICON_SMALL, GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON));
+    set(ICON_BIG, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON));
+}
+
 INT_PTR Dialog::HandleNotify(const NMHDR& notification)
 {
+    if (notification.code == static_cast<UINT>(NM_CUSTOMDRAW))
+    {
+        SetWindowLongPtrW(mWindow, DWLP_MSGRESULT, PaintRow(notification));
+        return TRUE;
+    }
     if (mBusy != nullptr)
     {
         return FALSE;

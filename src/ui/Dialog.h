@@ -40,7 +40,7 @@ class Dialog
     UINT TemplateId() const noexcept { return mTemplateId; }
     void SetCaption(const std::wstring& text);
 
-    // Makes the dialog higher, or lower for a negative number of pixels.
+    // Makes the dialog higher, or lower for a negative number of pixels; it stays on the screen.
     void GrowBy(int pixels);
 
     // During a run: paints what has changed, lets the user move the dialog. Free when called often.
@@ -67,6 +67,7 @@ class Dialog
     INT_PTR HandleGuarded(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR HandleInit();
+    void SetIcons();
     INT_PTR HandleNotify(const NMHDR& notification);
     INT_PTR HandleSetCursor(WORD hitTest) const;
     void CenterOverActiveBefore();

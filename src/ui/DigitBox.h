@@ -1,4 +1,6 @@
-// A text box that takes digits only: every other character typed is dropped, Backspace excepted.
+// A text box that takes digits only, as long as they stand for a number that is not too large: every other
+// character typed is dropped, Backspace and the keys of the clipboard excepted. Pasting takes the digits of
+// the text.
 #pragma once
 
 #include "ui/Control.h"
@@ -17,8 +19,18 @@ class DigitBox : public TextBox
 
     using TextBox::TextBox;
 
-    // Starts the filtering; call once the dialog's window exists. digits: how many can be typed.
-    void Prepare(int digits, EnterKey enter);
+    // Starts the filtering; call once the dialog's window exists. largest: the largest number that is taken.
+    void Prepare(long largest, EnterKey enter);
+
+  private:
+    static LRESULT CALLBACK Filter(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                   DWORD_PTR box);
+    bool HandleCharacter(WPARAM character) const;
+    bool Takes(const std::wstring& digits) const;
+    void Paste() const;
+
+    long mLargest = 0;
+    EnterKey mEnter = EnterKey::ActsOnDefaultButton;
 };
 
 } // namespace ui

@@ -1,6 +1,7 @@
 #include "ui/FrmShowErr.h"
 
 #include "resources/Strings.h"
+#include "ui/FitText.h"
 
 #include <utility>
 
@@ -31,6 +32,7 @@ void FrmShowErr::OnInit()
     Picture.ShowSystemIcon(IDI_ERROR);
     Txt_Title.SetText(ErrorLine(mCode));
     Txt_ErrDescription.SetText(mMessage);
+    FitTextBox(*this, Txt_ErrDescription);
 }
 
 void FrmShowErr::Add(const std::wstring& title, long code, const std::wstring& message)
@@ -38,6 +40,7 @@ void FrmShowErr::Add(const std::wstring& title, long code, const std::wstring& m
     SetCaption(title);
     Txt_Title.SetText(ErrorLine(code));
     Txt_ErrDescription.Append(L"\r\n" + message);
+    FitTextBox(*this, Txt_ErrDescription);
 }
 
 void FrmShowErr::OnCommand(int id, int /*notification*/)

@@ -1,6 +1,7 @@
 #include "ui/FrmShowInfor.h"
 
 #include "resources/Strings.h"
+#include "ui/FitText.h"
 
 #include <utility>
 
@@ -23,12 +24,14 @@ void FrmShowInfor::OnInit()
     CmdOk.SetText(resources::String(IDS_OK));
     Picture.ShowSystemIcon(IDI_INFORMATION);
     Txt_ErrDescription.SetText(mMessage);
+    FitTextBox(*this, Txt_ErrDescription);
 }
 
 void FrmShowInfor::Add(const std::wstring& title, const std::wstring& message)
 {
     SetCaption(title);
     Txt_ErrDescription.Append(L"\r\n" + message);
+    FitTextBox(*this, Txt_ErrDescription);
 }
 
 void FrmShowInfor::OnCommand(int id, int /*notification*/)

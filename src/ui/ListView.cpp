@@ -16,6 +16,7 @@ constexpr int kLongestText = 1024; // characters; the control itself shows 259
 
 void ListView::Prepare()
 {
+    UseExplorerTheme();
     constexpr LPARAM kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
     Clear();
@@ -54,6 +55,15 @@ int ListView::Add(const std::wstring& text, const std::wstring& key)
     return static_cast<int>(SendPointer(LVM_INSERTITEMW, 0, &item));
 }
 
+void ListView::SetText(int row, int column, const std::wstring& text)
+{
+    std::wstring copy = text;
+    LVITEMW item = {};
+    item.iSubItem = column;
+    item.pszText = copy.data();
+    SendPointer(LVM_SETITEMTEXTW, static_cast<WPARAM>(row), &item);
+}
+
 int ListView::Count() const
 {
     return static_cast<int>(Send(LVM_GETITEMCOUNT));
@@ -89,16 +99,26 @@ void ListView::Select(int row)
     SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(row), &item);
 }
 
-std::optional<int> ListView::NewlySelected(const NMHDR& notification) const
+bool ListView::IsSelectionChange(const NMHDR& notification) const
 {
     if (notification.hwndFrom != Handle() || notification.code != LVN_ITEMCHANGED)
+    {
+        return false;
+    }
+    const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
+    return (change.uChanged & LVIF_STATE) != 0 &&
+           ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) != 0;
+}
+
+std::optional<int> ListView::NewlySelected(const NMHDR& notification) const
+{
+    if (!IsSelectionChange(notification))
     {
         return std::nullopt;
     }
     const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
-    const bool selected = (change.uChanged & LVIF_STATE) != 0 && (change.uNewState & LVIS_SELECTED) != 0 &&
-                          (change.uOldState & LVIS_SELECTED) == 0;
-    return selected && change.iItem >= 0 ? std::optional(change.iItem) : std::nullopt;
+    return (change.uNewState & LVIS_SELECTED) != 0 && change.iItem >= 0 ? std::optional(change.iItem)
+                                                                        : std::nullopt;
 }
 
 } // namespace ui

@@ -14,7 +14,7 @@ class ListView : public Control
   public:
     using Control::Control;
 
-    // Selects whole rows. Call once, before the rows are added.
+    // Selects whole rows, and has the looks of the system's own lists. Call once, before the rows are added.
     void Prepare();
     // Adds a column of a width in pixels; the last one takes what is left when FillWidth is called.
     void AddColumn(const std::wstring& header, int width = 0);
@@ -24,6 +24,7 @@ class ListView : public Control
     int Add(const std::wstring& text, const std::wstring& key = {});
     // Takes all rows away; the columns stay.
     void Clear();
+    void SetText(int row, int column, const std::wstring& text);
     int Count() const;
     std::wstring TextOf(int row, int column = 0) const;
     const std::wstring& KeyOf(int row) const;
@@ -31,6 +32,8 @@ class ListView : public Control
     std::optional<int> Selected() const;
     void Select(int row);
 
+    // Whether this notification says that a row has been selected or is selected no longer.
+    bool IsSelectionChange(const NMHDR& notification) const;
     // The row that this notification says the user has chosen, by mouse or keyboard, if it says so.
     std::optional<int> NewlySelected(const NMHDR& notification) const;
 

@@ -3,6 +3,11 @@
 namespace ui
 {
 
+void TreeView::Prepare()
+{
+    UseExplorerTheme();
+}
+
 void TreeView::UsePictures(const ImageList& pictures)
 {
     Send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(pictures.Handle()));
@@ -55,6 +60,11 @@ size_t TreeView::NumberOf(HTREEITEM node) const
     item.hItem = node;
     SendPointer(TVM_GETITEMW, 0, &item);
     return static_cast<size_t>(item.lParam);
+}
+
+bool TreeView::IsSelectionChange(const NMHDR& notification) const
+{
+    return notification.hwndFrom == Handle() && notification.code == static_cast<UINT>(TVN_SELCHANGEDW);
 }
 
 std::optional<HTREEITEM> TreeView::FirstOpening(const NMHDR& notification) const

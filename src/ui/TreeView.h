@@ -19,6 +19,8 @@ class TreeView : public Control
   public:
     using Control::Control;
 
+    // Gives the tree the looks of the system's own trees. Call once, before the nodes are added.
+    void Prepare();
     // The list stays the caller's.
     void UsePictures(const ImageList& pictures);
     // Adds a node below a parent (null: at the top), after those that are there; picture -1 for none.
@@ -31,6 +33,8 @@ class TreeView : public Control
     std::optional<HTREEITEM> Selected() const;
     size_t NumberOf(HTREEITEM node) const;
 
+    // Whether this notification says that another node is selected.
+    bool IsSelectionChange(const NMHDR& notification) const;
     // The node that is about to be opened for the first time, if this notification says so.
     std::optional<HTREEITEM> FirstOpening(const NMHDR& notification) const;
     // Whether this notification is a double click on a node.

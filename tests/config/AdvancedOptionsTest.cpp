@@ -36,6 +36,27 @@ TEST(AdvancedSetClauses, TheCalendarWritesItsDaysOnlyWithTheRangeWithinDays)
               config::CalendarSetClause(1, 2, 7, 3));
 }
 
+TEST(AdvancedSetClauses, LeaveOutACodeThatWasNeitherLoadedNorChosen)
+{
+    using config::Code;
+    EXPECT_EQ(L"", config::ContactSetClause(Code()));
+    EXPECT_EQ(L"", config::TaskSetClause(Code(), Code()));
+    EXPECT_EQ(L"TransConflictOption=2", config::TaskSetClause(2, Code()));
+    EXPECT_EQ(L"TaskTransItem=0", config::TaskSetClause(Code(), 0));
+    EXPECT_EQ(L"TransConflictOption=2", config::CalendarSetClause(2, Code(), 7, 3));
+    EXPECT_EQ(L"CalendarTransItem=2,CalendarAfter=3,CalendarPrior=7",
+              config::CalendarSetClause(Code(), 2, 7, 3));
+}
+
+TEST(TaskOptionsDiffer, WhenACodeIsChosenThatTheColumnsDidNotHold)
+{
+    state::SynParameter record;
+    record.TransConflictOption = record.TaskTransItem = config::kNoCode;
+    EXPECT_FALSE(config::TaskOptionsDiffer(record, config::Code(), config::Code()));
+    EXPECT_TRUE(config::TaskOptionsDiffer(record, config::Code(), 0));
+    EXPECT_TRUE(config::TaskOptionsDiffer(record, 1, config::Code()));
+}
+
 TEST(TaskOptionsDiffer, WhenEitherCodeDiffers)
 {
     state::SynParameter record;

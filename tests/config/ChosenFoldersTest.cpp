@@ -26,8 +26,34 @@ TEST(ChosenFolders, TheFirstFolderAddedIsTheDefault)
 TEST(ChosenFolders, AFolderThatIsListedAlreadyIsIgnored)
 {
     ChosenFolders folders = {{L"Store\\A", false}};
+    EXPECT_TRUE(config::IsListed(folders, L"Store\\A"));
+    EXPECT_FALSE(config::IsListed(folders, L"Store"));
     EXPECT_FALSE(config::AddFolder(folders, L"Store\\A"));
     EXPECT_EQ((ChosenFolders{{L"Store\\A", false}}), folders);
+}
+
+TEST(ChosenFolders, AFolderAddedWhereThereIsNoDefaultIsTheDefault)
+{
+    ChosenFolders folders = {{L"A", false}};
+    EXPECT_EQ(std::nullopt, config::DefaultOf(folders));
+    config::AddFolder(folders, L"B");
+    EXPECT_EQ((ChosenFolders{{L"A", false}, {L"B", true}}), folders);
+    EXPECT_EQ(1u, config::DefaultOf(folders));
+}
+
+TEST(ChosenFolders, WhenTheDefaultIsRemovedTheOneThatTakesItsPlaceIsTheDefault)
+{
+    ChosenFolders folders = {{L"A", true}, {L"B", false}, {L"C", false}};
+    config::RemoveFolder(folders, 0);
+    EXPECT_EQ((ChosenFolders{{L"B", true}, {L"C", false}}), folders);
+    config::RemoveFolder(folders, 1);
+    EXPECT_EQ((ChosenFolders{{L"B", true}}), folders);
+    config::AddFolder(folders, L"D");
+    config::MakeDefault(folders, 1);
+    config::RemoveFolder(folders, 1);
+    EXPECT_EQ((ChosenFolders{{L"B", true}}), folders);
+    config::RemoveFolder(folders, 0);
+    EXPECT_TRUE(folders.empty());
 }
 
 TEST(ChosenFolders, OnlyOneFolderIsTheDefault)
@@ -107,6 +133,13 @@ TEST_F(ChosenFoldersTest, StoredFoldersAreLoadedWithOneDefaultAtMost)
     GiveFolder(20, L"C", true);
     EXPECT_EQ((ChosenFolders{{L"A", false}, {L"B", true}}),
               config::LoadChosenFolders(*FindObjectKind(L"Contact")));
+}
+
+TEST_F(ChosenFoldersTest, ThereIsNoListWhenTheHostRefuses)
+{
+    GiveFolder(10, L"A", true);
+    RefuseEvery(L"OpenRecordsetByString");
+    EXPECT_FALSE(config::LoadChosenFolders(*FindObjectKind(L"Contact")));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "config/FolderTree.h"
 
+#include "automation/Error.h"
 #include "sandbox/outlook/Outlook.h"
 #include "tests/support/StandIns.h"
 
@@ -33,9 +34,12 @@ std::vector<std::wstring> PathsBelow(const FolderNode& parent, long itemType)
     std::vector<std::wstring> paths;
     for (const FolderNode& child : config::ChildrenOf(parent, itemType))
     {
-        paths.push_back(child.Path + (child.IsContainer() ? L"+" : L""));
-        const auto below = PathsBelow(child, itemType);
-        paths.insert(paths.end(), below.begin(), below.end());
+        paths.push_back(child.Path + (child.IsContainer ? L"+" : L""));
+        if (child.IsContainer)
+        {
+            const auto below = PathsBelow(child, itemType);
+            paths.insert(paths.end(), below.begin(), below.end());
+        }
     }
     return paths;
 }
@@ -85,8 +89,8 @@ TEST_F(FolderTreeTest, EachFolderIsAskedOnlyForWhatIsNeeded)
     calls.Counts.clear();
     config::ChildrenOf(stores.at(0), kContactItem);
     EXPECT_EQ(3, calls.Counts[L"Item"]);
-    EXPECT_EQ(3, calls.Counts[L"Folders"]);
-    EXPECT_EQ(3, calls.Counts[L"Count"]);
+    EXPECT_EQ(4, calls.Counts[L"Folders"]); // of the store as well, which is opened
+    EXPECT_EQ(4, calls.Counts[L"Count"]);
     EXPECT_EQ(2, calls.Counts[L"DefaultItemType"]); // not of the container
     EXPECT_EQ(2, calls.Counts[L"Name"]);            // not of the mail folder, which is not shown
 }
@@ -99,6 +103,73 @@ TEST_F(FolderTreeTest, ALevelAsksNothingOfTheFoldersBelowIt)
     config::ChildrenOf(root, kContactItem);
     EXPECT_EQ(1, calls.Counts[L"Item"]);
     EXPECT_EQ(1, calls.Counts[L"Name"]);
+}
+
+// Outlook refuses one call of a member: that of a folder which cannot be opened.
+class Refusal : public sandbox::CallObserver
+{
+  public:
+    Refusal(std::wstring member, int call)
+        : mMember(std::move(member)), mCall(call), mBefore(sandbox::Observe(this))
+    {
+    }
+    ~Refusal() override { sandbox::Observe(mBefore); }
+    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
+    {
+        if (mMember == member && --mCall == 0)
+        {
+            throw automation::Error(E_FAIL, member, L"The folder cannot be opened.");
+        }
+    }
+
+  private:
+    std::wstring mMember;
+    int mCall;
+    CallObserver* mBefore;
+};
+
+TEST_F(FolderTreeTest, AFolderThatCannotBeReadIsLeftOutAndTheRestIsShownAtEveryLevel)
+{
+    for (const wchar_t* name : {L"A", L"B", L"C"})
+    {
+        mMailbox->AddFolder(L"Store\\" + std::wstring(name), ItemKind::Contact);
+        mMailbox->AddFolder(std::wstring(name) + L"\\Contacts", ItemKind::Contact);
+    }
+    const auto pathsWithout = [](const FolderNode& parent, const wchar_t* member, int call) {
+        const Refusal refusal(member, call);
+        std::vector<std::wstring> paths;
+        for (const FolderNode& child : config::ChildrenOf(parent, kContactItem))
+        {
+            paths.push_back(child.Path);
+        }
+        return paths;
+    };
+    using Paths = std::vector<std::wstring>;
+    const FolderNode root = Root();
+    EXPECT_EQ((Paths{L"Store", L"B", L"C"}), pathsWithout(root, L"Item", 2));
+    EXPECT_EQ((Paths{L"A", L"B", L"C"}), pathsWithout(root, L"Count", 2)); // after that of the namespace
+    const FolderNode store = config::ChildrenOf(root, kContactItem).at(0);
+    EXPECT_EQ((Paths{L"Store\\A", L"Store\\C"}), pathsWithout(store, L"Folders", 3));
+    EXPECT_EQ((Paths{L"Store\\A", L"Store\\B"}), pathsWithout(store, L"DefaultItemType", 3));
+    EXPECT_EQ((Paths{L"Store\\B", L"Store\\C"}), pathsWithout(store, L"Name", 1));
+}
+
+TEST_F(FolderTreeTest, AFolderIsAskedForItsChildrenWhenItIsOpened)
+{
+    mMailbox->AddFolder(L"Store\\Contacts", ItemKind::Contact);
+    const auto stores = config::ChildrenOf(Root(), kContactItem);
+    mMailbox->AddFolder(L"Store\\Friends", ItemKind::Contact); // meanwhile
+    EXPECT_EQ(2u, config::ChildrenOf(stores.at(0), kContactItem).size());
+}
+
+TEST(LeadsThrough, ThePathsOfAFolderAndOfThoseAboveItInAnyLetterCase)
+{
+    FolderNode node;
+    node.Path = L"Store\\Contacts";
+    EXPECT_TRUE(config::LeadsThrough(L"Store\\Contacts", node));
+    EXPECT_TRUE(config::LeadsThrough(L"STORE\\contacts\\Friends", node));
+    EXPECT_FALSE(config::LeadsThrough(L"Store\\Contacts 2020", node));
+    EXPECT_FALSE(config::LeadsThrough(L"Store", node));
 }
 
 } // namespace

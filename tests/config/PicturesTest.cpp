@@ -18,6 +18,7 @@ using config::Pictures;
 
 constexpr const wchar_t* kKeys[] = {L"contact", L"task", L"calendar", L"left",
                                     L"right",   L"each", L"outlook",  L"default"};
+constexpr int kCount = static_cast<int>(std::size(kKeys)) + 1; // with the empty one
 // Small icons from 100 % to 200 %.
 constexpr int kSizes[] = {16, 20, 24, 32};
 
@@ -92,6 +93,13 @@ TEST(Pictures, TheArrowsMirrorEachOther)
     }
 }
 
+TEST(Pictures, TheEmptyPictureKeepsThePlaceOfOneAndShowsNothing)
+{
+    EXPECT_EQ(static_cast<int>(std::size(kKeys)), Pictures::IndexOf(config::kEmptyPicture));
+    const auto pixels = PixelsOf(PaintPicture(config::kEmptyPicture, 16), 16);
+    EXPECT_EQ(std::vector<DWORD>(16 * 16), pixels);
+}
+
 TEST(Pictures, AnUnknownKeyHasNone)
 {
     EXPECT_EQ(-1, Pictures::IndexOf(L"Contact"));
@@ -102,7 +110,7 @@ TEST(Pictures, AnUnknownKeyHasNone)
 TEST(Pictures, TheListHoldsAllOfThemInTheOrderOfTheirIndexes)
 {
     const Pictures pictures;
-    EXPECT_EQ(static_cast<int>(std::size(kKeys)), ImageList_GetImageCount(pictures.List().Handle()));
+    EXPECT_EQ(kCount, ImageList_GetImageCount(pictures.List().Handle()));
     int width = 0;
     int height = 0;
     ImageList_GetIconSize(pictures.List().Handle(), &width, &height);
@@ -129,10 +137,7 @@ TEST(Pictures, AreAllThereWhileAnotherThreadMakesAndDestroysWindows)
         try
         {
             const Pictures pictures;
-            complete +=
-                static_cast<size_t>(ImageList_GetImageCount(pictures.List().Handle())) == std::size(kKeys)
-                    ? 1
-                    : 0;
+            complete += ImageList_GetImageCount(pictures.List().Handle()) == kCount ? 1 : 0;
         }
         catch (const std::bad_alloc&) // noticed by its absence
         {

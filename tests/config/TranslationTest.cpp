@@ -41,7 +41,7 @@ TEST(HasTranslator, NullAndTheWordNullInAnyCaseMeanNone)
 
 TEST_F(TranslationTest, AUserWithoutRowsGetsThemFromTheTemplates)
 {
-    const auto rows = config::LoadTranslations();
+    const auto rows = config::LoadTranslations().value();
     ASSERT_EQ(3u, rows.size());
     EXPECT_EQ(L"Contact", rows[0].TransObject);
     EXPECT_EQ(L"Task", rows[1].TransObject);
@@ -54,16 +54,16 @@ TEST_F(TranslationTest, NamesFollowTheLanguage)
     GiveUserRows();
     {
         const test_support::WithLanguage english(Language::English);
-        EXPECT_EQ(L"Calendar", config::LoadTranslations().at(2).Name);
+        EXPECT_EQ(L"Calendar", config::LoadTranslations()->at(2).Name);
     }
     const test_support::WithLanguage chinese(Language::Chinese);
-    EXPECT_EQ(L"日历", config::LoadTranslations().at(2).Name);
+    EXPECT_EQ(L"日历", config::LoadTranslations()->at(2).Name);
 }
 
 TEST_F(TranslationTest, ARowThatTakesPartIsCheckedAndShowsItsArrow)
 {
     GiveUserRows();
-    const Translation contact = config::LoadTranslations().at(0);
+    const Translation contact = config::LoadTranslations()->at(0);
     EXPECT_TRUE(contact.Checked);
     EXPECT_EQ(L"each", contact.Arrow());
 }
@@ -72,7 +72,7 @@ TEST_F(TranslationTest, ARowThatTakesNoPartIsUncheckedAndShowsNoArrow)
 {
     GiveUserRows();
     Execute(L"UPDATE T_POutlookSyncParam SET IsTrans=0 WHERE F_UID=7 AND TransObject='Contact'");
-    const Translation contact = config::LoadTranslations().at(0);
+    const Translation contact = config::LoadTranslations()->at(0);
     EXPECT_FALSE(contact.Checked);
     EXPECT_TRUE(contact.Translator);
     EXPECT_EQ(L"", contact.Arrow());
@@ -85,17 +85,17 @@ TEST_F(TranslationTest, ARowWhoseTranslatorIsTheWordNullIsUncheckedAndShowsNoArr
     {
         Execute(L"UPDATE T_POutlookSyncParam SET IsTrans=1, TransSource=" + std::wstring(word) +
                 L" WHERE F_UID=7 AND TransObject='Contact'");
-        const Translation contact = config::LoadTranslations().at(0);
+        const Translation contact = config::LoadTranslations()->at(0);
         EXPECT_FALSE(contact.Checked) << word;
         EXPECT_FALSE(contact.Translator) << word;
         EXPECT_EQ(L"", contact.Arrow()) << word;
     }
 }
 
-TEST_F(TranslationTest, TheListIsEmptyWhenTheHostRefuses)
+TEST_F(TranslationTest, ThereIsNoListWhenTheHostRefuses)
 {
     RefuseEvery(L"OpenRecordsetByString");
-    EXPECT_TRUE(config::LoadTranslations().empty());
+    EXPECT_FALSE(config::LoadTranslations());
 }
 
 TEST(TranslationSetClause, WritesWhatTheRowShows)
@@ -119,6 +119,11 @@ TEST(TranslationSetClause, AnUnknownPictureKeepsTheCode)
     Translation row;
     row.TransType = 1;
     EXPECT_EQ(L"IsTrans=0,TransSource='Null',TransType=1,TransTypePic=''", config::TranslationSetClause(row));
+}
+
+TEST(TranslationSetClause, ADirectionThatWasNeitherLoadedNorChosenIsNotWritten)
+{
+    EXPECT_EQ(L"IsTrans=0,TransSource='Null'", config::TranslationSetClause(Translation()));
 }
 
 TEST(Translation, CheckingARowWithoutATranslatorChoosesTheOnlyOne)

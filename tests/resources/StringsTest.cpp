@@ -15,7 +15,7 @@ namespace
 using resources::Language;
 using test_support::WithLanguage;
 
-constexpr UINT kLastId = 1095;
+constexpr UINT kLastId = 4999;
 
 struct Row
 {
@@ -73,8 +73,8 @@ constexpr Row kFixedTexts[] = {
     {1091, L"be modified:", L"修改记录条数："},
 };
 
-// Texts whose wording is ours.
-constexpr UINT kFreeTexts[] = {101, 103, 104, 1000, 1021, 1030, 1043};
+// Texts whose wording is ours, and those that are ours altogether.
+constexpr UINT kFreeTexts[] = {101, 103, 104, 1000, 1021, 1030, 1043, 4000, 4001, 4002, 4003};
 
 std::set<UINT> PresentIds(Language language)
 {
@@ -150,6 +150,27 @@ TEST(StringTable, TheEnglishPromptForContactsSpeaksOfACalendarFolderWithItsMissp
     for (const wchar_t* word : {L"calendar folder", L"defalt", L"hightlight", L"fFolders", L"Defalult"})
     {
         EXPECT_NE(std::wstring::npos, prompt.find(word)) << prompt.size();
+    }
+}
+
+TEST(StringTable, ThePromptsThatAreOursSpeakOfTheOneFolderThatARunUses)
+{
+    for (const UINT id : {IDS_PICKER_CALENDAR, IDS_PICKER_TASKS})
+    {
+        const WithLanguage english(Language::English);
+        EXPECT_EQ(std::wstring::npos, resources::String(id).find(L"folder(s)")) << id;
+        EXPECT_EQ(0u, resources::String(id).find(L"A run uses one ")) << id;
+        const WithLanguage chinese(Language::Chinese);
+        EXPECT_EQ(0u, resources::String(id).find(L"每次同步只使用一个")) << id;
+    }
+}
+
+TEST(StringTable, ThereIsOneChineseWordForDefault)
+{
+    const WithLanguage chinese(Language::Chinese);
+    for (UINT id = 0; id <= kLastId; ++id)
+    {
+        EXPECT_EQ(std::wstring::npos, resources::String(id).find(L"默认")) << id;
     }
 }
 

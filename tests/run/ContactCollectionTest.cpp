@@ -120,6 +120,22 @@ TEST_F(ContactCollection, TheStatusLineNamesTheWorkAndTheProgressEndsFullAndHidd
     EXPECT_FALSE(Display.IsShown);
 }
 
+TEST_F(ContactCollection, TheProgressIsShownFromZeroAndMovesWithEachRecordInBothDirections)
+{
+    *Rows = {ContactRow(L"Li", L"Ming", L"Harbour"), ContactRow(L"Ode", L"Ann", L"")};
+    *Items = {Contact(L"Li", L"Ming", L"Harbour"), Contact(L"A", L"B", L""), Contact(L"C", L"D", L""),
+              Contact(L"E", L"F", L"")};
+    Collect(3, 2);
+    EXPECT_EQ((std::vector<std::wstring>{L"Collecting information...", L"0%", L"(shown)", L"50%", L"100%",
+                                         L"(hidden)"}),
+              Display.Events);
+    Display.Events.clear();
+    Collect(3, 1);
+    EXPECT_EQ((std::vector<std::wstring>{L"Collecting information...", L"0%", L"(shown)", L"25%", L"50%",
+                                         L"75%", L"100%", L"(hidden)"}),
+              Display.Events);
+}
+
 TEST_F(ContactCollection, ATwoWayRunReadsEachMatchKeyOnce)
 {
     for (int i = 0; i < 40; ++i)

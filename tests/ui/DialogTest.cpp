@@ -129,6 +129,19 @@ TEST(ApplyFormFont, BytesThatAreNoDialogTemplateAreRefused)
     EXPECT_THROW(ui::ApplyFormFont(std::span(zeros).first(3), {L"Arial", 8}), std::invalid_argument);
 }
 
+TEST(Dialog, ShowsTheComponentsIconInBothSizes)
+{
+    Probe probe;
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog();
+            EXPECT_NE(0, dialog.Ask(dialog.Handle(), WM_GETICON, ICON_SMALL));
+            EXPECT_NE(0, dialog.Ask(dialog.Handle(), WM_GETICON, ICON_BIG));
+            dialog.Close();
+        },
+        [&] { probe.ShowModal(); });
+}
+
 TEST(Dialog, AnExceptionOfAHandlerEndsTheDialogAndComesOutOfTheCallThatShowedIt)
 {
     Probe probe([] { throw std::runtime_error("from the handler"); });

@@ -75,6 +75,58 @@ TEST(FrmSynchronizeItem, ConfigureOpensTheConfigurationAndNothingElse)
     EXPECT_EQ(L"", recorder.Ran);
 }
 
+TEST(FrmSynchronizeItem, TheConfigurationOpensOnTheChosenKind)
+{
+    const std::pair<int, const wchar_t*> kinds[] = {
+        {kTaskRow, L"Task"}, {kCalendarRow, L"Calendar"}, {kContactRow, L"Contact"}};
+    for (const auto& [row, kind] : kinds)
+    {
+        const Interface chinese(Language::Chinese);
+        Recorder recorder;
+        Use(recorder, [&, chosen = row](Robot& robot, const ShownDialog& dialog) {
+            dialog.ChooseRow(IDC_SYNC_CATEGORY, chosen);
+            dialog.Click(IDC_SYNC_CONFIGURE);
+            robot.WaitUntil("the configuration", [&] { return recorder.Configured == 1; });
+        });
+        EXPECT_EQ(kind, recorder.ConfiguredKind);
+    }
+}
+
+// The colour of a row right of its text.
+COLORREF GroundOf(const ShownDialog& dialog, int list, int row)
+{
+    const HWND window = dialog.Control(list);
+    RECT place = {LVIR_BOUNDS, 0, 0, 0};
+    dialog.Ask(window, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+    const HDC context = GetDC(window);
+    const COLORREF color = GetPixel(context, place.right - 10, (place.top + place.bottom) / 2);
+    ReleaseDC(window, context);
+    return color;
+}
+
+int Difference(COLORREF a, COLORREF b)
+{
+    return abs(GetRValue(a) - GetRValue(b)) + abs(GetGValue(a) - GetGValue(b)) +
+           abs(GetBValue(a) - GetBValue(b));
+}
+
+TEST(FrmSynchronizeItem, TheChosenRowStaysVisibleWhileAButtonHasTheFocus)
+{
+    const Interface english(Language::English);
+    Recorder recorder;
+    Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
+        dialog.ChooseRow(IDC_SYNC_CATEGORY, kCalendarRow);
+        dialog.Ask(dialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(dialog.Control(IDCANCEL)), TRUE);
+        robot.WaitUntil("focus on a button", [&] { return dialog.Focused() == IDCANCEL; });
+        dialog.Ask(dialog.Handle(), WM_NULL);
+        RedrawWindow(dialog.Control(IDC_SYNC_CATEGORY), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        robot.WaitUntil("a row that differs from the others", [&] {
+            return Difference(GroundOf(dialog, IDC_SYNC_CATEGORY, kCalendarRow),
+                              GroundOf(dialog, IDC_SYNC_CATEGORY, kTaskRow)) >= 40;
+        });
+    });
+}
+
 TEST(FrmSynchronizeItem, WorksByTheKeyboardAlone)
 {
     const Interface english(Language::English);

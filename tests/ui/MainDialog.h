@@ -29,8 +29,9 @@ struct Recorder
     bool Fails = false;
     std::function<void()> DuringLoading;
     std::function<void(data::RunDisplay&)> DuringRun;
-    std::wstring Loaded; // names whose parameters were loaded, each followed by a blank
-    std::wstring Ran;    // procedures that ran, likewise
+    std::wstring Loaded;         // names whose parameters were loaded, each followed by a blank
+    std::wstring Ran;            // procedures that ran, likewise
+    std::wstring ConfiguredKind; // that the configuration opens on
     std::atomic<int> Configured{0};
     std::atomic<int> Runs{0};
 
@@ -58,7 +59,11 @@ struct Recorder
                         DuringLoading();
                     }
                 },
-            .ShowConfigure = [this] { ++Configured; },
+            .ShowConfigure =
+                [this] {
+                    ConfiguredKind = state::Shared().gConfigureParameter.TransObject;
+                    ++Configured;
+                },
             .RunTaskSync = runs(L"tasks "),
             .RunCalendarSync = runs(L"calendar "),
             .RunContactSync = runs(L"contacts "),

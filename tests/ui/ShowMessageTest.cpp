@@ -197,6 +197,78 @@ TEST(ShowMessage, TheThreadsOtherWindowsTakeNoInputMeanwhileAndDoAfterwards)
     DestroyWindow(host);
 }
 
+struct Fit
+{
+    int height = 0; // of the dialog
+    bool scrolls = false;
+    bool showsAll = false;
+};
+
+Fit FitOf(const ShownDialog& dialog, int description)
+{
+    const HWND box = dialog.Control(description);
+    RECT place = {};
+    GetWindowRect(dialog.Handle(), &place);
+    RECT room = {};
+    GetClientRect(box, &room);
+    const HDC context = GetDC(box);
+    const HGDIOBJ before = SelectObject(context, reinterpret_cast<HFONT>(dialog.Ask(box, WM_GETFONT)));
+    TEXTMETRICW metrics = {};
+    GetTextMetricsW(context, &metrics);
+    SelectObject(context, before);
+    ReleaseDC(box, context);
+    return {static_cast<int>(place.bottom - place.top), (GetWindowLongW(box, GWL_STYLE) & WS_VSCROLL) != 0,
+            dialog.Ask(box, EM_GETLINECOUNT) * metrics.tmHeight <= room.bottom};
+}
+
+TEST(MessageDialogs, FitTheirTextAndScrollOnlyWhenItIsVeryLong)
+{
+    const Interface english(Language::English);
+    for (const long code : {0L, 5L})
+    {
+        std::vector<Fit> fits;
+        for (const int lines : {1, 10, 60})
+        {
+            std::wstring text = L"one line";
+            for (int line = 1; line < lines; ++line)
+            {
+                text += L"\r\none line more";
+            }
+            Drive(
+                [&](Robot& robot) {
+                    const ShownDialog dialog = robot.WaitForDialog();
+                    fits.push_back(
+                        FitOf(dialog, code != 0 ? IDC_SHOWERR_DESCRIPTION : IDC_SHOWINFOR_DESCRIPTION));
+                    dialog.Click(IDOK);
+                },
+                [&] { ui::ShowMessage(L"Fit", code, text); });
+        }
+        EXPECT_TRUE(fits[0].showsAll && fits[1].showsAll);
+        EXPECT_FALSE(fits[0].scrolls || fits[1].scrolls);
+        EXPECT_TRUE(fits[2].scrolls);
+        EXPECT_LT(fits[0].height, fits[1].height);
+        EXPECT_LT(fits[1].height, fits[2].height);
+        EXPECT_LT(fits[2].height, 800);
+    }
+}
+
+TEST(MessageDialogs, AMessageThatIsAddedMakesTheDialogLarger)
+{
+    const Interface english(Language::English);
+    const MainThread main;
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog(L"First");
+            const Fit before = FitOf(dialog, IDC_SHOWINFOR_DESCRIPTION);
+            main.Invoke([] { ui::ShowMessage(L"First", 0, L"two\r\nthree\r\nfour\r\nfive\r\nsix"); });
+            const Fit after = FitOf(dialog, IDC_SHOWINFOR_DESCRIPTION);
+            EXPECT_TRUE(after.showsAll);
+            EXPECT_GT(after.height, before.height);
+            dialog.Click(IDOK);
+        },
+        [] { ui::ShowMessage(L"First", 0, L"one"); });
+}
+
 TEST(MessageDialogs, AreReadableInBothLanguagesAtEveryScale)
 {
     for (const Language language : kLanguages)

@@ -1,57 +1,12 @@
-#include "config/FrmAdvanced.h"
-
-#include "tests/ui_config/Ground.h"
-#include "tests/ui_config/Look.h"
-
-#include <gtest/gtest.h>
+#include "tests/ui_config/AdvancedDialogs.h"
 
 namespace
 {
 
 using namespace ui_config_tests;
 
-constexpr int kRule1 = IDC_ADV_CONFLICT;
-constexpr int kRange0 = IDC_ADV_RANGE;
-constexpr int kPrior = IDC_ADVCALENDAR_PRIOR;
-constexpr int kAfter = IDC_ADVCALENDAR_AFTER;
-
-class FrmAdvanced : public testing::TestWithParam<Language>
+class FrmAdvanced : public AdvancedDialogs
 {
-  protected:
-    void Show(const wchar_t* kind, const std::function<void(Robot&, const ShownDialog&)>& script)
-    {
-        mGround.UseKind(kind);
-        Drive([&](Robot& robot) { script(robot, robot.WaitForDialog()); },
-              [&] { config::ShowAdvancedOptions(kind); });
-    }
-
-    static void ShowPage(const ShownDialog& dialog, int page)
-    {
-        const HWND tabs = dialog.Control(IDC_ADV_TABS);
-        dialog.Ask(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(page)); // with its notification
-    }
-
-    static void Set(Robot& robot, const ShownDialog& dialog, int option)
-    {
-        dialog.Click(option);
-        robot.WaitUntil("the option", [&] { return IsSet(dialog, option); });
-    }
-
-    static void Type(const ShownDialog& dialog, int box, const wchar_t* text)
-    {
-        for (; *text != 0; ++text)
-        {
-            dialog.Ask(dialog.Control(box), WM_CHAR, *text);
-        }
-    }
-
-    static void Focus(Robot& robot, const ShownDialog& dialog, int id)
-    {
-        dialog.Ask(dialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(dialog.Control(id)), TRUE);
-        robot.WaitUntil("the focus", [&] { return dialog.Focused() == id; });
-    }
-
-    Ground mGround{GetParam()};
 };
 
 INSTANTIATE_TEST_SUITE_P(, FrmAdvanced, testing::ValuesIn(ui_tests::kLanguages));
@@ -199,95 +154,6 @@ TEST_P(FrmAdvanced, ContactAndCalendarOkWriteUnchangedCodesToo)
     EXPECT_EQ(1, mGround.Host.Failures().CallsOf(L"Update"));
 }
 
-TEST_P(FrmAdvanced, CalendarDaysAreFilledCrosswiseAndOkExchangesThem)
-{
-    Show(L"Calendar", [&](Robot&, const ShownDialog& dialog) {
-        ShowPage(dialog, 1);
-        EXPECT_TRUE(IsSet(dialog, kRange0 + 2));
-        EXPECT_TRUE(dialog.IsEnabled(kPrior));
-        EXPECT_EQ(L"3", dialog.Text(kPrior));
-        EXPECT_EQ(L"7", dialog.Text(kAfter));
-        dialog.Click(IDOK);
-    });
-    EXPECT_EQ(L"4|2|3|7|0", mGround.Options(L"Calendar"));
-    EXPECT_EQ(3, mGround.Record().CalendarPrior);
-    EXPECT_EQ(7, mGround.Record().CalendarAfter);
-}
-
-TEST_P(FrmAdvanced, SwitchingToTheRangeFromAnotherOptionFillsTheDaysCrosswiseAgain)
-{
-    Show(L"Calendar", [&](Robot& robot, const ShownDialog& dialog) {
-        ShowPage(dialog, 1);
-        Set(robot, dialog, kRange0 + 1);
-        robot.WaitUntil("disabled boxes", [&] { return !dialog.IsEnabled(kPrior); });
-        EXPECT_FALSE(dialog.IsEnabled(kAfter));
-        Set(robot, dialog, kRange0 + 2);
-        robot.WaitUntil("enabled boxes",
-                        [&] { return dialog.IsEnabled(kPrior) && dialog.IsEnabled(kAfter); });
-        EXPECT_EQ(L"3", dialog.Text(kPrior));
-        EXPECT_EQ(L"7", dialog.Text(kAfter));
-        dialog.Click(IDOK);
-    });
-    EXPECT_EQ(L"4|2|3|7|0", mGround.Options(L"Calendar"));
-}
-
-TEST_P(FrmAdvanced, CalendarOkWithAnotherRangeLeavesTheStoredDaysAndForgetsThoseInMemory)
-{
-    for (const int range : {0, 1})
-    {
-        mGround.SetRow(L"Calendar", L"CalendarTransItem=2");
-        Show(L"Calendar", [&](Robot& robot, const ShownDialog& dialog) {
-            ShowPage(dialog, 1);
-            Set(robot, dialog, kRange0 + range);
-            dialog.Click(IDOK);
-        });
-        EXPECT_EQ(L"4|" + std::to_wstring(range) + L"|7|3|0", mGround.Options(L"Calendar"));
-        EXPECT_EQ(0, mGround.Record().CalendarPrior);
-        EXPECT_EQ(0, mGround.Record().CalendarAfter);
-        EXPECT_EQ(range, mGround.Record().CalendarTransItem);
-    }
-}
-
-TEST_P(FrmAdvanced, LettersTypedIntoADayBoxDoNotAppear)
-{
-    Show(L"Calendar", [&](Robot&, const ShownDialog& dialog) {
-        ShowPage(dialog, 1);
-        for (const int box : {kPrior, kAfter})
-        {
-            dialog.Ask(dialog.Control(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
-            Type(dialog, box, L"1a-2 .xé3\x0016");
-            EXPECT_EQ(L"123", dialog.Text(box));
-            Type(dialog, box, L"\b");
-            EXPECT_EQ(L"12", dialog.Text(box));
-        }
-        dialog.Click(IDOK);
-    });
-    EXPECT_EQ(L"4|2|12|12|0", mGround.Options(L"Calendar"));
-}
-
-TEST_P(FrmAdvanced, AnEmptyDayBoxIsZero)
-{
-    Show(L"Calendar", [&](Robot&, const ShownDialog& dialog) {
-        dialog.Ask(dialog.Control(kPrior), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
-        dialog.Click(IDOK);
-    });
-    EXPECT_EQ(L"4|2|0|7|0", mGround.Options(L"Calendar"));
-}
-
-TEST_P(FrmAdvanced, EnterInTheFirstDayBoxMovesOnAndInTheSecondActsOnOk)
-{
-    Show(L"Calendar", [&](Robot& robot, const ShownDialog& dialog) {
-        ShowPage(dialog, 1);
-        Focus(robot, dialog, kPrior);
-        dialog.Press(VK_RETURN);
-        robot.WaitUntil("focus on the second box", [&] { return dialog.Focused() == kAfter; });
-        EXPECT_TRUE(dialog.TakesInput());
-        dialog.Press(VK_RETURN);
-        robot.WaitUntilClosed(dialog);
-    });
-    EXPECT_EQ(1, mGround.Host.Failures().CallsOf(L"Update"));
-}
-
 TEST_P(FrmAdvanced, TabGoesThroughThePageTheTabsAndTheButtons)
 {
     Show(L"Calendar", [&](Robot& robot, const ShownDialog& dialog) {
@@ -301,6 +167,76 @@ TEST_P(FrmAdvanced, TabGoesThroughThePageTheTabsAndTheButtons)
         }
         dialog.Close();
     });
+}
+
+TEST_P(FrmAdvanced, ADialogThatCouldNotLoadSaysSoAndWritesNothing)
+{
+    for (const wchar_t* kind : {L"Contact", L"Task", L"Calendar"})
+    {
+        const std::wstring before = mGround.Options(kind);
+        mGround.UseKind(kind);
+        mGround.RefuseNextLoad();
+        Drive(
+            [&](Robot& robot) {
+                ReadThatNothingIsLoaded(robot);
+                const auto dialog = robot.WaitForDialog();
+                EXPECT_FALSE(dialog.IsEnabled(IDOK));
+                Set(robot, dialog, kRule1 + 4);
+                dialog.Command(IDOK); // all the same
+            },
+            [&] { config::ShowAdvancedOptions(kind); });
+        EXPECT_EQ(before, mGround.Options(kind));
+    }
+    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+}
+
+TEST_P(FrmAdvanced, ARuleThatIsNullStaysNullAndResetsNoOtherCode)
+{
+    mGround.SetRow(L"Calendar", L"TransConflictOption=NULL");
+    Show(L"Calendar", [&](Robot&, const ShownDialog& dialog) {
+        for (int i = 0; i < 5; ++i)
+        {
+            EXPECT_FALSE(IsSet(dialog, kRule1 + i));
+        }
+        EXPECT_TRUE(IsSet(dialog, kRange0 + 2));
+        dialog.Click(IDOK);
+    });
+    EXPECT_EQ(L"1", mGround.Row(L"SELECT COUNT(*) FROM T_POutlookSyncParam WHERE F_UID=1 AND "
+                                L"TransConflictOption IS NULL AND CalendarTransItem=2"));
+}
+
+TEST_P(FrmAdvanced, OkStoresOnlyTheCodesThatWereLoadedOrChosen)
+{
+    mGround.SetRow(L"Task", L"TransConflictOption=NULL,TaskTransItem=NULL");
+    Show(L"Task", [&](Robot&, const ShownDialog& dialog) { dialog.Click(IDOK); });
+    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    Show(L"Task", [&](Robot& robot, const ShownDialog& dialog) {
+        Set(robot, dialog, kRule1 + 1);
+        dialog.Click(IDOK);
+    });
+    EXPECT_EQ(L"2|0|0|0|", mGround.Options(L"Task")); // the range is still NULL
+    Show(L"Task", [&](Robot& robot, const ShownDialog& dialog) {
+        ShowPage(dialog, 1);
+        Set(robot, dialog, kRange0);
+        dialog.Click(IDOK);
+    });
+    EXPECT_EQ(L"2|0|0|0|0", mGround.Options(L"Task"));
+}
+
+TEST_P(FrmAdvanced, WithNoRuleSetTabReachesTheRulesAndChoosesNone)
+{
+    mGround.SetRow(L"Contact", L"TransConflictOption=NULL");
+    Show(L"Contact", [&](Robot& robot, const ShownDialog& dialog) {
+        for (const int id :
+             {kRule1, IDC_ADV_TABS, static_cast<int>(IDOK), static_cast<int>(IDCANCEL), kRule1, IDC_ADV_TABS})
+        {
+            robot.WaitUntil("focus on " + std::to_string(id), [&] { return dialog.Focused() == id; });
+            dialog.Press(VK_TAB);
+        }
+        EXPECT_FALSE(IsSet(dialog, kRule1));
+        dialog.Click(IDOK);
+    });
+    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmAdvanced, ARefusedUpdateIsSilentAndClosesTheDialog)

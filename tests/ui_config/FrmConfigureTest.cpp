@@ -1,32 +1,15 @@
-#include "config/FrmConfigure.h"
+// The list of kinds: what it shows, and how its rows are chosen.
+#include "tests/ui_config/KindList.h"
 
 #include "tests/support/StandIns.h"
-#include "tests/ui_config/Ground.h"
-#include "tests/ui_config/Look.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {
 
 using namespace ui_config_tests;
-using config::Pictures;
 
-constexpr int kKindList = IDC_CONFIGURE_LIST;
-constexpr int kContact = 0;
-constexpr int kTask = 1;
-constexpr int kCalendar = 2;
-
-class FrmConfigure : public testing::TestWithParam<Language>
+class FrmConfigure : public KindList
 {
-  protected:
-    std::wstring Caption() const { return In(GetParam(), L"Config Translation", L"配置同步传输"); }
-    std::wstring ChooseCaption(const wchar_t* english, const wchar_t* chinese) const
-    {
-        return In(GetParam(), english, chinese);
-    }
-
-    Ground mGround{GetParam()};
 };
 
 INSTANTIATE_TEST_SUITE_P(, FrmConfigure, testing::ValuesIn(ui_tests::kLanguages));
@@ -83,11 +66,27 @@ TEST_P(FrmConfigure, AUserWithoutRowsGetsThemFromTheTemplates)
     EXPECT_EQ(L"3", mGround.Row(L"SELECT COUNT(*) FROM T_POutlookSyncParam WHERE F_UID=1"));
 }
 
-TEST_P(FrmConfigure, WithoutAHostTheListIsEmptyAndTheDialogOpens)
+TEST_P(FrmConfigure, ADialogThatCouldNotLoadSaysSoAndWritesNothing)
+{
+    mGround.RefuseNextLoad();
+    Drive(
+        [&](Robot& robot) {
+            ReadThatNothingIsLoaded(robot);
+            const auto dialog = robot.WaitForDialog(Caption());
+            EXPECT_EQ(0, dialog.Rows(kKindList));
+            EXPECT_FALSE(dialog.IsEnabled(IDOK));
+            dialog.Command(IDOK); // all the same
+        },
+        config::ShowConfigure);
+    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+}
+
+TEST_P(FrmConfigure, WithoutAHostTheUserIsToldAndTheDialogOpensWithAnEmptyList)
 {
     state::Shared().gDTC = {};
     Drive(
         [&](Robot& robot) {
+            ReadThatNothingIsLoaded(robot);
             const auto dialog = robot.WaitForDialog(Caption());
             EXPECT_EQ(0, dialog.Rows(kKindList));
             dialog.Press(VK_ESCAPE);
@@ -111,6 +110,42 @@ TEST_P(FrmConfigure, TheButtonsOfARowWaitForOneToBeSelected)
     EXPECT_EQ(L"Task", mGround.Record().TransObject);
     EXPECT_EQ(3, mGround.Record().TransConflictOption);
     EXPECT_EQ(1, mGround.Record().TaskTransItem);
+}
+
+TEST_P(FrmConfigure, WhenARowIsSelectedNoLongerItsButtonsAreDisabled)
+{
+    mGround.UseKind(L"Task");
+    Drive(
+        [&](Robot& robot) {
+            const auto dialog = robot.WaitForDialog(Caption());
+            EXPECT_TRUE(dialog.IsEnabled(IDC_CONFIGURE_CHOOSE));
+            LVITEMW none = {};
+            none.stateMask = LVIS_SELECTED;
+            dialog.Ask(dialog.Control(kKindList), LVM_SETITEMSTATE, static_cast<WPARAM>(-1),
+                       reinterpret_cast<LPARAM>(&none));
+            EXPECT_FALSE(dialog.IsEnabled(IDC_CONFIGURE_CHOOSE));
+            EXPECT_FALSE(dialog.IsEnabled(IDC_CONFIGURE_ADVANCE));
+            dialog.Close();
+        },
+        config::ShowConfigure);
+}
+
+TEST_P(FrmConfigure, TheDirectionStandsInWordsBesideItsArrow)
+{
+    mGround.SetRow(L"Task", L"IsTrans=1");
+    Drive(
+        [&](Robot& robot) {
+            const auto dialog = robot.WaitForDialog(Caption());
+            EXPECT_EQ(In(GetParam(), L"Synchronize", L"同步"), dialog.Row(kKindList, kContact, 1));
+            EXPECT_EQ(In(GetParam(), L"Import", L"输入"), dialog.Row(kKindList, kTask, 1));
+            EXPECT_EQ(L"", dialog.Row(kKindList, kCalendar, 1)); // without a translator
+            dialog.ChooseRow(kKindList, kTask);
+            dialog.Press(VK_SPACE);
+            robot.WaitUntil("no check mark", [&] { return !IsChecked(dialog, kKindList, kTask); });
+            EXPECT_EQ(L"", dialog.Row(kKindList, kTask, 1));
+            dialog.Close();
+        },
+        config::ShowConfigure);
 }
 
 TEST_P(FrmConfigure, TheRowOfTheRecordsKindIsSelectedAtFirst)
@@ -139,13 +174,21 @@ TEST_P(FrmConfigure, TheRecordOfARowWithoutATranslatorHasNone)
     EXPECT_EQ(L"calendar", mGround.Record().TransObjectPic);
 }
 
-TEST_P(FrmConfigure, OkWritesEveryRow)
+TEST_P(FrmConfigure, ARowThatCannotBeLoadedShowsNoFolderOfAnotherKind)
 {
-    Drive([&](Robot& robot) { robot.WaitForDialog(Caption()).Click(IDOK); }, config::ShowConfigure);
-    EXPECT_EQ(L"1|Outlook|3|each", mGround.Translation(L"Contact"));
-    EXPECT_EQ(L"0|Outlook|1|left", mGround.Translation(L"Task"));
-    EXPECT_EQ(L"0|Null|2|right", mGround.Translation(L"Calendar"));
-    EXPECT_EQ(3, mGround.Host.Failures().CallsOf(L"Update"));
+    mGround.AddFolderRow(10, L"Store\\Contacts", true);
+    Drive(
+        [&](Robot& robot) {
+            const auto dialog = robot.WaitForDialog(Caption());
+            dialog.ChooseRow(kKindList, kContact);
+            mGround.RefuseNextLoad();
+            dialog.ChooseRow(kKindList, kTask);
+            dialog.Close();
+        },
+        config::ShowConfigure);
+    EXPECT_EQ(L"Task", mGround.Record().TransObject);
+    EXPECT_EQ(L"", mGround.Record().CurrentFolder);
+    EXPECT_EQ(L"", mGround.Record().DefaultFolder);
 }
 
 TEST_P(FrmConfigure, TheSpaceBarSetsAndTakesCheckMarksAndTheArrowFollows)
@@ -169,29 +212,6 @@ TEST_P(FrmConfigure, TheSpaceBarSetsAndTakesCheckMarksAndTheArrowFollows)
     EXPECT_EQ(L"1|Outlook|1|left", mGround.Translation(L"Task"));
 }
 
-TEST_P(FrmConfigure, CancelEscapeAndTheCloseButtonWriteNothing)
-{
-    const std::vector<std::function<void(const ShownDialog&)>> ways = {
-        [](const ShownDialog& dialog) { dialog.Click(IDCANCEL); },
-        [](const ShownDialog& dialog) { dialog.Press(VK_ESCAPE); },
-        [](const ShownDialog& dialog) { dialog.Close(); },
-    };
-    for (const auto& way : ways)
-    {
-        Drive(
-            [&](Robot& robot) {
-                const auto dialog = robot.WaitForDialog(Caption());
-                dialog.ChooseRow(kKindList, kContact);
-                dialog.Press(VK_SPACE);
-                robot.WaitUntil("no check mark", [&] { return !IsChecked(dialog, kKindList, kContact); });
-                way(dialog);
-            },
-            config::ShowConfigure);
-    }
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
-    EXPECT_EQ(L"1|Outlook|3|each", mGround.Translation(L"Contact"));
-}
-
 TEST_P(FrmConfigure, TabGoesFromTheListOverTheButtonsAndBackToIt)
 {
     mGround.UseKind(L"Contact");
@@ -207,76 +227,6 @@ TEST_P(FrmConfigure, TabGoesFromTheListOverTheButtonsAndBackToIt)
             dialog.Close();
         },
         config::ShowConfigure);
-}
-
-TEST_P(FrmConfigure, AdvancedOpensTheDialogOfTheSelectedKind)
-{
-    const std::wstring captions[] = {
-        In(GetParam(), L"Advanced settings for contact", L"联系人高级设置"),
-        In(GetParam(), L"Advanced Settings for Activities", L"任务高级设置"),
-        In(GetParam(), L"Advanced Settings for Calendar", L"日历高级设置"),
-    };
-    Drive(
-        [&](Robot& robot) {
-            const auto dialog = robot.WaitForDialog(Caption());
-            for (int row = kContact; row <= kCalendar; ++row)
-            {
-                dialog.ChooseRow(kKindList, row);
-                dialog.PressAlt(L'a');
-                const auto advanced = robot.WaitForDialog(captions[row]);
-                advanced.Press(VK_ESCAPE);
-                robot.WaitUntilClosed(advanced);
-                robot.WaitForDialog(Caption());
-            }
-            dialog.Close();
-        },
-        config::ShowConfigure);
-}
-
-TEST_P(FrmConfigure, ARowIsRedrawnAfterItsTranslatorHasBeenChosenAndWrittenOnOk)
-{
-    Drive(
-        [&](Robot& robot) {
-            const auto dialog = robot.WaitForDialog(Caption());
-            dialog.ChooseRow(kKindList, kCalendar);
-            dialog.PressAlt(L's');
-            const auto choose = robot.WaitForDialog(In(GetParam(), L"Calendar", L"日历"));
-            ChooseEntry(choose, IDC_CHOOSE_TRANSLATORS, 1);
-            choose.Click(IDC_CHOOSE_DIRECTION); // import
-            choose.Click(IDOK);
-            robot.WaitUntilClosed(choose);
-            robot.WaitForDialog(Caption());
-            EXPECT_TRUE(IsChecked(dialog, kKindList, kCalendar));
-            EXPECT_EQ(Pictures::IndexOf(L"left"), PictureOf(dialog, kKindList, kCalendar, 1));
-            EXPECT_EQ(L"0|Null|2|right", mGround.Translation(L"Calendar")); // not yet
-            dialog.Click(IDOK);
-        },
-        config::ShowConfigure);
-    EXPECT_EQ(L"1|Outlook|1|left", mGround.Translation(L"Calendar"));
-}
-
-TEST_P(FrmConfigure, WhatHasBeenEditedIsKeptWhileAnotherRowIsSelected)
-{
-    Drive(
-        [&](Robot& robot) {
-            const auto dialog = robot.WaitForDialog(Caption());
-            dialog.ChooseRow(kKindList, kContact);
-            dialog.Click(IDC_CONFIGURE_CHOOSE);
-            auto choose = robot.WaitForDialog(In(GetParam(), L"Contact", L"联系人"));
-            choose.Click(IDC_CHOOSE_DIRECTION + 1); // export
-            choose.Click(IDOK);
-            robot.WaitUntilClosed(choose);
-            dialog.ChooseRow(kKindList, kTask);
-            dialog.ChooseRow(kKindList, kContact);
-            dialog.Click(IDC_CONFIGURE_CHOOSE);
-            choose = robot.WaitForDialog(In(GetParam(), L"Contact", L"联系人"));
-            EXPECT_TRUE(IsSet(choose, IDC_CHOOSE_DIRECTION + 1));
-            choose.Close();
-            robot.WaitUntilClosed(choose);
-            dialog.Click(IDOK);
-        },
-        config::ShowConfigure);
-    EXPECT_EQ(L"1|Outlook|2|right", mGround.Translation(L"Contact"));
 }
 
 } // namespace

@@ -169,6 +169,23 @@ TEST_P(FrmSynChoose, TabFollowsTheLayout)
     });
 }
 
+TEST_P(FrmSynChoose, WithNoDirectionSetTabReachesTheDirectionsAndChoosesNone)
+{
+    mGround.Record().TransType = 0;
+    mGround.Record().TransTypePic.clear();
+    Show([&](Robot& robot, const ShownDialog& dialog) {
+        for (const int id : {IDC_CHOOSE_TRANSLATORS, kImport, IDC_CHOOSE_FOLDER})
+        {
+            robot.WaitUntil("focus on " + std::to_string(id), [&] { return dialog.Focused() == id; });
+            dialog.Press(VK_TAB);
+        }
+        EXPECT_FALSE(IsSet(dialog, kImport));
+        dialog.Click(IDOK);
+    });
+    EXPECT_EQ(0, mGround.Record().TransType);
+    EXPECT_EQ(L"", mGround.Record().TransTypePic);
+}
+
 TEST_P(FrmSynChoose, BrowseAndOptionOnlyTellTheUserWhenThereIsNoProfile)
 {
     config_tests::ProfileKey::Remove();
@@ -194,6 +211,7 @@ TEST_P(FrmSynChoose, BrowseOpensTheFolderPickerAndShowsItsFolder)
         dialog.PressAlt(L'b');
         const auto picker = robot.WaitForDialogAfter(dialog);
         EXPECT_NE(nullptr, picker.Control(IDC_CONTENT_TREE));
+        EXPECT_NE(dialog.Caption(), picker.Caption());
         EXPECT_EQ(dialog.Handle(), GetWindow(picker.Handle(), GW_OWNER));
         picker.Click(IDC_CONTENT_REMOVE);
         robot.WaitUntil("an empty list", [&] { return picker.Rows(IDC_CONTENT_LIST) == 0; });

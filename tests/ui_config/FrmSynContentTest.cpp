@@ -1,13 +1,5 @@
-#include "config/FrmSynContent.h"
-
-#include "sandbox/dispatch/DispatchObject.h"
-#include "tests/ui_config/Ground.h"
-#include "tests/ui_config/Look.h"
-
-#include <gtest/gtest.h>
-
-#include <atomic>
-#include <chrono>
+// The folder picker: its list and what it stores.
+#include "tests/ui_config/FolderPicker.h"
 
 namespace
 {
@@ -15,37 +7,8 @@ namespace
 using namespace ui_config_tests;
 using sandbox::ItemKind;
 
-constexpr int kTree = IDC_CONTENT_TREE;
-constexpr int kFolderList = IDC_CONTENT_LIST;
-const std::wstring kStore = L"Personal Folders";
-
-class FrmSynContent : public testing::TestWithParam<Language>
+class FrmSynContent : public FolderPicker
 {
-  protected:
-    FrmSynContent() { mGround.UseKind(L"Contact"); }
-
-    void Show(const std::function<void(Robot&, const ShownDialog&)>& script)
-    {
-        Drive([&](Robot& robot) { script(robot, robot.WaitForDialog()); },
-              [&] { config::FrmSynContent(mGround.Record()).ShowModal(); });
-    }
-
-    // Selects a folder by its names and presses Add.
-    static void Add(Robot& robot, const ShownDialog& dialog, const Texts& names)
-    {
-        const int before = dialog.Rows(kFolderList);
-        HTREEITEM node = nullptr;
-        for (const std::wstring& name : names)
-        {
-            node = FindNode(dialog, kTree, node, name);
-        }
-        ASSERT_NE(nullptr, node);
-        SelectNode(dialog, kTree, node);
-        dialog.Click(IDC_CONTENT_ADD);
-        robot.WaitUntil("a new row", [&] { return dialog.Rows(kFolderList) == before + 1; });
-    }
-
-    Ground mGround{GetParam()};
 };
 
 INSTANTIATE_TEST_SUITE_P(, FrmSynContent, testing::ValuesIn(ui_tests::kLanguages));
@@ -76,24 +39,74 @@ TEST_P(FrmSynContent, ThePromptIsThatOfTheKind)
     }
 }
 
-TEST_P(FrmSynContent, TheTreeShowsContainersAndFoldersOfTheKind)
+TEST_P(FrmSynContent, OkWithoutAChangeChangesNothingNotEvenTheShownFolder)
 {
-    mGround.Mailbox->AddFolder(kStore + L"\\Projects\\Mail only");
-    mGround.Mailbox->AddFolder(kStore + L"\\Contacts\\Friends", ItemKind::Contact);
-    mGround.Mailbox->AddFolder(L"Empty store");
+    mGround.AddFolderRow(10, L"Store\\A", false);
+    mGround.AddFolderRow(10, L"Store\\B", true);
+    const Texts before = mGround.Folders(10);
+    for (const wchar_t* shown : {L"Store\\A", L"Store\\B", L""})
+    {
+        mGround.Record().CurrentFolder = shown;
+        Show([&](Robot&, const ShownDialog& dialog) { dialog.Click(IDOK); });
+        EXPECT_EQ(before, mGround.Folders(10));
+        EXPECT_EQ(shown, mGround.Record().CurrentFolder);
+    }
+}
+
+TEST_P(FrmSynContent, ReplacingTheDefaultLeavesADefault)
+{
+    mGround.AddFolderRow(10, L"Store\\A", true);
+    mGround.Mailbox->AddFolder(kStore + L"\\Friends", ItemKind::Contact);
     Show([&](Robot& robot, const ShownDialog& dialog) {
-        EXPECT_EQ(Texts{kStore}, NodesBelow(dialog, kTree, nullptr));
+        Add(robot, dialog, {kStore, L"Friends"});
+        dialog.ChooseRow(kFolderList, 0);
+        dialog.Click(IDC_CONTENT_REMOVE);
+        robot.WaitUntil("one row", [&] { return dialog.Rows(kFolderList) == 1; });
+        dialog.Click(IDOK);
+    });
+    EXPECT_EQ(Texts{kStore + L"\\Friends|1"}, mGround.Folders(10));
+}
+
+TEST_P(FrmSynContent, AfterARefusedLoadItSaysSoAndKeepsTheStoredFolders)
+{
+    mGround.AddFolderRow(10, L"Store\\A", true);
+    mGround.Record().CurrentFolder = L"Store\\A";
+    mGround.RefuseNextLoad();
+    Drive(
+        [&](Robot& robot) {
+            ReadThatNothingIsLoaded(robot);
+            const auto dialog = robot.WaitForDialog();
+            EXPECT_EQ(0, dialog.Rows(kFolderList));
+            for (const int id :
+                 {IDC_CONTENT_ADD, IDC_CONTENT_REMOVE, IDC_CONTENT_DEFAULT, static_cast<int>(IDOK)})
+            {
+                EXPECT_FALSE(dialog.IsEnabled(id)) << id;
+            }
+            dialog.Command(IDC_CONTENT_ADD);
+            dialog.Command(IDOK); // all the same
+        },
+        [&] { config::FrmSynContent(mGround.Record()).ShowModal(); });
+    EXPECT_EQ(Texts{L"Store\\A|1"}, mGround.Folders(10));
+    EXPECT_EQ(L"Store\\A", mGround.Record().CurrentFolder);
+    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Delete"));
+}
+
+TEST_P(FrmSynContent, AButtonThatHasDoneItsWorkGivesTheFocusBackToItsList)
+{
+    Show([&](Robot& robot, const ShownDialog& dialog) {
         const HTREEITEM store = FindNode(dialog, kTree, nullptr, kStore);
-        EXPECT_EQ((Texts{L"Contacts", L"Projects"}), NodesBelow(dialog, kTree, store));
-        const HTREEITEM projects = FindNode(dialog, kTree, store, L"Projects");
-        dialog.Ask(dialog.Control(kTree), TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(projects));
-        EXPECT_TRUE(NodesBelow(dialog, kTree, projects).empty()); // only mail in it
-        const HTREEITEM contacts = FindNode(dialog, kTree, store, L"Contacts");
-        SelectNode(dialog, kTree, contacts);
-        dialog.Ask(dialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(dialog.Control(kTree)), TRUE);
-        dialog.Press(VK_RIGHT); // opens it
-        robot.WaitUntil("an open node", [&] { return !NodesBelow(dialog, kTree, contacts).empty(); });
-        EXPECT_EQ(Texts{L"Friends"}, NodesBelow(dialog, kTree, contacts));
+        SelectNode(dialog, kTree, FindNode(dialog, kTree, store, L"Contacts"));
+        dialog.Click(IDC_CONTENT_ADD);
+        robot.WaitUntil("focus on the tree", [&] { return dialog.Focused() == kTree; });
+        robot.WaitUntil("disabled buttons", [&] {
+            return !dialog.IsEnabled(IDC_CONTENT_ADD) && !dialog.IsEnabled(IDC_CONTENT_DEFAULT);
+        }); // the folder is listed, and the default, already
+        robot.WaitUntil("a row to remove", [&] { return dialog.IsEnabled(IDC_CONTENT_REMOVE); });
+        dialog.Click(IDC_CONTENT_REMOVE);
+        robot.WaitUntil("focus on the list", [&] { return dialog.Focused() == kFolderList; });
+        robot.WaitUntil("a folder to add, none to remove", [&] {
+            return dialog.IsEnabled(IDC_CONTENT_ADD) && !dialog.IsEnabled(IDC_CONTENT_REMOVE);
+        });
         dialog.Close();
     });
 }
@@ -107,8 +120,8 @@ TEST_P(FrmSynContent, StoredFoldersAreListedWithTheDefaultMarked)
         ASSERT_EQ(2, dialog.Rows(kFolderList));
         EXPECT_EQ(L"Store\\A", dialog.Row(kFolderList, 0));
         EXPECT_EQ(L"Store\\B", dialog.Row(kFolderList, 1));
-        EXPECT_EQ(-1, PictureOf(dialog, kFolderList, 0, 0));
-        EXPECT_NE(-1, PictureOf(dialog, kFolderList, 1, 0));
+        EXPECT_EQ(kEmpty, PictureOf(dialog, kFolderList, 0, 0)); // so that both texts begin in one place
+        EXPECT_EQ(kMark, PictureOf(dialog, kFolderList, 1, 0));
         dialog.Close();
     });
 }
@@ -134,34 +147,12 @@ TEST_P(FrmSynContent, AFolderThatIsListedAlreadyIsNotAddedAgain)
     Show([&](Robot& robot, const ShownDialog& dialog) {
         const HTREEITEM store = FindNode(dialog, kTree, nullptr, kStore);
         SelectNode(dialog, kTree, FindNode(dialog, kTree, store, L"Contacts"));
-        dialog.Click(IDC_CONTENT_ADD);
+        EXPECT_FALSE(dialog.IsEnabled(IDC_CONTENT_ADD));
+        dialog.Command(IDC_CONTENT_ADD);
         Add(robot, dialog, {kStore, L"Friends"}); // and nothing else has been added before
         dialog.Click(IDOK);
     });
     EXPECT_EQ((Texts{kStore + L"\\Contacts|1", kStore + L"\\Friends|0"}), mGround.Folders(10));
-}
-
-TEST_P(FrmSynContent, ADoubleClickOnANodeAddsItAndLeavesItOpen)
-{
-    mGround.Mailbox->AddFolder(kStore + L"\\Friends", ItemKind::Contact);
-    Show([&](Robot& robot, const ShownDialog& dialog) {
-        const HTREEITEM store = FindNode(dialog, kTree, nullptr, kStore);
-        const HTREEITEM friends = FindNode(dialog, kTree, store, L"Friends");
-        // The place of the pointer reaches the messages with some delay; a second time adds nothing.
-        robot.WaitUntil("a new row", [&] {
-            DoubleClickNode(dialog, kTree, friends);
-            return dialog.Rows(kFolderList) == 1;
-        });
-        robot.WaitUntil("a second row", [&] {
-            DoubleClickNode(dialog, kTree, store);
-            return dialog.Rows(kFolderList) == 2;
-        });
-        const auto state = dialog.Ask(dialog.Control(kTree), TVM_GETITEMSTATE,
-                                      reinterpret_cast<WPARAM>(store), TVIS_EXPANDED);
-        EXPECT_NE(0, state & TVIS_EXPANDED);
-        dialog.Click(IDOK);
-    });
-    EXPECT_EQ((Texts{kStore + L"\\Friends|1", kStore + L"|0"}), mGround.Folders(10));
 }
 
 TEST_P(FrmSynContent, DefaultMovesTheMarkToTheSelectedFolder)
@@ -171,8 +162,8 @@ TEST_P(FrmSynContent, DefaultMovesTheMarkToTheSelectedFolder)
     Show([&](Robot& robot, const ShownDialog& dialog) {
         dialog.ChooseRow(kFolderList, 1);
         dialog.PressAlt(L'd');
-        robot.WaitUntil("the mark", [&] { return PictureOf(dialog, kFolderList, 1, 0) != -1; });
-        EXPECT_EQ(-1, PictureOf(dialog, kFolderList, 0, 0));
+        robot.WaitUntil("the mark", [&] { return PictureOf(dialog, kFolderList, 1, 0) == kMark; });
+        EXPECT_EQ(kEmpty, PictureOf(dialog, kFolderList, 0, 0));
         EXPECT_EQ(1, SelectedRow(dialog, kFolderList));
         dialog.Press(VK_RETURN);
     });
@@ -183,8 +174,10 @@ TEST_P(FrmSynContent, DefaultMovesTheMarkToTheSelectedFolder)
 TEST_P(FrmSynContent, DefaultAndRemoveDoNothingWithoutASelectedFolder)
 {
     Show([&](Robot&, const ShownDialog& dialog) {
-        dialog.Click(IDC_CONTENT_DEFAULT);
-        dialog.Click(IDC_CONTENT_REMOVE);
+        EXPECT_FALSE(dialog.IsEnabled(IDC_CONTENT_DEFAULT));
+        EXPECT_FALSE(dialog.IsEnabled(IDC_CONTENT_REMOVE));
+        dialog.Command(IDC_CONTENT_DEFAULT);
+        dialog.Command(IDC_CONTENT_REMOVE);
         dialog.Click(IDOK);
     });
     EXPECT_TRUE(mGround.Folders(10).empty());
@@ -244,18 +237,12 @@ TEST_P(FrmSynContent, AnUnknownKindShowsAndWritesNothing)
     EXPECT_EQ(Texts{L"Store\\A|1"}, mGround.Folders(10));
 }
 
-TEST_P(FrmSynContent, WithoutOutlookTheDialogOpensWithoutATree)
-{
-    state::Shared().gOlNamespace = {};
-    Show([&](Robot&, const ShownDialog& dialog) {
-        EXPECT_TRUE(NodesBelow(dialog, kTree, nullptr).empty());
-        dialog.Close();
-    });
-}
-
 TEST_P(FrmSynContent, TabFollowsTheLayout)
 {
+    mGround.AddFolderRow(10, L"Store\\A", true);
+    mGround.AddFolderRow(10, L"Store\\B", false);
     Show([&](Robot& robot, const ShownDialog& dialog) {
+        dialog.ChooseRow(kFolderList, 1); // now every button has something to do
         for (const int id : {kTree, IDC_CONTENT_ADD, IDC_CONTENT_REMOVE, IDC_CONTENT_DEFAULT, kFolderList,
                              static_cast<int>(IDOK), static_cast<int>(IDCANCEL), kTree})
         {
@@ -264,49 +251,6 @@ TEST_P(FrmSynContent, TabFollowsTheLayout)
         }
         dialog.Close();
     });
-}
-
-// Counts the folders that were touched.
-class ItemCalls : public sandbox::CallObserver
-{
-  public:
-    ItemCalls() : mBefore(sandbox::Observe(this)) {}
-    ~ItemCalls() override { sandbox::Observe(mBefore); }
-    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
-    {
-        Items += std::wstring(member) == L"Item" ? 1 : 0;
-    }
-    std::atomic<int> Items{0};
-
-  private:
-    sandbox::CallObserver* mBefore;
-};
-
-void AddLevels(sandbox::Mailbox& mailbox, const std::wstring& path, int levels, int width, int& left)
-{
-    for (int i = 0; i < width && left > 0; ++i, --left)
-    {
-        const std::wstring folder = path + L"\\Folder " + std::to_wstring(i);
-        mailbox.AddFolder(folder, ItemKind::Contact);
-        if (levels > 1)
-        {
-            AddLevels(mailbox, folder, levels - 1, width, left);
-        }
-    }
-}
-
-TEST_P(FrmSynContent, TwoThousandFoldersInEightLevelsAreTouchedOnlyAsFarAsTheyAreShown)
-{
-    int left = 2000;
-    AddLevels(*mGround.Mailbox, kStore, 8, 3, left);
-    ASSERT_LE(left, 0);
-    const ItemCalls calls;
-    const auto begin = std::chrono::steady_clock::now();
-    Show([&](Robot&, const ShownDialog& dialog) {
-        EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2));
-        dialog.Close();
-    });
-    EXPECT_LT(calls.Items, 20); // the store, and the folders directly in it
 }
 
 } // namespace

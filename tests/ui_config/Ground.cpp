@@ -2,6 +2,8 @@
 
 #include "config/ParameterStore.h"
 
+#include <gtest/gtest.h>
+
 namespace ui_config_tests
 {
 
@@ -90,6 +92,19 @@ Texts Ground::Folders(long kind)
 void Ground::UseKind(const std::wstring& kind)
 {
     config::SetSynParamenter(Record(), kind);
+}
+
+void Ground::RefuseNextLoad()
+{
+    Host.Failures().Order(L"OpenRecordsetByString", 1, {.result = -1});
+}
+
+void ReadThatNothingIsLoaded(Robot& robot)
+{
+    const ShownDialog message = robot.WaitForDialog(resources::String(IDS_ERROR));
+    EXPECT_EQ(resources::String(IDS_NOT_LOADED), message.Text(IDC_SHOWINFOR_DESCRIPTION));
+    message.Click(IDOK);
+    robot.WaitUntilClosed(message);
 }
 
 } // namespace ui_config_tests

@@ -43,6 +43,8 @@ class Ground
     // The configuration record describes this kind.
     state::SynParameter& Record() { return state::Shared().gConfigureParameter; }
     void UseKind(const std::wstring& kind);
+    // The host refuses the next statement that opens a recordset.
+    void RefuseNextLoad();
 
   private:
     ui_tests::Interface mInterface; // clears the shared state at the end
@@ -54,5 +56,8 @@ class Ground
     sandbox::OutlookInProcess Outlook{Mailbox};
     config_tests::ProfileKey& Profiles() { return mProfileKey; }
 };
+
+// Expects the message that nothing could be loaded, and closes it.
+void ReadThatNothingIsLoaded(Robot& robot);
 
 } // namespace ui_config_tests

@@ -50,6 +50,40 @@ int SelectedRow(const ShownDialog& dialog, int list)
         dialog.Ask(dialog.Control(list), LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
+// The theme's name is a property of the window, as an atom.
+BOOL CALLBACK FindExplorer(HWND /*window*/, LPWSTR /*name*/, HANDLE value, ULONG_PTR found)
+{
+    std::array<wchar_t, 32> text = {};
+    const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(value));
+    const bool isText = GetAtomNameW(atom, text.data(), static_cast<int>(text.size())) != 0 ||
+                        GlobalGetAtomNameW(atom, text.data(), static_cast<int>(text.size())) != 0;
+    *reinterpret_cast<bool*>(found) |= isText && lstrcmpiW(text.data(), L"Explorer") == 0;
+    return TRUE;
+}
+
+bool HasExplorerTheme(HWND control)
+{
+    bool found = false;
+    EnumPropsExW(control, FindExplorer, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+int EmptyLines(const ShownDialog& dialog, int label)
+{
+    const HWND window = dialog.Control(label);
+    RECT room = {};
+    GetClientRect(window, &room);
+    const HDC context = GetDC(window);
+    const HGDIOBJ before = SelectObject(context, reinterpret_cast<HFONT>(dialog.Ask(window, WM_GETFONT)));
+    RECT text = {0, 0, room.right, 0};
+    DrawTextW(context, dialog.Text(label).c_str(), -1, &text, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    TEXTMETRICW metrics = {};
+    GetTextMetricsW(context, &metrics);
+    SelectObject(context, before);
+    ReleaseDC(window, context);
+    return static_cast<int>((room.bottom - text.bottom) / metrics.tmHeight);
+}
+
 bool IsSet(const ShownDialog& dialog, int button)
 {
     return dialog.Ask(dialog.Control(button), BM_GETCHECK) == BST_CHECKED;

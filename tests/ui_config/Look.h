@@ -28,6 +28,11 @@ std::vector<std::wstring> Entries(const ShownDialog& dialog, int list);
 // Chooses an entry as a user does, with its notification.
 void ChooseEntry(const ShownDialog& dialog, int list, int entry);
 
+// Lists and trees: whether the control has been given the looks of the system's own ones.
+bool HasExplorerTheme(HWND control);
+// Labels: the lines of room that the text leaves in the control.
+int EmptyLines(const ShownDialog& dialog, int label);
+
 // Tree views. The texts of the nodes below a node (null: at the top), those not opened yet excluded.
 HTREEITEM FindNode(const ShownDialog& dialog, int tree, HTREEITEM parent, const std::wstring& text);
 std::vector<std::wstring> NodesBelow(const ShownDialog& dialog, int tree, HTREEITEM parent);

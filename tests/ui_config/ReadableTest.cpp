@@ -1,5 +1,5 @@
 // Every configuration dialog in both languages and at the sizes that screens of 96, 144 and 192 DPI show:
-// nothing is clipped, nothing leaves the dialog, accelerators are unique.
+// nothing is clipped, nothing leaves the dialog, accelerators are unique, prompts leave no gap.
 #include "config/FrmAdvanced.h"
 #include "config/FrmConfigure.h"
 #include "config/FrmOutLookOption.h"
@@ -90,6 +90,19 @@ TEST_P(ReadableConfiguration, EveryDialogShowsAllOfItsTexts)
                 // The contract gives two buttons of this dialog the same letter.
                 const bool hasSharedLetter = dialog.Control(IDC_CHOOSE_OPTION) != nullptr;
                 test_support::ExpectReadable(dialog, hasSharedLetter ? L"O" : L"");
+                for (const int prompt : {IDC_CHOOSE_PROMPT, IDC_CONTENT_PROMPT, IDC_OUTLOOKOPTION_EXPLANATION,
+                                         IDC_ADV_CONFLICT_EXPLANATION})
+                {
+                    if (dialog.Control(prompt) != nullptr)
+                    {
+                        EXPECT_EQ(0, EmptyLines(dialog, prompt)) << prompt;
+                    }
+                }
+                for (const int list : {IDC_CONFIGURE_LIST, IDC_CONTENT_TREE, IDC_CONTENT_LIST})
+                {
+                    EXPECT_EQ(dialog.Control(list) != nullptr, HasExplorerTheme(dialog.Control(list)))
+                        << list;
+                }
                 const auto percent = std::to_string(std::lround(scale * 100));
                 test_support::Photograph(dialog, shown.name + ui_tests::Suffix(language) +
                                                      (scale == 1 ? "" : "-" + percent));
