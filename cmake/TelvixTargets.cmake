@@ -10,13 +10,15 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_library(telvix_options INTERFACE)
 target_compile_definitions(telvix_options INTERFACE
   UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
-target_include_directories(telvix_options INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
+target_include_directories(telvix_options INTERFACE
+  ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
 if(MSVC)
   target_compile_options(telvix_options INTERFACE /W4 /WX /utf-8 /permissive-)
 else()
   target_compile_options(telvix_options INTERFACE
     $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Werror>)
-  target_link_options(telvix_options INTERFACE -static)
+  # Without time stamps and paths of the checkout, two builds of a commit are identical.
+  target_link_options(telvix_options INTERFACE -static -Wl,--no-insert-timestamp)
   if(TELVIX_CHECKED)
     target_compile_definitions(telvix_options INTERFACE _GLIBCXX_ASSERTIONS)
     target_compile_options(telvix_options INTERFACE
@@ -27,7 +29,7 @@ else()
     target_link_options(telvix_options INTERFACE -fstack-protector-strong) # which brings its library
   else()
     target_compile_options(telvix_options INTERFACE
-      $<$<COMPILE_LANGUAGE:CXX>:-Os -ffunction-sections -fdata-sections>)
+      $<$<COMPILE_LANGUAGE:CXX>:-Os -ffunction-sections -fdata-sections -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>)
     target_link_options(telvix_options INTERFACE -Wl,--gc-sections -s)
   endif()
 endif()

@@ -5,6 +5,7 @@
 #include <initguid.h> // the library's identifier is defined here
 
 #include "TelvixIdl.h"
+#include "Version.h"
 
 #include <string>
 #include <vector>
@@ -20,6 +21,7 @@ namespace
 
 constexpr wchar_t kClasses[] = L"Software\\Classes\\";
 constexpr wchar_t kProgId[] = L"TelvixOutlook.ClsSynOutlook";
+constexpr wchar_t kLibraryVersion[] = L"" TELVIX_LIBRARY_VERSION;
 constexpr wchar_t kDescription[] = L"QUENLAR Sales System - Synchronize Outlook";
 // The marshaler of OLE Automation, which serves every interface that a type library describes.
 constexpr wchar_t kAutomationMarshaler[] = L"{00020424-0000-0000-C000-000000000046}";
@@ -40,7 +42,7 @@ struct Keys
     std::wstring classKey = L"CLSID\\" + clsid;
     std::wstring interfaceKey = L"Interface\\" + iid;
     std::wstring libraryKey = L"TypeLib\\" + libid;
-    std::wstring versionKey = libraryKey + L"\\1.0";
+    std::wstring versionKey = libraryKey + L"\\" + kLibraryVersion;
 };
 
 struct Row
@@ -63,11 +65,11 @@ std::vector<Row> RowsFor(const std::wstring& path)
         {keys.classKey + L"\\ProgID", nullptr, kProgId},
         {keys.classKey + L"\\Programmable", nullptr, L""},
         {keys.classKey + L"\\TypeLib", nullptr, keys.libid},
-        {keys.classKey + L"\\VERSION", nullptr, L"1.0"},
+        {keys.classKey + L"\\VERSION", nullptr, kLibraryVersion},
         {keys.interfaceKey, nullptr, L"_ClsSynOutlook"},
         {keys.interfaceKey + L"\\ProxyStubClsid32", nullptr, kAutomationMarshaler},
         {keys.interfaceKey + L"\\TypeLib", nullptr, keys.libid},
-        {keys.interfaceKey + L"\\TypeLib", L"Version", L"1.0"},
+        {keys.interfaceKey + L"\\TypeLib", L"Version", kLibraryVersion},
         {keys.versionKey, nullptr, kDescription},
         {keys.versionKey + L"\\0\\" + kPlatform, nullptr, path},
         {keys.versionKey + L"\\FLAGS", nullptr, L"0"},

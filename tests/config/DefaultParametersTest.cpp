@@ -25,7 +25,7 @@ TEST_F(DefaultParameters, ANullInATemplateIsCopiedAsNullSoThatItNamesNoTranslato
     EXPECT_EQ(RowTexts{L"NULL|NULL|"},
               Rows(L"SELECT TransSource, TransSourceConfig, TransTypePic FROM T_POutlookSyncParam WHERE "
                    L"F_UID=7 AND TransObjectID=20"));
-    const std::vector<config::Translation> rows = config::LoadTranslations();
+    const std::vector<config::Translation> rows = config::LoadTranslations().value();
     const auto task = std::ranges::find(rows, L"Task", &config::Translation::TransObject);
     ASSERT_NE(rows.end(), task);
     EXPECT_FALSE(task->Translator);
