@@ -2,22 +2,26 @@
 
 #include "automation/Dates.h"
 #include "automation/Error.h"
+#include "automation/Readable.h"
 #include "calendar/CalendarRelations.h"
 #include "calendar/Recurrence.h"
 #include "data/ApplyToOutlook.h"
 #include "data/MappingToOutlook.h"
+#include "data/Remark.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 #include "tasks/ContactLink.h"
+
+#include <algorithm>
 
 namespace calendar
 {
 
 using automation::Date;
-using automation::DateOf;
-using automation::IsEmptyOrNull;
+using automation::IsTrue;
 using automation::Object;
-using automation::TruthOf;
+using automation::OutlookDate;
+using automation::ReadableDate;
 using automation::Value;
 using data::PutAsIs;
 using data::TargetProperty;
@@ -25,10 +29,31 @@ using data::TargetProperty;
 namespace
 {
 
-// The pass ends with the first entry that cannot be written.
+// Whether the relation row leads to a date that the entry lacks: that of its start, or the one by which its
+// repetition is counted.
+bool LacksDate(const data::RelationRow& relation, const automation::Recordset& rows)
+{
+    if (relation.OutlookName == L"Start")
+    {
+        return !OutlookDate(rows.ValueOf(relation.EnglishName));
+    }
+    return relation.OutlookName == L"IsRecurring" && IsTrue(rows.ValueOf(relation.EnglishName)) &&
+           NeedsReferenceDate(automation::TextOrEmpty(rows.ValueOf(L"FR_NAME"))) &&
+           !OutlookDate(rows.ValueOf(L"F_ACTESDATE"));
+}
+
+// An entry without a date cannot be an appointment: it is left out. The pass ends with the first entry that
+// cannot be written.
 void Write(data::Run& run, long mode, const Object& item)
 {
-    if (SynSynCalendarToOlCalendar(run, mode, item))
+    const bool lacksDate = std::ranges::any_of(run.Relations.Rows(), [&](const data::RelationRow& relation) {
+        return LacksDate(relation, run.HostRows);
+    });
+    if (lacksDate)
+    {
+        data::Remark(L"A calendar entry without a date has been left out");
+    }
+    else if (SynSynCalendarToOlCalendar(run, mode, item))
     {
         throw automation::Error(E_FAIL, L"SynSynCalendarToOlCalendar");
     }
@@ -39,26 +64,28 @@ constexpr data::PassToOutlook kCalendarToOutlook{
     .RelationStatement = kRelationStatement,
     .RelationOptions = kRelationOptions,
     .Write = Write,
+    .AddsItemFirst = true,
 };
 
 // A column that holds a time of day, to the minute; midnight where it holds none.
 Date TimeOrMidnight(const Value& time)
 {
-    return IsEmptyOrNull(time) ? Date{} : automation::MinuteOfDay(DateOf(time));
+    return automation::MinuteOfDay(ReadableDate(time).value_or(Date{}));
 }
 
 // Outlook ties start and end of a recurring appointment to its pattern, so they are left to that.
 void PutStartAndEnd(const TargetProperty& property)
 {
-    if (TruthOf(property.Item.Get(L"IsRecurring")))
+    if (IsTrue(property.Item.Get(L"IsRecurring")))
     {
         return;
     }
-    if (IsEmptyOrNull(property.HostValue))
+    const std::optional<Date> date = OutlookDate(property.HostValue);
+    if (!date)
     {
         throw automation::Error(DISP_E_TYPEMISMATCH, property.Name, L"The entry has no date");
     }
-    const Date day = automation::DayOf(DateOf(property.HostValue));
+    const Date day = automation::DayOf(*date);
     const Date start = automation::PlusTime(day, TimeOrMidnight(property.HostRows.ValueOf(L"F_ACTESTIME")));
     const Date duration = TimeOrMidnight(property.HostRows.ValueOf(L"ACT_DURATION"));
     property.Put(start);
@@ -79,35 +106,35 @@ void LinkToContact(const TargetProperty& property)
 
 void PutReminder(const TargetProperty& property)
 {
-    PutAsIs(property);
-    if (TruthOf(property.HostValue))
+    data::PutTruth(property);
+    if (IsTrue(property.HostValue))
     {
         property.Item.Put(L"ReminderMinutesBeforeStart", state::Shared().gCalendarPreviewAlarmTime);
     }
 }
 
 // As text, with the blank that the host's pattern begins with.
-Value StartTimeText(const Value& time)
+Value StartTimeText(Date time)
 {
-    return automation::Formatted(DateOf(time), L" hh:mm:00");
+    return automation::Formatted(time, L" hh:mm:00");
 }
 
-Value TimeToTheMinute(const Value& time)
+Value TimeToTheMinute(Date time)
 {
-    return automation::MinuteOfDay(DateOf(time));
+    return automation::MinuteOfDay(time);
 }
 
-Value AsItIs(const Value& value)
+Value AsItIs(Date date)
 {
-    return value;
+    return date;
 }
 
-void PutWhereGiven(const Object& pattern, const wchar_t* member, const Value& value,
-                   Value (*converted)(const Value& value))
+void PutWhereGiven(const Object& pattern, const wchar_t* member, const std::optional<Date>& date,
+                   Value (*converted)(Date date))
 {
-    if (!IsEmptyOrNull(value))
+    if (date)
     {
-        pattern.Put(member, converted(value));
+        pattern.Put(member, converted(*date));
     }
 }
 
@@ -115,19 +142,19 @@ void PutWhereGiven(const Object& pattern, const wchar_t* member, const Value& va
 // pattern.
 void PutRecurrence(const TargetProperty& property)
 {
-    if (!TruthOf(property.HostValue))
+    if (!IsTrue(property.HostValue))
     {
         return;
     }
     const automation::Recordset& rows = property.HostRows;
     const Value firstDay = rows.ValueOf(L"F_ACTESDATE");
     const Object pattern = property.Item.GetObject(L"GetRecurrencePattern");
-    PutWhereGiven(pattern, L"StartTime", rows.ValueOf(L"F_ACTESTIME"), StartTimeText);
-    PutWhereGiven(pattern, L"EndTime", rows.ValueOf(L"F_ACTEETIME"), TimeToTheMinute);
-    PutWhereGiven(pattern, L"PatternStartDate", firstDay, AsItIs);
+    PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), StartTimeText);
+    PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), TimeToTheMinute);
+    PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), AsItIs);
     SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay);
     pattern.Put(L"NoEndDate", false);
-    PutWhereGiven(pattern, L"PatternEndDate", rows.ValueOf(L"F_ACTREPTEDATE"), AsItIs);
+    PutWhereGiven(pattern, L"PatternEndDate", OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE")), AsItIs);
 }
 
 constexpr data::PropertyToOutlook kEntryToAppointment[] = {

@@ -1,6 +1,7 @@
 #include "data/MappingToOutlook.h"
 
 #include "automation/Dates.h"
+#include "automation/Readable.h"
 
 #include <algorithm>
 
@@ -36,8 +37,17 @@ void PutAsIs(const TargetProperty& property)
 
 void PutDate(const TargetProperty& property)
 {
-    const Value& date = property.HostValue;
-    property.Put(automation::IsEmptyOrNull(date) ? Value(automation::kOutlookNoDate) : date);
+    property.Put(automation::OutlookDate(property.HostValue).value_or(automation::kOutlookNoDate));
+}
+
+void PutNumber(const TargetProperty& property)
+{
+    property.Put(automation::ReadableNumber(property.HostValue) ? property.HostValue : Value());
+}
+
+void PutTruth(const TargetProperty& property)
+{
+    property.Put(automation::ReadableTruth(property.HostValue) ? property.HostValue : Value());
 }
 
 void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping, const Object& item,

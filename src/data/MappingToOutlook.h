@@ -29,8 +29,11 @@ struct PropertyToOutlook
 
 // Handlings that several categories share.
 void PutAsIs(const TargetProperty& property);
-// A date; Outlook's date for "none" where the host has no value.
+// A date; Outlook's date for "none" where the host has no date that Outlook can hold.
 void PutDate(const TargetProperty& property);
+// A number or a truth value; Empty, which Outlook takes for 0 or False, where the host has none.
+void PutNumber(const TargetProperty& property);
+void PutTruth(const TargetProperty& property);
 
 enum class Saves
 {
