@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+#include <oleauto.h>
+
 namespace automation
 {
 
@@ -53,12 +55,19 @@ std::optional<Date> OutlookDate(const Value& value)
 std::optional<double> ReadableNumber(const Value& value)
 {
     const std::optional<double> number = IfReadable<double>(value, [&] { return DoubleOf(value); });
-    return number && std::isfinite(*number) ? number : std::nullopt;
+    const bool isNumber = number && std::isfinite(*number) && value.Type() != VT_DATE;
+    return isNumber ? number : std::nullopt;
 }
 
 std::optional<bool> ReadableTruth(const Value& value)
 {
-    return IfReadable<bool>(value, [&] { return TruthOf(value); });
+    const std::optional<bool> truth = IfReadable<bool>(value, [&] { return TruthOf(value); });
+    return value.Type() == VT_DATE ? std::nullopt : truth;
+}
+
+bool IsAbsent(const Value& value)
+{
+    return IsEmptyOrNull(value) || (value.Type() == VT_BSTR && SysStringLen(value.Raw().bstrVal) == 0);
 }
 
 bool IsTrue(const Value& value)

@@ -14,10 +14,13 @@ std::optional<Date> ReadableDate(const Value& value);
 // The same, and nothing for a date that Outlook cannot hold: one before 1601, and from its date for "none"
 // on.
 std::optional<Date> OutlookDate(const Value& value);
-// Nothing for Empty, Null, and what is no finite number.
+// Nothing for Empty, Null, a date, and what is no finite number.
 std::optional<double> ReadableNumber(const Value& value);
-// Nothing for Empty, Null, and what is neither true nor false.
+// Nothing for Empty, Null, a date, and what is neither true nor false.
 std::optional<bool> ReadableTruth(const Value& value);
+
+// Whether there is no value at all: Empty, Null or the empty text.
+bool IsAbsent(const Value& value);
 
 // Whether the value can be read as true.
 bool IsTrue(const Value& value);

@@ -12,8 +12,6 @@
 #include "state/SharedState.h"
 #include "tasks/ContactLink.h"
 
-#include <algorithm>
-
 namespace calendar
 {
 
@@ -29,29 +27,50 @@ using data::TargetProperty;
 namespace
 {
 
-// Whether the relation row leads to a date that the entry lacks: that of its start, or the one by which its
-// repetition is counted.
-bool LacksDate(const data::RelationRow& relation, const automation::Recordset& rows)
+constexpr wchar_t kNoDate[] = L"A calendar entry without a date has been left out";
+constexpr wchar_t kEndsTooEarly[] = L"A repeating entry that ends before it begins has been left out";
+
+// Why an entry that repeats cannot become an appointment; null for no reason.
+const wchar_t* ObstacleToRepetition(const automation::Recordset& rows)
 {
-    if (relation.OutlookName == L"Start")
+    const std::optional<Date> firstDay = OutlookDate(rows.ValueOf(L"F_ACTESDATE"));
+    const std::optional<Date> lastDay = OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE"));
+    if (!firstDay)
     {
-        return !OutlookDate(rows.ValueOf(relation.EnglishName));
+        return NeedsReferenceDate(automation::TextOrEmpty(rows.ValueOf(L"FR_NAME"))) ? kNoDate : nullptr;
     }
-    return relation.OutlookName == L"IsRecurring" && IsTrue(rows.ValueOf(relation.EnglishName)) &&
-           NeedsReferenceDate(automation::TextOrEmpty(rows.ValueOf(L"FR_NAME"))) &&
-           !OutlookDate(rows.ValueOf(L"F_ACTESDATE"));
+    return lastDay && automation::DayOf(*lastDay) < automation::DayOf(*firstDay) ? kEndsTooEarly : nullptr;
 }
 
-// An entry without a date cannot be an appointment: it is left out. The pass ends with the first entry that
-// cannot be written.
+// The same for any entry, by the relation rows that bear on it.
+const wchar_t* Obstacle(data::Run& run)
+{
+    const automation::Recordset& rows = run.HostRows;
+    for (const data::RelationRow& relation : run.Relations.Rows())
+    {
+        const bool isStart = relation.OutlookName == L"Start";
+        if (isStart && !OutlookDate(rows.ValueOf(relation.EnglishName)))
+        {
+            return kNoDate;
+        }
+        const bool repeats =
+            relation.OutlookName == L"IsRecurring" && IsTrue(rows.ValueOf(relation.EnglishName));
+        const wchar_t* const obstacle = repeats ? ObstacleToRepetition(rows) : nullptr;
+        if (obstacle != nullptr)
+        {
+            return obstacle;
+        }
+    }
+    return nullptr;
+}
+
+// What cannot be an appointment is left out, before anything of it is written. The pass ends with the first
+// entry that Outlook refuses.
 void Write(data::Run& run, long mode, const Object& item)
 {
-    const bool lacksDate = std::ranges::any_of(run.Relations.Rows(), [&](const data::RelationRow& relation) {
-        return LacksDate(relation, run.HostRows);
-    });
-    if (lacksDate)
+    if (const wchar_t* const obstacle = Obstacle(run))
     {
-        data::Remark(L"A calendar entry without a date has been left out");
+        data::Remark(obstacle);
     }
     else if (SynSynCalendarToOlCalendar(run, mode, item))
     {

@@ -8,6 +8,8 @@
 #include "tasks/ContactLink.h"
 #include "tasks/TaskRelations.h"
 
+#include <limits>
+
 namespace tasks
 {
 
@@ -53,24 +55,33 @@ void PutWhenComplete(const TargetProperty& property)
 // The host stores a fraction from 0 to 1.
 void PutPercentage(const TargetProperty& property)
 {
-    property.Put(automation::ReadableNumber(property.HostValue).value_or(0) * 100);
+    constexpr long kAllPercent = 100;
+    const std::optional<double> fraction = automation::ReadableNumber(property.HostValue);
+    PutNumber(property, fraction ? std::optional(*fraction * kAllPercent) : std::nullopt, kAllPercent);
 }
 
 // Saved at once, so that the rows which ask for the status find what Outlook has made of it.
 void PutStatus(const TargetProperty& property)
 {
-    PutNumber(property);
+    PutNumber(property, kTaskDeferred);
     property.Item.Call(L"Save");
 }
 
-// The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high. Without one the task keeps the
+// The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high. A task without one keeps the
 // importance that it has in Outlook.
 void PutImportance(const TargetProperty& property)
 {
-    if (const std::optional<double> level = automation::ReadableNumber(property.HostValue))
+    constexpr long kHigh = 2;
+    if (!automation::IsAbsent(property.HostValue))
     {
-        property.Put(*level - 1);
+        const std::optional<double> level = automation::ReadableNumber(property.HostValue);
+        PutNumber(property, level ? std::optional(*level - 1) : std::nullopt, kHigh);
     }
+}
+
+void PutWork(const TargetProperty& property)
+{
+    PutNumber(property, std::numeric_limits<long>::max());
 }
 
 void LinkToContact(const TargetProperty& property)
@@ -114,8 +125,8 @@ constexpr data::PropertyToOutlook kActivityToTask[] = {
     {L"Importance", PutImportance},
     {L"ContactNames", LinkToContact},
     {L"ReminderSet", PutReminder},
-    {L"TotalWork", PutNumber},
-    {L"ActualWork", PutNumber},
+    {L"TotalWork", PutWork},
+    {L"ActualWork", PutWork},
     {L"Companies", PutAsIs},
 };
 
