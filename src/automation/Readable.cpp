@@ -47,9 +47,8 @@ std::optional<Date> ReadableDate(const Value& value)
 std::optional<Date> OutlookDate(const Value& value)
 {
     const std::optional<Date> date = ReadableDate(value);
-    const bool isHeld =
-        date && std::trunc(date->days) >= kFirstDayOfOutlook && date->days < kOutlookNoDate.days;
-    return isHeld ? date : std::nullopt;
+    const double day = date ? DayOf(*date).days : kOutlookNoDate.days;
+    return day >= kFirstDayOfOutlook && day < kOutlookNoDate.days ? date : std::nullopt;
 }
 
 std::optional<double> ReadableNumber(const Value& value)

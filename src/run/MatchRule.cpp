@@ -40,7 +40,8 @@ std::wstring Joined(const std::wstring& name, const std::wstring& category, cons
 std::wstring ComparableDate(const Value& value, const wchar_t* pattern)
 {
     const std::optional<Date> date = automation::OutlookDate(value);
-    const bool isNone = !date || automation::IsEmptyOrNull(automation::WithoutNoDate(*date));
+    const bool isNone =
+        !date || automation::IsEmptyOrNull(automation::WithoutNoDate(automation::DayOf(*date)));
     return isNone ? std::wstring() : automation::Formatted(*date, pattern);
 }
 

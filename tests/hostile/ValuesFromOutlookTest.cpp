@@ -9,7 +9,6 @@ namespace
 {
 
 using namespace test_support;
-using automation::Date;
 using automation::Moment;
 using sandbox::Literal;
 
@@ -54,6 +53,14 @@ const SourceKind kSourceKinds[] = {
       {L"IsRecurring", false},
       {L"ReminderSet", true}}},
 };
+
+// Of the appointment, where it is made a recurring one.
+const ItemValues kDailySeries{{L"RecurrenceType", 0L},
+                              {L"StartTime", automation::Date{0.25}},
+                              {L"EndTime", automation::Date{0.5}},
+                              {L"Duration", 360L},
+                              {L"PatternStartDate", automation::DateOf(Moment{2003, 5, 6})},
+                              {L"PatternEndDate", automation::DateOf(Moment{2003, 5, 9})}};
 
 // Properties that reach a column of the host by another way than a relation row of their own.
 struct OtherWay
@@ -114,6 +121,7 @@ class ValuesFromOutlook : public HostileFromOutlook
         resources::OverrideLanguage(isChinese ? resources::Language::Chinese : resources::Language::English);
         Clear();
         mItem = kind.item;
+        mItem[L"GetRecurrencePattern"] = MakeHostileItem(kDailySeries);
         mItem[property] = value;
         Import(kind.category, MakeHostileItem(mItem), false);
         if (ColumnsWritten(mStatements, kind.table).empty())

@@ -27,7 +27,7 @@ bool IsAbsent(const Value& value)
 bool Change(const Value& value, VARTYPE type, Value& changed)
 {
     const LCID english = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
-    return SUCCEEDED(VariantChangeTypeEx(changed.Receive(), &value.Raw(), english,
+    return SUCCEEDED(VariantChangeTypeEx(changed.Receive(), const_cast<VARIANT*>(&value.Raw()), english,
                                          VARIANT_ALPHABOOL | VARIANT_NOUSEROVERRIDE, type));
 }
 
@@ -82,7 +82,7 @@ std::wstring CategoryIn(const Value& value)
     return AreEqual(text, L"(Unspecified)") || AreEqual(text, L"(未指定)") ? std::wstring() : text;
 }
 
-// A date as its parts; nothing for what is no date.
+// Nothing for what is no date at all.
 std::optional<SYSTEMTIME> PartsOf(const Value& value)
 {
     Value date;
@@ -92,18 +92,16 @@ std::optional<SYSTEMTIME> PartsOf(const Value& value)
     return isDate ? std::optional(parts) : std::nullopt;
 }
 
-// Whether the value is a day that both sides know: none that stands for "no date", none beyond Outlook's.
-bool IsKnownDay(const Value& value)
+// A date as its parts; nothing for what is no date on both sides: the ones that stand for "no date", and
+// those that Outlook cannot hold.
+std::optional<SYSTEMTIME> KnownDateIn(const Value& value)
 {
-    constexpr double kFirst = -109204; // 1601-01-02
-    constexpr double kNone = 949998;   // 4501-01-01
-    Value date;
-    if (IsAbsent(value) || !Change(value, VT_DATE, date))
-    {
-        return false;
-    }
-    const double day = std::trunc(date.Raw().date);
-    return day >= kFirst && day < kNone && day != 0;
+    constexpr long kFirst = 16010102;
+    constexpr long kZero = 18991230;
+    constexpr long kNone = 45010101;
+    const auto parts = PartsOf(value);
+    const long day = parts ? parts->wYear * 10000L + parts->wMonth * 100L + parts->wDay : kNone;
+    return day >= kFirst && day < kNone && day != kZero ? parts : std::nullopt;
 }
 
 std::wstring TextOfDay(const SYSTEMTIME& parts)
@@ -114,8 +112,8 @@ std::wstring TextOfDay(const SYSTEMTIME& parts)
 
 std::wstring DayIn(const Value& value)
 {
-    const auto parts = PartsOf(value);
-    return parts && IsKnownDay(value) ? TextOfDay(*parts) : std::wstring();
+    const auto parts = KnownDateIn(value);
+    return parts ? TextOfDay(*parts) : std::wstring();
 }
 
 // Day, hour and minute; the minute is counted from midnight.
@@ -147,15 +145,14 @@ std::wstring StartOf(const Object& item)
         const bool starts = !IsAbsent(given) && Change(given, VT_BOOL, isAllDay) && workingDay;
         minute = starts && isAllDay.Raw().boolVal != VARIANT_FALSE ? MinuteIn(*workingDay) : 0;
     }
-    return IsKnownDay(start) ? TextOfMinute(*parts, minute) : std::wstring();
+    return KnownDateIn(start) ? TextOfMinute(*parts, minute) : std::wstring();
 }
 
 std::wstring StartOf(const Recordset& rows)
 {
-    const Value day = rows.ValueOf(L"F_ACTESDATE");
-    const auto parts = PartsOf(day);
+    const auto day = KnownDateIn(rows.ValueOf(L"F_ACTESDATE"));
     const auto time = PartsOf(rows.ValueOf(L"F_ACTESTIME"));
-    return parts && IsKnownDay(day) ? TextOfMinute(*parts, time ? MinuteIn(*time) : 0) : std::wstring();
+    return day ? TextOfMinute(*day, time ? MinuteIn(*time) : 0) : std::wstring();
 }
 
 } // namespace
