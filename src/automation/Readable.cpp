@@ -5,8 +5,6 @@
 
 #include <cmath>
 
-#include <oleauto.h>
-
 namespace automation
 {
 
@@ -62,11 +60,6 @@ std::optional<bool> ReadableTruth(const Value& value)
 {
     const std::optional<bool> truth = IfReadable<bool>(value, [&] { return TruthOf(value); });
     return value.Type() == VT_DATE ? std::nullopt : truth;
-}
-
-bool IsAbsent(const Value& value)
-{
-    return IsEmptyOrNull(value) || (value.Type() == VT_BSTR && SysStringLen(value.Raw().bstrVal) == 0);
 }
 
 bool IsTrue(const Value& value)

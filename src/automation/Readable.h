@@ -19,9 +19,6 @@ std::optional<double> ReadableNumber(const Value& value);
 // Nothing for Empty, Null, a date, and what is neither true nor false.
 std::optional<bool> ReadableTruth(const Value& value);
 
-// Whether there is no value at all: Empty, Null or the empty text.
-bool IsAbsent(const Value& value);
-
 // Whether the value can be read as true.
 bool IsTrue(const Value& value);
 
