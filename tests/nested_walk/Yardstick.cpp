@@ -18,7 +18,7 @@ using automation::Object;
 using automation::Recordset;
 using automation::Value;
 
-bool IsAbsent(const Value& value)
+bool IsNothing(const Value& value)
 {
     return value.Type() == VT_EMPTY || value.Type() == VT_NULL;
 }
@@ -34,7 +34,7 @@ bool Change(const Value& value, VARTYPE type, Value& changed)
 std::wstring PlainText(const Value& value)
 {
     Value text;
-    if (IsAbsent(value))
+    if (IsNothing(value))
     {
         return {};
     }
@@ -87,7 +87,7 @@ std::optional<SYSTEMTIME> PartsOf(const Value& value)
 {
     Value date;
     SYSTEMTIME parts{};
-    const bool isDate = !IsAbsent(value) && Change(value, VT_DATE, date) && std::isfinite(date.Raw().date) &&
+    const bool isDate = !IsNothing(value) && Change(value, VT_DATE, date) && std::isfinite(date.Raw().date) &&
                         VariantTimeToSystemTime(date.Raw().date, &parts) != 0;
     return isDate ? std::optional(parts) : std::nullopt;
 }
@@ -142,7 +142,7 @@ std::wstring StartOf(const Object& item)
         Value isAllDay;
         const Value given = item.Get(L"AllDayEvent");
         const auto workingDay = PartsOf(state::Shared().gCalendarStartTime);
-        const bool starts = !IsAbsent(given) && Change(given, VT_BOOL, isAllDay) && workingDay;
+        const bool starts = !IsNothing(given) && Change(given, VT_BOOL, isAllDay) && workingDay;
         minute = starts && isAllDay.Raw().boolVal != VARIANT_FALSE ? MinuteIn(*workingDay) : 0;
     }
     return KnownDateIn(start) ? TextOfMinute(*parts, minute) : std::wstring();
@@ -164,7 +164,7 @@ bool IsSameContact(const Object& item, const Recordset& rows)
     const Value surname = rows.ValueOf(L"F_SURNAME");
     const Value givenName = rows.ValueOf(L"F_GIVENNAME");
     const std::wstring rowName =
-        IsAbsent(surname) || IsAbsent(givenName)
+        IsNothing(surname) || IsNothing(givenName)
             ? std::wstring()
             : WithoutBlanksAtEnds(PlainText(surname)) + WithoutBlanksAtEnds(PlainText(givenName));
     return InUpperCase(itemName) == InUpperCase(rowName) &&
