@@ -98,7 +98,7 @@ TEST_F(HostileParameters, AFolderIsStoredAsItIsOrNotAtAll)
         const std::wstring path = values.StorableText(100);
         SCOPED_TRACE(ToUtf8(path));
         EXPECT_FALSE(config::StoreChosenFolders(kind, {{path, true}}));
-        const config::ChosenFolders stored = config::LoadChosenFolders(kind);
+        const config::ChosenFolders stored = config::LoadChosenFolders(kind).value();
         EXPECT_LE(stored.size(), 1u);
         if (path.find(L'\'') == std::wstring::npos)
         {
