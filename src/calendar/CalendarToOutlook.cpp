@@ -2,10 +2,12 @@
 
 #include "automation/Dates.h"
 #include "automation/Error.h"
+#include "automation/Readable.h"
 #include "calendar/CalendarRelations.h"
 #include "calendar/Recurrence.h"
 #include "data/ApplyToOutlook.h"
 #include "data/MappingToOutlook.h"
+#include "data/Remark.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 #include "tasks/ContactLink.h"
@@ -14,10 +16,10 @@ namespace calendar
 {
 
 using automation::Date;
-using automation::DateOf;
-using automation::IsEmptyOrNull;
+using automation::IsTrue;
 using automation::Object;
-using automation::TruthOf;
+using automation::OutlookDate;
+using automation::ReadableDate;
 using automation::Value;
 using data::PutAsIs;
 using data::TargetProperty;
@@ -25,10 +27,52 @@ using data::TargetProperty;
 namespace
 {
 
-// The pass ends with the first entry that cannot be written.
+constexpr wchar_t kNoDate[] = L"A calendar entry without a date has been left out";
+constexpr wchar_t kEndsTooEarly[] = L"A repeating entry that ends before it begins has been left out";
+
+// Why an entry that repeats cannot become an appointment; null for no reason.
+const wchar_t* ObstacleToRepetition(const automation::Recordset& rows)
+{
+    const std::optional<Date> firstDay = OutlookDate(rows.ValueOf(L"F_ACTESDATE"));
+    const std::optional<Date> lastDay = OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE"));
+    if (!firstDay)
+    {
+        return NeedsReferenceDate(automation::TextOrEmpty(rows.ValueOf(L"FR_NAME"))) ? kNoDate : nullptr;
+    }
+    return lastDay && automation::DayOf(*lastDay) < automation::DayOf(*firstDay) ? kEndsTooEarly : nullptr;
+}
+
+// The same for any entry, by the relation rows that bear on it.
+const wchar_t* Obstacle(data::Run& run)
+{
+    const automation::Recordset& rows = run.HostRows;
+    for (const data::RelationRow& relation : run.Relations.Rows())
+    {
+        const bool isStart = relation.OutlookName == L"Start";
+        if (isStart && !OutlookDate(rows.ValueOf(relation.EnglishName)))
+        {
+            return kNoDate;
+        }
+        const bool repeats =
+            relation.OutlookName == L"IsRecurring" && IsTrue(rows.ValueOf(relation.EnglishName));
+        const wchar_t* const obstacle = repeats ? ObstacleToRepetition(rows) : nullptr;
+        if (obstacle != nullptr)
+        {
+            return obstacle;
+        }
+    }
+    return nullptr;
+}
+
+// What cannot be an appointment is left out, before anything of it is written. The pass ends with the first
+// entry that Outlook refuses.
 void Write(data::Run& run, long mode, const Object& item)
 {
-    if (SynSynCalendarToOlCalendar(run, mode, item))
+    if (const wchar_t* const obstacle = Obstacle(run))
+    {
+        data::Remark(obstacle);
+    }
+    else if (SynSynCalendarToOlCalendar(run, mode, item))
     {
         throw automation::Error(E_FAIL, L"SynSynCalendarToOlCalendar");
     }
@@ -39,26 +83,28 @@ constexpr data::PassToOutlook kCalendarToOutlook{
     .RelationStatement = kRelationStatement,
     .RelationOptions = kRelationOptions,
     .Write = Write,
+    .AddsItemFirst = true,
 };
 
 // A column that holds a time of day, to the minute; midnight where it holds none.
 Date TimeOrMidnight(const Value& time)
 {
-    return IsEmptyOrNull(time) ? Date{} : automation::MinuteOfDay(DateOf(time));
+    return automation::MinuteOfDay(ReadableDate(time).value_or(Date{}));
 }
 
 // Outlook ties start and end of a recurring appointment to its pattern, so they are left to that.
 void PutStartAndEnd(const TargetProperty& property)
 {
-    if (TruthOf(property.Item.Get(L"IsRecurring")))
+    if (IsTrue(property.Item.Get(L"IsRecurring")))
     {
         return;
     }
-    if (IsEmptyOrNull(property.HostValue))
+    const std::optional<Date> date = OutlookDate(property.HostValue);
+    if (!date)
     {
         throw automation::Error(DISP_E_TYPEMISMATCH, property.Name, L"The entry has no date");
     }
-    const Date day = automation::DayOf(DateOf(property.HostValue));
+    const Date day = automation::DayOf(*date);
     const Date start = automation::PlusTime(day, TimeOrMidnight(property.HostRows.ValueOf(L"F_ACTESTIME")));
     const Date duration = TimeOrMidnight(property.HostRows.ValueOf(L"ACT_DURATION"));
     property.Put(start);
@@ -79,35 +125,35 @@ void LinkToContact(const TargetProperty& property)
 
 void PutReminder(const TargetProperty& property)
 {
-    PutAsIs(property);
-    if (TruthOf(property.HostValue))
+    data::PutTruth(property);
+    if (IsTrue(property.HostValue))
     {
         property.Item.Put(L"ReminderMinutesBeforeStart", state::Shared().gCalendarPreviewAlarmTime);
     }
 }
 
 // As text, with the blank that the host's pattern begins with.
-Value StartTimeText(const Value& time)
+Value StartTimeText(Date time)
 {
-    return automation::Formatted(DateOf(time), L" hh:mm:00");
+    return automation::Formatted(time, L" hh:mm:00");
 }
 
-Value TimeToTheMinute(const Value& time)
+Value TimeToTheMinute(Date time)
 {
-    return automation::MinuteOfDay(DateOf(time));
+    return automation::MinuteOfDay(time);
 }
 
-Value AsItIs(const Value& value)
+Value AsItIs(Date date)
 {
-    return value;
+    return date;
 }
 
-void PutWhereGiven(const Object& pattern, const wchar_t* member, const Value& value,
-                   Value (*converted)(const Value& value))
+void PutWhereGiven(const Object& pattern, const wchar_t* member, const std::optional<Date>& date,
+                   Value (*converted)(Date date))
 {
-    if (!IsEmptyOrNull(value))
+    if (date)
     {
-        pattern.Put(member, converted(value));
+        pattern.Put(member, converted(*date));
     }
 }
 
@@ -115,19 +161,19 @@ void PutWhereGiven(const Object& pattern, const wchar_t* member, const Value& va
 // pattern.
 void PutRecurrence(const TargetProperty& property)
 {
-    if (!TruthOf(property.HostValue))
+    if (!IsTrue(property.HostValue))
     {
         return;
     }
     const automation::Recordset& rows = property.HostRows;
     const Value firstDay = rows.ValueOf(L"F_ACTESDATE");
     const Object pattern = property.Item.GetObject(L"GetRecurrencePattern");
-    PutWhereGiven(pattern, L"StartTime", rows.ValueOf(L"F_ACTESTIME"), StartTimeText);
-    PutWhereGiven(pattern, L"EndTime", rows.ValueOf(L"F_ACTEETIME"), TimeToTheMinute);
-    PutWhereGiven(pattern, L"PatternStartDate", firstDay, AsItIs);
+    PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), StartTimeText);
+    PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), TimeToTheMinute);
+    PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), AsItIs);
     SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay);
     pattern.Put(L"NoEndDate", false);
-    PutWhereGiven(pattern, L"PatternEndDate", rows.ValueOf(L"F_ACTREPTEDATE"), AsItIs);
+    PutWhereGiven(pattern, L"PatternEndDate", OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE")), AsItIs);
 }
 
 constexpr data::PropertyToOutlook kEntryToAppointment[] = {

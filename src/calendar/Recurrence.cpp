@@ -51,6 +51,13 @@ constexpr RepeatRule kRules[] = {
     {L"每年", kYearlyPattern, kNoInterval, PutMonthAndDay}, // yearly
 };
 
+// Null for a name that is no rule.
+const RepeatRule* FindRule(const std::wstring& name)
+{
+    const auto rule = std::ranges::find_if(kRules, [&](const RepeatRule& each) { return name == each.Name; });
+    return rule == std::end(kRules) ? nullptr : rule;
+}
+
 } // namespace
 
 short WeekdayToDayMask(short weekday)
@@ -58,10 +65,16 @@ short WeekdayToDayMask(short weekday)
     return weekday >= 1 && weekday <= 7 ? static_cast<short>(1 << (weekday - 1)) : short{0};
 }
 
+bool NeedsReferenceDate(const std::wstring& name)
+{
+    const RepeatRule* const rule = FindRule(name);
+    return rule != nullptr && rule->PutFurther != nullptr;
+}
+
 long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const Value& reference)
 {
-    const auto rule = std::ranges::find_if(kRules, [&](const RepeatRule& each) { return name == each.Name; });
-    if (rule == std::end(kRules))
+    const RepeatRule* const rule = FindRule(name);
+    if (rule == nullptr)
     {
         return 0;
     }

@@ -18,6 +18,9 @@ inline constexpr long kYearlyPattern = 5;
 // The bit of a weekday in Outlook's DayOfWeekMask: 1 (Sunday) to 7 give 1, 2, 4, ... 64, anything else 0.
 short WeekdayToDayMask(short weekday);
 
+// Whether the repeat rule of this name takes a weekday, a day or a month from a reference date.
+bool NeedsReferenceDate(const std::wstring& name);
+
 // Makes the pattern that of the host's repeat rule of this name; what the rule leaves open (the weekday, the
 // day, the month) is the reference date's. A name that is no rule leaves the pattern as it is. Always 0;
 // throws automation::Error when Outlook refuses, or the rule needs a reference date and there is none.

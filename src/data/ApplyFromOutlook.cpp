@@ -36,8 +36,12 @@ void Update(Run& run, const PassFromOutlook& pass, long position)
     if (record.RecordState == kMarkToHost && !record.ItemIndex.empty())
     {
         const Object item = ItemOf(run, record);
-        run.HostRows.MoveTo(run.Pending.ChangedHostRecords.Item(position).RecordBookmark);
-        pass.Write(run, kExistingRecord, item);
+        const long row = run.Pending.ChangedHostRecords.Item(position).RecordBookmark;
+        run.HostRows.MoveTo(row);
+        if (pass.Write(run, kExistingRecord, item) == 0)
+        {
+            run.OverwrittenRows.insert(row);
+        }
     }
 }
 

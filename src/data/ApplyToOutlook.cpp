@@ -15,17 +15,28 @@ constexpr long kMarkToOutlook = 1;
 
 void WriteNewRecord(Run& run, const PassToOutlook& pass, long i)
 {
-    run.HostRows.MoveTo(run.Pending.NewHostRecords.Item(i).RecordBookmark);
-    pass.Write(run, kNewRecord, ForPass(run, run.Items.GetObject(L"Add", pass.ItemType)));
+    const long row = run.Pending.NewHostRecords.Item(i).RecordBookmark;
+    if (!pass.AddsItemFirst)
+    {
+        run.HostRows.MoveTo(row);
+    }
+    const automation::Object item = ForPass(run, run.Items.GetObject(L"Add", pass.ItemType));
+    if (pass.AddsItemFirst)
+    {
+        run.HostRows.MoveTo(row);
+    }
+    pass.Write(run, kNewRecord, item);
 }
 
 void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
 {
-    if (run.Pending.ChangedHostRecords.Item(i).RecordState != kMarkToOutlook)
+    const ClsSalesRecord& record = run.Pending.ChangedHostRecords.Item(i);
+    // A row that the pass from Outlook has just overwritten is known only as it was before.
+    if (record.RecordState != kMarkToOutlook || run.OverwrittenRows.contains(record.RecordBookmark))
     {
         return;
     }
-    run.HostRows.MoveTo(run.Pending.ChangedHostRecords.Item(i).RecordBookmark);
+    run.HostRows.MoveTo(record.RecordBookmark);
     const double index = automation::LeadingNumber(run.Pending.ChangedOutlookItems.Item(i).ItemIndex);
     pass.Write(run, kExistingRecord, ForPass(run, run.Items.GetObject(L"Item", static_cast<long>(index))));
 }

@@ -24,6 +24,8 @@ struct PassToOutlook
     // Writes the host row on which the run's recordset stands into the item, and saves it. Throws when it
     // cannot; the pass then ends.
     void (*Write)(Run& run, long mode, const automation::Object& item);
+    // A new item is made before the recordset moves to its row, otherwise after.
+    bool AddsItemFirst = false;
 };
 
 // Writes the run's pending changes; true when an error ended the pass, with the records written so far in

@@ -1,8 +1,11 @@
 #include "data/MappingToOutlook.h"
 
 #include "automation/Dates.h"
+#include "automation/Readable.h"
+#include "data/Remark.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace data
 {
@@ -27,6 +30,28 @@ void WriteRow(const RelationRow& relation, std::span<const PropertyToOutlook> ma
     }
 }
 
+// As Outlook rounds it.
+bool IsWithin(const std::optional<double>& number, long highest)
+{
+    return number && std::nearbyint(*number) >= 0 && std::nearbyint(*number) <= highest;
+}
+
+void PutWhere(bool isKnown, const TargetProperty& property, const Value& value)
+{
+    if (automation::IsAbsent(property.HostValue))
+    {
+        property.Put(Value());
+    }
+    else if (isKnown)
+    {
+        property.Put(value);
+    }
+    else
+    {
+        Remark(std::wstring(property.Name) + L" has been left as it is: Outlook does not know the value");
+    }
+}
+
 } // namespace
 
 void PutAsIs(const TargetProperty& property)
@@ -36,8 +61,23 @@ void PutAsIs(const TargetProperty& property)
 
 void PutDate(const TargetProperty& property)
 {
-    const Value& date = property.HostValue;
-    property.Put(automation::IsEmptyOrNull(date) ? Value(automation::kOutlookNoDate) : date);
+    property.Put(automation::OutlookDate(property.HostValue).value_or(automation::kOutlookNoDate));
+}
+
+void PutTruth(const TargetProperty& property)
+{
+    PutWhere(automation::ReadableTruth(property.HostValue).has_value(), property, property.HostValue);
+}
+
+void PutNumber(const TargetProperty& property, long highest)
+{
+    const std::optional<double> number = automation::ReadableNumber(property.HostValue);
+    PutWhere(IsWithin(number, highest), property, property.HostValue);
+}
+
+void PutNumber(const TargetProperty& property, const std::optional<double>& number, long highest)
+{
+    PutWhere(IsWithin(number, highest), property, number.value_or(0));
 }
 
 void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping, const Object& item,

@@ -5,6 +5,7 @@
 
 #include "data/Run.h"
 
+#include <optional>
 #include <span>
 
 namespace data
@@ -29,8 +30,14 @@ struct PropertyToOutlook
 
 // Handlings that several categories share.
 void PutAsIs(const TargetProperty& property);
-// A date; Outlook's date for "none" where the host has no value.
+// A date; Outlook's date for "none" where the host has no date that Outlook can hold.
 void PutDate(const TargetProperty& property);
+// A truth value, and a number from 0 to highest; Empty, which Outlook takes for False and 0, where the host
+// has no value. A value that is none of these leaves the property as it is in Outlook, with a remark.
+void PutTruth(const TargetProperty& property);
+void PutNumber(const TargetProperty& property, long highest);
+// The same for a number that has been worked out from the host's value.
+void PutNumber(const TargetProperty& property, const std::optional<double>& number, long highest);
 
 enum class Saves
 {

@@ -9,6 +9,8 @@
 #include "data/RelationTable.h"
 #include "data/RunDisplay.h"
 
+#include <set>
+
 namespace data
 {
 
@@ -22,6 +24,9 @@ struct Run
     RelationTable Relations{};  // of the apply pass
     FieldCatalogue Catalogue{}; // of the apply pass
     automation::InterfaceIds ItemInterfaces{};
+    // Positions of the rows that the pass from Outlook has overwritten. HostRows still shows them as they
+    // were before.
+    std::set<long> OverwrittenRows{};
 };
 
 // An item as an apply pass uses it: with many members, and after others of its class, so that the members are

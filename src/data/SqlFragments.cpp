@@ -18,11 +18,6 @@ bool IsWritable(const std::wstring& column)
     return column.starts_with(L"F_");
 }
 
-bool IsAbsent(const Value& value)
-{
-    return automation::IsEmptyOrNull(value) || (value.Type() == VT_BSTR && automation::TextOf(value).empty());
-}
-
 // Nothing when the value cannot be formatted.
 std::optional<std::wstring> LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, Value value)
 {

@@ -1,6 +1,7 @@
 #include "run/CalendarRange.h"
 
 #include "automation/Dates.h"
+#include "automation/Readable.h"
 
 namespace run
 {
@@ -9,11 +10,10 @@ namespace
 {
 
 using automation::Date;
-using automation::DateOf;
-using automation::IsEmptyOrNull;
+using automation::IsTrue;
 using automation::Object;
+using automation::ReadableDate;
 using automation::Recordset;
-using automation::TruthOf;
 using automation::Value;
 
 // Later than every date that automation can hold.
@@ -21,12 +21,12 @@ constexpr Date kNever{3000000};
 
 Date DayOrZero(const Value& value)
 {
-    return IsEmptyOrNull(value) ? Date{} : automation::DayOf(DateOf(value));
+    return automation::DayOf(ReadableDate(value).value_or(Date{}));
 }
 
 Date TimeOrZero(const Value& value)
 {
-    return IsEmptyOrNull(value) ? Date{} : automation::MinuteOfDay(DateOf(value));
+    return automation::MinuteOfDay(ReadableDate(value).value_or(Date{}));
 }
 
 Date EndOfDay(Date day)
@@ -34,29 +34,29 @@ Date EndOfDay(Date day)
     return {automation::DayOf(day).days + 1};
 }
 
-// The last moment of a row that repeats: without a last date it never ends.
-Date EndOfRepeatingRow(const Recordset& rows)
+// The last moment of what repeats: without a last date it never ends.
+Date EndOfRepetition(const Value& lastDay)
 {
-    const Value lastDay = rows.ValueOf(L"F_ACTREPTEDATE");
-    return IsEmptyOrNull(lastDay) ? kNever : EndOfDay(DateOf(lastDay));
+    const std::optional<Date> day = ReadableDate(lastDay);
+    return day ? EndOfDay(*day) : kNever;
 }
 
 // An end before the start is one on the next day.
 Date EndOfSingleRow(const Recordset& rows, Date start)
 {
-    const Value endTime = rows.ValueOf(L"F_ACTEETIME");
-    if (IsEmptyOrNull(endTime))
+    const std::optional<Date> endTime = ReadableDate(rows.ValueOf(L"F_ACTEETIME"));
+    if (!endTime)
     {
         return start;
     }
-    const Date end = automation::PlusTime(automation::DayOf(start), TimeOrZero(endTime));
+    const Date end = automation::PlusTime(automation::DayOf(start), automation::MinuteOfDay(*endTime));
     return end < start ? Date{end.days + 1} : end;
 }
 
 Date EndOfPattern(const Object& item)
 {
     const Object pattern = item.GetObject(L"GetRecurrencePattern");
-    return TruthOf(pattern.Get(L"NoEndDate")) ? kNever : EndOfDay(DateOf(pattern.Get(L"PatternEndDate")));
+    return IsTrue(pattern.Get(L"NoEndDate")) ? kNever : EndOfRepetition(pattern.Get(L"PatternEndDate"));
 }
 
 } // namespace
@@ -83,14 +83,14 @@ EntrySpan SpanOfRow(const Recordset& rows)
     const Date day = DayOrZero(rows.ValueOf(L"F_ACTESDATE"));
     const Date start = automation::PlusTime(day, TimeOrZero(rows.ValueOf(L"F_ACTESTIME")));
     const bool repeats = !automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")).empty();
-    return {start, repeats ? EndOfRepeatingRow(rows) : EndOfSingleRow(rows, start)};
+    return {start, repeats ? EndOfRepetition(rows.ValueOf(L"F_ACTREPTEDATE")) : EndOfSingleRow(rows, start)};
 }
 
 EntrySpan SpanOfItem(const Object& item)
 {
-    const Date start = DateOf(item.Get(L"Start"));
-    const bool repeats = TruthOf(item.Get(L"IsRecurring"));
-    return {start, repeats ? EndOfPattern(item) : DateOf(item.Get(L"End"))};
+    const Date start = ReadableDate(item.Get(L"Start")).value_or(Date{});
+    const bool repeats = IsTrue(item.Get(L"IsRecurring"));
+    return {start, repeats ? EndOfPattern(item) : ReadableDate(item.Get(L"End")).value_or(start)};
 }
 
 Filters WithinCalendarRange(const state::SynParameter& parameter, const data::Host& host)

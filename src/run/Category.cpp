@@ -1,5 +1,6 @@
 #include "run/Category.h"
 
+#include "automation/Readable.h"
 #include "calendar/CalendarFromOutlook.h"
 #include "calendar/CalendarToOutlook.h"
 #include "contacts/ContactsFromOutlook.h"
@@ -16,10 +17,9 @@ namespace run
 namespace
 {
 
-using automation::IsEmptyOrNull;
+using automation::IsTrue;
 using automation::Object;
 using automation::Recordset;
-using automation::TruthOf;
 
 std::wstring EntriesOfUser(const data::Host& host)
 {
@@ -33,13 +33,12 @@ Filters KeepAll(const state::SynParameter& /*parameter*/, const data::Host& /*ho
 
 bool IsPendingRow(const Recordset& rows)
 {
-    const automation::Value completed = rows.ValueOf(L"F_ACTCOMPLETED");
-    return IsEmptyOrNull(completed) || !TruthOf(completed);
+    return !IsTrue(rows.ValueOf(L"F_ACTCOMPLETED"));
 }
 
 bool IsPendingItem(const Object& item)
 {
-    return !TruthOf(item.Get(L"Complete"));
+    return !IsTrue(item.Get(L"Complete"));
 }
 
 Filters PendingOnly(const state::SynParameter& parameter, const data::Host& /*host*/)

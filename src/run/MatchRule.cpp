@@ -1,6 +1,7 @@
 #include "run/MatchRule.h"
 
 #include "automation/Dates.h"
+#include "automation/Readable.h"
 #include "automation/Text.h"
 #include "state/SharedState.h"
 
@@ -34,16 +35,14 @@ std::wstring Joined(const std::wstring& name, const std::wstring& category, cons
            date;
 }
 
-// The date in a pattern; the empty text for no date.
+// The date in a pattern; the empty text for no date. One that Outlook cannot hold is none: that is how it is
+// written there.
 std::wstring ComparableDate(const Value& value, const wchar_t* pattern)
 {
-    if (automation::IsEmptyOrNull(value))
-    {
-        return {};
-    }
-    const Date date = automation::DateOf(value);
-    return automation::IsEmptyOrNull(automation::WithoutNoDate(date)) ? std::wstring()
-                                                                      : automation::Formatted(date, pattern);
+    const std::optional<Date> date = automation::OutlookDate(value);
+    const bool isNone =
+        !date || automation::IsEmptyOrNull(automation::WithoutNoDate(automation::DayOf(*date)));
+    return isNone ? std::wstring() : automation::Formatted(*date, pattern);
 }
 
 std::wstring ContactNameOfItem(const Object& item)
@@ -97,16 +96,15 @@ std::wstring CompaniesOfTask(const Object& item)
 // working day; it matches that. Only an appointment that starts at midnight is asked whether it is one.
 Value StartOfItem(const Object& item)
 {
-    Value value = item.Get(L"Start");
-    if (automation::IsEmptyOrNull(value))
+    const std::optional<Date> start = automation::ReadableDate(item.Get(L"Start"));
+    if (!start)
     {
-        return value;
+        return Value::Null();
     }
-    const Date start = automation::DateOf(value);
-    const bool isMidnight = automation::MinuteOfDay(start) == Date{};
-    return isMidnight && automation::TruthOf(item.Get(L"AllDayEvent"))
-               ? automation::PlusTime(start, state::Shared().gCalendarStartTime)
-               : start;
+    const bool isMidnight = automation::MinuteOfDay(*start) == Date{};
+    return isMidnight && automation::IsTrue(item.Get(L"AllDayEvent"))
+               ? automation::PlusTime(*start, state::Shared().gCalendarStartTime)
+               : *start;
 }
 
 std::wstring KeyOfAppointment(const Object& item)
@@ -119,15 +117,13 @@ std::wstring KeyOfAppointment(const Object& item)
 // The start of a calendar row: its day and its time of day, which stand in columns of their own.
 Value StartOfRow(const Recordset& rows)
 {
-    const Value day = rows.ValueOf(L"F_ACTESDATE");
-    const Value time = rows.ValueOf(L"F_ACTESTIME");
-    if (automation::IsEmptyOrNull(day))
+    const std::optional<Date> day = automation::ReadableDate(rows.ValueOf(L"F_ACTESDATE"));
+    const std::optional<Date> time = automation::ReadableDate(rows.ValueOf(L"F_ACTESTIME"));
+    if (!day)
     {
         return Value::Null();
     }
-    const Date timeOfDay =
-        automation::IsEmptyOrNull(time) ? Date{} : automation::MinuteOfDay(automation::DateOf(time));
-    return automation::PlusTime(automation::DayOf(automation::DateOf(day)), timeOfDay);
+    return automation::PlusTime(automation::DayOf(*day), automation::MinuteOfDay(time.value_or(Date{})));
 }
 
 std::wstring KeyOfCalendarRow(const Recordset& rows)

@@ -17,5 +17,6 @@ inline constexpr automation::OpenOptions kRelationOptions{
 
 // Outlook's OlTaskStatus, as far as used.
 inline constexpr long kTaskComplete = 2;
+inline constexpr long kTaskDeferred = 4; // the last one
 
 } // namespace tasks

@@ -1,11 +1,14 @@
 #include "tasks/TasksToOutlook.h"
 
 #include "automation/Dates.h"
+#include "automation/Readable.h"
 #include "data/ApplyToOutlook.h"
 #include "data/MappingToOutlook.h"
 #include "state/SharedState.h"
 #include "tasks/ContactLink.h"
 #include "tasks/TaskRelations.h"
+
+#include <limits>
 
 namespace tasks
 {
@@ -13,10 +16,10 @@ namespace tasks
 namespace
 {
 
-using automation::DoubleOf;
-using automation::Value;
 using data::PutAsIs;
 using data::PutDate;
+using data::PutNumber;
+using data::PutTruth;
 using data::TargetProperty;
 
 constexpr data::PassToOutlook kTasksToOutlook{
@@ -24,6 +27,7 @@ constexpr data::PassToOutlook kTasksToOutlook{
     .RelationStatement = kRelationStatement,
     .RelationOptions = kRelationOptions,
     .Write = SynSynTaskToOlTask,
+    .AddsItemFirst = true,
 };
 
 // By the status that the task has at this moment, and so by the order of the relation rows.
@@ -44,27 +48,40 @@ void PutWhenComplete(const TargetProperty& property)
 {
     if (IsComplete(property))
     {
-        PutAsIs(property);
+        PutTruth(property);
     }
 }
 
 // The host stores a fraction from 0 to 1.
 void PutPercentage(const TargetProperty& property)
 {
-    property.Put(DoubleOf(property.HostValue) * 100);
+    constexpr long kAllPercent = 100;
+    const std::optional<double> fraction = automation::ReadableNumber(property.HostValue);
+    PutNumber(property, fraction ? std::optional(*fraction * kAllPercent) : std::nullopt, kAllPercent);
 }
 
 // Saved at once, so that the rows which ask for the status find what Outlook has made of it.
 void PutStatus(const TargetProperty& property)
 {
-    PutAsIs(property);
+    PutNumber(property, kTaskDeferred);
     property.Item.Call(L"Save");
 }
 
-// The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high.
+// The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high. A task without one keeps the
+// importance that it has in Outlook.
 void PutImportance(const TargetProperty& property)
 {
-    property.Put(DoubleOf(property.HostValue) - 1);
+    constexpr long kHigh = 2;
+    if (!automation::IsAbsent(property.HostValue))
+    {
+        const std::optional<double> level = automation::ReadableNumber(property.HostValue);
+        PutNumber(property, level ? std::optional(*level - 1) : std::nullopt, kHigh);
+    }
+}
+
+void PutWork(const TargetProperty& property)
+{
+    PutNumber(property, std::numeric_limits<long>::max());
 }
 
 void LinkToContact(const TargetProperty& property)
@@ -72,19 +89,27 @@ void LinkToContact(const TargetProperty& property)
     LinkContact(property.Item, property.HostValue, property.HostRows.ValueOf(L"CONTACT_GIVENNAME"));
 }
 
+// Not written where the lead time takes it beyond the dates that Outlook can hold.
+void PutReminderTime(const automation::Object& task, automation::Date start)
+{
+    const long long lead = state::Shared().gCalendarPreviewAlarmTime;
+    if (const auto reminder = automation::OutlookDate(automation::PlusMinutes(start, -lead)))
+    {
+        task.Put(L"ReminderTime", *reminder);
+    }
+}
+
 void PutReminder(const TargetProperty& property)
 {
-    PutAsIs(property);
-    if (!automation::TruthOf(property.HostValue))
+    PutTruth(property);
+    if (!automation::IsTrue(property.HostValue))
     {
         return;
     }
-    const Value planned = property.HostRows.ValueOf(L"F_ACTPSTIME");
-    if (!automation::IsEmptyOrNull(planned))
+    const auto start = automation::OutlookDate(property.HostRows.ValueOf(L"F_ACTPSTIME"));
+    if (start)
     {
-        const long long lead = state::Shared().gCalendarPreviewAlarmTime;
-        const automation::Date start = automation::ToTheMinute(automation::DateOf(planned));
-        property.Item.Put(L"ReminderTime", automation::PlusMinutes(start, -lead));
+        PutReminderTime(property.Item, automation::ToTheMinute(*start));
     }
 }
 
@@ -100,8 +125,8 @@ constexpr data::PropertyToOutlook kActivityToTask[] = {
     {L"Importance", PutImportance},
     {L"ContactNames", LinkToContact},
     {L"ReminderSet", PutReminder},
-    {L"TotalWork", PutAsIs},
-    {L"ActualWork", PutAsIs},
+    {L"TotalWork", PutWork},
+    {L"ActualWork", PutWork},
     {L"Companies", PutAsIs},
 };
 

@@ -1,4 +1,5 @@
 #include "calendar/CalendarToOutlook.h"
+#include "calendar/CalendarRelations.h"
 
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"
@@ -215,11 +216,25 @@ TEST_F(CalendarToOutlook, TheFirstEntryThatFailsIsLeftUnsavedAndEndsThePass)
     EXPECT_FALSE(mDisplay.IsShown);
 }
 
-TEST_F(CalendarToOutlook, AnEntryWithoutADateFails)
+TEST_F(CalendarToOutlook, AnEntryWithoutADateIsLeftOutAndTheOnesBehindAreWritten)
+{
+    AddEntry(
+        {{L"F_ACTESDATE", L"NULL"}, {L"CONTACT_SURNAME", L"'Smith'"}, {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    AddEntry({{L"F_ACTNAME", L"'Behind'"}});
+    EXPECT_FALSE(WriteAllEntries());
+    ASSERT_EQ(1, CountAppointments());
+    EXPECT_EQ(L"Behind", Text(AppointmentAt(1), L"Subject"));
+    EXPECT_EQ(0, mMailbox->ItemCount(sandbox::kContacts));
+}
+
+TEST_F(CalendarToOutlook, TheWriterAloneFailsForAnEntryWithoutADate)
 {
     AddEntry({{L"F_ACTESDATE", L"NULL"}});
-    EXPECT_TRUE(WriteAllEntries());
-    EXPECT_EQ(0, CountAppointments());
+    const Object appointment = AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
+    data::Run run = NewRun();
+    run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
+    EXPECT_TRUE(calendar::SynSynCalendarToOlCalendar(run, 2, appointment));
+    EXPECT_EQ(L"2003-01-01 08:00 - 2003-01-01 09:00", BoundsOf(AppointmentAt(1)));
 }
 
 TEST_F(CalendarToOutlook, RelationRowsThatCannotBeReadFail)

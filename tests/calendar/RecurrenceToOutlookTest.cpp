@@ -270,11 +270,23 @@ TEST_F(RecurrenceToOutlook, APatternOverTheChangeOfTheClocksKeepsItsLocalTimes)
     EXPECT_EQ(3, Number(pattern, L"Occurrences"));
 }
 
-TEST_F(RecurrenceToOutlook, ALastDayBeforeTheFirstIsRefusedByOutlookAndFailsTheEntry)
+TEST_F(RecurrenceToOutlook, ASeriesThatEndsBeforeItBeginsIsLeftOutAndTheOnesBehindAreWritten)
 {
-    AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-05 00:00:00'"}});
-    EXPECT_TRUE(WriteAllEntries());
-    EXPECT_EQ(0, CountAppointments());
+    AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-05 23:59:00'"}});
+    AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-06 00:00:00'"}});
+    EXPECT_FALSE(WriteAllEntries());
+    ASSERT_EQ(1, CountAppointments());
+    EXPECT_EQ(1, Number(PatternOf(AppointmentAt(1)), L"Occurrences"));
+}
+
+TEST_F(RecurrenceToOutlook, AnEntryWhoseRuleNeedsADayAndThatHasNoneIsLeftOut)
+{
+    Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTREPEATS", L"IsRecurring"}});
+    AddRepeatingEntry(L"每周", {{L"F_ACTESDATE", L"NULL"}});
+    AddRepeatingEntry(L"每天", {{L"F_ACTESDATE", L"NULL"}});
+    EXPECT_FALSE(WriteAllEntries());
+    ASSERT_EQ(1, CountAppointments());
+    EXPECT_EQ(0, Number(PatternOf(AppointmentAt(1)), L"RecurrenceType"));
 }
 
 } // namespace test_support

@@ -1,5 +1,6 @@
 // The apply pass of contacts towards Outlook: which records it writes, in which order, at what cost, and what
 // is left when it cannot go on.
+#include "automation/Error.h"
 #include "tests/contacts/ContactsFixture.h"
 
 namespace
@@ -8,6 +9,33 @@ namespace
 using resources::Language;
 using test_support::CallCounter;
 using test_support::WithLanguage;
+
+// Outlook refuses one nickname for the length of a scope: the n-th that is written.
+class RefusesNickName : public sandbox::CallObserver
+{
+  public:
+    explicit RefusesNickName(long number) : mNumber(number), mPrevious(sandbox::Observe(this)) {}
+    RefusesNickName(const RefusesNickName&) = delete;
+    RefusesNickName& operator=(const RefusesNickName&) = delete;
+    ~RefusesNickName() override { sandbox::Observe(mPrevious); }
+
+    void OnCall(const wchar_t* className, const wchar_t* member) override
+    {
+        if (mPrevious != nullptr)
+        {
+            mPrevious->OnCall(className, member);
+        }
+        if (member == std::wstring(L"NickName") && ++mSeen == mNumber)
+        {
+            throw automation::Error(E_INVALIDARG, member, L"Refused by a test");
+        }
+    }
+
+  private:
+    long mNumber;
+    long mSeen = 0;
+    sandbox::CallObserver* mPrevious;
+};
 
 class ContactsToOutlook : public test_support::ContactsFixture
 {
@@ -37,13 +65,6 @@ class ContactsToOutlook : public test_support::ContactsFixture
             names += (names.empty() ? L"" : L" ") + TextIn(i, L"NickName");
         }
         return names;
-    }
-
-    // Outlook takes no such text for a date: the item of this row cannot be written.
-    void MakeUnwritable(const std::wstring& nickname)
-    {
-        Relate({{L"F_NICKNAME", L"NickName"}, {L"F_SPOUSE", L"Birthday"}});
-        Execute(L"UPDATE TBLCONTACT SET F_SPOUSE='never' WHERE F_NICKNAME='" + nickname + L"'");
     }
 };
 
@@ -158,7 +179,7 @@ TEST_F(ContactsToOutlook, TheHostRowsStayOnTheLastWrittenRow)
 TEST_F(ContactsToOutlook, AnErrorInTheMiddleOfTheAdditionsStopsThemFailsAndLeavesTheWrittenOnes)
 {
     AddThreeRows();
-    MakeUnwritable(L"two");
+    const RefusesNickName refuses(2);
     EXPECT_TRUE(Export({1, 2, 3}));
     EXPECT_EQ(NickNames(), L"one");
     EXPECT_EQ(Display.Progress.back(), 1.0 / 3);
@@ -169,7 +190,7 @@ TEST_F(ContactsToOutlook, AnErrorInTheMiddleOfTheModificationsStopsThemFailsAndL
 {
     AddThreeRows();
     AddThreeItems();
-    MakeUnwritable(L"two");
+    const RefusesNickName refuses(2);
     EXPECT_TRUE(OverwriteItems({{1, 1}, {2, 2}, {3, 3}}));
     EXPECT_EQ(NickNames(), L"one old old");
 }
@@ -178,7 +199,7 @@ TEST_F(ContactsToOutlook, AnErrorInTheAdditionsKeepsTheModificationsFromStarting
 {
     AddThreeRows();
     AddItem({{L"NickName", L"old"}});
-    MakeUnwritable(L"two");
+    const RefusesNickName refuses(1);
     data::Run run = NewRun();
     run.Pending.NewHostRecords.Add(2L, 0);
     run.Pending.ChangedHostRecords.Add(1L, 1);
@@ -269,10 +290,10 @@ TEST_F(ContactsToOutlook, WritingOneMoreRecordReadsItsColumnsAndNothingElseOfThe
 TEST_F(ContactsToOutlook, TheRelationRecordsetIsClosedAfterAFailureToo)
 {
     AddThreeRows();
-    MakeUnwritable(L"one");
     data::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     const CallCounter counter;
+    const RefusesNickName refuses(1);
     EXPECT_TRUE(contacts::SynContactToOutlook(run));
     EXPECT_EQ(counter.Of(L"Recordset.Close"), counter.Of(L"Recordset.Open"));
 }

@@ -1,5 +1,7 @@
 // Whole host rows on their way into Outlook, every column hostile: an item is saved as the row has it, or the
 // pass reports that it failed and has saved nothing (of a task: no more than came before the failure).
+#include "automation/Dates.h"
+#include "automation/Readable.h"
 #include "automation/Text.h"
 #include "run/Category.h"
 #include "sandbox/ado/Ado.h"
@@ -180,14 +182,33 @@ class HostileExport : public testing::Test
         values.Report(std::to_string(count) + " rows, " + std::to_string(saved) + " saved");
     }
 
-    // Whether the row arrived.
+    // Of a calendar entry without a date that Outlook can hold, and of a series that ends before it begins,
+    // nothing is written; the pass goes on.
+    static bool IsLeftOut(const Kind& kind, const ItemValues& record)
+    {
+        if (&kind.category != &run::kCalendarCategory)
+        {
+            return false;
+        }
+        const auto first = automation::OutlookDate(record.at(L"F_ACTESDATE"));
+        const auto last = automation::OutlookDate(record.at(L"F_ACTREPTEDATE"));
+        const bool repeats = automation::IsTrue(record.at(L"ACT_REPEATS"));
+        return !first || (repeats && last && automation::DayOf(*last) < automation::DayOf(*first));
+    }
+
+    // Whether the row arrived, or was left out.
     bool ExportOne(const Kind& kind, const ItemValues& record, bool isNew)
     {
         const long before = mMailbox->ItemCount(kind.folder);
         const auto texts = TextsOf(kind, 1);
         const bool failed = Export(kind, record, isNew);
         const long added = mMailbox->ItemCount(kind.folder) - before;
-        if (!failed)
+        if (!failed && IsLeftOut(kind, record))
+        {
+            EXPECT_EQ(0, added);
+            EXPECT_EQ(texts, TextsOf(kind, 1));
+        }
+        else if (!failed)
         {
             EXPECT_EQ(isNew ? 1 : 0, added);
             ExpectAsTheRowHasIt(kind, record, isNew ? before + 1 : 1);

@@ -2,6 +2,7 @@
 
 #include "data/Host.h"
 #include "state/SharedState.h"
+#include "tests/nested_walk/Yardstick.h"
 
 #include <exception>
 
@@ -10,6 +11,14 @@ namespace test_support
 
 namespace
 {
+
+bool Matches(const run::Category& category, const automation::Object& item, const automation::Recordset& rows)
+{
+    const std::wstring kind = category.Key;
+    return kind == L"Contact" ? IsSameContact(item, rows)
+           : kind == L"Task"  ? IsSameTask(item, rows)
+                              : IsSameAppointment(item, rows);
+}
 
 void MoveToFirst(const automation::Recordset& rows)
 {
@@ -23,7 +32,7 @@ long FindItem(const run::Category& category, data::Run& run, long count)
 {
     for (long i = 1; i <= count; ++i)
     {
-        if (Matches(category.Match, run.Items.GetObject(L"Item", i), run.HostRows))
+        if (Matches(category, run.Items.GetObject(L"Item", i), run.HostRows))
         {
             return i;
         }
@@ -35,7 +44,7 @@ long FindRow(const run::Category& category, data::Run& run, const automation::Ob
 {
     for (MoveToFirst(run.HostRows); !run.HostRows.AtEnd(); run.HostRows.MoveNext())
     {
-        if (Matches(category.Match, item, run.HostRows))
+        if (Matches(category, item, run.HostRows))
         {
             return run.HostRows.AbsolutePosition();
         }
@@ -58,15 +67,6 @@ bool Failed(Body&& body)
 }
 
 } // namespace
-
-bool Matches(const run::MatchRule& rule, const automation::Object& item, const automation::Recordset& rows)
-{
-    if (rule.FirstKeyOfItem(item) != rule.FirstKeyOfRow(rows))
-    {
-        return false;
-    }
-    return rule.SecondKeyOfItem == nullptr || rule.SecondKeyOfItem(item) == rule.SecondKeyOfRow(rows);
-}
 
 bool WalkToOutlook(const run::Category& category, data::Run& run, long conflictOption)
 {

@@ -4,13 +4,12 @@
 #include "state/SharedState.h"
 #include "tests/run/Sides.h"
 #include "tests/run/TestHost.h"
+#include "tests/support/PageTable.h"
 #include "tests/support/RecordingDisplay.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <set>
-#include <sstream>
 
 namespace
 {
@@ -19,41 +18,9 @@ using namespace test_support;
 using automation::Value;
 using state::Shared;
 
-using Cells = std::vector<std::string>;
+using Cells = PageCells;
 
-// The cells of a table's row, without the blanks around them.
-Cells CellsOf(const std::string& line)
-{
-    Cells cells;
-    std::istringstream rest(line.substr(1));
-    for (std::string cell; std::getline(rest, cell, '|');)
-    {
-        cells.push_back(automation::ToUtf8(automation::Trimmed(automation::FromUtf8(cell))));
-    }
-    return cells;
-}
-
-// The rows of the table whose first column has this heading.
-std::vector<Cells> TableOfPage(const std::string& heading)
-{
-    std::ifstream page(TELVIX_DOCS "/exchange-rules.md");
-    EXPECT_TRUE(page) << TELVIX_DOCS;
-    std::vector<Cells> rows;
-    bool isInside = false;
-    for (std::string line; std::getline(page, line);)
-    {
-        if (!line.starts_with("|"))
-        {
-            isInside = false;
-        }
-        else if (isInside && !line.starts_with("|---"))
-        {
-            rows.push_back(CellsOf(line));
-        }
-        isInside = isInside || line.starts_with("| " + heading + " |");
-    }
-    return rows;
-}
+constexpr const char* kPage = "exchange-rules.md";
 
 long DirectionNamed(const std::string& name)
 {
@@ -159,7 +126,7 @@ const run::Category* const kCategories[] = {&run::kContactCategory, &run::kTaskC
 TEST_F(ExchangeRules, ThePageTellsWhatIsProposedForEveryDirectionAndConflictRule)
 {
     std::set<std::pair<long, long>> described;
-    for (const Cells& cells : TableOfPage("Direction"))
+    for (const Cells& cells : TableOfPage(kPage, "Direction"))
     {
         ASSERT_EQ(5u, cells.size());
         const long direction = DirectionNamed(cells[0]);
@@ -180,7 +147,7 @@ TEST_F(ExchangeRules, ThePageTellsWhatIsProposedForEveryDirectionAndConflictRule
 TEST_F(ExchangeRules, ThePageTellsTheOrderOfATwoWayRunOfEveryKind)
 {
     std::map<std::string, Cells> described;
-    for (const Cells& cells : TableOfPage("Kind"))
+    for (const Cells& cells : TableOfPage(kPage, "Kind"))
     {
         ASSERT_EQ(3u, cells.size());
         described[cells[0]] = {cells[1], cells[2]};

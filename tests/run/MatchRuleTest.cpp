@@ -2,8 +2,7 @@
 #include "automation/Dates.h"
 #include "automation/Text.h"
 #include "state/SharedState.h"
-#include "tests/nested_walk/NestedWalk.h"
-#include "tests/run/Sides.h"
+#include "tests/run/MatchByRule.h"
 
 #include <gtest/gtest.h>
 
@@ -18,13 +17,6 @@ using automation::Value;
 
 const Date kDay = DateOf(Moment{2003, 5, 6});
 const Date kNoDate = DateOf(Moment{4501, 1, 1});
-
-bool Match(const run::MatchRule& rule, const Record& item, const Record& row)
-{
-    const auto items = std::make_shared<Records>(Records{item});
-    const auto rows = std::make_shared<Records>(Records{row});
-    return Matches(rule, MakeItems(items).GetObject(L"Item", 1L), MakeRows(rows));
-}
 
 // The same record on both sides, with one value on either side replaced.
 bool TasksMatchWith(const wchar_t* property, const Value& inItem, const wchar_t* column, const Value& inRow)
@@ -167,7 +159,7 @@ class MatchAppointment : public testing::Test
 
     static bool Match(const Record& item, const Record& row)
     {
-        return ::Match(run::kMatchAppointment, item, row);
+        return test_support::Match(run::kMatchAppointment, item, row);
     }
 };
 

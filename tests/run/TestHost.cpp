@@ -25,7 +25,9 @@ class FakeUser : public DispatchObject
     {
         constexpr long kPermitted = 0;
         constexpr long kDenied = 1;
-        return mState->denied.contains(automation::LongOf(call.At(2))) ? kDenied : kPermitted;
+        mState->questions.push_back(
+            {automation::LongOf(call.At(0)), automation::LongOf(call.At(1)), automation::LongOf(call.At(2))});
+        return mState->denied.contains(mState->questions.back()[2]) ? kDenied : kPermitted;
     }
     Value Uid(const Call&) { return L"1"; }
 

@@ -3,8 +3,10 @@
 
 #include "automation/Object.h"
 
+#include <array>
 #include <memory>
 #include <set>
+#include <vector>
 
 namespace test_support
 {
@@ -20,9 +22,15 @@ class TestHost
 
     void SetSysDateTime(automation::Date moment);
 
+    // A question for a right: the codes of module, function and right.
+    using Question = std::array<long, 3>;
+    // The questions so far, in their order.
+    const std::vector<Question>& Questions() const noexcept { return mState->questions; }
+
     struct State
     {
         std::set<long> denied; // right codes
+        std::vector<Question> questions;
         automation::Date now{37742.5};
     };
 

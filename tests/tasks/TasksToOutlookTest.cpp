@@ -294,10 +294,14 @@ TEST_F(TasksToOutlook, TheStatusTextIsInTheInterfaceLanguage)
 
 TEST_F(TasksToOutlook, AnErrorEndsThePassAndWhatWasWrittenStays)
 {
-    Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTLEVEL", L"Importance"}, {L"F_ACTTYPE", L"Categories"}});
-    AddHostTask({{L"F_ACTNAME", L"'One'"}, {L"F_ACTLEVEL", L"1"}, {L"F_ACTTYPE", L"'Phone'"}});
-    AddHostTask({{L"F_ACTNAME", L"'Two'"}, {L"F_ACTLEVEL", L"9"}, {L"F_ACTTYPE", L"'Phone'"}});
-    AddHostTask({{L"F_ACTNAME", L"'Three'"}, {L"F_ACTLEVEL", L"1"}, {L"F_ACTTYPE", L"'Phone'"}});
+    Relate(
+        {{L"F_ACTNAME", L"Subject"}, {L"CONTACT_SURNAME", L"ContactNames"}, {L"F_ACTTYPE", L"Categories"}});
+    AddHostTask({{L"F_ACTNAME", L"'One'"}, {L"F_ACTTYPE", L"'Phone'"}});
+    AddHostTask({{L"F_ACTNAME", L"'Two'"},
+                 {L"F_ACTTYPE", L"'Phone'"},
+                 {L"CONTACT_SURNAME", L"'Sm\"ith'"},
+                 {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    AddHostTask({{L"F_ACTNAME", L"'Three'"}, {L"F_ACTTYPE", L"'Phone'"}});
     data::Run run = NewRun();
     for (const long row : {1, 2, 3})
     {

@@ -1,0 +1,71 @@
+// What a recurrence pattern is given for its start time, as it is given. Outlook makes a time of it, so that
+// only a pattern that keeps what it is assigned tells.
+#include "calendar/CalendarRelations.h"
+#include "calendar/CalendarToOutlook.h"
+#include "tests/calendar/CalendarTest.h"
+
+namespace test_support
+{
+
+namespace
+{
+
+// An appointment and its pattern in one; keeps what is assigned to any member.
+class KeepsAssignments : public sandbox::DispatchObject
+{
+  public:
+    explicit KeepsAssignments(std::map<std::wstring, Value>& assigned) : mAssigned(assigned) {}
+
+  private:
+    static sandbox::MemberTable MadeMembers()
+    {
+        sandbox::MemberTable table{
+            {L"GetRecurrencePattern",
+             [](DispatchObject& self, const sandbox::Call&) -> Value {
+                 return sandbox::MakeObject<KeepsAssignments>(static_cast<KeepsAssignments&>(self).mAssigned);
+             },
+             nullptr},
+            {L"IsRecurring", [](DispatchObject&, const sandbox::Call&) -> Value { return true; }, nullptr},
+            {L"Save", [](DispatchObject&, const sandbox::Call&) { return Value(); }, nullptr}};
+        for (const wchar_t* name : {L"Subject", L"Categories", L"ReminderSet", L"StartTime", L"EndTime",
+                                    L"PatternStartDate", L"RecurrenceType", L"Interval", L"NoEndDate"})
+        {
+            table.push_back({name, nullptr, [name](DispatchObject& self, const sandbox::Call& call) {
+                                 static_cast<KeepsAssignments&>(self).mAssigned[name] = call.Assigned();
+                             }});
+        }
+        return table;
+    }
+
+    const wchar_t* ClassName() const override { return L"KeepsAssignments"; }
+    const sandbox::MemberTable& Members() const override
+    {
+        static const sandbox::MemberTable table = MadeMembers();
+        return table;
+    }
+
+    std::map<std::wstring, Value>& mAssigned;
+};
+
+} // namespace
+
+class StartTimeText : public CalendarTest
+{
+};
+
+TEST_F(StartTimeText, IsATextThatBeginsWithABlankAndEndsInNoSeconds)
+{
+    AddEntry({{L"F_ACTREPEATS", L"1"}, {L"FR_NAME", L"'每天'"}, {L"F_ACTESTIME", L"'1899-12-30 09:05:59'"}});
+    std::map<std::wstring, Value> assigned;
+    data::Run run = NewRun();
+    run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
+    run.HostRows.MoveFirst();
+    EXPECT_FALSE(
+        calendar::SynSynCalendarToOlCalendar(run, 2, sandbox::MakeObject<KeepsAssignments>(assigned)));
+    EXPECT_EQ(VT_BSTR, assigned[L"StartTime"].Type());
+    EXPECT_EQ(L" 09:05:00", automation::TextOf(assigned[L"StartTime"]));
+    EXPECT_EQ(VT_DATE, assigned[L"EndTime"].Type());
+    EXPECT_EQ(VT_BOOL, assigned[L"NoEndDate"].Type());
+}
+
+} // namespace test_support
