@@ -160,6 +160,11 @@ bool IsEmptyOrNull(const Value& value)
     return value.Type() == VT_EMPTY || value.Type() == VT_NULL;
 }
 
+bool IsAbsent(const Value& value)
+{
+    return IsEmptyOrNull(value) || (value.Type() == VT_BSTR && SysStringLen(value.Raw().bstrVal) == 0);
+}
+
 bool IsMissing(const Value& value)
 {
     return value.Type() == VT_ERROR && value.Raw().scode == DISP_E_PARAMNOTFOUND;

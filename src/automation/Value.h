@@ -65,6 +65,8 @@ class Value
 };
 
 bool IsEmptyOrNull(const Value& value);
+// Empty, Null or the empty text: no value, wherever a host or Outlook may give any of the three.
+bool IsAbsent(const Value& value);
 bool IsMissing(const Value& value);
 
 // Coercions. All throw Error (DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW) where OLE Automation refuses; Null is

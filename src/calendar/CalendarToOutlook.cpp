@@ -15,6 +15,7 @@ namespace calendar
 
 using automation::Date;
 using automation::DateOf;
+using automation::IsAbsent;
 using automation::IsEmptyOrNull;
 using automation::Object;
 using automation::TruthOf;
@@ -44,7 +45,7 @@ constexpr data::PassToOutlook kCalendarToOutlook{
 // A column that holds a time of day, to the minute; midnight where it holds none.
 Date TimeOrMidnight(const Value& time)
 {
-    return IsEmptyOrNull(time) ? Date{} : automation::MinuteOfDay(DateOf(time));
+    return IsAbsent(time) ? Date{} : automation::MinuteOfDay(DateOf(time));
 }
 
 // Outlook ties start and end of a recurring appointment to its pattern, so they are left to that.
@@ -105,7 +106,7 @@ Value AsItIs(const Value& value)
 void PutWhereGiven(const Object& pattern, const wchar_t* member, const Value& value,
                    Value (*converted)(const Value& value))
 {
-    if (!IsEmptyOrNull(value))
+    if (!IsAbsent(value))
     {
         pattern.Put(member, converted(value));
     }

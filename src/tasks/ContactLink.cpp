@@ -41,7 +41,7 @@ bool IsOfOutlook8(const Object& item)
 
 void LinkContact(const Object& item, const Value& surname, const Value& givenName, AcceptsContact accepts)
 {
-    if (automation::IsEmptyOrNull(surname) || automation::IsEmptyOrNull(givenName))
+    if (automation::IsAbsent(surname) || automation::IsAbsent(givenName))
     {
         return;
     }

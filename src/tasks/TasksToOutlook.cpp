@@ -80,7 +80,7 @@ void PutReminder(const TargetProperty& property)
         return;
     }
     const Value planned = property.HostRows.ValueOf(L"F_ACTPSTIME");
-    if (!automation::IsEmptyOrNull(planned))
+    if (!automation::IsAbsent(planned))
     {
         const long long lead = state::Shared().gCalendarPreviewAlarmTime;
         const automation::Date start = automation::ToTheMinute(automation::DateOf(planned));

@@ -2,6 +2,8 @@
 // is left when it cannot go on.
 #include "tests/contacts/ContactsFixture.h"
 
+#include "tests/support/OpenedRecordsets.h"
+
 namespace
 {
 
@@ -53,6 +55,17 @@ TEST_F(ContactsToOutlook, NewHostContactsBecomeItemsInTheOrderInWhichTheyWereCol
     EXPECT_FALSE(Export({3, 1, 2}));
     EXPECT_EQ(NickNames(), L"three one two");
     EXPECT_EQ(TextIn(1, L"MessageClass"), L"IPM.Contact");
+}
+
+TEST_F(ContactsToOutlook, TheRelationRowsAreOpenedAsTheContractHasThem)
+{
+    AddThreeRows();
+    const test_support::OpenedRecordsets opened;
+    EXPECT_FALSE(Export({1}));
+    EXPECT_EQ(opened.Texts,
+              std::vector<std::wstring>{L"Select * From SynRelation Where "
+                                        L"QuenlarTblName='TBLCONTACT' (cursor 1, lock 1, options "
+                                        L"1)"});
 }
 
 TEST_F(ContactsToOutlook, AChangedContactOverwritesTheItemOfItsPairAndNoOther)
