@@ -210,6 +210,7 @@ Value DispatchObject::Run(DISPID id, WORD flags, const Call& call)
     if (CallObserver* observer = gObserver)
     {
         observer->OnCall(ClassName(), member.name);
+        observer->OnArguments(ClassName(), member.name, call);
     }
     const bool isWrite = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
     if (isWrite ? !member.write : !member.read)

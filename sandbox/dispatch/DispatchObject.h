@@ -64,6 +64,8 @@ class CallObserver
   public:
     virtual ~CallObserver() = default;
     virtual void OnCall(const wchar_t* className, const wchar_t* member) = 0;
+    // The same call with its arguments, for observers that want to see them.
+    virtual void OnArguments(const wchar_t* /*className*/, const wchar_t* /*member*/, const Call& /*call*/) {}
     // A client asks for the DISPID of a member by its name, or for the object's type information ("(type)"):
     // a round trip of its own, but no call.
     virtual void OnNameLookup(const wchar_t* /*className*/, const wchar_t* /*member*/) {}

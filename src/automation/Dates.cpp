@@ -26,11 +26,17 @@ double SecondsOf(Date date)
     return std::round((day + std::abs(date.days - day)) * 86400.0);
 }
 
+// Made by the system like every date here: a fraction computed otherwise can differ in its last bit, and then
+// equals no date that a host or a script has made.
 Date DateOfSeconds(double seconds)
 {
     const double day = std::floor(seconds / 86400.0);
-    const double fraction = (seconds - day * 86400.0) / 86400.0;
-    return {day < 0 ? day - fraction : day + fraction};
+    const auto second = static_cast<int>(seconds - day * 86400.0);
+    Moment moment = MomentOf(Date{day});
+    moment.hour = second / 3600;
+    moment.minute = second / 60 % 60;
+    moment.second = second % 60;
+    return DateOf(moment);
 }
 
 } // namespace
@@ -116,7 +122,7 @@ Date DayOf(Date date)
 Date MinuteOfDay(Date date)
 {
     const Moment moment = MomentOf(date);
-    return {(moment.hour * 60 + moment.minute) / 1440.0};
+    return DateOf(Moment{.hour = moment.hour, .minute = moment.minute});
 }
 
 Date ToTheMinute(Date date)

@@ -28,7 +28,8 @@ struct Moment
 };
 
 // Rounded to the second. Throw Error for a date outside the years 100 to 9999, or a moment that does not
-// exist.
+// exist. Every Date below is made by DateOf, and so by the system: it equals the system's own to the last
+// bit.
 Moment MomentOf(Date date);
 Date DateOf(const Moment& moment);
 
@@ -42,9 +43,9 @@ Date DayOf(Date date);
 Date MinuteOfDay(Date date);
 // Date and time without seconds ("yyyy/mm/dd hh:mm" and back).
 Date ToTheMinute(Date date);
-// The date so many minutes later, or earlier for a negative number; rounded to the second.
+// The date so many minutes later, or earlier for a negative number; rounded to the second. Throws as DateOf.
 Date PlusMinutes(Date date, long long minutes);
-// A time of day added to a date; rounded to the second.
+// A time of day added to a date; rounded to the second. Throws as DateOf.
 Date PlusTime(Date date, Date timeOfDay);
 // Whether left lies before right; holds before the zero date too, where a DATE's fraction counts away from
 // zero and the plain numbers compare wrongly.

@@ -43,7 +43,9 @@ struct ExceptionInfo : EXCEPINFO
         {
             pfnDeferredFillIn(this);
         }
-        const HRESULT code = FAILED(scode) ? scode : DISP_E_EXCEPTION;
+        // Objects that number their errors themselves give the number alone.
+        const HRESULT own = wCode != 0 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, wCode) : scode;
+        const HRESULT code = FAILED(own) ? own : DISP_E_EXCEPTION;
         return {code, member, std::wstring(bstrDescription, SysStringLen(bstrDescription))};
     }
 };

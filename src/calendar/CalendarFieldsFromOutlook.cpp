@@ -24,7 +24,7 @@ namespace
 // F_ACTREPTIDX of an entry that repeats daily; no other repetition is marked.
 constexpr long kRepeatsDaily = 1;
 constexpr long kMinutesOfDay = 1440;
-constexpr Date kLastMinuteOfDay{1439.0 / kMinutesOfDay};
+constexpr automation::Moment kLastMinuteOfDay{.hour = 23, .minute = 59};
 
 bool IsAllDay(ItemProperties& item)
 {
@@ -81,7 +81,7 @@ void AddSingleEnd(ItemProperties& item, RowColumns& entry)
     const Value& start = item.ValueOf(L"Start");
     const Value& end = item.ValueOf(L"End");
     const bool endsOnFirstDay = automation::DayOf(DateOf(end)) == automation::DayOf(DateOf(start));
-    AddEnd(entry, start, endsOnFirstDay ? end : Value(kLastMinuteOfDay));
+    AddEnd(entry, start, endsOnFirstDay ? end : Value(DateOf(kLastMinuteOfDay)));
 }
 
 // The times are compared as times of day: a pattern over midnight starts later than it ends.

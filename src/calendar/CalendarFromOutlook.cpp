@@ -4,6 +4,7 @@
 #include "calendar/CalendarRelations.h"
 #include "data/ApplyFromOutlook.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "data/SqlFragments.h"
 #include "state/Failures.h"
 #include "tasks/TaskLinks.h"
@@ -44,32 +45,28 @@ Result Reported(const RowColumns& entry, Result failure, Step&& step)
     });
 }
 
-void AddAccount(const Object& item, RowColumns& entry)
+// False when the lookup of the account has failed; the builder has shown why.
+bool AddAccount(const Object& item, RowColumns& entry)
 {
-    const bool isNew = entry.Mode() == data::kNewRecord;
-    const long result = isNew
-                            ? tasks::ChangeAddTaskAccount(entry.Catalogue(), item, entry.Fields, entry.Values)
-                            : tasks::ChangeEditTaskAccount(entry.Catalogue(), item, entry.SetList);
-    Demand(result == 0, isNew ? L"ChangeAddTaskAccount" : L"ChangeEditTaskAccount");
+    using contacts::UndoneBy;
+    return entry.Mode() == data::kNewRecord
+               ? tasks::ChangeAddTaskAccount(entry.Catalogue(), item, entry.Fields, entry.Values,
+                                             UndoneBy::Hand) == 0
+               : tasks::ChangeEditTaskAccount(entry.Catalogue(), item, entry.SetList, UndoneBy::Hand) == 0;
 }
 
 // False when the appointment is not to be written.
 bool Complete(data::Run& run, const Object& item, RowColumns& entry)
 {
-    if (!AddCalendarColumns(run.Relations, item, entry))
-    {
-        return false;
-    }
-    AddAccount(item, entry);
-    return true;
+    return AddCalendarColumns(run.Relations, item, entry) && AddAccount(item, entry);
 }
 
 void Insert(const Host& host, RowColumns& entry)
 {
     const std::wstring id = host.NewGuid();
-    const std::wstring user = host.UserId();
+    const std::wstring user = host.UserIdLiteral();
     data::AppendEntry(entry.Fields, L"F_ACTORID,F_CREATORID,F_ACTID");
-    data::AppendEntry(entry.Values, user + L"," + user + L",'" + id + L"'");
+    data::AppendEntry(entry.Values, user + L"," + user + L"," + data::QuotedText(id));
     Demand(host.Insert(L"TBLACTIVITY", entry.Fields, entry.Values, id) >= 0, L"Insert");
 }
 
@@ -78,7 +75,8 @@ void Update(const Host& host, const automation::Recordset& rows, const RowColumn
     if (!entry.SetList.empty())
     {
         const std::wstring id = automation::TextOf(rows.ValueOf(L"F_ACTID"));
-        Demand(host.Update(L"TBLACTIVITY", entry.SetList, L"F_ACTID='" + id + L"'") == 0, L"Update");
+        Demand(host.Update(L"TBLACTIVITY", entry.SetList, L"F_ACTID=" + data::QuotedText(id)) == 0,
+               L"Update");
     }
 }
 

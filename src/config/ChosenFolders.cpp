@@ -2,6 +2,7 @@
 
 #include "config/UserRows.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "state/Failures.h"
 
 #include <algorithm>
@@ -78,7 +79,7 @@ std::optional<size_t> DefaultOf(const ChosenFolders& folders)
 
 std::wstring FolderValueList(const ObjectKind& kind, const ChosenFolder& folder)
 {
-    return std::to_wstring(kind.TransObjectID) + L",'" + folder.Path + L"'" +
+    return std::to_wstring(kind.TransObjectID) + L"," + data::QuotedText(folder.Path) +
            (folder.IsDefault ? L",1" : L",0");
 }
 
@@ -87,7 +88,7 @@ bool StoreChosenFolders(const ObjectKind& kind, const ChosenFolders& folders)
     return state::Trapped(true, [&] {
         const data::Host host;
         RequireAccepted(host.Delete(kFolderTable, L"TransObjectID=" + std::to_wstring(kind.TransObjectID) +
-                                                      L" And F_UID=" + host.UserId()),
+                                                      L" And F_UID=" + host.UserIdLiteral()),
                         L"Delete");
         for (const ChosenFolder& folder : folders)
         {

@@ -1,7 +1,7 @@
-#include "automation/Text.h"
 #include "config/ParameterStore.h"
 #include "config/UserRows.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "state/Failures.h"
 
 #include <set>
@@ -19,14 +19,12 @@ constexpr wchar_t kRowsOf[] = L"Select * From T_POutlookSyncParam Where F_UID=";
 
 std::wstring Bare(const Value& value)
 {
-    return automation::IsEmptyOrNull(value) ? L"NULL" : automation::TextOf(value);
+    return automation::IsEmptyOrNull(value) ? L"NULL" : data::NumberOrQuotedText(automation::TextOf(value));
 }
 
 std::wstring Quoted(const Value& value)
 {
-    return automation::IsEmptyOrNull(value)
-               ? L"NULL"
-               : L"'" + automation::Replaced(automation::TextOf(value), L"'", L"''") + L"'";
+    return automation::IsEmptyOrNull(value) ? L"NULL" : data::QuotedText(automation::TextOf(value));
 }
 
 std::wstring Flag(const Value& value)
@@ -88,7 +86,7 @@ Recordset CreateDefaultParameters()
     const automation::ClosesRecordset closes(templates);
     return state::Trapped(Recordset(), [&] {
         const data::Host host;
-        const std::wstring userId = host.UserId();
+        const std::wstring userId = host.UserIdLiteral();
         const std::set<std::wstring> present = KindsOf(host, userId);
         RequireAccepted(host.OpenRecordsetByString(templates, kRowsOf + std::wstring(L"0")),
                         L"OpenRecordsetByString");

@@ -5,6 +5,7 @@
 #include "config/FrmAdvContacts.h"
 #include "config/NotLoaded.h"
 #include "config/UserRows.h"
+#include "data/Literals.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
@@ -22,7 +23,7 @@ constexpr int kConflictCount = static_cast<int>(std::size(kConflictCaptions));
 
 std::wstring WhereOf(const wchar_t* objectName)
 {
-    return L"TransObject='" + std::wstring(objectName) + L"'";
+    return L"TransObject=" + data::QuotedText(objectName);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "config/ObjectKinds.h"
 #include "config/ParameterStore.h"
 #include "config/UserRows.h"
+#include "data/Literals.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
@@ -192,7 +193,8 @@ void FrmConfigure::OnOk()
 {
     for (const Translation& row : mRows)
     {
-        UpdateUserRows(TranslationSetClause(row), kParameterTable, L"TransObject='" + row.TransObject + L"'");
+        UpdateUserRows(TranslationSetClause(row), kParameterTable,
+                       L"TransObject=" + data::QuotedText(row.TransObject));
     }
     Unload(IDOK);
 }

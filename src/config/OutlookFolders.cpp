@@ -1,9 +1,9 @@
 #include "config/OutlookFolders.h"
 
 #include "automation/Recordset.h"
-#include "automation/Text.h"
 #include "config/UserRows.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
@@ -89,9 +89,9 @@ class StoreNames
 
 void DeleteFolderRow(const data::Host& host, const Recordset& rows, const std::wstring& folder)
 {
-    const std::wstring where = L"F_UID=" + host.UserId() + L" And TransObjectID=" +
-                               TextOf(rows.ValueOf(L"TransObjectID")) + L" And OutlookFolder='" +
-                               automation::Replaced(folder, L"'", L"''") + L"'";
+    const std::wstring where = L"F_UID=" + host.UserIdLiteral() + L" And TransObjectID=" +
+                               data::NumberOrQuotedText(TextOf(rows.ValueOf(L"TransObjectID"))) +
+                               L" And OutlookFolder=" + data::QuotedText(folder);
     RequireAccepted(host.Delete(kFolderTable, where), L"Delete");
 }
 
@@ -119,7 +119,7 @@ void PurgeMissingFolders()
         const data::Host host;
         StoreNames stores;
         const std::wstring sql =
-            L"Select * From " + std::wstring(kFolderTable) + L" Where F_UID=" + host.UserId();
+            L"Select * From " + std::wstring(kFolderTable) + L" Where F_UID=" + host.UserIdLiteral();
         RequireAccepted(host.OpenRecordsetByString(rows, sql), L"OpenRecordsetByString");
         for (; !rows.AtEnd(); rows.MoveNext())
         {

@@ -3,6 +3,7 @@
 #include "config/ObjectKinds.h"
 #include "config/UserRows.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "state/Failures.h"
 #include "ui/ShowMessageBox.h"
 
@@ -23,8 +24,8 @@ using state::SynParameter;
 void OpenOrCreateRows(Recordset& rows, const std::wstring& objectName)
 {
     const data::Host host;
-    const std::wstring sql = L"Select * From " + std::wstring(kParameterTable) + L" Where TransObject='" +
-                             objectName + L"' And F_UID=" + host.UserId();
+    const std::wstring sql = L"Select * From " + std::wstring(kParameterTable) + L" Where TransObject=" +
+                             data::QuotedText(objectName) + L" And F_UID=" + host.UserIdLiteral();
     RequireAccepted(host.OpenRecordsetByString(rows, sql), L"OpenRecordsetByString");
     if (rows.HasNoRows())
     {

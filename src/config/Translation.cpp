@@ -4,6 +4,7 @@
 #include "config/ParameterStore.h"
 #include "config/UserRows.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 
@@ -51,7 +52,7 @@ void OpenTranslations(Recordset& rows)
 {
     const data::Host host;
     const std::wstring sql =
-        L"Select * From " + std::wstring(kParameterTable) + L" Where F_UID=" + host.UserId();
+        L"Select * From " + std::wstring(kParameterTable) + L" Where F_UID=" + host.UserIdLiteral();
     RequireAccepted(host.OpenRecordsetByString(rows, sql), L"OpenRecordsetByString");
     if (rows.HasNoRows())
     {
@@ -131,11 +132,12 @@ std::wstring TranslationSetClause(const Translation& row)
     // The picture decides; a row whose picture is none of the three keeps the code that it was loaded with.
     const Direction* direction = FindDirection(row.TransTypePic);
     const long type = direction != nullptr ? direction->TransType : row.TransType;
-    std::wstring clause = std::wstring(L"IsTrans=") + (row.Checked ? L"1" : L"0") +
-                          (row.Translator ? L",TransSource='Outlook'" : L",TransSource='Null'");
+    std::wstring clause = std::wstring(L"IsTrans=") + (row.Checked ? L"1" : L"0") + L",TransSource=" +
+                          data::QuotedText(row.Translator ? L"Outlook" : L"Null");
     if (type != 0)
     {
-        clause += L",TransType=" + std::to_wstring(type) + L",TransTypePic='" + row.TransTypePic + L"'";
+        clause +=
+            L",TransType=" + std::to_wstring(type) + L",TransTypePic=" + data::QuotedText(row.TransTypePic);
     }
     return clause;
 }

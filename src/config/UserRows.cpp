@@ -24,7 +24,7 @@ bool OpenUserRecordset(automation::Recordset& recordset, const std::wstring& whe
 {
     return state::Trapped(true, [&] {
         const data::Host host;
-        const std::wstring ofUser = L"F_UID=" + host.UserId();
+        const std::wstring ofUser = L"F_UID=" + host.UserIdLiteral();
         const std::wstring sql = whereOrSql.empty() ? ofUser : whereOrSql + L" And " + ofUser;
         RequireAccepted(host.OpenRecordsetByString(recordset, sql), L"OpenRecordsetByString");
         return false;
@@ -37,8 +37,8 @@ bool UpdateUserRows(const std::wstring& setClause, const std::wstring& tableName
     return state::Trapped(true, [&] {
         const data::Host host;
         // Without a condition of its own the statement names P_UID, which is what the host has always seen.
-        const std::wstring where =
-            whereClause.empty() ? L"P_UID=" + host.UserId() : whereClause + L" And F_UID=" + host.UserId();
+        const std::wstring where = whereClause.empty() ? L"P_UID=" + host.UserIdLiteral()
+                                                       : whereClause + L" And F_UID=" + host.UserIdLiteral();
         RequireAccepted(host.Update(tableName, setClause, where), L"Update");
         return false;
     });
@@ -49,8 +49,9 @@ bool InsertUserRow(const std::wstring& columnList, const std::wstring& valueList
 {
     return state::Trapped(true, [&] {
         const data::Host host;
-        RequireAccepted(host.Insert(tableName, columnList + L",F_UID", valueList + L"," + host.UserId()),
-                        L"Insert");
+        RequireAccepted(
+            host.Insert(tableName, columnList + L",F_UID", valueList + L"," + host.UserIdLiteral()),
+            L"Insert");
         return false;
     });
 }

@@ -3,19 +3,24 @@
 #include "automation/Text.h"
 #include "data/AccountInfo.h"
 #include "data/FieldFormat.h"
+#include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
 #include "data/SqlFragments.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 
+#include <optional>
+
 namespace contacts
 {
 
 using automation::Object;
 using automation::TextOrEmpty;
+using automation::Trimmed;
 using automation::Value;
 using data::Host;
+using data::QuotedText;
 using data::RowColumns;
 
 namespace
@@ -43,11 +48,6 @@ struct Links
     std::wstring account;
     std::wstring address;
 };
-
-std::wstring Quoted(const std::wstring& key)
-{
-    return L"'" + key + L"'";
-}
 
 bool MayChangeAccounts(long operation)
 {
@@ -82,7 +82,8 @@ std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue, co
     RowColumns address(catalogue, data::kNewRecord);
     AddAddressColumns(item, address);
     std::wstring key = host.NewGuid();
-    InsertRow(host, L"TBLADDRESS", L"F_ADDRID,F_ACCID", Quoted(key) + L"," + Quoted(account), address);
+    InsertRow(host, L"TBLADDRESS", L"F_ADDRID,F_ACCID", QuotedText(key) + L"," + QuotedText(account),
+              address);
     return key;
 }
 
@@ -96,14 +97,14 @@ std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue,
     }
     RowColumns address(catalogue, data::kExistingRecord);
     AddAddressColumns(item, address);
-    data::Demand(host.Update(L"TBLADDRESS", address.SetList, L"F_ADDRID=" + Quoted(key)) == 0, L"Update");
+    data::Demand(host.Update(L"TBLADDRESS", address.SetList, L"F_ADDRID=" + QuotedText(key)) == 0, L"Update");
     return key;
 }
 
 // An account stands under its company's name as its column holds it: cut as it was when the account was made.
 std::wstring AccountFilter(data::FieldCatalogue& catalogue, const std::wstring& companyName)
 {
-    return L"F_ACCSNAME=" + data::QuotedText(data::TextAsHeld(catalogue, L"F_ACCSNAME", companyName));
+    return L"F_ACCSNAME=" + QuotedText(data::TextAsHeld(catalogue, L"F_ACCSNAME", companyName));
 }
 
 Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
@@ -113,7 +114,7 @@ Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const
     {
         return {}; // and without an account there is nothing that an address could belong to
     }
-    const std::wstring account = CreateAccount(host, catalogue, companyName);
+    const std::wstring account = CreateAccount(host, catalogue, companyName, UndoneBy::Transaction);
     return {account, CreateAddress(host, catalogue, item, account)};
 }
 
@@ -126,34 +127,71 @@ Links LinksOfFoundAccount(const Host& host, data::FieldCatalogue& catalogue, con
                                      : OverwriteAddress(host, catalogue, item, address)};
 }
 
+void OpenAccounts(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName,
+                  automation::Recordset& accounts)
+{
+    data::Demand(host.OpenRecordset(accounts, L"AccountMyAccount", AccountFilter(catalogue, companyName)) >=
+                     0,
+                 L"OpenRecordset");
+}
+
 Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
                      const std::wstring& companyName)
 {
     automation::Recordset accounts;
     const automation::ClosesRecordset closes(accounts);
-    data::Demand(host.OpenRecordset(accounts, L"AccountMyAccount", AccountFilter(catalogue, companyName)) >=
-                     0,
-                 L"OpenRecordset");
+    OpenAccounts(host, catalogue, companyName, accounts);
     return accounts.AtEnd() ? LinksOfNewAccount(host, catalogue, item, companyName)
                             : LinksOfFoundAccount(host, catalogue, item, accounts);
 }
 
-// An appointment is written outside any transaction, so there is no rollback for the account of its company:
-// an account in part would be found and used from then on.
+// A transaction that is pending all the same is the host's own, and with it what becomes of the account.
 void TakeAccountBack(const Host& host, const std::wstring& key)
 {
     state::Trapped(false, [&] {
         if (!host.InTransaction())
         {
-            const std::wstring condition = L"F_ACCID=" + Quoted(key);
-            host.Delete(L"TBLACCINFO", condition);
-            host.Delete(L"TBLACCOUNT", condition);
+            host.Delete(L"TBLACCOUNT", L"F_ACCID=" + QuotedText(key));
         }
         return true;
     });
 }
 
-// A link that could not be made for want of a right must not cost an existing contact the one that it has.
+// The account of the contact in the host; nothing when the host cannot say.
+std::optional<std::wstring> PresentAccount(const std::wstring& contactKey)
+{
+    return state::Trapped(std::optional<std::wstring>(), [&] {
+        return std::optional(
+            TextOrEmpty(data::FindValue(L"TBLCONTACT", L"F_CNTCTID", contactKey, L"F_ACCID")));
+    });
+}
+
+bool IsSameCompany(const std::wstring& one, const std::wstring& other)
+{
+    return automation::UpperCased(Trimmed(one)) == automation::UpperCased(Trimmed(other));
+}
+
+// Looks under the name that the host has, for the account that the contact has: another one may have the same
+// name. No links where that account is not to be seen, so that the contact stays with it.
+Links LinksOfPresentAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+                            const PresentContact& present)
+{
+    const auto account = PresentAccount(present.Key);
+    if (!account)
+    {
+        return {};
+    }
+    automation::Recordset accounts;
+    const automation::ClosesRecordset closes(accounts);
+    OpenAccounts(host, catalogue, present.Company, accounts);
+    while (!accounts.AtEnd() && TextOrEmpty(accounts.ValueOf(L"F_ACCID")) != *account)
+    {
+        accounts.MoveNext();
+    }
+    return accounts.AtEnd() ? Links() : LinksOfFoundAccount(host, catalogue, item, accounts);
+}
+
+// A link that is not made because a right is missing must not cost an existing contact the one that it has.
 void AddLink(RowColumns& contact, const wchar_t* column, const std::wstring& key)
 {
     if (contact.Mode() == data::kNewRecord || !key.empty())
@@ -162,10 +200,10 @@ void AddLink(RowColumns& contact, const wchar_t* column, const std::wstring& key
     }
 }
 
-// Whether the contact in the host belongs to this account.
-bool BelongsTo(const std::wstring& contactKey, const std::wstring& account)
+// Whether the contact goes to another account; false when the host cannot say.
+bool Leaves(const std::wstring& contactKey, const std::wstring& account)
 {
-    return TextOrEmpty(data::FindValue(L"TBLCONTACT", L"F_CNTCTID", contactKey, L"F_ACCID")) == account;
+    return PresentAccount(contactKey).value_or(account) != account;
 }
 
 // An address belongs to its account: a contact that goes to another account does not take the address along,
@@ -175,7 +213,7 @@ void AddLinks(RowColumns& contact, const Links& links, const std::wstring& conta
     AddLink(contact, L"F_ACCID", links.account);
     AddLink(contact, L"F_CNTADDRID", links.address);
     const bool isAccountOnly = !links.account.empty() && links.address.empty();
-    if (contact.Mode() == data::kExistingRecord && isAccountOnly && !BelongsTo(contactKey, links.account))
+    if (contact.Mode() == data::kExistingRecord && isAccountOnly && Leaves(contactKey, links.account))
     {
         contact.Add(L"F_CNTADDRID", Value::Null());
     }
@@ -183,36 +221,43 @@ void AddLinks(RowColumns& contact, const Links& links, const std::wstring& conta
 
 } // namespace
 
-std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName)
+std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName,
+                           UndoneBy undoneBy)
 {
     RowColumns account(catalogue, data::kNewRecord);
     account.Add(L"F_ACCSNAME", companyName);
     account.Add(L"F_ACCCURRIDX", resources::IsChinese() ? kChineseCurrency : kOtherCurrency);
     std::wstring key = host.NewGuid();
+    InsertRow(host, L"TBLACCOUNT", L"F_ACCID", QuotedText(key), account);
     try
     {
-        InsertRow(host, L"TBLACCOUNT", L"F_ACCID", Quoted(key), account);
-        data::Demand(data::AddAccountInfo(key) == 0, L"AddAccountInfo");
+        data::InsertAccountInfo(host, key);
     }
     catch (...)
     {
-        TakeAccountBack(host, key);
+        if (undoneBy == UndoneBy::Hand)
+        {
+            TakeAccountBack(host, key);
+        }
         throw;
     }
     return key;
 }
 
-void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact,
-                     const std::wstring& contactKey)
+void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact, const PresentContact& present)
 {
-    const std::wstring companyName = TextOrEmpty(item.Get(L"CompanyName"));
+    const std::wstring companyName = Trimmed(TextOrEmpty(item.Get(L"CompanyName")));
     if (companyName.empty())
     {
         contact.Add(L"F_ACCID", Value::Null());
         contact.Add(L"F_CNTADDRID", Value::Null());
         return;
     }
-    AddLinks(contact, LinksOfCompany(host, contact.Catalogue(), item, companyName), contactKey);
+    const bool stays = contact.Mode() == data::kExistingRecord && IsSameCompany(companyName, present.Company);
+    AddLinks(contact,
+             stays ? LinksOfPresentAccount(host, contact.Catalogue(), item, present)
+                   : LinksOfCompany(host, contact.Catalogue(), item, companyName),
+             present.Key);
 }
 
 } // namespace contacts

@@ -4,6 +4,7 @@
 #include "contacts/ContactFieldsFromOutlook.h"
 #include "data/ApplyFromOutlook.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "state/Failures.h"
 #include "ui/ShowMessageBox.h"
 
@@ -12,6 +13,7 @@ namespace contacts
 
 using automation::Object;
 using data::Host;
+using data::QuotedText;
 using data::RowColumns;
 
 namespace
@@ -25,7 +27,8 @@ constexpr data::PassFromOutlook kContacts{
 void Insert(const Host& host, const Object& item, RowColumns& contact)
 {
     AddAccountLinks(host, item, contact);
-    const std::wstring keys = L"'" + host.NewGuid() + L"','" + host.UserId() + L"',";
+    const std::wstring key = QuotedText(host.NewGuid());
+    const std::wstring keys = key + L"," + QuotedText(host.UserId()) + L",";
     data::Demand(
         host.Insert(L"TBLCONTACT", L"F_CNTCTID,F_CREATORID," + contact.Fields, keys + contact.Values) >= 0,
         L"Insert");
@@ -34,10 +37,11 @@ void Insert(const Host& host, const Object& item, RowColumns& contact)
 void Update(const Host& host, const automation::Recordset& rows, const Object& item, RowColumns& contact)
 {
     const std::wstring id = automation::TextOf(rows.ValueOf(L"F_CNTCTID"));
-    AddAccountLinks(host, item, contact, id);
+    AddAccountLinks(host, item, contact, {id, automation::TextOrEmpty(rows.ValueOf(L"ACC_SNAME"))});
     if (!contact.SetList.empty())
     {
-        data::Demand(host.Update(L"TBLCONTACT", contact.SetList, L"F_CNTCTID='" + id + L"'") == 0, L"Update");
+        data::Demand(host.Update(L"TBLCONTACT", contact.SetList, L"F_CNTCTID=" + QuotedText(id)) == 0,
+                     L"Update");
     }
 }
 

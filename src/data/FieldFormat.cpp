@@ -3,12 +3,15 @@
 #include "automation/Dates.h"
 #include "automation/Error.h"
 #include "automation/Text.h"
+#include "data/Literals.h"
+#include "resources/Strings.h"
 #include "state/Failures.h"
 #include "ui/ShowMessageBox.h"
 
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <optional>
 
 namespace data
 {
@@ -26,11 +29,6 @@ constexpr Moment kFirstMoment{1753, 1, 1};
 constexpr Moment kLastDay{9999, 12, 30};
 constexpr Moment kLastMoment{9999, 12, 30, 23, 59};
 
-std::wstring Quoted(const std::wstring& text)
-{
-    return L"'" + text + L"'";
-}
-
 Date Clamped(Date date, const Moment& last)
 {
     const Date first = automation::DateOf(kFirstMoment);
@@ -45,10 +43,19 @@ bool IsNumber(const Value& value)
     return std::find(std::begin(kNumbers), std::end(kNumbers), value.Type()) != std::end(kNumbers);
 }
 
-// A number stands for itself; anything else must be readable as one, so that no text reaches a statement
-// without quotes. What automation calls a number and SQL does not (infinity) is a word there, not a literal.
+// A number stands for itself, and so does a text that is one. Automation would read other texts as numbers as
+// well, but as other ones than SQL ("1,5", "(12)", "&H10"): no text is interpreted. What automation calls a
+// number and SQL does not (infinity) is a word there, not a literal.
 Value NumberLiteral(const Value& value, const FieldDescription& /*field*/)
 {
+    if (value.Type() == VT_BSTR)
+    {
+        if (!IsPlainNumber(automation::TextOf(value)))
+        {
+            throw automation::Error(DISP_E_TYPEMISMATCH, L"number");
+        }
+        return value;
+    }
     const double number = automation::DoubleOf(value);
     if (!std::isfinite(number))
     {
@@ -77,25 +84,33 @@ Value TextLiteral(const Value& value, const FieldDescription& field)
     return QuotedText(CutAsDoubled(automation::TextOf(value), LongOf(field.FieldSize)));
 }
 
+// What has no truth value does not equal False either.
 Value FlagLiteral(const Value& value, const FieldDescription& /*field*/)
 {
-    return automation::TruthOf(value) ? L"1" : L"0";
+    try
+    {
+        return automation::TruthOf(value) ? L"1" : L"0";
+    }
+    catch (const automation::Error&)
+    {
+        return L"1";
+    }
 }
 
 Value DateLiteral(const Value& value, const FieldDescription& /*field*/)
 {
-    return Quoted(automation::Formatted(Clamped(automation::DateOf(value), kLastDay), L"mm/dd/yyyy"));
+    return QuotedText(automation::Formatted(Clamped(automation::DateOf(value), kLastDay), L"mm/dd/yyyy"));
 }
 
 Value TimeLiteral(const Value& value, const FieldDescription& /*field*/)
 {
-    return Quoted(automation::Formatted(automation::DateOf(value), L"hh:mm:00"));
+    return QuotedText(automation::Formatted(automation::DateOf(value), L"hh:mm:00"));
 }
 
 Value DateTimeLiteral(const Value& value, const FieldDescription& /*field*/)
 {
     const Date date = Clamped(automation::DateOf(value), kLastMoment);
-    return Quoted(automation::Formatted(date, L"mm/dd/yyyy hh:mm:00"));
+    return QuotedText(automation::Formatted(date, L"mm/dd/yyyy hh:mm:00"));
 }
 
 using Formatter = Value (*)(const Value& value, const FieldDescription& field);
@@ -114,24 +129,30 @@ bool IsText(const FieldDescription& field)
     return type == kText || type == kLongText;
 }
 
-long Format(const FieldDescription& field, const std::wstring& column, Value& value)
-{
-    const long type = LongOf(field.FieldType);
-    if (type < 1 || type > static_cast<long>(std::size(kFormatters)))
-    {
-        ui::ShowMessageBox(L"Don't format:" + column, MB_OK, L"FormatFieldlValue");
-        return 0;
-    }
-    value = kFormatters[type - 1](value, field);
-    return 0;
-}
-
-long ReportUnknownColumn(const std::wstring& column)
+[[noreturn]] void ReportUnknownColumn(const std::wstring& column)
 {
     ui::ShowMessageBox(L"Don't find " + column + L"field in table 'SynFields', can't format ", MB_ICONERROR,
                        L"GetFieldType");
-    state::LogError();
-    return -1;
+    throw automation::Error(DISP_E_UNKNOWNNAME, column,
+                            resources::Choose(L"SynFields 中没有该字段", L"SynFields has no such column"));
+}
+
+// Nothing for a column of an unknown type, which shows a message box. Throws automation::Error when the value
+// cannot be formatted.
+std::optional<Value> Format(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)
+{
+    const FieldDescription* const field = catalogue.Find(column);
+    if (field == nullptr)
+    {
+        ReportUnknownColumn(column);
+    }
+    const long type = LongOf(field->FieldType);
+    if (type < 1 || type > static_cast<long>(std::size(kFormatters)))
+    {
+        ui::ShowMessageBox(L"Don't format:" + column, MB_OK, L"FormatFieldlValue");
+        return std::nullopt;
+    }
+    return kFormatters[type - 1](value, *field);
 }
 
 bool IsPair(wchar_t first, wchar_t second)
@@ -144,9 +165,31 @@ bool IsPair(wchar_t first, wchar_t second)
 long FormatFieldlValue(FieldCatalogue& catalogue, const std::wstring& column, Value& value)
 {
     return state::Trapped(-1L, [&] {
-        const FieldDescription* const field = catalogue.Find(column);
-        return field == nullptr ? ReportUnknownColumn(column) : Format(*field, column, value);
+        if (auto formatted = Format(catalogue, column, value))
+        {
+            value = std::move(*formatted);
+        }
+        return 0L;
     });
+}
+
+std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)
+{
+    if (automation::IsAbsent(value))
+    {
+        return L"NULL";
+    }
+    try
+    {
+        const auto formatted = Format(catalogue, column, value);
+        return formatted ? automation::TextOf(*formatted) : NumberOrQuotedText(automation::TextOf(value));
+    }
+    catch (const automation::Error& error)
+    {
+        throw automation::Error(error.Code(), column,
+                                column + resources::Choose(L" 无法格式化: ", L" cannot be formatted: ") +
+                                    error.Description());
+    }
 }
 
 std::wstring TextAsHeld(FieldCatalogue& catalogue, const std::wstring& column, const std::wstring& text)
@@ -156,11 +199,6 @@ std::wstring TextAsHeld(FieldCatalogue& catalogue, const std::wstring& column, c
     return field == nullptr ? text : state::Trapped(text, [&] {
         return IsText(*field) ? CutAsDoubled(text, LongOf(field->FieldSize)) : text;
     });
-}
-
-std::wstring QuotedText(const std::wstring& text)
-{
-    return Quoted(automation::Replaced(text, L"'", L"''"));
 }
 
 std::wstring TruncateToFieldSize(const std::wstring& text, long size)

@@ -16,13 +16,15 @@ namespace data
 // leaves the value as it is.
 long FormatFieldlValue(FieldCatalogue& catalogue, const std::wstring& column, automation::Value& value);
 
+// FormatFieldlValue for callers that report the error themselves: the value, whatever it is, as one literal
+// of a statement; NULL for an absent value. Of a column of an unknown type a plain number stays as it is,
+// anything else is quoted. Throws automation::Error that names the column where FormatFieldlValue returns -1.
+std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, const automation::Value& value);
+
 // The text as the column holds it once it has been written there: cut to the column's size. The whole of it
 // for a column that the catalogue does not describe as a text of some size. Throws automation::Error when the
 // catalogue cannot be read.
 std::wstring TextAsHeld(FieldCatalogue& catalogue, const std::wstring& column, const std::wstring& text);
-
-// The text as an SQL literal, whatever it holds: apostrophes doubled, in quotes.
-std::wstring QuotedText(const std::wstring& text);
 
 // The text cut to a size in single-byte characters: a character beyond U+00FF counts two, and none is split
 // (a surrogate pair is one character).

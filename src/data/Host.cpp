@@ -1,6 +1,7 @@
 #include "data/Host.h"
 
 #include "automation/Error.h"
+#include "data/Literals.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
@@ -61,6 +62,11 @@ std::wstring Host::UserId() const
     return TextOf(mDtc.GetObject(L"MyInfo").Get(L"UID"));
 }
 
+std::wstring Host::UserIdLiteral() const
+{
+    return NumberOrQuotedText(UserId());
+}
+
 long Host::PermissionOn(long module, long function, long right) const
 {
     return LongOf(
@@ -92,11 +98,11 @@ void Host::RollbackTrans() const
     mDtc.Call(L"RollbackTrans");
 }
 
-void Demand(bool accepted, const wchar_t* member)
+void Demand(bool accepted, const wchar_t* member, long code)
 {
     if (!accepted)
     {
-        throw automation::Error(E_FAIL, member,
+        throw automation::Error(code, member,
                                 resources::Choose(L"主系统报告操作失败", L"The host reported a failure"));
     }
 }

@@ -35,8 +35,9 @@ class Host
 
     // A fresh key for a new row.
     std::wstring NewGuid() const;
-    // The signed-in user's id.
+    // The signed-in user's id; and as it stands without quotes in a statement.
     std::wstring UserId() const;
+    std::wstring UserIdLiteral() const;
     // The host's answer to a rights check: 0 and 3 permit.
     long PermissionOn(long module, long function, long right) const;
     // The host's clock, which the calendar uses instead of the machine's.
@@ -51,9 +52,9 @@ class Host
     automation::Object mDtc;
 };
 
-// Turns a status that the contract calls a failure into an automation::Error (E_FAIL) naming the member, so
-// that a refused call and one that raises an error leave a routine by the same road.
-void Demand(bool accepted, const wchar_t* member);
+// Turns a status that the contract calls a failure into an automation::Error naming the member, so that a
+// refused call and one that raises an error leave a routine by the same road. code: the error's number.
+void Demand(bool accepted, const wchar_t* member, long code = E_FAIL);
 
 // One host transaction, begun with the object: Commit ends it well, any other way out of the scope rolls it
 // back. Neither is asked of the host when the host says that no transaction is pending.

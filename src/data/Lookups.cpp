@@ -1,7 +1,9 @@
 #include "data/Lookups.h"
 
 #include "automation/Error.h"
+#include "automation/Text.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "state/Failures.h"
 
 namespace data
@@ -20,12 +22,25 @@ Value FindByCondition(const std::wstring& table, const std::wstring& condition,
                            resultColumn);
 }
 
+bool IsTruth(const std::wstring& key)
+{
+    const std::wstring word = automation::UpperCased(key);
+    return word == L"TRUE" || word == L"FALSE";
+}
+
+std::wstring TypedLiteral(const std::wstring& key, const std::wstring& keyType)
+{
+    const bool isQuoted = keyType == kTextKey || keyType == kDateKey;
+    const bool isWord = keyType == kFlagKey && IsTruth(key);
+    return isQuoted ? QuotedText(key) : isWord ? key : NumberOrQuotedText(key);
+}
+
 } // namespace
 
 Value FindValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
                 const std::wstring& resultColumn)
 {
-    return FindByCondition(table, keyColumn + L"= '" + key + L"'", resultColumn);
+    return FindByCondition(table, keyColumn + L"= " + QuotedText(key), resultColumn);
 }
 
 long LookupValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
@@ -40,9 +55,8 @@ long LookupValue(const std::wstring& table, const std::wstring& keyColumn, const
 long LookupTypedValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
                       const std::wstring& keyType, const std::wstring& resultColumn, Value& result)
 {
-    const bool quoted = keyType == kTextKey || keyType == kDateKey;
     return state::Trapped(-1L, [&] {
-        result = FindByCondition(table, keyColumn + L"=" + (quoted ? L"'" + key + L"'" : key), resultColumn);
+        result = FindByCondition(table, keyColumn + L"=" + TypedLiteral(key, keyType), resultColumn);
         return 0L;
     });
 }
@@ -51,7 +65,8 @@ Value ValueInFirstRow(const std::wstring& statement, const std::wstring& column)
 {
     automation::Recordset rows;
     const automation::ClosesRecordset closes(rows);
-    Demand(Host().OpenRecordsetByString(rows, statement) >= 0, L"OpenRecordsetByString");
+    const long status = Host().OpenRecordsetByString(rows, statement);
+    Demand(status >= 0, L"OpenRecordsetByString", status);
     return rows.AtEnd() ? Value(L"") : rows.ValueOf(column);
 }
 

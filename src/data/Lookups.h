@@ -1,5 +1,5 @@
-// One value of one host row, by a key. The statements go to the host as the contract words them: keys are not
-// escaped, so a key with an apostrophe makes a statement that the host refuses, which is a failed lookup.
+// One value of one host row, by a key. The statements go to the host as the contract words them, each key as
+// one literal.
 #pragma once
 
 #include "automation/Value.h"
@@ -19,7 +19,8 @@ inline constexpr wchar_t kFlagKey[] = L"Boolean";
 long LookupValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
                  const std::wstring& resultColumn, automation::Value& result);
 
-// As LookupValue; the key stands between single quotes when its type is "String" or "Date", else without.
+// As LookupValue; the key stands between single quotes when its type is "String" or "Date". Of other types a
+// plain number stands without, as do the words True and False of a "Boolean"; anything else is quoted.
 long LookupTypedValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
                       const std::wstring& keyType, const std::wstring& resultColumn,
                       automation::Value& result);

@@ -6,7 +6,7 @@ namespace data
 {
 
 using automation::Recordset;
-using automation::TextOf;
+using automation::TextOrEmpty;
 
 void RelationTable::Use(std::wstring statement, const automation::OpenOptions& options)
 {
@@ -24,8 +24,12 @@ const std::vector<RelationRow>& RelationTable::Rows()
         std::vector<RelationRow> rows;
         for (; !relations.AtEnd(); relations.MoveNext())
         {
-            rows.push_back(
-                {TextOf(relations.ValueOf(L"EnglishName")), TextOf(relations.ValueOf(L"OutlookName"))});
+            RelationRow row{TextOrEmpty(relations.ValueOf(L"EnglishName")),
+                            TextOrEmpty(relations.ValueOf(L"OutlookName"))};
+            if (!row.EnglishName.empty() && !row.OutlookName.empty())
+            {
+                rows.push_back(std::move(row));
+            }
         }
         mRows = std::move(rows);
     }

@@ -24,7 +24,8 @@ class RelationTable
     // statement: the SELECT that names the host table; options: how ADO opens it.
     void Use(std::wstring statement, const automation::OpenOptions& options);
 
-    // The rows in the order of the database. Throws automation::Error when they cannot be read.
+    // The rows in the order of the database; a row with an empty or NULL cell relates nothing and is left
+    // out. Throws automation::Error when they cannot be read.
     const std::vector<RelationRow>& Rows();
 
   private:

@@ -1,6 +1,5 @@
 #include "data/RowColumns.h"
 
-#include "data/Host.h"
 #include "data/SqlFragments.h"
 
 namespace data
@@ -8,9 +7,14 @@ namespace data
 
 void RowColumns::Add(const std::wstring& column, const automation::Value& value)
 {
-    const long result = mMode == kNewRecord ? AddInsertField(mCatalogue, Fields, column, Values, value)
-                                            : AddUpdateField(mCatalogue, SetList, column, value);
-    Demand(result == 0, column.c_str());
+    if (mMode == kNewRecord)
+    {
+        InsertField(mCatalogue, Fields, column, Values, value);
+    }
+    else
+    {
+        UpdateField(mCatalogue, SetList, column, value);
+    }
 }
 
 } // namespace data

@@ -1,9 +1,8 @@
 #include "data/SqlFragments.h"
 
 #include "data/FieldFormat.h"
+#include "data/Literals.h"
 #include "state/Failures.h"
-
-#include <optional>
 
 namespace data
 {
@@ -13,43 +12,10 @@ using automation::Value;
 namespace
 {
 
+// A name that holds anything but a name would change the statement: it is no column of the host's either.
 bool IsWritable(const std::wstring& column)
 {
-    return column.starts_with(L"F_");
-}
-
-// Nothing when the value cannot be formatted.
-std::optional<std::wstring> LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, Value value)
-{
-    if (IsAbsent(value))
-    {
-        return L"NULL";
-    }
-    if (FormatFieldlValue(catalogue, column, value) != 0)
-    {
-        return std::nullopt;
-    }
-    return automation::TextOf(value);
-}
-
-// Hands the column's literal to append. The routine's own trap stands around everything that it does.
-template<typename Append>
-long AddField(FieldCatalogue& catalogue, const std::wstring& column, const Value& value, Append append)
-{
-    if (!IsWritable(column))
-    {
-        return 0;
-    }
-    return state::Trapped(-1L, [&] {
-        const std::optional<std::wstring> literal = LiteralOf(catalogue, column, value);
-        if (!literal)
-        {
-            state::LogError();
-            return -1L;
-        }
-        append(*literal);
-        return 0L;
-    });
+    return column.starts_with(L"F_") && IsColumnName(column);
 }
 
 } // namespace
@@ -66,17 +32,39 @@ void AppendEntry(std::wstring& list, std::wstring_view entry)
 long AddInsertField(FieldCatalogue& catalogue, std::wstring& fields, const std::wstring& column,
                     std::wstring& values, const Value& value)
 {
-    return AddField(catalogue, column, value, [&](const std::wstring& literal) {
-        AppendEntry(fields, column);
-        AppendEntry(values, literal);
+    return state::Trapped(-1L, [&] {
+        InsertField(catalogue, fields, column, values, value);
+        return 0L;
     });
 }
 
 long AddUpdateField(FieldCatalogue& catalogue, std::wstring& setList, const std::wstring& column,
                     const Value& value)
 {
-    return AddField(catalogue, column, value,
-                    [&](const std::wstring& literal) { AppendEntry(setList, column + L"=" + literal); });
+    return state::Trapped(-1L, [&] {
+        UpdateField(catalogue, setList, column, value);
+        return 0L;
+    });
+}
+
+void InsertField(FieldCatalogue& catalogue, std::wstring& fields, const std::wstring& column,
+                 std::wstring& values, const Value& value)
+{
+    if (IsWritable(column))
+    {
+        const std::wstring literal = LiteralOf(catalogue, column, value);
+        AppendEntry(fields, column);
+        AppendEntry(values, literal);
+    }
+}
+
+void UpdateField(FieldCatalogue& catalogue, std::wstring& setList, const std::wstring& column,
+                 const Value& value)
+{
+    if (IsWritable(column))
+    {
+        AppendEntry(setList, column + L"=" + LiteralOf(catalogue, column, value));
+    }
 }
 
 } // namespace data

@@ -23,4 +23,10 @@ long AddInsertField(FieldCatalogue& catalogue, std::wstring& fields, const std::
 long AddUpdateField(FieldCatalogue& catalogue, std::wstring& setList, const std::wstring& column,
                     const automation::Value& value);
 
+// The two for callers that report the error themselves: throw automation::Error where they return -1.
+void InsertField(FieldCatalogue& catalogue, std::wstring& fields, const std::wstring& column,
+                 std::wstring& values, const automation::Value& value);
+void UpdateField(FieldCatalogue& catalogue, std::wstring& setList, const std::wstring& column,
+                 const automation::Value& value);
+
 } // namespace data

@@ -31,7 +31,7 @@ Date TimeOrZero(const Value& value)
 
 Date EndOfDay(Date day)
 {
-    return {automation::DayOf(day).days + 1};
+    return {automation::DayOf(day).days + 1}; // a whole number, also for the last day that there is
 }
 
 // The last moment of what repeats: without a last date it never ends.
@@ -50,7 +50,7 @@ Date EndOfSingleRow(const Recordset& rows, Date start)
         return start;
     }
     const Date end = automation::PlusTime(automation::DayOf(start), automation::MinuteOfDay(*endTime));
-    return end < start ? Date{end.days + 1} : end;
+    return automation::IsEarlier(end, start) ? automation::PlusMinutes(end, 1440) : end;
 }
 
 Date EndOfPattern(const Object& item)

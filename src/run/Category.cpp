@@ -23,7 +23,7 @@ using automation::Recordset;
 
 std::wstring EntriesOfUser(const data::Host& host)
 {
-    return L"F_ACTORID=" + host.UserId();
+    return L"F_ACTORID=" + host.UserIdLiteral();
 }
 
 Filters KeepAll(const state::SynParameter& /*parameter*/, const data::Host& /*host*/)

@@ -14,9 +14,9 @@ bool IsOfOutlook8(const automation::Object& item);
 using AcceptsContact = bool (*)(const automation::Object& contact);
 
 // Adds a link to the contact of this name to the item, which is then to be saved; further links stay, so that
-// a second call adds a second link. Does nothing when either name is Null or Empty, or when accepts (null for
-// no condition) refuses the contact found; a contact that is not found is created. Throws automation::Error
-// when Outlook refuses, as it does for a name with a double quote.
+// a second call adds a second link. Does nothing when either name is Null, Empty or the empty text, or when
+// accepts (null for no condition) refuses the contact found; a contact that is not found is created. Throws
+// automation::Error when Outlook refuses, as it does for a name with a double quote.
 void LinkContact(const automation::Object& item, const automation::Value& surname,
                  const automation::Value& givenName, AcceptsContact accepts = nullptr);
 

@@ -1,8 +1,9 @@
 #include "tasks/TaskLinks.h"
 
 #include "automation/Error.h"
-#include "contacts/Accounts.h"
+#include "automation/Text.h"
 #include "data/FieldFormat.h"
+#include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
 #include "data/SqlFragments.h"
@@ -25,14 +26,43 @@ constexpr wchar_t kContactColumn[] = L"F_CNTCTID";
 constexpr wchar_t kAccountColumn[] = L"F_ACCID";
 constexpr wchar_t kNull[] = L"NULL";
 
-// One literal whatever the key holds: the lookup's statement carries a text from Outlook as it is, so that
-// what it finds need not be a key of the host's making.
+// What a builder appends; nothing when the column is to stay as the host has it.
+using Link = std::optional<std::wstring>;
+
+// The lookup has failed, and the user has been shown why.
+struct FailedLookup : automation::Error
+{
+    using Error::Error;
+};
+
+// As scripts number errors: those of a range reserved for that without the range.
+long NumberOf(const automation::Error& error)
+{
+    const HRESULT code = error.Code();
+    return HRESULT_FACILITY(code) == FACILITY_CONTROL && FAILED(code) ? HRESULT_CODE(code) : code;
+}
+
+std::wstring FindKey(const wchar_t* builder, const wchar_t* table, const wchar_t* keyColumn,
+                     const std::wstring& name, const wchar_t* resultColumn)
+{
+    try
+    {
+        return TextOrEmpty(data::FindValue(table, keyColumn, name, resultColumn));
+    }
+    catch (const automation::Error& error)
+    {
+        ui::ShowMessageBox(std::to_wstring(NumberOf(error)) + L":" + error.Description(), MB_ICONERROR,
+                           builder);
+        throw FailedLookup(error.Code(), error.Member(), error.Description());
+    }
+}
+
 std::wstring LiteralOfKey(const std::wstring& key)
 {
     return key.empty() ? kNull : data::QuotedText(key);
 }
 
-std::wstring LiteralOfContact(const Object& item)
+std::wstring LiteralOfContact(const wchar_t* builder, const Object& item)
 {
     if (!data::HasPermission(data::kContactRecord, data::kUsualScope, data::kModifyOperation) ||
         IsOfOutlook8(item))
@@ -41,17 +71,8 @@ std::wstring LiteralOfContact(const Object& item)
     }
     const std::wstring names = TextOrEmpty(item.Get(L"ContactNames"));
     return names.empty() ? kNull
-                         : LiteralOfKey(TextOrEmpty(data::FindValue(L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME",
-                                                                    names, kContactColumn)));
-}
-
-// An account stands under its company's name as its column holds it: a longer name was cut when the account
-// was made, and is found again by what is left of it.
-std::wstring KeyOfAccount(data::FieldCatalogue& catalogue, const std::wstring& companies)
-{
-    const std::wstring name = data::TextAsHeld(catalogue, L"F_ACCSNAME", companies);
-    const std::wstring key = TextOrEmpty(data::FindValue(L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn));
-    return key.empty() ? contacts::CreateAccount(data::Host(), catalogue, companies) : key;
+                         : LiteralOfKey(FindKey(builder, L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", names,
+                                                kContactColumn));
 }
 
 bool MayChangeAccounts(long operation)
@@ -59,20 +80,32 @@ bool MayChangeAccounts(long operation)
     return data::HasPermission(data::kAccountRecord, data::kUsualScope, operation);
 }
 
-// Nothing when the account is to stay as the host has it.
-std::optional<std::wstring> LiteralOfAccount(data::FieldCatalogue& catalogue, const Object& item)
+// What the account builders work with.
+struct AccountLink
 {
-    const std::wstring companies = TextOrEmpty(item.Get(L"Companies"));
-    if (companies.empty() && MayChangeAccounts(data::kModifyOperation))
+    const wchar_t* Builder;
+    data::FieldCatalogue& Catalogue;
+    contacts::UndoneBy UndoneBy;
+
+    // An account is stored under its company's name cut to the column: a longer name is found by what is left
+    // of it.
+    std::wstring KeyOf(const std::wstring& company) const
     {
-        return kNull;
+        const std::wstring name = data::TextAsHeld(Catalogue, L"F_ACCSNAME", company);
+        const std::wstring key = FindKey(Builder, L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn);
+        return key.empty() ? contacts::CreateAccount(data::Host(), Catalogue, company, UndoneBy) : key;
     }
-    if (MayChangeAccounts(data::kAddOperation))
+
+    Link LiteralOf(const Object& item) const
     {
-        return LiteralOfKey(KeyOfAccount(catalogue, companies));
+        const std::wstring company = automation::Trimmed(TextOrEmpty(item.Get(L"Companies")));
+        if (company.empty())
+        {
+            return MayChangeAccounts(data::kModifyOperation) ? Link(kNull) : Link();
+        }
+        return MayChangeAccounts(data::kAddOperation) ? Link(LiteralOfKey(KeyOf(company))) : Link();
     }
-    return std::nullopt;
-}
+};
 
 void AppendInsert(std::wstring& fields, std::wstring& values, const wchar_t* column,
                   const std::wstring& literal)
@@ -86,54 +119,55 @@ void AppendUpdate(std::wstring& setList, const wchar_t* column, const std::wstri
     data::AppendEntry(setList, std::wstring(column) + L"=" + literal);
 }
 
-// Runs the body of a builder; an error is shown under the builder's name, and is its failure.
+// -1 when a lookup failed; other errors go on to the writer.
 template<typename Build>
-long Reported(const wchar_t* builder, Build&& build)
+long WithoutFailedLookup(Build&& build)
 {
-    return state::Trapped(-1L, [&] {
-        try
-        {
-            build();
-            return 0L;
-        }
-        catch (const automation::Error& error)
-        {
-            ui::ShowMessageBox(std::to_wstring(error.Code()) + L":" + error.Description(), MB_ICONERROR,
-                               builder);
-            throw;
-        }
-    });
+    try
+    {
+        build();
+        return 0;
+    }
+    catch (const FailedLookup&)
+    {
+        state::LogError();
+        return -1;
+    }
 }
 
 } // namespace
 
 long ChangeNewTaskContact(const Object& item, std::wstring& fields, std::wstring& values)
 {
-    return Reported(L"ChangeNewTaskContact",
-                    [&] { AppendInsert(fields, values, kContactColumn, LiteralOfContact(item)); });
+    return WithoutFailedLookup([&] {
+        AppendInsert(fields, values, kContactColumn, LiteralOfContact(L"ChangeNewTaskContact", item));
+    });
 }
 
 long ChangeEditTaskContact(const Object& item, std::wstring& setList)
 {
-    return Reported(L"ChangeEditTaskContact",
-                    [&] { AppendUpdate(setList, kContactColumn, LiteralOfContact(item)); });
+    return WithoutFailedLookup(
+        [&] { AppendUpdate(setList, kContactColumn, LiteralOfContact(L"ChangeEditTaskContact", item)); });
 }
 
 long ChangeAddTaskAccount(data::FieldCatalogue& catalogue, const Object& item, std::wstring& fields,
-                          std::wstring& values)
+                          std::wstring& values, contacts::UndoneBy undoneBy)
 {
-    return Reported(L"ChangeAddTaskAccount", [&] {
-        if (const auto literal = LiteralOfAccount(catalogue, item))
+    return WithoutFailedLookup([&] {
+        const AccountLink link{L"ChangeAddTaskAccount", catalogue, undoneBy};
+        if (const auto literal = link.LiteralOf(item))
         {
             AppendInsert(fields, values, kAccountColumn, *literal);
         }
     });
 }
 
-long ChangeEditTaskAccount(data::FieldCatalogue& catalogue, const Object& item, std::wstring& setList)
+long ChangeEditTaskAccount(data::FieldCatalogue& catalogue, const Object& item, std::wstring& setList,
+                           contacts::UndoneBy undoneBy)
 {
-    return Reported(L"ChangeEditTaskAccount", [&] {
-        if (const auto literal = LiteralOfAccount(catalogue, item))
+    return WithoutFailedLookup([&] {
+        const AccountLink link{L"ChangeEditTaskAccount", catalogue, undoneBy};
+        if (const auto literal = link.LiteralOf(item))
         {
             AppendUpdate(setList, kAccountColumn, *literal);
         }

@@ -1,10 +1,12 @@
 // The links of a task or calendar entry to a host contact and a host account, as fragments of the lists of an
 // insert or of an update: what a link becomes depends on the user's rights and on what the host knows. Called
-// by the record writers inside their transaction. Each returns 0, or -1 when the host has failed; a message
-// box titled by the routine has then shown why.
+// by the record writers. Each returns 0, or -1 when the host has failed to look a key up; a message box
+// titled by the routine has then shown why. Any other failure throws automation::Error, for the writer to
+// report.
 #pragma once
 
 #include "automation/Object.h"
+#include "contacts/Accounts.h"
 #include "data/FieldCatalogue.h"
 
 #include <string>
@@ -17,13 +19,14 @@ namespace tasks
 long ChangeNewTaskContact(const automation::Object& item, std::wstring& fields, std::wstring& values);
 long ChangeEditTaskContact(const automation::Object& item, std::wstring& setList);
 
-// F_ACCID by the item's Companies: the account's key, with the account created where the host has none; NULL
-// for an item without a company. Nothing is added when the user has no right to either. For a user who may
-// add accounts but not modify them an item without a company is looked up like any other, as the contract has
-// it, and gets a new account without a name.
+// F_ACCID by the item's Companies: the account's key, with the account created where the host has none, for a
+// user who may add accounts; NULL for an item without a company, for a user who may modify them. Otherwise
+// nothing is added.
 long ChangeAddTaskAccount(data::FieldCatalogue& catalogue, const automation::Object& item,
-                          std::wstring& fields, std::wstring& values);
+                          std::wstring& fields, std::wstring& values,
+                          contacts::UndoneBy undoneBy = contacts::UndoneBy::Transaction);
 long ChangeEditTaskAccount(data::FieldCatalogue& catalogue, const automation::Object& item,
-                           std::wstring& setList);
+                           std::wstring& setList,
+                           contacts::UndoneBy undoneBy = contacts::UndoneBy::Transaction);
 
 } // namespace tasks

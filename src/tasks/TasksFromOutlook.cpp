@@ -3,6 +3,7 @@
 #include "automation/Dates.h"
 #include "data/ApplyFromOutlook.h"
 #include "data/Host.h"
+#include "data/Literals.h"
 #include "data/MappingFromOutlook.h"
 #include "data/SqlFragments.h"
 #include "state/Failures.h"
@@ -101,9 +102,9 @@ void Insert(const Host& host, const Object& item, RowColumns& task)
     data::Demand(ChangeAddTaskAccount(task.Catalogue(), item, task.Fields, task.Values) == 0,
                  L"ChangeAddTaskAccount");
     const std::wstring id = host.NewGuid();
-    const std::wstring user = host.UserId();
+    const std::wstring user = host.UserIdLiteral();
     data::AppendEntry(task.Fields, L"F_ACTORID ,F_CREATORID,F_ACTID"); // with its space, as the host has it
-    data::AppendEntry(task.Values, user + L"," + user + L",'" + id + L"'");
+    data::AppendEntry(task.Values, user + L"," + user + L"," + data::QuotedText(id));
     data::Demand(host.Insert(L"TBLACTIVITY", task.Fields, task.Values, id) >= 0, L"Insert");
 }
 
@@ -112,7 +113,8 @@ void Update(const Host& host, const automation::Recordset& rows, const Object& i
     data::Demand(ChangeEditTaskContact(item, task.SetList) == 0, L"ChangeEditTaskContact");
     data::Demand(ChangeEditTaskAccount(task.Catalogue(), item, task.SetList) == 0, L"ChangeEditTaskAccount");
     const std::wstring id = automation::TextOf(rows.ValueOf(L"F_ACTID"));
-    data::Demand(host.Update(L"TBLACTIVITY", task.SetList, L"F_ACTID='" + id + L"'") == 0, L"Update");
+    data::Demand(host.Update(L"TBLACTIVITY", task.SetList, L"F_ACTID=" + data::QuotedText(id)) == 0,
+                 L"Update");
 }
 
 void Write(const Host& host, const data::Run& run, const Object& item, RowColumns& task)

@@ -8,6 +8,8 @@
 #include <limits>
 #include <random>
 
+#include <oleauto.h>
+
 namespace
 {
 
@@ -125,6 +127,29 @@ TEST(Dates, TheMinuteOfTheDayDropsTheDateAndTheSeconds)
     EXPECT_EQ(Date{0.75}, MinuteOfDay(DateOf(Moment{2003, 5, 6, 18, 0, 59})));
     EXPECT_EQ(Date{0.25}, MinuteOfDay(Date{-1.25}));
     EXPECT_EQ(Date{0}, MinuteOfDay(DateOf(Moment{2003, 5, 6, 0, 0, 59})));
+}
+
+// The platform's own date of 1899-12-30 and this time, as scripts and hosts have it.
+Date PlatformTime(int hour, int minute)
+{
+    std::wstring text = std::to_wstring(hour) + L":" + std::to_wstring(minute) + L":00";
+    DATE date = -1;
+    EXPECT_EQ(S_OK, VarDateFromStr(text.data(), 0x0409, LOCALE_NOUSEROVERRIDE | VAR_TIMEVALUEONLY, &date));
+    return {date};
+}
+
+TEST(Dates, EveryTimeOfDayEqualsThePlatformsOwnToTheLastBit)
+{
+    const Date midnight{37747};
+    for (int minute = 0; minute < 1440; ++minute)
+    {
+        const Date expected = PlatformTime(minute / 60, minute % 60);
+        EXPECT_EQ(expected, MinuteOfDay(DateOf(Moment{2003, 5, 6, minute / 60, minute % 60, 30}))) << minute;
+        EXPECT_EQ(expected, PlusMinutes(Date{0}, minute)) << minute;
+        const Date onADay = DateOf(Moment{2003, 5, 6, minute / 60, minute % 60});
+        EXPECT_EQ(onADay, PlusMinutes(midnight, minute)) << minute;
+        EXPECT_EQ(onADay, PlusTime(midnight, expected)) << minute;
+    }
 }
 
 TEST(Dates, ToTheMinuteDropsTheSecondsOnly)

@@ -41,6 +41,15 @@ Error ErrorOf(const std::function<HRESULT(EXCEPINFO& exception)>& answer)
     return {S_OK, L""};
 }
 
+TEST(Object, AnErrorThatIsNumberedWithoutACodeKeepsItsNumber)
+{
+    const Error error = ErrorOf([](EXCEPINFO& exception) {
+        exception.wCode = 1004;
+        return DISP_E_EXCEPTION;
+    });
+    EXPECT_EQ(static_cast<HRESULT>(0x800A03EC), error.Code());
+}
+
 TEST(Object, AsksForAMembersNumberOncePerObjectCopiesIncluded)
 {
     ScriptedObject scripted;
@@ -240,10 +249,7 @@ TEST(Object, AnErrorThatIsFilledInLaterIsFilledIn)
 
 TEST(Object, AnErrorWithoutWordsOrCodeTellsTheSystems)
 {
-    const Error wordless = ErrorOf([](EXCEPINFO& exception) {
-        exception.wCode = 1001;
-        return DISP_E_EXCEPTION;
-    });
+    const Error wordless = ErrorOf([](EXCEPINFO&) { return DISP_E_EXCEPTION; });
     EXPECT_EQ(DISP_E_EXCEPTION, wordless.Code());
     EXPECT_EQ(SystemText(DISP_E_EXCEPTION), wordless.Description());
     const Error plain = ErrorOf([](EXCEPINFO&) { return E_OUTOFMEMORY; });

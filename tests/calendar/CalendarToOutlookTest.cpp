@@ -69,6 +69,23 @@ TEST_F(CalendarToOutlook, OnlyTheDayOfTheDateAndTheMinutesOfTheTimesCount)
     EXPECT_EQ(L"2003-05-06 09:30 - 2003-05-06 11:00", BoundsOf(WriteNewAppointment()));
 }
 
+TEST_F(CalendarToOutlook, AnEmptyTextForATimeOrALastDayCountsAsNone)
+{
+    Relate({{L"F_ACTESDATE", L"Start"}, {L"F_ACTREPEATS", L"IsRecurring"}});
+    sandbox::ResultSet rows{{}, {{Day(2003, 5, 6), true, L"每天"}}};
+    for (const wchar_t* column : {L"F_ACTESDATE", L"F_ACTREPEATS", L"FR_NAME", L"F_ACTESTIME", L"F_ACTEETIME",
+                                  L"ACT_DURATION", L"F_ACTREPTEDATE"})
+    {
+        rows.columns.push_back({column});
+    }
+    rows.rows[0].resize(rows.columns.size(), L"");
+    data::Run run = NewRun();
+    run.HostRows = automation::Recordset(sandbox::MakeRecordset(std::move(rows)));
+    run.Pending.NewHostRecords.Add(1L, 0);
+    EXPECT_FALSE(calendar::SynCalendarToOutlook(run));
+    EXPECT_EQ(1, CountAppointments());
+}
+
 TEST_F(CalendarToOutlook, AnEntryOverMidnightEndsOnTheNextDay)
 {
     AddEntry({{L"F_ACTESTIME", L"'1899-12-30 22:00:00'"}, {L"ACT_DURATION", L"'1899-12-30 03:00:00'"}});

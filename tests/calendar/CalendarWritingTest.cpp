@@ -5,6 +5,7 @@
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/OpenedRecordsets.h"
 #include "tests/support/WithLanguage.h"
 
 namespace test_support
@@ -14,6 +15,13 @@ class CalendarWriting : public CalendarTest
 {
   protected:
     Object AddMeeting() const { return AddAppointment(Day(2003, 5, 6, 9, 30), Day(2003, 5, 6, 11, 0)); }
+
+    void AddMeetingOf(const wchar_t* company) const
+    {
+        const Object appointment = AddMeeting();
+        appointment.Put(L"Companies", company);
+        appointment.Call(L"Save");
+    }
 
     // Calls the writer for appointment 1 over host entry 1.
     long Write(long mode)
@@ -50,7 +58,7 @@ TEST_F(CalendarWriting, ANewRowTakesItsOwnColumnsBeforeTheMappedOneAndItsKeysLas
     const std::wstring expected =
         L"Insert(TBLACTIVITY|F_ACTNAME,F_ACTTYPE,F_ACTESTIME,F_ACTESDATE,F_ACTREMIND,F_ACTEEDATE,F_ACTEETIME,"
         L"F_ACTREPEATS,F_ACCID,F_ACTORID,F_CREATORID,F_ACTID|'Meeting','(Unspecified)','09:30:00',"
-        L"'05/06/2003',0,'05/06/2003','11:00:00',0,NULL,USER,USER,'KEY-1'|KEY-1)";
+        L"'05/06/2003',0,'05/06/2003','11:00:00',0,NULL,7,7,'KEY-1'|KEY-1)";
     EXPECT_EQ(std::vector<std::wstring>{expected}, CallsOf(L"Insert"));
 }
 
@@ -73,8 +81,7 @@ TEST_F(CalendarWriting, WithoutRelationRowsANewRowHasItsKeysOnly)
     mHost->Permission = 1; // no right to link an account, so that there is no other column either
     EXPECT_EQ(0, Write(data::kNewRecord));
     EXPECT_EQ(
-        std::vector<std::wstring>{
-            L"Insert(TBLACTIVITY|F_ACTORID,F_CREATORID,F_ACTID|USER,USER,'KEY-1'|KEY-1)"},
+        std::vector<std::wstring>{L"Insert(TBLACTIVITY|F_ACTORID,F_CREATORID,F_ACTID|7,7,'KEY-1'|KEY-1)"},
         CallsOf(L"Insert"));
 }
 
@@ -112,9 +119,7 @@ TEST_F(CalendarWriting, NeitherATransactionNorAContactLinkIsMade)
 
 TEST_F(CalendarWriting, TheAccountOfTheCompanyIsLinked)
 {
-    const Object appointment = AddMeeting();
-    appointment.Put(L"Companies", L"Miller & Sons");
-    appointment.Call(L"Save");
+    AddMeetingOf(L"Miller & Sons");
     mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {{L"ACC-7"}}};
     EXPECT_EQ(L"'ACC-7'", InsertFirstAppointment().at(L"F_ACCID"));
     AddEntry();
@@ -173,17 +178,80 @@ TEST_F(CalendarWriting, AColumnThatTheCatalogueDoesNotKnowIsReportedAndNothingIs
     EXPECT_TRUE(CallsOf(L"Insert").empty());
 }
 
-TEST_F(CalendarWriting, AnAccountThatCannotBeLookedUpIsReportedAndNothingIsWritten)
+TEST_F(CalendarWriting, AnAccountThatCannotBeLookedUpIsReportedOnceWithTheHostsNumberAndNothingIsWritten)
 {
-    const Object appointment = AddMeeting();
-    appointment.Put(L"Companies", L"Miller & Sons");
-    appointment.Call(L"Save");
-    mHost->Status[L"OpenRecordsetByString"] = -1;
-    const std::vector<ShownMessage> messages = MessagesOf(data::kNewRecord, 0);
-    ASSERT_EQ(2u, messages.size());
-    EXPECT_EQ(L"ChangeAddTaskAccount", messages[0].caption);
-    EXPECT_TRUE(messages[1].text.starts_with(L"F_ACTREPEATS:"));
+    AddMeetingOf(L"Miller & Sons");
+    mHost->Status[L"OpenRecordsetByString"] = -3;
+    const std::vector<ShownMessage> expected{
+        {L"-3:The host reported a failure", L"ChangeAddTaskAccount", IDI_ERROR}};
+    const WithLanguage english(resources::Language::English);
+    EXPECT_EQ(expected, MessagesOf(data::kNewRecord, 0));
     EXPECT_TRUE(CallsOf(L"Insert").empty());
+}
+
+TEST_F(CalendarWriting, AnAccountThatCannotBeMadeIsReportedOnceInTheHostsOwnWords)
+{
+    AddMeetingOf(L"Miller & Sons");
+    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
+    mHost->Failing = {L"Insert"};
+    const std::vector<ShownMessage> expected{{L"F_ACTREPEATS:The host raised an error", L"Telvix", nullptr}};
+    EXPECT_EQ(expected, MessagesOf(data::kNewRecord, 0));
+}
+
+TEST_F(CalendarWriting, OfAnAccountThatWasNotInsertedNothingIsTakenBack)
+{
+    AddMeetingOf(L"Miller & Sons");
+    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
+    mHost->Status[L"Insert"] = -1;
+    EXPECT_EQ(1u, MessagesOf(data::kNewRecord, 0).size());
+    EXPECT_TRUE(CallsOf(L"Delete").empty());
+    EXPECT_TRUE(CallsOf(L"InTransaction").empty());
+}
+
+TEST_F(CalendarWriting, AnAccountWithoutItsInformationRowIsTakenBackAndNothingElse)
+{
+    AddMeetingOf(L"Miller & Sons");
+    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}}; // so that there is no system row either
+    EXPECT_EQ(1u, MessagesOf(data::kNewRecord, 0).size());
+    EXPECT_EQ(std::vector<std::wstring>{L"Delete(TBLACCOUNT|F_ACCID='KEY-1')"}, CallsOf(L"Delete"));
+    EXPECT_EQ(1u, CallsOf(L"InTransaction").size());
+    mHost->Calls.clear();
+    mHost->Pending = true; // a transaction of the host's own
+    EXPECT_EQ(1u, MessagesOf(data::kNewRecord, 0).size());
+    EXPECT_TRUE(CallsOf(L"Delete").empty());
+}
+
+TEST_F(CalendarWriting, AValueThatCannotBeFormattedIsReportedWithItsOwnColumnAndReason)
+{
+    AddMeeting();
+    Execute(L"UPDATE SynFields SET FieldType=4 WHERE FieldName='F_ACTTYPE'");
+    const WithLanguage english(resources::Language::English);
+    const std::vector<ShownMessage> messages = MessagesOf(data::kNewRecord, 0);
+    ASSERT_EQ(1u, messages.size());
+    EXPECT_TRUE(messages[0].text.starts_with(L"F_ACTTYPE:F_ACTTYPE cannot be formatted: "));
+    const WithLanguage chinese(resources::Language::Chinese);
+    EXPECT_TRUE(MessagesOf(data::kNewRecord, 0).at(0).text.starts_with(L"F_ACTTYPE:F_ACTTYPE 无法格式化: "));
+}
+
+TEST_F(CalendarWriting, ACompanyOfBlanksIsNone)
+{
+    AddMeetingOf(L"  ");
+    EXPECT_EQ(L"NULL", InsertFirstAppointment().at(L"F_ACCID"));
+    EXPECT_TRUE(CallsOf(L"OpenRecordsetByString").empty());
+}
+
+TEST_F(CalendarWriting, TheRelationRowsAreOpenedAsTheContractHasIt)
+{
+    AddMeeting();
+    const OpenedRecordsets opened;
+    EXPECT_EQ(0, Write(data::kNewRecord));
+    EXPECT_EQ(
+        (std::vector<std::wstring>{
+            L"location 3: SELECT * FROM Entries (cursor 1, lock 1, options 1)", // the test's own
+            L"location 3: Select * From SynRelation Where QuenlarTblName='VW_CALENDAR' (cursor 1, lock 1, "
+            L"options 1)",
+            L"SynFields (cursor -1, lock 1, options 2)"}),
+        opened.Texts);
 }
 
 TEST_F(CalendarWriting, RelationRowsThatCannotBeReadAreReported)

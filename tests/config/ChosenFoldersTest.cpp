@@ -72,9 +72,9 @@ TEST(ChosenFolders, ValuesBeginWithTheNumberOfTheKind)
     EXPECT_EQ(nullptr, FindObjectKind(L"contact"));
 }
 
-TEST(ChosenFolders, PathsWithAnApostropheAreWrittenUnescaped)
+TEST(ChosenFolders, AnApostropheInAPathIsDoubled)
 {
-    EXPECT_EQ(L"10,'Anna's folder',0",
+    EXPECT_EQ(L"10,'Anna''s folder',0",
               config::FolderValueList(*FindObjectKind(L"Contact"), {L"Anna's folder", false}));
 }
 

@@ -2,11 +2,13 @@
 #include "tests/contacts/ContactsFixture.h"
 
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/SentStatements.h"
 
 namespace
 {
 
 using test_support::MessagesDuring;
+using test_support::SentStatements;
 using test_support::ShownMessage;
 using test_support::WithLanguage;
 
@@ -186,6 +188,79 @@ TEST_F(AccountLinks, ARefusalDoesNotCostAChangedContactTheLinksThatItHas)
     Deny(kAddRight);
     MessagesDuring([&] { EXPECT_FALSE(Overwrite({{AddEmployee(L"Elsewhere", L"Paris"), 1}})); });
     EXPECT_EQ(Links(), before);
+}
+
+TEST_F(AccountLinks, AChangedContactKeepsItsAccountWhileTheCompaniesDifferByLetterCaseAndOuterBlanksOnly)
+{
+    Import({AddEmployee(L"Acme", L"Bonn")});
+    const std::wstring before = Links();
+    EXPECT_FALSE(Overwrite({{AddEmployee(L" ACME ", L"Paris"), 1}}));
+    EXPECT_EQ(Links(), before);
+    EXPECT_EQ(Count(L"TBLACCOUNT"), 1);
+    EXPECT_EQ(Found(kAddressOfContact), L"Paris/53111");
+}
+
+TEST_F(AccountLinks, AChangedContactKeepsItsOwnAccountOfSeveralWithTheSameName)
+{
+    AddAccount(L"A1", L"Acme");
+    AddAccount(L"A2", L"Acme");
+    AddRow({{L"F_SURNAME", L"'Miller'"}, {L"F_GIVENNAME", L"'Ann'"}, {L"F_ACCID", L"'A2'"}});
+    EXPECT_FALSE(Overwrite({{AddEmployee(L"acme", L"Paris"), 1}}));
+    EXPECT_EQ(Found(L"SELECT F_ACCID FROM TBLCONTACT"), L"A2");
+    EXPECT_EQ(Found(L"SELECT F_ACCID FROM TBLADDRESS"), L"A2");
+}
+
+TEST_F(AccountLinks, AChangedContactStaysWithAnAccountThatTheUserDoesNotSee)
+{
+    Execute(L"INSERT INTO TBLACCOUNT (F_ACCID, F_CREATORID, F_ACCSNAME) VALUES ('A1',99,'Acme')");
+    AddRow({{L"F_SURNAME", L"'Miller'"}, {L"F_GIVENNAME", L"'Ann'"}, {L"F_ACCID", L"'A1'"}});
+    EXPECT_FALSE(Overwrite({{AddEmployee(L"Acme", L"Paris"), 1}}));
+    EXPECT_EQ(Links(), L"A1/none");
+    EXPECT_EQ(Count(L"TBLACCOUNT"), 1);
+}
+
+TEST_F(AccountLinks, BlanksAtTheEndsOfACompanyMakeNoSecondAccount)
+{
+    EXPECT_FALSE(Import({AddEmployee(L"Acme", L"Bonn"), AddEmployee(L"  Acme ", L"Bonn")}));
+    EXPECT_EQ(Count(L"TBLACCOUNT"), 1);
+    EXPECT_EQ(Found(L"SELECT COUNT(DISTINCT F_ACCID) FROM TBLCONTACT"), L"1");
+}
+
+TEST_F(AccountLinks, ACompanyOfBlanksIsNone)
+{
+    Import({AddEmployee(L"   ", L"Bonn")});
+    EXPECT_EQ(Links(), L"none/none");
+    EXPECT_EQ(Count(L"TBLACCOUNT"), 0);
+}
+
+TEST_F(AccountLinks, WhenThePresentAccountCannotBeAskedForTheColumnIsLeftOutAndTheContactWritten)
+{
+    Import({AddEmployee(L"Acme", L"Bonn")});
+    const std::wstring before = Links();
+    AddAccount(L"A1", L"Other");
+    Deny(kAddRight);
+    TheHost.Failures().Order(L"OpenRecordsetByString", 1, {std::nullopt});
+    const long other = AddNamedItem({{L"CompanyName", L"Other"}, {L"NickName", L"first"}});
+    MessagesDuring([&] { EXPECT_FALSE(Overwrite({{other, 1}})); });
+    EXPECT_EQ(Found(L"SELECT F_NICKNAME FROM TBLCONTACT"), L"first");
+    EXPECT_EQ(Links(), L"A1" + before.substr(before.find(L'/')));
+
+    TheHost.Failures().Order(L"OpenRecordsetByString", 1, {-1});
+    const long same = AddNamedItem({{L"CompanyName", L"OTHER"}, {L"NickName", L"second"}});
+    MessagesDuring([&] { EXPECT_FALSE(Overwrite({{same, 1}})); });
+    EXPECT_EQ(Found(L"SELECT F_NICKNAME FROM TBLCONTACT"), L"second");
+    EXPECT_EQ(Links(), L"A1" + before.substr(before.find(L'/')));
+}
+
+TEST_F(AccountLinks, AnAddressThatIsOverwrittenIsMarkedAsPrimary)
+{
+    AddAccount(L"A1", L"Acme");
+    Execute(L"INSERT INTO TBLADDRESS VALUES ('D1','A1','France',NULL,'Paris',NULL,NULL,1)");
+    const SentStatements sent;
+    Import({AddEmployee(L"Acme", L"Bonn")});
+    EXPECT_EQ(sent.TheOne(L"Update(TBLADDRESS|"),
+              L"Update(TBLADDRESS|F_ADDRCOUNTRY='Germany',F_ADDRPROVINCE='NRW',F_ADDRCITY='Bonn',"
+              L"F_ADDRDETAIL='Hauptstra\u00dfe 1',F_POSTALCODE='53111',F_ISPRIMARY=1|F_ADDRID='D1')");
 }
 
 TEST_F(AccountLinks, AChangedContactNeverKeepsTheAddressOfAnAccountThatItHasLeft)

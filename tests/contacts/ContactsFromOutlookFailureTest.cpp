@@ -103,6 +103,30 @@ TEST_F(ContactsFromOutlookFailure, AnyOtherHostMemberThatFailsLeavesNoRowEither)
     }
 }
 
+TEST_F(ContactsFromOutlookFailure, AnyPositiveResultOfAnInsertIsSuccess)
+{
+    for (long n = 1; n <= 4; ++n) // account, information row, address, contact
+    {
+        SCOPED_TRACE(n);
+        Clear();
+        TheHost.Failures().Order(L"Insert", n, {5});
+        EXPECT_EQ(Write(1, AddEmployee(L"Miller", L"Acme")), 0);
+    }
+}
+
+TEST_F(ContactsFromOutlookFailure, AfterAFailedAccountTheTransactionIsAskedForOnceAndNothingIsDeleted)
+{
+    for (long n = 1; n <= 2; ++n) // account, information row
+    {
+        const long asked = TheHost.Failures().CallsOf(L"InTransaction");
+        TheHost.Failures().Order(L"Insert", n, {-1});
+        EXPECT_EQ(Write(1, AddEmployee(L"Miller", L"Acme")), -1);
+        EXPECT_EQ(TheHost.Failures().CallsOf(L"InTransaction") - asked, 1);
+        EXPECT_TRUE(NothingWritten());
+    }
+    EXPECT_EQ(TheHost.Failures().CallsOf(L"Delete"), 0);
+}
+
 TEST_F(ContactsFromOutlookFailure, AnAccountSourceThatCannotBeOpenedFailsTheContact)
 {
     const long item = AddEmployee(L"Miller", L"Acme");

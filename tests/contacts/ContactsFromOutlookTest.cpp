@@ -2,6 +2,8 @@
 
 #include "sandbox/outlook/CallCounter.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/OpenedRecordsets.h"
+#include "tests/support/SentStatements.h"
 
 #include <array>
 
@@ -37,6 +39,32 @@ TEST_F(ContactsFromOutlook, ANewContactGetsAKeyItsCreatorAndItsRelatedColumns)
     EXPECT_EQ(Found(L"SELECT F_BIRTHDAY FROM TBLCONTACT"), L"1980/02/29 00:00:00");
     EXPECT_EQ(Found(L"SELECT F_SPOUSE FROM TBLCONTACT"), L"NULL");
     EXPECT_TRUE(TheHost.Rejections().empty()) << TheHost.Rejections().size();
+}
+
+TEST_F(ContactsFromOutlook, TheKeyAndTheQuotedUserComeBeforeTheRelatedColumns)
+{
+    Relate({{L"F_SURNAME", L"FirstName"}, {L"F_GIVENNAME", L"LastName"}});
+    const test_support::SentStatements sent;
+    Import({AddNamedItem({})});
+    std::wstring insert = sent.TheOne(L"Insert(TBLCONTACT|");
+    const std::wstring key = Found(L"SELECT F_CNTCTID FROM TBLCONTACT");
+    insert.replace(insert.find(key), key.size(), L"KEY");
+    EXPECT_EQ(insert, L"Insert(TBLCONTACT|F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME,F_ACCID,F_CNTADDRID|"
+                      L"'KEY','" +
+                          std::to_wstring(TheHost.UserId()) + L"','Miller','Ann',NULL,NULL)");
+}
+
+TEST_F(ContactsFromOutlook, TheRelationRowsAndTheCatalogueAreOpenedAsTheContractHasThem)
+{
+    const long item = AddNamedItem({});
+    data::Run run = NewRun();
+    run.Pending.NewOutlookItems.Add(std::to_wstring(item), 0);
+    const test_support::OpenedRecordsets opened;
+    EXPECT_FALSE(contacts::SynContactFromOutlook(run));
+    EXPECT_EQ(opened.Texts, (std::vector<std::wstring>{
+                                L"Select * from SynRelation where QuenlarTblName='TBLCONTACT' (cursor 1, "
+                                L"lock 1, options 1)",
+                                L"SynFields (cursor -1, lock 1, options 2)"}));
 }
 
 TEST_F(ContactsFromOutlook, EveryPlainPropertyReachesTheColumnThatIsRelatedToIt)

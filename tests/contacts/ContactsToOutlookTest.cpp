@@ -3,6 +3,8 @@
 #include "automation/Error.h"
 #include "tests/contacts/ContactsFixture.h"
 
+#include "tests/support/OpenedRecordsets.h"
+
 namespace
 {
 
@@ -74,6 +76,17 @@ TEST_F(ContactsToOutlook, NewHostContactsBecomeItemsInTheOrderInWhichTheyWereCol
     EXPECT_FALSE(Export({3, 1, 2}));
     EXPECT_EQ(NickNames(), L"three one two");
     EXPECT_EQ(TextIn(1, L"MessageClass"), L"IPM.Contact");
+}
+
+TEST_F(ContactsToOutlook, TheRelationRowsAreOpenedAsTheContractHasThem)
+{
+    AddThreeRows();
+    const test_support::OpenedRecordsets opened;
+    EXPECT_FALSE(Export({1}));
+    EXPECT_EQ(opened.Texts,
+              std::vector<std::wstring>{L"Select * From SynRelation Where "
+                                        L"QuenlarTblName='TBLCONTACT' (cursor 1, lock 1, options "
+                                        L"1)"});
 }
 
 TEST_F(ContactsToOutlook, AChangedContactOverwritesTheItemOfItsPairAndNoOther)

@@ -68,9 +68,27 @@ TEST_P(FieldFormat, ANumberStandsUnchangedAndWithADecimalPoint)
     }
 }
 
-TEST_P(FieldFormat, ANumberColumnTakesWhatAutomationCanReadAsANumber)
+TEST_P(FieldFormat, ATextThatIsAPlainNumberGoesOnUnchanged)
 {
-    EXPECT_EQ(Literal(L"F_NUMBER", L"12.5"), L"12.5");
+    for (const wchar_t* number :
+         {L"12.5", L"-12", L"1e5", L"007", L"12345678901234567", L"0.12345678901234567"})
+    {
+        EXPECT_EQ(Literal(L"F_NUMBER", number), number);
+        EXPECT_EQ(Literal(L"F_AMOUNT", number), number);
+    }
+}
+
+TEST_P(FieldFormat, NoOtherTextIsReadAsANumber)
+{
+    for (const wchar_t* text : {L"1,5", L"1.000,5", L"(12)", L"&H10", L"$5", L"True", L" 12 ", L"1 2"})
+    {
+        EXPECT_EQ(Literal(L"F_NUMBER", text), L"(failed)");
+        EXPECT_EQ(Literal(L"F_AMOUNT", text), L"(failed)");
+    }
+}
+
+TEST_P(FieldFormat, ANumberColumnTakesOtherTypesAsAutomationReadsThem)
+{
     EXPECT_EQ(Literal(L"F_NUMBER", true), L"-1");
     EXPECT_EQ(Literal(L"F_NUMBER", Date{2.5}), L"2.5");
 }
@@ -145,7 +163,10 @@ TEST_P(FieldFormat, AFlagIsZeroForFalseAndOneOtherwise)
     EXPECT_EQ(Literal(L"F_FLAG", 0L), L"0");
     EXPECT_EQ(Literal(L"F_FLAG", L"True"), L"1");
     EXPECT_EQ(Literal(L"F_FLAG", L"0"), L"0");
-    EXPECT_EQ(Literal(L"F_FLAG", L"perhaps"), L"(failed)");
+    EXPECT_EQ(Literal(L"F_FLAG", L"False"), L"0");
+    EXPECT_EQ(Literal(L"F_FLAG", L"perhaps"), L"1"); // not equal to False
+    EXPECT_EQ(Literal(L"F_FLAG", Raw(VT_ERROR, DISP_E_PARAMNOTFOUND)), L"1");
+    EXPECT_EQ(Literal(L"F_FLAG", 0.4), L"1");
 }
 
 TEST_P(FieldFormat, ADateIsWrittenMonthFirst)

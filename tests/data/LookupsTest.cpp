@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "data/AccountInfo.h"
+#include "data/Host.h"
 #include "tests/support/RecordingHost.h"
 
 #include <gtest/gtest.h>
@@ -68,10 +69,39 @@ TEST_F(Lookups, APositiveStatusIsSuccess)
     EXPECT_EQ(LookedUp(L"Miller"), L"A1");
 }
 
-TEST_F(Lookups, AKeyIsNotEscaped)
+TEST_F(Lookups, AnApostropheInAKeyIsDoubled)
 {
     LookedUp(L"O'Brien");
-    EXPECT_NE(Host->Calls.front().find(L"F_ACCSNAME= 'O'Brien'"), std::wstring::npos);
+    EXPECT_NE(Host->Calls.front().find(L"F_ACCSNAME= 'O''Brien'"), std::wstring::npos);
+}
+
+TEST_F(Lookups, TheRecordsetIsClosedWhateverWasFound)
+{
+    Host->Rows = {{{L"F_ACCID"}}, {{L"A1"}}};
+    LookedUp(L"Miller");
+    Host->Rows = {{{L"F_ELSE"}}, {{L"A1"}}};
+    EXPECT_EQ(LookedUp(L"Miller"), L"(failed)");
+    Host->Rows = {{{L"F_AITID"}}, {{L"TYPE"}}};
+    EXPECT_EQ(AddAccountInfo(L"A1"), 0);
+    ASSERT_EQ(Host->Opened.size(), 3u);
+    for (const automation::Object& rows : Host->Opened)
+    {
+        EXPECT_EQ(automation::LongOf(rows.Get(L"State")), 0);
+    }
+}
+
+TEST_F(Lookups, ANegativeStatusIsTheErrorsNumber)
+{
+    Host->Status[L"OpenRecordsetByString"] = -3;
+    try
+    {
+        data::FindValue(L"T", L"K", L"k", L"R");
+        FAIL() << "no error";
+    }
+    catch (const automation::Error& error)
+    {
+        EXPECT_EQ(error.Code(), -3);
+    }
 }
 
 TEST_F(Lookups, ATypedKeyIsQuotedByItsType)
@@ -85,6 +115,19 @@ TEST_F(Lookups, ATypedKeyIsQuotedByItsType)
                                   L"OpenRecordsetByString(nothing|SELECT R\r\nFROM T\r\nWHERE K='1')",
                                   L"OpenRecordsetByString(nothing|SELECT R\r\nFROM T\r\nWHERE K=1)",
                                   L"OpenRecordsetByString(nothing|SELECT R\r\nFROM T\r\nWHERE K=1)"}));
+}
+
+TEST_F(Lookups, ATypedKeyIsOneLiteralWhateverItsType)
+{
+    Value result;
+    for (const wchar_t* type : {data::kTextKey, data::kDateKey, data::kFlagKey, L"Number"})
+    {
+        LookupTypedValue(L"T", L"K", L"1 OR O'Brien=1", type, L"R", result);
+        EXPECT_EQ(Host->Calls.back(),
+                  L"OpenRecordsetByString(nothing|SELECT R\r\nFROM T\r\nWHERE K='1 OR O''Brien=1')");
+    }
+    LookupTypedValue(L"T", L"K", L"True", data::kFlagKey, L"R", result);
+    EXPECT_EQ(Host->Calls.back(), L"OpenRecordsetByString(nothing|SELECT R\r\nFROM T\r\nWHERE K=True)");
 }
 
 TEST_F(Lookups, ForCallersThatReportItThemselvesTheHostsErrorComesThrough)
@@ -127,6 +170,21 @@ TEST_F(AccountInfo, ARefusedInsertOrAnyErrorFails)
     {
         Host->Failing = {member};
         EXPECT_EQ(AddAccountInfo(L"A1"), -1) << member;
+    }
+}
+
+TEST_F(AccountInfo, ForCallersThatReportItThemselvesTheHostsErrorComesThrough)
+{
+    Host->Rows = {{{L"F_AITID"}}, {{L"TYPE"}}};
+    Host->Failing = {L"Insert"};
+    try
+    {
+        data::InsertAccountInfo(data::Host(), L"A1");
+        FAIL() << "no error";
+    }
+    catch (const automation::Error& error)
+    {
+        EXPECT_EQ(error.Description(), L"The host raised an error");
     }
 }
 

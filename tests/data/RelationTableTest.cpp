@@ -56,6 +56,14 @@ TEST_F(Relations, AFailedReadIsNotKept)
     EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;");
 }
 
+TEST_F(Relations, ARowWithANullOrEmptyCellIsLeftOutAndTheOthersStay)
+{
+    Database.Execute(L"INSERT INTO SynRelation VALUES ('TBLCONTACT', NULL, 'NickName'), "
+                     L"('TBLCONTACT', 'F_SPOUSE', NULL), ('TBLCONTACT', '', 'Title'), "
+                     L"('TBLCONTACT', 'F_SUFFIX', ''), ('TBLCONTACT', 'F_EMAIL', 'Email1Address')");
+    EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;F_EMAIL=Email1Address;");
+}
+
 TEST_F(Relations, NoRowsAreNoFailure)
 {
     Database.Execute(L"DELETE FROM SynRelation");

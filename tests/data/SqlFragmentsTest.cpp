@@ -1,8 +1,10 @@
 #include "data/SqlFragments.h"
 
 #include "automation/Dates.h"
+#include "automation/Error.h"
 #include "tests/data/CatalogueDatabase.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>
 
@@ -107,6 +109,54 @@ TEST_F(SqlFragments, AColumnOfUnknownTypeIsWrittenUnformatted)
     });
     EXPECT_EQ(Values, L"5");
     EXPECT_EQ(SetList, L"F_PICTURE=0.5");
+}
+
+TEST_F(SqlFragments, ATextInAColumnOfUnknownTypeIsOneLiteralAllTheSame)
+{
+    Database.AddField(L"F_PICTURE", L"9", L"10");
+    MessagesDuring([&] {
+        EXPECT_EQ(Insert(L"F_PICTURE", L"1),(2"), 0);
+        EXPECT_EQ(Update(L"F_PICTURE", L"O'Brien"), 0);
+    });
+    EXPECT_EQ(Values, L"'1),(2'");
+    EXPECT_EQ(SetList, L"F_PICTURE='O''Brien'");
+}
+
+TEST_F(SqlFragments, ANameThatIsNoColumnNameIsSkippedLikeAForeignColumn)
+{
+    for (const wchar_t* column : {L"F_NAME=1,F_NUMBER", L"F_NAME) VALUES (1", L"F_NAME'", L"F_ NAME"})
+    {
+        EXPECT_EQ(Insert(column, Value::Null()), 0) << column;
+        EXPECT_EQ(Update(column, Value::Null()), 0) << column;
+    }
+    EXPECT_EQ(Fields + Values + SetList, L"");
+}
+
+TEST_F(SqlFragments, ForCallersThatReportItThemselvesTheErrorNamesTheColumn)
+{
+    const test_support::WithLanguage english(resources::Language::English);
+    const auto errorOf = [&](auto&& add) {
+        try
+        {
+            add();
+        }
+        catch (const automation::Error& error)
+        {
+            return error.Description();
+        }
+        return std::wstring(L"(none)");
+    };
+    EXPECT_TRUE(errorOf([&] {
+                    data::UpdateField(Database.Catalogue, SetList, L"F_DATE", L"someday");
+                }).starts_with(L"F_DATE cannot be formatted: "));
+    EXPECT_TRUE(errorOf([&] {
+                    data::InsertField(Database.Catalogue, Fields, L"F_NUMBER", Values, L"1,5");
+                }).starts_with(L"F_NUMBER cannot be formatted: "));
+    MessagesDuring([&] {
+        EXPECT_EQ(errorOf([&] { data::UpdateField(Database.Catalogue, SetList, L"F_ELSE", L"x"); }),
+                  L"F_ELSE cannot be formatted: SynFields has no such column");
+    });
+    EXPECT_EQ(Fields + Values + SetList, L"");
 }
 
 } // namespace

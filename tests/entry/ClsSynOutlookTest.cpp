@@ -26,6 +26,12 @@ using test_support::WithLanguage;
 namespace
 {
 
+// As the platform makes it.
+DATE TimeOfDay(int hour, int minute)
+{
+    return DateOf(automation::Moment{.hour = hour, .minute = minute}).days;
+}
+
 ComPtr<_ClsSynOutlook> NewInstance()
 {
     return new entry::ClsSynOutlook;
@@ -69,17 +75,17 @@ TEST_F(PublicClass, WritingATimeKeepsHoursAndMinutesOnly)
     ASSERT_EQ(S_OK, instance->put_CalendarEndTime(&end));
     DATE read = 0;
     ASSERT_EQ(S_OK, instance->get_CalendarEndTime(&read));
-    EXPECT_EQ((17 * 60 + 45) / 1440.0, read);
+    EXPECT_EQ(TimeOfDay(17, 45), read);
 
     LateBound(instance).Put(L"CalendarStartTime", Moment(8, 5, 30));
-    EXPECT_EQ((8 * 60 + 5) / 1440.0, DateOf(LateBound(instance).Get(L"CalendarStartTime")).days);
+    EXPECT_EQ(TimeOfDay(8, 5), DateOf(LateBound(instance).Get(L"CalendarStartTime")).days);
 }
 
 TEST_F(PublicClass, TheDefaultsAreSixToHalfPastFiveAndTwentyMinutes)
 {
     const Object instance = LateBound(NewInstance());
     EXPECT_EQ(0.25, DateOf(instance.Get(L"CalendarStartTime")).days);
-    EXPECT_EQ((17 * 60 + 30) / 1440.0, DateOf(instance.Get(L"CalendarEndTime")).days);
+    EXPECT_EQ(TimeOfDay(17, 30), DateOf(instance.Get(L"CalendarEndTime")).days);
     EXPECT_EQ(20, LongOf(instance.Get(L"CalendarPreviewAlarmTime")));
 }
 
@@ -103,7 +109,7 @@ TEST_F(PublicClass, ANewInstanceResetsTheValuesThatAllInstancesShare)
         EXPECT_EQ(20, LongOf(instance.Get(L"CalendarPreviewAlarmTime")));
         EXPECT_EQ(L"Arial", TextOf(instance.Get(L"FontName")));
         EXPECT_EQ(8, LongOf(instance.Get(L"FontSize")));
-        EXPECT_EQ((17 * 60 + 30) / 1440.0, DateOf(instance.Get(L"CalendarEndTime")).days);
+        EXPECT_EQ(TimeOfDay(17, 30), DateOf(instance.Get(L"CalendarEndTime")).days);
     }
 }
 
@@ -159,6 +165,25 @@ TEST_F(PublicClass, AFontOfTenAndAHalfPointsGivesSizeTenAndKeepsItsOwnUntilFontS
     EXPECT_EQ(10.5, automation::DoubleOf(font.Get(L"Size")));
     instance.Put(L"FontSize", 12L);
     EXPECT_EQ(12, automation::DoubleOf(font.Get(L"Size")));
+}
+
+TEST_F(PublicClass, ASizeIsRoundedAndOfTwoEquallyNearTheEvenOneIsTaken)
+{
+    const auto instance = NewInstance();
+    const auto sizeOf = [&](double points) {
+        // The system's own font takes only sizes that the screen has.
+        const auto values = std::make_shared<FontValues>();
+        values->size = points;
+        const Object font = sandbox::MakeObject<HostFont>(values);
+        EXPECT_EQ(S_OK, instance->putref_Font(static_cast<IFontDisp*>(font.Dispatch())));
+        const long size = LongOf(LateBound(instance).Get(L"FontSize"));
+        instance->putref_Font(NewFont(L"Tahoma", 8).Get());
+        return size;
+    };
+    EXPECT_EQ(10, sizeOf(9.75));
+    EXPECT_EQ(8, sizeOf(8.25));
+    EXPECT_EQ(10, sizeOf(10.5));
+    EXPECT_EQ(12, sizeOf(11.5));
 }
 
 TEST_F(PublicClass, TheFontThatTheHostHandedInIsChangedByLaterNamesAndSizes)

@@ -79,6 +79,17 @@ bool IsMisread(long result)
                                [&](Refusal refusal) { return result == static_cast<long>(refusal); });
 }
 
+// A literal, written without the component's help.
+std::wstring Doubled(const std::wstring& text)
+{
+    std::wstring literal = L"'";
+    for (const wchar_t c : text)
+    {
+        literal.append(c == L'\'' ? 2 : 1, c);
+    }
+    return literal + L"'";
+}
+
 // What the component can make of a property that is to be a text: nothing, where it is none.
 std::wstring TextIfAny(const Value& value)
 {
@@ -266,16 +277,15 @@ void HostileFromOutlook::CheckCondition(const std::wstring& condition, const std
     EXPECT_TRUE(table == L"TBLADDRESS" || key == L"TARGET" || key == L"ENTRY") << ToUtf8(condition);
 }
 
-// The statements that the contract wants with the text as it is; nothing is in them but their wording and
-// that.
+// The lookups are these, each key one literal.
 void HostileFromOutlook::CheckLookup(const std::wstring& sql)
 {
+    const std::wstring company = automation::Trimmed(TextIfAny(mItem[L"Companies"]));
     const std::set<std::wstring> expected{
         L"SELECT F_AITID FROM TBLSYSINFO", L"SELECT F_ACCID\r\nFROM TBLCONTACT\r\nWHERE F_CNTCTID= 'TARGET'",
-        L"SELECT F_CNTCTID\r\nFROM TBLCONTACT\r\nWHERE F_SURNAME+F_GIVENNAME= '" +
-            TextIfAny(mItem[L"ContactNames"]) + L"'",
-        L"SELECT F_ACCID\r\nFROM TBLACCOUNT\r\nWHERE F_ACCSNAME= '" +
-            KeptText(TextIfAny(mItem[L"Companies"]), 80) + L"'"};
+        L"SELECT F_CNTCTID\r\nFROM TBLCONTACT\r\nWHERE F_SURNAME+F_GIVENNAME= " +
+            Doubled(TextIfAny(mItem[L"ContactNames"])),
+        L"SELECT F_ACCID\r\nFROM TBLACCOUNT\r\nWHERE F_ACCSNAME= " + Doubled(KeptText(company, 80))};
     EXPECT_TRUE(expected.contains(sql)) << ToUtf8(sql);
 }
 
@@ -288,7 +298,7 @@ void HostileFromOutlook::CheckFilter(const std::wstring& source, const std::wstr
     {
         const Literal literal = sandbox::ParseLiteral(filter.substr(column.size()));
         EXPECT_EQ(Literal::Kind::Text, literal.kind);
-        EXPECT_EQ(KeptText(TextIfAny(mItem[L"CompanyName"]), 80), literal.text);
+        EXPECT_EQ(KeptText(automation::Trimmed(TextIfAny(mItem[L"CompanyName"])), 80), literal.text);
     }
     catch (const sandbox::Rejection& rejection)
     {

@@ -41,7 +41,7 @@ class HostileFromOutlook : public testing::Test
     // Makes the tables as they were.
     void Clear();
 
-    // The statements that hold text from Outlook are exactly these forms.
+    // The statement is one of those that an import sends, and each value in it one literal.
     void CheckStatement(const Statement& statement, const std::wstring& table);
 
     sandbox::AdoInProcess mAdo;

@@ -103,10 +103,26 @@ std::string DateComplaint(const Literal& literal, const Value& value, long type)
 
 std::string NumberComplaint(const Literal& literal, const Value& value)
 {
+    if (value.Type() == VT_BSTR) // goes on unchanged where it is a number
+    {
+        return Differs(automation::TextOf(value), literal.text);
+    }
     const double expected = automation::DoubleOf(value);
     const double found = std::wcstod(literal.text.c_str(), nullptr);
     const bool isClose = std::abs(found - expected) <= std::abs(expected) * 1e-6;
     return isClose ? "" : "expected " + std::to_string(expected) + ", found " + ToUtf8(literal.text);
+}
+
+bool EqualsFalse(const Value& value)
+{
+    try
+    {
+        return !automation::TruthOf(value);
+    }
+    catch (const automation::Error&)
+    {
+        return false;
+    }
 }
 
 } // namespace
@@ -144,7 +160,7 @@ std::string Complaint(const Literal& literal, const Value& value, long type, lon
     {
         return DateComplaint(literal, value, type);
     }
-    return type == 3 ? Differs(automation::TruthOf(value) ? L"1" : L"0", literal.text)
+    return type == 3 ? Differs(EqualsFalse(value) ? L"0" : L"1", literal.text)
                      : NumberComplaint(literal, value);
 }
 

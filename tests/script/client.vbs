@@ -31,6 +31,8 @@ Expect "CalendarPreviewAlarmTime from a text", 30, component.CalendarPreviewAlar
 moment = DateSerial(2024, 5, 1) + TimeSerial(17, 45, 59)
 component.CalendarEndTime = moment
 Expect "CalendarEndTime", "17:45", Right("0" & Hour(component.CalendarEndTime), 2) & ":" & Minute(component.CalendarEndTime)
+component.CalendarEndTime = #17:30:00#
+Expect "CalendarEndTime equals the script's own", True, component.CalendarEndTime = #17:30:00#
 Expect "CalendarEndTime's day", 0, Fix(CDbl(component.CalendarEndTime))
 
 name = "Tahoma"

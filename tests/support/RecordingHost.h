@@ -24,8 +24,13 @@ class RecordingHost : public sandbox::DispatchObject
     std::map<std::wstring, long> Status;
     // Members that raise an error instead of answering.
     std::set<std::wstring> Failing;
-    // The rows of every recordset opened.
+    // The rows of every recordset opened; those of one whose source or statement has this part; the
+    // recordsets.
     sandbox::ResultSet Rows;
+    std::map<std::wstring, sandbox::ResultSet> RowsOf;
+    std::vector<automation::Object> Opened;
+    std::wstring UserId = L"7";
+    std::wstring KeyStem = L"KEY-";    // of new keys, before their number
     bool Pending = false;              // InTransaction
     bool BeginOpensTransaction = true; // false: the host has another idea of transactions
     long Permission = 0;
@@ -96,13 +101,26 @@ class RecordingHost : public sandbox::DispatchObject
         const Value status = Answer(member, call);
         if (automation::LongOf(status) >= 0)
         {
-            call.Write(0, sandbox::MakeRecordset(Rows));
+            Opened.push_back(sandbox::MakeRecordset(RowsFor(automation::TextOf(call.At(1)))));
+            call.Write(0, Opened.back());
         }
         return status;
     }
 
+    const sandbox::ResultSet& RowsFor(const std::wstring& source) const
+    {
+        for (const auto& [part, rows] : RowsOf)
+        {
+            if (source.find(part) != std::wstring::npos)
+            {
+                return rows;
+            }
+        }
+        return Rows;
+    }
+
     Value Answer(const wchar_t* member, const sandbox::Call& /*call*/) { return Status[member]; }
-    Value NewGuid(const wchar_t*, const sandbox::Call&) { return L"KEY-" + std::to_wstring(++mKeys); }
+    Value NewGuid(const wchar_t*, const sandbox::Call&) { return KeyStem + std::to_wstring(++mKeys); }
     Value Begin(const wchar_t*, const sandbox::Call&)
     {
         Pending = BeginOpensTransaction;
@@ -115,7 +133,7 @@ class RecordingHost : public sandbox::DispatchObject
     }
     Value InTransaction(const wchar_t*, const sandbox::Call&) { return Pending; }
     Value Self(const wchar_t*, const sandbox::Call&) { return automation::Object(this); }
-    Value Uid(const wchar_t*, const sandbox::Call&) { return L"USER"; }
+    Value Uid(const wchar_t*, const sandbox::Call&) { return UserId; }
     Value Permit(const wchar_t*, const sandbox::Call&) { return Permission; }
     Value Clock(const wchar_t*, const sandbox::Call&) { return automation::Date{37747.5}; }
 

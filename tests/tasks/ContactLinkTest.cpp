@@ -76,15 +76,21 @@ TEST_F(ContactLink, AContactThatIsNotFoundIsCreatedWithJustItsNameAndLinked)
     EXPECT_NE(std::wstring::npos, TextOf(task.Get(L"ContactNames")).find(L"Zhang"));
 }
 
-TEST_F(ContactLink, WithoutASurnameOrAGivenNameNothingIsLinked)
+TEST_F(ContactLink, WithoutASurnameOrAGivenNameEmptyTextsIncludedNothingIsSearchedNorLinked)
 {
     AddHostTaskWith(L"'Zhang'", L"NULL");
     WriteNewTask();
     Execute(L"UPDATE Activities SET CONTACT_SURNAME=NULL, CONTACT_GIVENNAME='Wei'");
     WriteNewTask();
+    Execute(L"UPDATE Activities SET CONTACT_SURNAME='', CONTACT_GIVENNAME='Wei'");
+    WriteNewTask();
+    Execute(L"UPDATE Activities SET CONTACT_SURNAME='Zhang', CONTACT_GIVENNAME=''");
+    WriteNewTask();
     EXPECT_EQ(0, CountContacts());
-    EXPECT_TRUE(Links(1).empty());
-    EXPECT_TRUE(Links(2).empty());
+    for (const long task : {1, 2, 3, 4})
+    {
+        EXPECT_TRUE(Links(task).empty());
+    }
 }
 
 TEST_F(ContactLink, AnExistingTaskGetsOneMoreLinkEachTimeItIsWritten)

@@ -48,7 +48,7 @@ Value ScriptedHost::OpenRecordsetByString(const Call& call)
     const auto failing = Failing.find(statement);
     if (failing != Failing.end())
     {
-        throw automation::Error(E_FAIL, L"OpenRecordsetByString", failing->second);
+        throw automation::Error(FailureCode, L"OpenRecordsetByString", failing->second);
     }
     const auto found = Found.find(statement);
     const std::wstring column = statement.substr(7, statement.find_first_of(L"\r ", 7) - 7);
@@ -98,6 +98,7 @@ Value ScriptedHost::RollbackTrans(const Call& call)
 
 Value ScriptedHost::InTransaction(const Call& /*call*/)
 {
+    ++TransactionAsked;
     return mInTransaction;
 }
 

@@ -29,7 +29,10 @@ class ScriptedHost : public sandbox::DispatchObject
     std::map<std::wstring, std::wstring> Found;
     // Statements that fail with this text.
     std::map<std::wstring, std::wstring> Failing;
+    // The error's code then.
+    HRESULT FailureCode = E_FAIL;
     bool HasTransactions = true;
+    long TransactionAsked = 0; // calls of InTransaction
 
   protected:
     const wchar_t* ClassName() const override { return L"ScriptedHost"; }

@@ -3,6 +3,7 @@
 #include "data/RecordMode.h"
 #include "tasks/TaskRelations.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/OpenedRecordsets.h"
 #include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskTest.h"
 
@@ -47,6 +48,29 @@ TEST_F(TasksFromOutlook, WithoutRelationRowsTheInsertIsTheLinksAndTheKeys)
                      L"NULL,NULL,7,7,'KEY1'|KEY1",
                      L"CommitTrans"}),
               Host().Calls);
+}
+
+TEST_F(TasksFromOutlook, TheRelationRowsAndTheCatalogueAreOpenedAsTheContractHasThem)
+{
+    Relate({{L"F_ACTNAME", L"Subject"}});
+    AddOutlookTask({{L"Subject", L"Call"}});
+    data::Run run = NewRun();
+    run.Pending.NewOutlookItems.Add(L"1", 0);
+    const test_support::OpenedRecordsets opened;
+    EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
+    EXPECT_EQ(
+        (Calls{L"location 3: Select * From SynRelation Where QuenlarTblName='TBLACTIVITY' (cursor 1, lock "
+               L"1, options 1)",
+               L"SynFields (cursor -1, lock 1, options 2)"}),
+        opened.Texts);
+}
+
+TEST_F(TasksFromOutlook, AnyPositiveResultOfAnInsertIsSuccess)
+{
+    AddOutlookTask({{L"Subject", L"Call"}});
+    Host().Results[L"TBLACTIVITY"] = 5;
+    InsertFirstTask();
+    EXPECT_EQ(L"CommitTrans", Host().Calls.back());
 }
 
 TEST_F(TasksFromOutlook, AnUpdateWritesTheMappedColumnsAndTheLinksOfItsRow)

@@ -1,5 +1,7 @@
 #include "tasks/TasksToOutlook.h"
 
+#include "sandbox/ado/Recordset.h"
+
 #include "automation/Error.h"
 #include "state/SharedState.h"
 #include "tasks/TaskRelations.h"
@@ -192,6 +194,17 @@ TEST_F(TasksToOutlook, WithoutAReminderOrAStartTheReminderTimeIsNotWritten)
     EXPECT_EQ(L"2001-02-03 04:05:00", Date(task, L"ReminderTime"));
     Execute(L"UPDATE Activities SET F_ACTREMIND=NULL");
     EXPECT_FALSE(TruthOf(WriteExistingTask().Get(L"ReminderSet")));
+}
+
+TEST_F(TasksToOutlook, AnEmptyTextForTheStartIsNoStart)
+{
+    Relate({{L"F_ACTREMIND", L"ReminderSet"}});
+    data::Run run = NewRun();
+    run.HostRows =
+        automation::Recordset(sandbox::MakeRecordset({{{L"F_ACTREMIND"}, {L"F_ACTPSTIME"}}, {{true, L""}}}));
+    run.Pending.NewHostRecords.Add(1L, 0);
+    EXPECT_FALSE(tasks::SynTaskToOutlook(run));
+    EXPECT_EQ(1, CountTasks());
 }
 
 TEST_F(TasksToOutlook, ARowThatNamesNoKnownPropertyIsSkipped)

@@ -1,0 +1,47 @@
+// What the host's status numbers mean to the parameter store: negative is failure, anything else success.
+#include "config/ChosenFolders.h"
+#include "config/ParameterStore.h"
+#include "config/UserRows.h"
+#include "tests/support/RecordingHost.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class Status : public testing::Test
+{
+  protected:
+    void AnswerEverythingWith(long status)
+    {
+        for (const wchar_t* member : {L"OpenRecordsetByString", L"Insert", L"Update", L"Delete"})
+        {
+            mHost->Status[member] = status;
+        }
+    }
+
+    test_support::WithRecordingHost mHost;
+    automation::Recordset mRows;
+};
+
+TEST_F(Status, APositiveNumberIsSuccess)
+{
+    AnswerEverythingWith(5);
+    EXPECT_FALSE(config::OpenUserRecordset(mRows, L""));
+    EXPECT_FALSE(config::UpdateUserRows(L"IsTrans=1", config::kParameterTable, L""));
+    EXPECT_FALSE(config::InsertUserRow(L"TransObjectID", L"10", config::kFolderTable));
+    EXPECT_FALSE(config::StoreChosenFolders(*config::FindObjectKind(L"Contact"), {{L"Store", true}}));
+    EXPECT_TRUE(config::CreateDefaultParameters());
+}
+
+TEST_F(Status, ANegativeNumberIsFailure)
+{
+    AnswerEverythingWith(-1);
+    EXPECT_TRUE(config::OpenUserRecordset(mRows, L""));
+    EXPECT_TRUE(config::UpdateUserRows(L"IsTrans=1", config::kParameterTable, L""));
+    EXPECT_TRUE(config::InsertUserRow(L"TransObjectID", L"10", config::kFolderTable));
+    EXPECT_TRUE(config::StoreChosenFolders(*config::FindObjectKind(L"Contact"), {{L"Store", true}}));
+    EXPECT_FALSE(config::CreateDefaultParameters());
+}
+
+} // namespace

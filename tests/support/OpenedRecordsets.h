@@ -1,0 +1,46 @@
+// Keeps how each recordset of the component's own is opened, for the length of a scope: the arguments of
+// every Open of ADO's stand-in but the connection, with the cursor location before them. Header only.
+#pragma once
+
+#include "sandbox/dispatch/DispatchObject.h"
+
+#include <string>
+#include <vector>
+
+namespace test_support
+{
+
+class OpenedRecordsets : public sandbox::CallObserver
+{
+  public:
+    OpenedRecordsets() : mPrevious(sandbox::Observe(this)) {}
+    OpenedRecordsets(const OpenedRecordsets&) = delete;
+    OpenedRecordsets& operator=(const OpenedRecordsets&) = delete;
+    ~OpenedRecordsets() override { sandbox::Observe(mPrevious); }
+
+    // "location 3: Select ... (cursor 1, lock 1, options 1)"; a default location is not named.
+    std::vector<std::wstring> Texts;
+
+    void OnCall(const wchar_t* /*className*/, const wchar_t* /*member*/) override {}
+    void OnArguments(const wchar_t* className, const wchar_t* member, const sandbox::Call& call) override
+    {
+        const std::wstring name = std::wstring(className) + L"." + member;
+        if (name == L"Recordset.CursorLocation")
+        {
+            mLocation = L"location " + automation::TextOf(call.Assigned()) + L": ";
+        }
+        else if (name == L"Recordset.Open" && call.Count() == 5)
+        {
+            Texts.push_back(mLocation + automation::TextOf(call.At(0)) + L" (cursor " +
+                            automation::TextOf(call.At(2)) + L", lock " + automation::TextOf(call.At(3)) +
+                            L", options " + automation::TextOf(call.At(4)) + L")");
+            mLocation.clear();
+        }
+    }
+
+  private:
+    sandbox::CallObserver* mPrevious;
+    std::wstring mLocation;
+};
+
+} // namespace test_support
