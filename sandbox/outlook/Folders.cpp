@@ -4,6 +4,7 @@
 #include "sandbox/outlook/Failures.h"
 #include "sandbox/outlook/ItemsObject.h"
 #include "sandbox/outlook/Paths.h"
+#include "sandbox/outlook/Table.h"
 
 #include <cwchar>
 
@@ -111,7 +112,8 @@ const MemberTable& FolderObject::Members() const
                            {L"DefaultMessageClass", Reads(&FolderObject::DefaultMessageClass), nullptr},
                            {L"Folders", Reads(&FolderObject::Folders), nullptr},
                            {L"Items", Reads(&FolderObject::Items), nullptr},
-                                              {L"Parent", Reads(&FolderObject::Parent), nullptr},
+                           {L"GetTable", Reads(&FolderObject::GetTable), nullptr},
+                           {L"Parent", Reads(&FolderObject::Parent), nullptr},
                            {L"FolderPath", Reads(&FolderObject::FolderPath), nullptr},
                            {L"EntryID", Reads(&FolderObject::EntryId), nullptr},
                            {L"StoreID", Reads(&FolderObject::StoreId), nullptr},
@@ -143,6 +145,15 @@ Value FolderObject::Folders(const Call& call)
 Value FolderObject::Items(const Call& call)
 {
     return WithIndex(MakeObject<ItemsObject>(Box(), mFolder), call);
+}
+
+Value FolderObject::GetTable(const Call& call)
+{
+    if (Box()->Behaviour().noTable)
+    {
+        throw automation::Error(DISP_E_MEMBERNOTFOUND, L"GetTable");
+    }
+    return TableOf(Box(), mFolder, call.At(0), call.At(1));
 }
 
 Value FolderObject::Parent(const Call&)

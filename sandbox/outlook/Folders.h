@@ -53,6 +53,7 @@ class FolderObject : public OutlookObject
     Value FolderPath(const Call&);
     Value StoreId(const Call&);
     Value EntryId(const Call&);
+    Value GetTable(const Call& call);
 
     MailFolder& mFolder;
 };
