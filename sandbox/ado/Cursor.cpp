@@ -17,6 +17,17 @@ constexpr long kUnknown = -1;     // adPosUnknown
 constexpr long kBeforeFirst = -2; // adPosBOF
 constexpr long kBehindLast = -3;  // adPosEOF
 
+// Opaque bookmarks: far from any position.
+constexpr double kOpaqueBase = 1'000'000;
+constexpr double kOpaqueStep = 17;
+
+[[noreturn]] void RefuseArgument()
+{
+    throw Error(kInvalidArgument, L"Recordset",
+                L"Arguments are of the wrong type, are out of acceptable range, or are in conflict with one "
+                L"another.");
+}
+
 [[noreturn]] void RefuseWithoutRecord()
 {
     throw Error(
@@ -27,17 +38,22 @@ constexpr long kBehindLast = -3;  // adPosEOF
 
 } // namespace
 
-void Cursor::Open(ResultSet rows, bool isForwardOnly)
+void Cursor::Open(ResultSet rows, bool isForwardOnly, Requery requery)
 {
     mResult = std::move(rows);
     mIsForwardOnly = isForwardOnly;
     mIsOpen = true;
-    mPosition = 1;
+    mMoves = 0;
+    KeepKeys(std::move(requery));
+    mSort = mAwkward.atMove == 0 ? mAwkward.sort : L"";
+    mFilter = mAwkward.atMove == 0 ? mAwkward.filter : L"";
+    Arrange();
 }
 
 void Cursor::Close() noexcept
 {
     mResult = {};
+    mOrder.clear();
     mIsOpen = false;
 }
 
@@ -73,7 +89,7 @@ bool Cursor::AtStart() const
 
 long Cursor::RowCount() const
 {
-    return static_cast<long>(mResult.rows.size());
+    return static_cast<long>(mOrder.size());
 }
 
 long Cursor::Count() const
@@ -84,32 +100,59 @@ long Cursor::Count() const
 
 long Cursor::Position() const
 {
-    CheckOpen();
-    if (mIsForwardOnly || RowCount() == 0)
+    CheckFree(); // "Accessing the AbsolutePosition property of a Recordset that was opened with either a
+                 // forward-only or dynamic cursor raises the error adErrFeatureNotAvailable"
+    if (RowCount() == 0)
     {
         return kUnknown;
     }
     return AtStart() ? kBeforeFirst : AtEnd() ? kBehindLast : mPosition;
 }
 
-long Cursor::Bookmark() const
+// Otherwise the number of the row: the bookmark of a client's cursor, as long as nothing sorts it.
+double Cursor::Bookmark() const
 {
     CheckFree();
-    if (AtStart() || AtEnd())
+    const auto row = static_cast<double>(CurrentRow() + 1);
+    return mAwkward.opaqueBookmarks ? kOpaqueBase + row * kOpaqueStep : row;
+}
+
+size_t Cursor::CurrentRow() const
+{
+    if (AtEnd() || AtStart())
     {
         RefuseWithoutRecord();
     }
-    return mPosition;
+    return mOrder[static_cast<size_t>(mPosition) - 1];
+}
+
+void Cursor::GoToBookmark(double bookmark)
+{
+    CheckFree();
+    if (RowCount() == 0)
+    {
+        RefuseWithoutRecord();
+    }
+    const double row = mAwkward.opaqueBookmarks ? (bookmark - kOpaqueBase) / kOpaqueStep : bookmark;
+    const auto found =
+        std::ranges::find_if(mOrder, [&](size_t one) { return static_cast<double>(one + 1) == row; });
+    if (found == mOrder.end())
+    {
+        RefuseArgument();
+    }
+    mPosition = static_cast<long>(found - mOrder.begin()) + 1;
 }
 
 void Cursor::GoToFirst()
 {
     CheckOpen();
+    BeforeMove();
     if (RowCount() == 0)
     {
         RefuseWithoutRecord();
     }
     mPosition = 1;
+    Refresh();
 }
 
 void Cursor::GoToLast()
@@ -120,23 +163,23 @@ void Cursor::GoToLast()
 void Cursor::GoTo(long position)
 {
     CheckFree();
+    BeforeMove();
     if (RowCount() == 0)
     {
         RefuseWithoutRecord();
     }
     if (position < 1 || position > RowCount())
     {
-        throw Error(
-            kInvalidArgument, L"Recordset",
-            L"Arguments are of the wrong type, are out of acceptable range, or are in conflict with one "
-            L"another.");
+        RefuseArgument();
     }
     mPosition = position;
+    Refresh();
 }
 
 void Cursor::MoveBy(long rows)
 {
     CheckOpen();
+    BeforeMove();
     if (rows < 0)
     {
         CheckFree();
@@ -147,11 +190,12 @@ void Cursor::MoveBy(long rows)
         RefuseWithoutRecord();
     }
     mPosition = std::clamp(mPosition + rows, 0L, RowCount() + 1);
+    Refresh();
 }
 
-void Cursor::MoveBy(long rows, long bookmark)
+void Cursor::MoveBy(long rows, double bookmark)
 {
-    GoTo(bookmark);
+    GoToBookmark(bookmark);
     MoveBy(rows);
 }
 
@@ -178,11 +222,12 @@ size_t Cursor::ColumnIndex(const Value& nameOrNumber) const
 
 const Value& Cursor::Current(size_t column) const
 {
-    if (AtEnd() || AtStart())
+    const size_t row = CurrentRow();
+    if (mIsDeleted[row])
     {
-        RefuseWithoutRecord();
+        throw Error(kRowDeleted, L"Recordset", L"A given HROW referred to a hard- or soft-deleted row.");
     }
-    return mResult.rows[static_cast<size_t>(mPosition) - 1][column];
+    return mResult.rows[row][column];
 }
 
 } // namespace sandbox

@@ -1,26 +1,13 @@
 #include "sandbox/ado/Fields.h"
 
 #include "automation/Error.h"
-#include "sandbox/ado/Recordset.h"
+#include "sandbox/ado/FieldValues.h"
 
 namespace sandbox
 {
 
 namespace
 {
-
-// ADO's DataTypeEnum, as far as used.
-long AdoTypeOf(ColumnType type)
-{
-    switch (type)
-    {
-    case ColumnType::Integer: return 3;
-    case ColumnType::Double: return 5;
-    case ColumnType::Truth: return 11;
-    case ColumnType::Date: return 135;
-    default: return 202;
-    }
-}
 
 class Field : public DispatchObject
 {
@@ -29,8 +16,8 @@ class Field : public DispatchObject
 
   private:
     Value Name(const Call&) { return mCursor->Columns()[mColumn].name; }
-    Value Type(const Call&) { return AdoTypeOf(mCursor->Columns()[mColumn].type); }
-    Value Get(const Call&) { return mCursor->Current(mColumn); }
+    Value Type(const Call&) { return AdoTypeOf(mCursor->Columns()[mColumn], mCursor->Behaviour()); }
+    Value Get(const Call&) { return FieldValue(mCursor->Current(mColumn), mCursor->Behaviour()); }
 
     const wchar_t* ClassName() const override { return L"Field"; }
     int DefaultMember() const override { return 0; }

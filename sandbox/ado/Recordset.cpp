@@ -21,6 +21,7 @@ constexpr long kServerCursor = 2;
 constexpr long kClientCursor = 3;
 constexpr long kUnspecified = -1;
 constexpr long kForwardOnly = 0;
+constexpr long kKeyset = 1;
 constexpr long kStatic = 3;
 constexpr long kReadOnly = 1;
 
@@ -38,12 +39,12 @@ long CursorTypeFor(long asked, long location)
 class Recordset : public DispatchObject
 {
   public:
-    Recordset() : mCursor(std::make_shared<Cursor>()) {}
-    explicit Recordset(ResultSet rows) : Recordset()
+    explicit Recordset(AwkwardAdo awkward) : mCursor(std::make_shared<Cursor>(std::move(awkward))) {}
+    Recordset(ResultSet rows, AwkwardAdo awkward, Requery requery) : Recordset(std::move(awkward))
     {
         mCursorLocation = kClientCursor;
-        mCursorType = kStatic;
-        mCursor->Open(std::move(rows), false);
+        mCursorType = mCursor->Behaviour().rows == RowsAs::Keyset ? kKeyset : kStatic;
+        mCursor->Open(std::move(rows), false, std::move(requery));
     }
 
   private:
@@ -60,9 +61,11 @@ class Recordset : public DispatchObject
         mCursorType = CursorTypeFor(LongOr(call.At(2), kUnspecified), mCursorLocation);
         mLockType = LongOr(call.At(3), kReadOnly);
         const bool isTable = LongOr(call.At(4), 1) == kCommandTable;
-        Connection connection(TextOf(call.At(1)));
-        mCursor->Open(connection.Query(isTable ? L"SELECT * FROM " + source : source),
-                      mCursorType == kForwardOnly);
+        const std::wstring sql = isTable ? L"SELECT * FROM " + source : source;
+        const Requery query = [sql, connection = TextOf(call.At(1))] {
+            return Connection(connection).Query(sql);
+        };
+        mCursor->Open(query(), mCursorType == kForwardOnly, mCursorType == kKeyset ? query : nullptr);
         return {};
     }
 
@@ -112,7 +115,7 @@ class Recordset : public DispatchObject
         }
         else
         {
-            mCursor->MoveBy(rows, LongOf(start));
+            mCursor->MoveBy(rows, automation::DoubleOf(start));
         }
         return {};
     }
@@ -120,8 +123,18 @@ class Recordset : public DispatchObject
     Value GetAbsolutePosition(const Call&) { return mCursor->Position(); }
     void PutAbsolutePosition(const Call& call) { mCursor->GoTo(LongOf(call.Assigned())); }
 
-    // The bookmark of a client cursor is the row's position, as a double.
-    Value GetBookmark(const Call&) { return static_cast<double>(mCursor->Bookmark()); }
+    Value GetBookmark(const Call&) { return mCursor->Bookmark(); }
+    void PutBookmark(const Call& call) { mCursor->MoveBy(0, automation::DoubleOf(call.Assigned())); }
+
+    // "Sort" and "Filter" are for clients' cursors; adFilterNone takes a filter away.
+    Value GetSort(const Call&) { return mCursor->SortedBy(); }
+    void PutSort(const Call& call) { mCursor->Sort(TextOf(call.Assigned())); }
+    Value GetFilter(const Call&) { return mCursor->FilteredBy(); }
+    void PutFilter(const Call& call)
+    {
+        const Value criteria = call.Assigned();
+        mCursor->Filter(criteria.Type() == VT_BSTR ? TextOf(criteria) : std::wstring());
+    }
 
     Value GetFields(const Call& call)
     {
@@ -164,7 +177,9 @@ class Recordset : public DispatchObject
             {L"Move", Reads(&Recordset::Move), nullptr},
             {L"AbsolutePosition", Reads(&Recordset::GetAbsolutePosition),
              Writes(&Recordset::PutAbsolutePosition)},
-            {L"Bookmark", Reads(&Recordset::GetBookmark), Writes(&Recordset::PutAbsolutePosition)},
+            {L"Bookmark", Reads(&Recordset::GetBookmark), Writes(&Recordset::PutBookmark)},
+            {L"Sort", Reads(&Recordset::GetSort), Writes(&Recordset::PutSort)},
+            {L"Filter", Reads(&Recordset::GetFilter), Writes(&Recordset::PutFilter)},
             {L"CursorLocation", Reads(&Recordset::GetCursorLocation), Writes(&Recordset::PutCursorLocation)},
             {L"CursorType", Reads(&Recordset::GetCursorType), nullptr},
             {L"LockType", Reads(&Recordset::GetLockType), nullptr},
@@ -180,14 +195,14 @@ class Recordset : public DispatchObject
 
 } // namespace
 
-automation::Object MakeRecordset()
+automation::Object MakeRecordset(AwkwardAdo awkward)
 {
-    return MakeObject<Recordset>();
+    return MakeObject<Recordset>(std::move(awkward));
 }
 
-automation::Object MakeRecordset(ResultSet rows)
+automation::Object MakeRecordset(ResultSet rows, AwkwardAdo awkward, Requery requery)
 {
-    return MakeObject<Recordset>(std::move(rows));
+    return MakeObject<Recordset>(std::move(rows), std::move(awkward), std::move(requery));
 }
 
 } // namespace sandbox

@@ -3,6 +3,7 @@
 #include "automation/Error.h"
 #include "automation/Text.h"
 
+#include <algorithm>
 #include <cwchar>
 
 #include <oleauto.h>
@@ -168,7 +169,7 @@ STDMETHODIMP DispatchObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, 
     {
         if (_wcsicmp(members[i].name, names[0]) == 0)
         {
-            ids[0] = static_cast<DISPID>(i + 1);
+            ids[0] = members[i].id != DISPID_UNKNOWN ? members[i].id : static_cast<DISPID>(i + 1);
             return count == 1 ? S_OK : DISP_E_UNKNOWNNAME;
         }
     }
@@ -198,15 +199,26 @@ STDMETHODIMP DispatchObject::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPAR
     }
 }
 
-Value DispatchObject::Run(DISPID id, WORD flags, const Call& call)
+const Member* DispatchObject::Find(DISPID id) const
 {
     const MemberTable& members = Members();
+    if (!members.empty() && members.front().id != DISPID_UNKNOWN)
+    {
+        const auto found = std::ranges::find(members, id, &Member::id);
+        return found == members.end() ? nullptr : &*found;
+    }
     const auto index = static_cast<size_t>(id == DISPID_VALUE ? DefaultMember() : id - 1);
-    if (index >= members.size())
+    return index < members.size() ? &members[index] : nullptr;
+}
+
+Value DispatchObject::Run(DISPID id, WORD flags, const Call& call)
+{
+    const Member* found = Find(id);
+    if (found == nullptr)
     {
         throw automation::Error(DISP_E_MEMBERNOTFOUND, ClassName());
     }
-    const Member& member = members[index];
+    const Member& member = *found;
     if (CallObserver* observer = gObserver)
     {
         observer->OnCall(ClassName(), member.name);
@@ -217,6 +229,7 @@ Value DispatchObject::Run(DISPID id, WORD flags, const Call& call)
     {
         throw automation::Error(DISP_E_MEMBERNOTFOUND, member.name);
     }
+    BeforeMember(member, isWrite);
     if (isWrite)
     {
         member.write(*this, call);

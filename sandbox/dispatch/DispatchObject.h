@@ -53,6 +53,8 @@ struct Member
     std::function<Value(DispatchObject& self, const Call& call)> read;
     // Writes the property; null for a member that cannot be written.
     std::function<void(DispatchObject& self, const Call& call)> write;
+    // Unknown: the index in the table plus one.
+    DISPID id = DISPID_UNKNOWN;
 };
 
 using MemberTable = std::vector<Member>;
@@ -103,15 +105,19 @@ class DispatchObject : public IDispatch
 
     // The name that observers see, for example "ContactItem".
     virtual const wchar_t* ClassName() const = 0;
-    // The members; a DISPID is the index in this table plus one, so the table must not change. One table per
-    // class, shared by its objects.
+    // The members; one table per class, shared by its objects. It must not change, nor give DISPIDs to some of
+    // its members only.
     virtual const MemberTable& Members() const = 0;
-    // The index of the default member (DISPID 0), for collections usually "Item"; -1 for none.
+    // The index of the default member (DISPID 0) of a table without DISPIDs, for collections usually "Item";
+    // -1 for none.
     virtual int DefaultMember() const { return -1; }
+    // Before a member runs; what it throws is the member's failure.
+    virtual void BeforeMember(const Member& /*member*/, bool /*isWrite*/) {}
     // The dispinterface that the object's type information describes; nothing for an object without one.
     virtual Microsoft::WRL::ComPtr<ITypeInfo> TypeInformation() const { return nullptr; }
 
   private:
+    const Member* Find(DISPID id) const;
     Value Run(DISPID id, WORD flags, const Call& call);
 
     std::atomic<ULONG> mReferences{0};

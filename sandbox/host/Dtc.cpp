@@ -59,14 +59,21 @@ class Dtc : public DispatchObject
     long OpenRecordset(const Call& call)
     {
         const std::wstring filter = automation::IsMissing(call.At(3)) ? L"" : TextOf(call.At(3));
-        ResultSet rows = OpenSource(mState->database, mState->userId, TextOf(call.At(1)), filter);
-        call.Write(0, MakeRecordset(std::move(rows)));
-        return kSuccess;
+        return Open(call, [state = mState, source = TextOf(call.At(1)), filter] {
+            return OpenSource(state->database, state->userId, source, filter);
+        });
     }
 
     long OpenRecordsetByString(const Call& call)
     {
-        call.Write(0, MakeRecordset(Statements().Select(TextOf(call.At(1)))));
+        return Open(call, [state = mState, sql = TextOf(call.At(1))] {
+            return HostStatements(state->database).Select(sql);
+        });
+    }
+
+    long Open(const Call& call, const Requery& query)
+    {
+        call.Write(0, MakeRecordset(query(), mState->recordsets, query));
         return kSuccess;
     }
 

@@ -3,6 +3,7 @@
 #include "sandbox/database/DatabaseFile.h"
 #include "sandbox/host/Dtc.h"
 #include "sandbox/host/Schema.h"
+#include "sandbox/host/TypedDtc.h"
 
 namespace sandbox
 {
@@ -47,6 +48,11 @@ void Host::SetRight(long module, long function, long right, long answer)
                        codes);
     codes.emplace_back(answer);
     AddRows(Database(), L"UserRight", L"F_UID,Module,Function,[Right],Answer", {codes});
+}
+
+automation::Object Host::TypedDtc() const
+{
+    return MakeTypedDtc(mDtc);
 }
 
 std::wstring Host::LastRejection() const

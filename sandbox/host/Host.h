@@ -26,6 +26,8 @@ class Host
 
     // The data-access object; one for the Host's life.
     const automation::Object& Dtc() const noexcept { return mDtc; }
+    // The same as a host written in Visual Basic has it, with typed by-reference parameters (see TypedDtc.h).
+    automation::Object TypedDtc() const;
     const std::wstring& ConnectionString() const noexcept { return mState->database.ConnectionString(); }
     // The connection that the data-access object uses.
     Connection& Database() noexcept { return mState->database; }
@@ -40,6 +42,8 @@ class Host
     // Which member refused last, and why; empty where none did.
     std::wstring LastRejection() const;
     const std::vector<std::wstring>& Rejections() const noexcept { return mState->rejections; }
+    // How the recordsets behave that the host opens from now on.
+    AwkwardAdo& Recordsets() noexcept { return mState->recordsets; }
     // Failures to order, and how often members were called.
     MemberFailures& Failures() noexcept { return mState->failures; }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "automation/Dates.h"
+#include "sandbox/ado/AwkwardAdo.h"
 #include "sandbox/database/Connection.h"
 #include "sandbox/host/Catalogue.h"
 #include "sandbox/host/MemberFailures.h"
@@ -23,6 +24,7 @@ struct HostState
     std::optional<automation::Date> clock; // nothing: the machine's
     std::vector<std::wstring> rejections;  // the reasons, oldest first
     MemberFailures failures;
+    AwkwardAdo recordsets; // the switches of the recordsets that the host opens
 };
 
 } // namespace sandbox

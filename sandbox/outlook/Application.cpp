@@ -25,8 +25,9 @@ constexpr DefaultFolderRow kDefaultFolders[] = {
     {12, ItemKind::Note}, {13, ItemKind::Task},
 };
 
-constexpr ItemKind kItemTypes[] = {ItemKind::Mail, ItemKind::Appointment, ItemKind::Contact, ItemKind::Task,
-                                   ItemKind::Note};
+constexpr ItemKind kItemTypes[] = {
+    ItemKind::Mail, ItemKind::Appointment, ItemKind::Contact,         ItemKind::Task,
+    ItemKind::Note, ItemKind::Post,        ItemKind::DistributionList};
 
 } // namespace
 
@@ -75,15 +76,16 @@ ApplicationObject::~ApplicationObject()
 
 const MemberTable& ApplicationObject::Members() const
 {
-    static const MemberTable members = {
-        {L"GetNamespace", Reads(&ApplicationObject::GetNamespace), nullptr},
-        {L"Session", Reads(&ApplicationObject::Session), nullptr},
-        {L"CreateItem", Reads(&ApplicationObject::CreateItem), nullptr},
-        Constant(L"Name", L"Outlook"),
-        Constant(L"Version", L"16.0.0.0"),
-        Constant(L"Class", 0L),
-        Ignored(L"Quit"),
-    };
+    static const MemberTable members =
+        AsPublished(L"_Application", {
+                                         {L"GetNamespace", Reads(&ApplicationObject::GetNamespace), nullptr},
+                                         {L"Session", Reads(&ApplicationObject::Session), nullptr},
+                                         {L"CreateItem", Reads(&ApplicationObject::CreateItem), nullptr},
+                                         Constant(L"Name", L"Outlook"),
+                                         Constant(L"Version", L"16.0.0.0"),
+                                         Constant(L"Class", 0L),
+                                         Ignored(L"Quit"),
+                                     });
     return members;
 }
 
@@ -118,15 +120,16 @@ NameSpaceObject::NameSpaceObject(MailboxRef mailbox) : OutlookObject(std::move(m
 
 const MemberTable& NameSpaceObject::Members() const
 {
-    static const MemberTable members = {
-        {L"Folders", Reads(&NameSpaceObject::Folders), nullptr},
-        {L"GetDefaultFolder", Reads(&NameSpaceObject::GetDefaultFolder), nullptr},
-        {L"GetItemFromID", Reads(&NameSpaceObject::GetItemFromId), nullptr},
-        Constant(L"Type", L"MAPI"),
-        Constant(L"Class", 1L),
-        Ignored(L"Logon"),
-        Ignored(L"Logoff"),
-    };
+    static const MemberTable members = AsPublished(
+        L"_NameSpace", {
+                           {L"Folders", Reads(&NameSpaceObject::Folders), nullptr},
+                           {L"GetDefaultFolder", Reads(&NameSpaceObject::GetDefaultFolder), nullptr},
+                           {L"GetItemFromID", Reads(&NameSpaceObject::GetItemFromId), nullptr},
+                           Constant(L"Type", L"MAPI"),
+                           Constant(L"Class", 1L),
+                           Ignored(L"Logon"),
+                           Ignored(L"Logoff"),
+                       });
     return members;
 }
 
@@ -157,6 +160,7 @@ Value NameSpaceObject::GetItemFromId(const Call& call)
     {
         FailNotFound(L"GetItemFromID");
     }
+    Box()->FailIfOffline(*item->folder, L"GetItemFromID");
     return ObjectOfItem(Box(), item);
 }
 

@@ -14,6 +14,7 @@ class ApplicationObject : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"Application"; }
+    const wchar_t* InterfaceName() const override { return L"_Application"; }
     const MemberTable& Members() const override;
 
   private:
@@ -29,6 +30,7 @@ class NameSpaceObject : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"NameSpace"; }
+    const wchar_t* InterfaceName() const override { return L"_NameSpace"; }
     const MemberTable& Members() const override;
 
   private:

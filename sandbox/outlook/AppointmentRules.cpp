@@ -118,34 +118,19 @@ long MinutesBetween(Date start, Date end)
                        1440);
 }
 
-Date OwnStart(const ItemDraft& item)
-{
-    const Value* own = item.Find(Start);
-    return own != nullptr ? automation::DateOf(*own) : automation::kOutlookNoDate;
-}
-
-Date OwnEnd(const ItemDraft& item)
-{
-    if (const Value* own = item.Find(End))
-    {
-        return automation::DateOf(*own);
-    }
-    const Value* duration = item.Find(Duration);
-    return automation::PlusMinutes(OwnStart(item),
-                                   automation::LongOf(duration != nullptr ? *duration : DefaultOf(Duration)));
-}
-
 std::span<const PropertyRule> AppointmentRules()
 {
     return kAppointmentRules;
 }
 
-// The next full or half hour, for thirty minutes.
+// The next full or half hour, for thirty minutes. "Default reminders" are on in a new Outlook, 15 minutes
+// before the start, so that a new appointment has one ("Set or remove reminders").
 void StartAppointment(ItemDraft& item)
 {
     constexpr double kHalfHours = 48;
     const double slot = std::ceil(Now().days * kHalfHours);
     PutBounds(item, {slot / kHalfHours}, automation::PlusMinutes({slot / kHalfHours}, 30));
+    item.Put(ReminderSet, item.Box().Behaviour().appointmentReminders);
 }
 
 } // namespace sandbox::outlook

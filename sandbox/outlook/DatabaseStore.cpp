@@ -18,11 +18,12 @@ constexpr const wchar_t* kTables[] = {
     L"Name TEXT NOT NULL, Value TEXT, PRIMARY KEY (FolderPath, ItemIndex, Name))",
     L"CREATE TABLE IF NOT EXISTS ItemLink (FolderPath TEXT NOT NULL, ItemIndex INTEGER NOT NULL, "
     L"LinkedTo TEXT NOT NULL)",
+    L"CREATE TABLE IF NOT EXISTS Switch (Name TEXT PRIMARY KEY, Value TEXT NOT NULL)",
     L"CREATE INDEX IF NOT EXISTS ItemLinkOfItem ON ItemLink (FolderPath, ItemIndex)",
 };
 
-constexpr ItemKind kKnownKinds[] = {ItemKind::Mail, ItemKind::Appointment, ItemKind::Contact, ItemKind::Task,
-                                    ItemKind::Note};
+constexpr ItemKind kKnownKinds[] = {ItemKind::Mail, ItemKind::Appointment, ItemKind::Contact,
+                                    ItemKind::Task, ItemKind::Note,        ItemKind::Post};
 
 ItemKind KindOfNumber(const Value& number)
 {
@@ -129,6 +130,22 @@ void DatabaseStore::CreateTables(Connection& connection)
     {
         connection.Execute(statement);
     }
+}
+
+// A file made by hand or long ago need not have the table.
+std::vector<std::pair<std::wstring, Value>> DatabaseStore::ReadSwitches()
+{
+    std::vector<std::pair<std::wstring, Value>> switches;
+    const Value table =
+        mConnection.QueryValue(L"SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'Switch'");
+    if (!automation::IsEmptyOrNull(table))
+    {
+        for (const Row& row : mConnection.Query(L"SELECT Name, Value FROM Switch ORDER BY rowid").rows)
+        {
+            switches.emplace_back(automation::TextOrEmpty(row[0]), row[1]);
+        }
+    }
+    return switches;
 }
 
 std::vector<std::pair<std::wstring, ItemKind>> DatabaseStore::ReadFolders()

@@ -1,4 +1,5 @@
-// A mailbox file: a SQLite database with the tables Folder, ItemProperty and ItemLink. Every write is one
+// A mailbox file: a SQLite database with the tables Folder, ItemProperty, ItemLink
+// and Switch. Every write is one
 // transaction, so that another reader of the file sees an item whole or not at all. Rows may be added by
 // hand: properties that Outlook does not know are left alone.
 #pragma once
@@ -19,6 +20,7 @@ class DatabaseStore : public MailboxStore
     static void Create(const std::wstring& path);
     static void CreateTables(Connection& connection);
 
+    std::vector<std::pair<std::wstring, Value>> ReadSwitches() override;
     std::vector<std::pair<std::wstring, ItemKind>> ReadFolders() override;
     void AddFolder(const std::wstring& path, ItemKind type) override;
     std::map<long, ItemRows> ReadItems(const std::wstring& path) override;

@@ -10,6 +10,8 @@ namespace
 constexpr HRESULT kNotFound = static_cast<HRESULT>(0x8004010F);
 // Visual Basic's error 13, as an object raises it: unlike DISP_E_TYPEMISMATCH it carries a description.
 constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
+// MAPI_E_OFFLINE ("What is MAPI_E_RECONNECTED?").
+constexpr HRESULT kOffline = static_cast<HRESULT>(0x80040126);
 
 } // namespace
 
@@ -32,6 +34,36 @@ void FailTypeMismatch(const wchar_t* member)
 void FailInvalid(const wchar_t* member, const std::wstring& description)
 {
     throw automation::Error(E_INVALIDARG, member, description);
+}
+
+void FailGuarded(const wchar_t* member)
+{
+    throw automation::Error(E_ABORT, member, L"Operation aborted");
+}
+
+void FailOffline(const wchar_t* member)
+{
+    throw automation::Error(kOffline, member,
+                            L"The connection to Microsoft Exchange is unavailable. Outlook must be online or "
+                            L"connected to complete this action.");
+}
+
+void FailDeprecated(const wchar_t* member)
+{
+    throw automation::Error(E_NOTIMPL, member, std::wstring(member) + L" is no longer supported.");
+}
+
+void FailUnfiltered(std::wstring_view property)
+{
+    throw automation::Error(E_INVALIDARG, L"filter",
+                            L"Condition is not valid: \"" + std::wstring(property) +
+                                L"\" cannot be filtered.");
+}
+
+void FailColumn(const std::wstring& name)
+{
+    throw automation::Error(E_INVALIDARG, L"Columns.Add",
+                            L"The property \"" + name + L"\" does not support this operation.");
 }
 
 void FailCondition(std::wstring_view rest)

@@ -16,6 +16,16 @@ namespace sandbox::outlook
 [[noreturn]] void FailTypeMismatch(const wchar_t* member);
 // A value of the right type that the member does not take, or a call that does not fit the object's state.
 [[noreturn]] void FailInvalid(const wchar_t* member, const std::wstring& description);
+// A member that the object model guard protects, when nobody answers its prompt with yes.
+[[noreturn]] void FailGuarded(const wchar_t* member);
+// A store that is not connected.
+[[noreturn]] void FailOffline(const wchar_t* member);
+// A member that this version has no longer.
+[[noreturn]] void FailDeprecated(const wchar_t* member);
+// A condition on a property that filters do not take.
+[[noreturn]] void FailUnfiltered(std::wstring_view property);
+// A column that a table does not take.
+[[noreturn]] void FailColumn(const std::wstring& name);
 // A filter that cannot be read from here on.
 [[noreturn]] void FailCondition(std::wstring_view rest);
 

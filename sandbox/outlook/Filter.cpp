@@ -3,6 +3,7 @@
 #include "sandbox/outlook/Failures.h"
 #include "sandbox/outlook/PropertyValues.h"
 
+#include <cwchar>
 #include <string_view>
 
 namespace sandbox::outlook
@@ -155,6 +156,10 @@ class Parser
     {
         Demand(L"[");
         const std::wstring_view name = UpTo(L']');
+        if (IsUnfiltered(name))
+        {
+            FailUnfiltered(name);
+        }
         for (const auto kind : {ItemKind::Contact, ItemKind::Task, ItemKind::Appointment, ItemKind::Mail})
         {
             const auto id = FindProperty(kind, name);
@@ -182,7 +187,7 @@ class Parser
     {
         SkipBlanks();
         const std::wstring_view before = mRest;
-        const std::wstring text(Literal());
+        const std::wstring text = Literal();
         try
         {
             // A condition may name numbers that the property could not hold.
@@ -195,14 +200,14 @@ class Parser
         }
     }
 
-    std::wstring_view Literal()
+    std::wstring Literal()
     {
         for (const wchar_t quote : {L'"', L'\''})
         {
             if (mRest.starts_with(quote))
             {
                 mRest.remove_prefix(1);
-                return UpTo(quote);
+                return Quoted(quote);
             }
         }
         const std::wstring_view bare = mRest.substr(0, mRest.find_first_of(L" )\"'[]"));
@@ -211,7 +216,21 @@ class Parser
             FailCondition(mRest);
         }
         mRest.remove_prefix(bare.size());
-        return bare;
+        return std::wstring(bare);
+    }
+
+    // "If the string contains a double quote, then add a double quote as an escape character before the
+    // double quote"; the same for single quotes (Items.Find method).
+    std::wstring Quoted(wchar_t quote)
+    {
+        std::wstring text(UpTo(quote));
+        while (mRest.starts_with(quote))
+        {
+            mRest.remove_prefix(1);
+            text += quote;
+            text += UpTo(quote);
+        }
+        return text;
     }
 
     // What stands before the closing character, which is taken as well.

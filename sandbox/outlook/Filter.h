@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace sandbox::outlook
 {
@@ -19,8 +20,11 @@ class Condition
 
 using ConditionRef = std::shared_ptr<const Condition>;
 
-// Throws automation::Error for a text that is no condition, for a property that Outlook does not have and
-// for a value that cannot be compared with the property.
+// True for the properties that Find and Restrict refuse.
+bool IsUnfiltered(std::wstring_view name);
+
+// Throws automation::Error for a text that is no condition, for a property that Outlook does not have or does
+// not filter by and for a value that cannot be compared with the property.
 ConditionRef ParsedFilter(const std::wstring& filter);
 
 } // namespace sandbox::outlook

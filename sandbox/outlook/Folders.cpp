@@ -3,6 +3,8 @@
 #include "sandbox/outlook/Application.h"
 #include "sandbox/outlook/Failures.h"
 #include "sandbox/outlook/ItemsObject.h"
+#include "sandbox/outlook/Paths.h"
+#include "sandbox/outlook/Table.h"
 
 #include <cwchar>
 
@@ -16,14 +18,15 @@ FoldersObject::FoldersObject(MailboxRef mailbox, MailFolder* parent)
 
 const MemberTable& FoldersObject::Members() const
 {
-    static const MemberTable members = {
-        {L"Item", Reads(&FoldersObject::Item), nullptr},
-        {L"Count", Reads(&FoldersObject::Count), nullptr},
-        {L"Add", Reads(&FoldersObject::Add), nullptr},
-        {L"GetFirst", Reads(&FoldersObject::GetFirst), nullptr},
-        {L"GetNext", Reads(&FoldersObject::GetNext), nullptr},
-        Constant(L"Class", 15L),
-    };
+    static const MemberTable members =
+        AsPublished(L"_Folders", {
+                                     {L"Item", Reads(&FoldersObject::Item), nullptr},
+                                     {L"Count", Reads(&FoldersObject::Count), nullptr},
+                                     {L"Add", Reads(&FoldersObject::Add), nullptr},
+                                     {L"GetFirst", Reads(&FoldersObject::GetFirst), nullptr},
+                                     {L"GetNext", Reads(&FoldersObject::GetNext), nullptr},
+                                     Constant(L"Class", 15L),
+                                 });
     return members;
 }
 
@@ -102,18 +105,20 @@ FolderObject::FolderObject(MailboxRef mailbox, MailFolder& folder)
 
 const MemberTable& FolderObject::Members() const
 {
-    static const MemberTable members = {
-        {L"Name", Reads(&FolderObject::Name), nullptr},
-        {L"DefaultItemType", Reads(&FolderObject::DefaultItemType), nullptr},
-        {L"DefaultMessageClass", Reads(&FolderObject::DefaultMessageClass), nullptr},
-        {L"Folders", Reads(&FolderObject::Folders), nullptr},
-        {L"Items", Reads(&FolderObject::Items), nullptr},
-        {L"Parent", Reads(&FolderObject::Parent), nullptr},
-        {L"FolderPath", Reads(&FolderObject::FolderPath), nullptr},
-        {L"EntryID", Reads(&FolderObject::FolderPath), nullptr},
-        {L"StoreID", Reads(&FolderObject::StoreId), nullptr},
-        Constant(L"Class", 2L),
-    };
+    static const MemberTable members = AsPublished(
+        L"MAPIFolder", {
+                           {L"Name", Reads(&FolderObject::Name), nullptr},
+                           {L"DefaultItemType", Reads(&FolderObject::DefaultItemType), nullptr},
+                           {L"DefaultMessageClass", Reads(&FolderObject::DefaultMessageClass), nullptr},
+                           {L"Folders", Reads(&FolderObject::Folders), nullptr},
+                           {L"Items", Reads(&FolderObject::Items), nullptr},
+                           {L"GetTable", Reads(&FolderObject::GetTable), nullptr},
+                           {L"Parent", Reads(&FolderObject::Parent), nullptr},
+                           {L"FolderPath", Reads(&FolderObject::FolderPath), nullptr},
+                           {L"EntryID", Reads(&FolderObject::EntryId), nullptr},
+                           {L"StoreID", Reads(&FolderObject::StoreId), nullptr},
+                           Constant(L"Class", 2L),
+                       });
     return members;
 }
 
@@ -142,6 +147,15 @@ Value FolderObject::Items(const Call& call)
     return WithIndex(MakeObject<ItemsObject>(Box(), mFolder), call);
 }
 
+Value FolderObject::GetTable(const Call& call)
+{
+    if (Box()->Behaviour().noTable)
+    {
+        throw automation::Error(DISP_E_MEMBERNOTFOUND, L"GetTable");
+    }
+    return TableOf(Box(), mFolder, call.At(0), call.At(1));
+}
+
 Value FolderObject::Parent(const Call&)
 {
     return mFolder.Parent() != nullptr ? ObjectOfFolder(Box(), *mFolder.Parent())
@@ -149,6 +163,11 @@ Value FolderObject::Parent(const Call&)
 }
 
 Value FolderObject::FolderPath(const Call&)
+{
+    return L"\\\\" + ShownPath(mFolder.Path());
+}
+
+Value FolderObject::EntryId(const Call&)
 {
     return L"\\\\" + mFolder.Path();
 }

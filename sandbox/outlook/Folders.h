@@ -14,8 +14,9 @@ class FoldersObject : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"Folders"; }
+    const wchar_t* InterfaceName() const override { return L"_Folders"; }
+    const MailFolder* Place() const override { return mParent; }
     const MemberTable& Members() const override;
-    int DefaultMember() const override { return 0; }
 
   private:
     const std::vector<MailFolder*>& Children() const;
@@ -38,8 +39,9 @@ class FolderObject : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"MAPIFolder"; }
+    const wchar_t* InterfaceName() const override { return L"MAPIFolder"; }
+    const MailFolder* Place() const override { return &mFolder; }
     const MemberTable& Members() const override;
-    int DefaultMember() const override { return 0; }
 
   private:
     Value Name(const Call&);
@@ -50,6 +52,8 @@ class FolderObject : public OutlookObject
     Value Parent(const Call&);
     Value FolderPath(const Call&);
     Value StoreId(const Call&);
+    Value EntryId(const Call&);
+    Value GetTable(const Call& call);
 
     MailFolder& mFolder;
 };

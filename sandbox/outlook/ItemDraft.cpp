@@ -2,6 +2,7 @@
 
 #include "automation/Dates.h"
 #include "sandbox/outlook/Clock.h"
+#include "sandbox/outlook/Exceptions.h"
 #include "sandbox/outlook/Failures.h"
 #include "sandbox/outlook/PropertyValues.h"
 
@@ -15,8 +16,7 @@ namespace
 
 using enum PropertyId;
 
-constexpr size_t kKindCount = 6;
-using RuleTable = std::array<std::array<const PropertyRule*, static_cast<size_t>(Count)>, kKindCount>;
+using RuleTable = std::array<std::array<const PropertyRule*, static_cast<size_t>(Count)>, kItemKinds>;
 
 void Enter(RuleTable& table, ItemKind kind, std::span<const PropertyRule> rules)
 {
@@ -31,9 +31,13 @@ RuleTable MadeRules()
     RuleTable table{};
     Enter(table, ItemKind::Contact, ContactRules());
     Enter(table, ItemKind::Task, TaskRules());
+    Enter(table, ItemKind::Task, PatternTypeRules());
+    Enter(table, ItemKind::Task, PatternRules());
     Enter(table, ItemKind::Appointment, AppointmentRules());
     Enter(table, ItemKind::Appointment, PatternTypeRules());
     Enter(table, ItemKind::Appointment, PatternRules());
+    Enter(table, ItemKind::Note, NoteRules());
+    Enter(table, ItemKind::DistributionList, DistributionListRules());
     return table;
 }
 
@@ -49,7 +53,10 @@ ItemDraft::ItemDraft(Mailbox& mailbox, MailFolder& folder, ItemKind kind)
     : mMailbox(mailbox), mFolder(folder), mKind(kind)
 {
     Put(MessageClass, MessageClassOf(kind));
-    Put(OutlookVersion, kOutlookVersion);
+    if (kind != ItemKind::Note)
+    {
+        Put(OutlookVersion, kOutlookVersion);
+    }
     if (kind == ItemKind::Appointment)
     {
         StartAppointment(*this);
@@ -91,18 +98,20 @@ Value ItemDraft::Read(PropertyId id) const
 void ItemDraft::Assign(PropertyId id, const Value& given)
 {
     const Property& property = PropertyOf(id);
-    if (property.readOnly)
-    {
-        FailInvalid(property.name, std::wstring(property.name) + L" is read-only.");
-    }
     Value converted = Converted(property, given);
     const PropertyRule* rule = RuleOf(mKind, id);
     if (rule != nullptr && rule->write != nullptr)
     {
         rule->write(*this, converted);
-        return;
     }
-    Put(id, std::move(converted));
+    else
+    {
+        Put(id, std::move(converted));
+    }
+    if (IsOfPattern(id))
+    {
+        CancelExceptions(*this);
+    }
 }
 
 void ItemDraft::Put(PropertyId id, Value value)
@@ -123,8 +132,9 @@ void ItemDraft::SetLinks(std::vector<std::wstring> links)
     mIsDirty = true;
 }
 
-void ItemDraft::FailIfDeleted() const
+void ItemDraft::FailIfGone() const
 {
+    mMailbox.FailIfOffline(mFolder, L"Save");
     if (mStored && mStored->folder == nullptr)
     {
         FailInvalid(L"Save", L"The item has been moved or deleted.");
@@ -133,14 +143,18 @@ void ItemDraft::FailIfDeleted() const
 
 void ItemDraft::Save()
 {
-    FailIfDeleted();
+    FailIfGone();
     if (!mIsDirty)
     {
         return;
     }
-    if (mKind == ItemKind::Appointment)
+    if (mKind == ItemKind::Appointment || mKind == ItemKind::Task)
     {
         SettlePattern(*this);
+    }
+    if (mKind == ItemKind::Task)
+    {
+        GenerateNextTask(*this);
     }
     PropertyBag properties = mChanges;
     if (!mStored)
@@ -156,7 +170,7 @@ void ItemDraft::Save()
 
 void ItemDraft::Delete()
 {
-    FailIfDeleted();
+    FailIfGone();
     if (mStored)
     {
         mMailbox.Delete(mStored);

@@ -50,7 +50,7 @@ class ItemDraft
     void Delete();
 
   private:
-    void FailIfDeleted() const;
+    void FailIfGone() const;
 
     Mailbox& mMailbox;
     MailFolder& mFolder;
@@ -72,12 +72,18 @@ struct PropertyRule
 std::span<const PropertyRule> ContactRules();
 std::span<const PropertyRule> TaskRules();
 std::span<const PropertyRule> AppointmentRules();
+std::span<const PropertyRule> NoteRules();
+std::span<const PropertyRule> DistributionListRules();
 std::span<const PropertyRule> PatternTypeRules();
 std::span<const PropertyRule> PatternRules();
-// Gives an appointment that has just been created its time.
+// Gives an appointment that has just been created its time, and the reminder that Outlook sets on its own.
 void StartAppointment(ItemDraft& item);
 // Writes out what follows from a recurrence pattern, for those who read the mailbox file. Throws for a
 // pattern without an occurrence.
 void SettlePattern(ItemDraft& item);
+
+// Where a recurring task is complete: keeps the completed instance as a task of its own and makes this one
+// the next instance.
+void GenerateNextTask(ItemDraft& item);
 
 } // namespace sandbox::outlook

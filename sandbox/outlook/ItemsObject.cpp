@@ -23,18 +23,19 @@ ItemsObject::ItemsObject(MailboxRef mailbox, MailFolder& folder, std::vector<Sto
 
 const MemberTable& ItemsObject::Members() const
 {
-    static const MemberTable members = {
-        {L"Item", Reads(&ItemsObject::Item), nullptr},
-        {L"Count", Reads(&ItemsObject::Count), nullptr},
-        {L"Add", Reads(&ItemsObject::Add), nullptr},
-        {L"Remove", Reads(&ItemsObject::Remove), nullptr},
-        {L"Restrict", Reads(&ItemsObject::Restrict), nullptr},
-        {L"Find", Reads(&ItemsObject::Find), nullptr},
-        {L"FindNext", Reads(&ItemsObject::FindNext), nullptr},
-        {L"GetFirst", Reads(&ItemsObject::GetFirst), nullptr},
-        {L"GetNext", Reads(&ItemsObject::GetNext), nullptr},
-        Constant(L"Class", 16L),
-    };
+    static const MemberTable members =
+        AsPublished(L"_Items", {
+                                   {L"Item", Reads(&ItemsObject::Item), nullptr},
+                                   {L"Count", Reads(&ItemsObject::Count), nullptr},
+                                   {L"Add", Reads(&ItemsObject::Add), nullptr},
+                                   {L"Remove", Reads(&ItemsObject::Remove), nullptr},
+                                   {L"Restrict", Reads(&ItemsObject::Restrict), nullptr},
+                                   {L"Find", Reads(&ItemsObject::Find), nullptr},
+                                   {L"FindNext", Reads(&ItemsObject::FindNext), nullptr},
+                                   {L"GetFirst", Reads(&ItemsObject::GetFirst), nullptr},
+                                   {L"GetNext", Reads(&ItemsObject::GetNext), nullptr},
+                                   Constant(L"Class", 16L),
+                               });
     return members;
 }
 
@@ -42,7 +43,7 @@ const std::vector<StoredItemRef>& ItemsObject::Items()
 {
     if (!mSelection)
     {
-        return Box()->Items(mFolder);
+        return Box()->Seen(mFolder);
     }
     if (mDeletionsSeen != Box()->Deletions())
     {
@@ -82,12 +83,14 @@ const StoredItemRef& ItemsObject::At(const Value& index)
 
 Value ItemsObject::ObjectAt(size_t index)
 {
+    Box()->CountFetch(mFolder);
     const auto& items = Items();
     return index < items.size() ? Value(ObjectOfItem(Box(), items[index])) : Value(automation::Object());
 }
 
 Value ItemsObject::Item(const Call& call)
 {
+    Box()->CountFetch(mFolder);
     return ObjectOfItem(Box(), At(call.At(0)));
 }
 

@@ -18,8 +18,9 @@ class ItemsObject : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"Items"; }
+    const wchar_t* InterfaceName() const override { return L"_Items"; }
+    const MailFolder* Place() const override { return &mFolder; }
     const MemberTable& Members() const override;
-    int DefaultMember() const override { return 0; }
 
   private:
     const std::vector<StoredItemRef>& Items();

@@ -13,13 +13,14 @@ LinksObject::LinksObject(MailboxRef mailbox, std::shared_ptr<ItemDraft> draft)
 
 const MemberTable& LinksObject::Members() const
 {
-    static const MemberTable members = {
-        {L"Item", Reads(&LinksObject::Item), nullptr},
-        {L"Count", Reads(&LinksObject::Count), nullptr},
-        {L"Add", Reads(&LinksObject::Add), nullptr},
-        {L"Remove", Reads(&LinksObject::Remove), nullptr},
-        Constant(L"Class", 76L),
-    };
+    static const MemberTable members =
+        AsPublished(L"Links", {
+                                  {L"Item", Reads(&LinksObject::Item), nullptr},
+                                  {L"Count", Reads(&LinksObject::Count), nullptr},
+                                  {L"Add", Reads(&LinksObject::Add), nullptr},
+                                  {L"Remove", Reads(&LinksObject::Remove), nullptr},
+                                  Constant(L"Class", 76L),
+                              });
     return members;
 }
 
@@ -77,12 +78,12 @@ LinkObject::LinkObject(MailboxRef mailbox, std::wstring link)
 
 const MemberTable& LinkObject::Members() const
 {
-    static const MemberTable members = {
-        {L"Name", Reads(&LinkObject::Name), nullptr},
-        {L"Item", Reads(&LinkObject::Item), nullptr},
-        Constant(L"Type", 2L),
-        Constant(L"Class", 75L),
-    };
+    static const MemberTable members = AsPublished(L"Link", {
+                                                                {L"Name", Reads(&LinkObject::Name), nullptr},
+                                                                {L"Item", Reads(&LinkObject::Item), nullptr},
+                                                                Constant(L"Type", 2L),
+                                                                Constant(L"Class", 75L),
+                                                            });
     return members;
 }
 

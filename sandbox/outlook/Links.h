@@ -14,8 +14,8 @@ class LinksObject : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"Links"; }
+    const wchar_t* InterfaceName() const override { return L"Links"; }
     const MemberTable& Members() const override;
-    int DefaultMember() const override { return 0; }
 
   private:
     size_t IndexOf(const Call& call) const;
@@ -34,6 +34,7 @@ class LinkObject : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"Link"; }
+    const wchar_t* InterfaceName() const override { return L"Link"; }
     const MemberTable& Members() const override;
 
   private:

@@ -18,9 +18,13 @@ struct MessageClassRow
 };
 
 constexpr MessageClassRow kMessageClasses[] = {
-    {ItemKind::Mail, L"IPM.Note"},       {ItemKind::Appointment, L"IPM.Appointment"},
-    {ItemKind::Contact, L"IPM.Contact"}, {ItemKind::Task, L"IPM.Task"},
+    {ItemKind::Mail, L"IPM.Note"},
+    {ItemKind::Appointment, L"IPM.Appointment"},
+    {ItemKind::Contact, L"IPM.Contact"},
+    {ItemKind::Task, L"IPM.Task"},
     {ItemKind::Note, L"IPM.StickyNote"},
+    {ItemKind::Post, L"IPM.Post"},
+    {ItemKind::DistributionList, L"IPM.DistList"},
 };
 
 struct DefaultFolderName
@@ -66,7 +70,7 @@ StoredItemRef ItemOfRows(MailFolder& folder, long index, ItemRows&& rows)
     {
         if (name == L"MessageClass")
         {
-            item->kind = KindOfMessageClass(text, folder.Type());
+            item->kind = KindOfMessageClass(text, ItemKind::Mail);
         }
     }
     for (const auto& [name, text] : rows.properties)
@@ -118,7 +122,7 @@ const wchar_t* MessageClassOf(ItemKind kind)
 }
 
 MailFolder::MailFolder(std::wstring path, ItemKind type, MailFolder* parent)
-    : mPath(std::move(path)), mName(NameIn(mPath)), mType(type), mParent(parent)
+    : mPath(std::move(path)), mName(ShownPath(NameIn(mPath))), mType(type), mParent(parent)
 {
 }
 
@@ -129,6 +133,10 @@ Mailbox::Mailbox(std::unique_ptr<MailboxStore> store) : mStore(std::move(store))
         for (const auto& [path, type] : mStore->ReadFolders())
         {
             Adopt(path, type);
+        }
+        for (const auto& [name, value] : mStore->ReadSwitches())
+        {
+            Switch(name, value);
         }
     }
 }
@@ -178,9 +186,11 @@ MailFolder& Mailbox::AddFolder(const std::wstring& path, ItemKind type)
 MailFolder* Mailbox::DefaultFolder(ItemKind type) const
 {
     MailFolder* first = nullptr;
-    if (!mStores.empty())
+    const auto store = std::ranges::find_if(
+        mStores, [](const MailFolder* one) { return one->Path().find(kTwinMark) == std::wstring::npos; });
+    if (store != mStores.end())
     {
-        for (MailFolder* folder : mStores.front()->Children())
+        for (MailFolder* folder : (*store)->Children())
         {
             if (folder->Type() == type && HasDefaultName(*folder))
             {
@@ -231,6 +241,8 @@ StoredItemRef Mailbox::Save(MailFolder& folder, StoredItemRef item, ItemKind kin
         item->kind = kind;
         folder.mItems.push_back(item);
     }
+    ++mSaves;
+    ForgetOrders();
     for (const auto& [id, value] : properties)
     {
         value.Type() == VT_EMPTY ? item->properties.Remove(id) : item->properties.Put(id, value);
@@ -254,6 +266,7 @@ void Mailbox::Delete(const StoredItemRef& item)
         mStore->DeleteItem(item->folder->Path(), item->index);
     }
     std::erase(item->folder->mItems, item);
+    item->folder->mIsArranged = false;
     item->folder = nullptr;
     ++mDeletions;
 }

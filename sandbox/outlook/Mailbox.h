@@ -3,9 +3,11 @@
 // every call that a client makes, so that clients on several threads may share a mailbox.
 #pragma once
 
+#include "sandbox/outlook/Awkward.h"
 #include "sandbox/outlook/MailboxStore.h"
 #include "sandbox/outlook/PropertyBag.h"
 
+#include <map>
 #include <memory>
 #include <mutex>
 #include <unordered_map>
@@ -31,12 +33,15 @@ class MailFolder
   public:
     MailFolder(std::wstring path, ItemKind type, MailFolder* parent);
 
+    // Tells the folder from all others; see ShownPath for what Outlook shows of it.
     const std::wstring& Path() const noexcept { return mPath; }
     const std::wstring& Name() const noexcept { return mName; }
     ItemKind Type() const noexcept { return mType; }
     // Null for a top-level store.
     MailFolder* Parent() const noexcept { return mParent; }
     const std::vector<MailFolder*>& Children() const noexcept { return mChildren; }
+    // The top-level store.
+    const MailFolder& Store() const noexcept { return mParent != nullptr ? mParent->Store() : *this; }
 
   private:
     friend class Mailbox;
@@ -47,7 +52,12 @@ class MailFolder
     MailFolder* mParent;
     std::vector<MailFolder*> mChildren;
     bool mIsRead = false;
-    std::vector<StoredItemRef> mItems; // by index
+    std::vector<StoredItemRef> mItems;    // by index
+    std::vector<StoredItemRef> mSeen;     // the same in the order in which clients see them
+    bool mIsArranged = false;             // whether that order is up to date
+    bool mIsPopulated = false;            // whether the switches have added to the items what they add
+    std::map<long, StoredItemRef> mStale; // by index: copies of the items as tables show them
+    long mFetches = 0;
 };
 
 class Mailbox
@@ -75,6 +85,12 @@ class Mailbox
     Value ItemProperty(const std::wstring& path, long position, const std::wstring& name);
     std::vector<std::wstring> ItemLinks(const std::wstring& path, long position);
 
+    void RemoveItem(const std::wstring& path, long position);
+
+    const Awkward& Behaviour() const noexcept { return mAwkward; }
+    // Sets a switch (see Awkward.h). Throws automation::Error for one that does not exist.
+    void Switch(const std::wstring& name, const Value& value);
+
     // True when the mailbox file is no longer what this mailbox has read and written.
     bool HasChangedElsewhere();
 
@@ -87,6 +103,15 @@ class Mailbox
     // null where there is none.
     MailFolder* DefaultFolder(ItemKind type) const;
     const std::vector<StoredItemRef>& Items(MailFolder& folder);
+    // The same in the order in which clients see them, which the switches decide.
+    const std::vector<StoredItemRef>& Seen(MailFolder& folder);
+    // The item as the tables of its folder show it: itself, or where they are stale as it was when the switch
+    // was set.
+    StoredItemRef AsInTable(const StoredItemRef& item) const;
+    // A client fetches an item from a folder: the moment at which switches let items come and go.
+    void CountFetch(MailFolder& folder);
+    // Where stores are not connected, throws automation::Error for a folder of such a store.
+    void FailIfOffline(const MailFolder& folder, const wchar_t* member) const;
     // Writes properties (and links, where given) of an item; a null item becomes a new one at the folder's
     // end. Returns the item.
     StoredItemRef Save(MailFolder& folder, StoredItemRef item, ItemKind kind, const PropertyBag& properties,
@@ -106,6 +131,14 @@ class Mailbox
 
   private:
     MailFolder& Adopt(const std::wstring& path, ItemKind type);
+    void AddTwins();
+    void Populate(MailFolder& folder);
+    void AddForeignItems(MailFolder& folder);
+    void AddExceptions(const StoredItemRef& item);
+    void Arrange(MailFolder& folder);
+    void ForgetOrders() noexcept;
+    void Arrive(MailFolder& folder);
+    void Freeze(MailFolder& folder);
     StoredItemRef FindIndex(MailFolder& folder, long index);
     const StoredItemRef& ItemAt(const std::wstring& path, long position);
 
@@ -114,11 +147,15 @@ class Mailbox
     std::unordered_map<std::wstring, std::unique_ptr<MailFolder>> mFolders;
     std::vector<MailFolder*> mStores;
     long mDeletions = 0;
+    Awkward mAwkward;
+    unsigned mSaves = 0;
 };
 
 using MailboxRef = std::shared_ptr<Mailbox>;
 
-// The kind that a message class names ("IPM.Task" and "IPM.Task.Special" are tasks); otherwise as given.
+// The kind that a message class names ("IPM.Task" and "IPM.Task.Special" are tasks); otherwise as given. An
+// item whose class is unknown is none of its folder's kind: Outlook takes the general form for "items for
+// which the specified form cannot be found" (Item Types and Message Classes), here that of a message.
 ItemKind KindOfMessageClass(std::wstring_view messageClass, ItemKind otherwise);
 const wchar_t* MessageClassOf(ItemKind kind);
 // The version that marks an item as created by this Outlook.

@@ -34,7 +34,7 @@ long Mailbox::AddItem(const std::wstring& path, const NamedValues& properties)
     ItemKind kind = folder->Type();
     for (const auto& [name, value] : properties)
     {
-        kind = name == L"MessageClass" ? KindOfMessageClass(automation::TextOf(value), kind) : kind;
+        kind = name == L"MessageClass" ? KindOfMessageClass(automation::TextOf(value), ItemKind::Mail) : kind;
     }
     PropertyBag bag;
     for (const auto& [name, value] : properties)
@@ -58,6 +58,12 @@ void Mailbox::AddLink(const std::wstring& path, long position, const std::wstrin
     auto links = item->links;
     links.push_back(LinkTo(*ItemAt(contactPath, contactPosition)));
     Save(*item->folder, item, item->kind, {}, &links);
+}
+
+void Mailbox::RemoveItem(const std::wstring& path, long position)
+{
+    const std::lock_guard hold(mLock);
+    Delete(StoredItemRef(ItemAt(path, position)));
 }
 
 long Mailbox::ItemCount(const std::wstring& path)

@@ -27,6 +27,8 @@ class MailboxStore
   public:
     virtual ~MailboxStore() = default;
 
+    // Name and value of every switch that is set.
+    virtual std::vector<std::pair<std::wstring, Value>> ReadSwitches() = 0;
     // Path and default item type of every folder, in the order in which they were added.
     virtual std::vector<std::pair<std::wstring, ItemKind>> ReadFolders() = 0;
     virtual void AddFolder(const std::wstring& path, ItemKind type) = 0;

@@ -1,6 +1,5 @@
 #include "sandbox/outlook/OutlookItem.h"
 
-#include "sandbox/dispatch/TypeInformation.h"
 #include "sandbox/outlook/Failures.h"
 #include "sandbox/outlook/Folders.h"
 #include "sandbox/outlook/Links.h"
@@ -12,17 +11,12 @@
 namespace sandbox::outlook
 {
 
-using Microsoft::WRL::ComPtr;
-
 namespace
 {
 
 // Answered by the stand-in's own items only, to tell them from what a client may put before them.
 constexpr GUID kOutlookItemId = {
     0x5a1e0f7c, 0x3b52, 0x4f0e, {0x9d, 0x3c, 0x62, 0x1b, 0x0e, 0x8f, 0x47, 0xa1}};
-
-// The last byte is the kind's.
-constexpr GUID kInterfaceIds = {0x2f84c9d6, 0x71ab, 0x4e35, {0x88, 0x0d, 0x5b, 0xe2, 0x16, 0x9a, 0xc3, 0x00}};
 
 struct KindRow
 {
@@ -32,9 +26,13 @@ struct KindRow
 };
 
 constexpr KindRow kKindRows[] = {
-    {ItemKind::Mail, 43, L"MailItem"},       {ItemKind::Appointment, 26, L"AppointmentItem"},
-    {ItemKind::Contact, 40, L"ContactItem"}, {ItemKind::Task, 48, L"TaskItem"},
+    {ItemKind::Mail, 43, L"MailItem"},
+    {ItemKind::Appointment, 26, L"AppointmentItem"},
+    {ItemKind::Contact, 40, L"ContactItem"},
+    {ItemKind::Task, 48, L"TaskItem"},
     {ItemKind::Note, 44, L"NoteItem"},
+    {ItemKind::Post, 45, L"PostItem"},
+    {ItemKind::DistributionList, 69, L"DistListItem"},
 };
 
 const KindRow& RowOf(ItemKind kind)
@@ -47,11 +45,19 @@ ItemDraft& DraftOfItem(DispatchObject& self)
     return const_cast<ItemDraft&>(static_cast<OutlookItem&>(self).Draft());
 }
 
-Member MemberOf(PropertyId id)
+// Writable as far as the kind's interface has it so.
+Member MemberOf(ItemKind kind, PropertyId id)
 {
-    return {PropertyOf(id).name,
-            [id](DispatchObject& self, const Call&) { return DraftOfItem(self).Read(id); },
-            [id](DispatchObject& self, const Call& call) { DraftOfItem(self).Assign(id, call.Assigned()); }};
+    Member member{PropertyOf(id).name,
+                  [id](DispatchObject& self, const Call&) { return DraftOfItem(self).Read(id); }, nullptr};
+    const PublishedMember* published = Published(InterfaceOf(kind)).Find(member.name);
+    if (published != nullptr && published->isWritable)
+    {
+        member.write = [id](DispatchObject& self, const Call& call) {
+            DraftOfItem(self).Assign(id, call.Assigned());
+        };
+    }
+    return member;
 }
 
 } // namespace
@@ -63,7 +69,7 @@ MemberTable MembersOfKind(ItemKind kind)
     {
         if (!IsOfPattern(id))
         {
-            members.push_back(MemberOf(id));
+            members.push_back(MemberOf(kind, id));
         }
     }
     members.insert(members.end(), {{L"EntryID", Reads(&OutlookItem::EntryId), nullptr},
@@ -75,23 +81,20 @@ MemberTable MembersOfKind(ItemKind kind)
                                    {L"Close", Reads(&OutlookItem::Close), nullptr},
                                    Ignored(L"Display"),
                                    Constant(L"Class", RowOf(kind).classNumber)});
-    if (kind == ItemKind::Appointment)
+    if (kind == ItemKind::Appointment || kind == ItemKind::Task)
     {
         members.push_back({L"GetRecurrencePattern", Reads(&OutlookItem::GetRecurrencePattern), nullptr});
         members.push_back({L"ClearRecurrencePattern", Reads(&OutlookItem::ClearRecurrencePattern), nullptr});
     }
-    return members;
+    if (kind == ItemKind::Task)
+    {
+        members.push_back({L"MarkComplete", Reads(&OutlookItem::MarkComplete), nullptr});
+    }
+    return AsPublished(InterfaceOf(kind), std::move(members));
 }
 
 namespace
 {
-
-ComPtr<ITypeInfo> TypeOfKind(ItemKind kind)
-{
-    GUID interfaceId = kInterfaceIds;
-    interfaceId.Data4[7] = static_cast<unsigned char>(kind);
-    return MakeTypeInformation(interfaceId, RowOf(kind).className, MembersOfKind(kind));
-}
 
 template<typename T>
 using ByKind = std::map<ItemKind, T>;
@@ -136,10 +139,14 @@ const MemberTable& OutlookItem::Members() const
     return tables.at(mDraft->Kind());
 }
 
-ComPtr<ITypeInfo> OutlookItem::TypeInformation() const
+const wchar_t* OutlookItem::InterfaceName() const
 {
-    static const ByKind<ComPtr<ITypeInfo>> types = ForEveryKind(TypeOfKind);
-    return types.at(mDraft->Kind());
+    return InterfaceOf(mDraft->Kind());
+}
+
+const MailFolder* OutlookItem::Place() const
+{
+    return &mDraft->Folder();
 }
 
 // Given when the item is first saved.
@@ -159,13 +166,26 @@ Value OutlookItem::Saved(const Call&)
     return !mDraft->HasChanges();
 }
 
+// "Links" and all its members are deprecated; a version without them raises.
 Value OutlookItem::Links(const Call& call)
 {
+    if (Box()->Behaviour().linksRaise)
+    {
+        FailDeprecated(L"Links");
+    }
     return WithIndex(MakeObject<LinksObject>(Box(), mDraft), call);
 }
 
 Value OutlookItem::Save(const Call&)
 {
+    mDraft->Save();
+    return {};
+}
+
+// "Marks the task as completed": sets PercentComplete, Complete and DateCompleted, and saves.
+Value OutlookItem::MarkComplete(const Call&)
+{
+    mDraft->Assign(PropertyId::Complete, true);
     mDraft->Save();
     return {};
 }

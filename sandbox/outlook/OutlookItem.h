@@ -1,4 +1,4 @@
-// A contact, task, appointment, mail or note as clients hold it. Every fetch of an item is an object of its
+// An item of any kind as clients hold it. Every fetch of an item is an object of its
 // own, with its own unsaved changes.
 #pragma once
 
@@ -20,7 +20,8 @@ class OutlookItem : public OutlookObject
   protected:
     const wchar_t* ClassName() const override;
     const MemberTable& Members() const override;
-    Microsoft::WRL::ComPtr<ITypeInfo> TypeInformation() const override;
+    const wchar_t* InterfaceName() const override;
+    const MailFolder* Place() const override;
 
   private:
     friend MemberTable MembersOfKind(ItemKind kind);
@@ -30,6 +31,7 @@ class OutlookItem : public OutlookObject
     Value Saved(const Call&);
     Value Links(const Call& call);
     Value Save(const Call&);
+    Value MarkComplete(const Call&);
     Value Delete(const Call&);
     Value Close(const Call& call);
     Value GetRecurrencePattern(const Call&);

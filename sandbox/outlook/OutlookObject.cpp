@@ -2,8 +2,36 @@
 
 #include "sandbox/outlook/Failures.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 namespace sandbox::outlook
 {
+
+namespace
+{
+
+// What an object of a store that is not connected still tells: Outlook has it without the store.
+constexpr std::array<std::wstring_view, 8> kKnownOffline = {
+    L"Name", L"Class", L"Application", L"Session", L"Parent", L"EntryID", L"StoreID", L"FolderPath"};
+
+} // namespace
+
+void OutlookObject::BeforeMember(const Member& member, bool isWrite)
+{
+    const Awkward& awkward = mMailbox->Behaviour();
+    if (awkward.guard && !isWrite && IsGuarded(InterfaceName(), member.name))
+    {
+        FailGuarded(member.name);
+    }
+    const MailFolder* place = awkward.offlineStore.empty() ? nullptr : Place();
+    if (place != nullptr && place->Store().Name() == awkward.offlineStore &&
+        std::ranges::find(kKnownOffline, member.name) == kKnownOffline.end())
+    {
+        FailOffline(member.name);
+    }
+}
 
 Value WithIndex(const automation::Object& collection, const Call& call)
 {

@@ -1,9 +1,9 @@
 // The base of the objects that clients of the stand-in hold: each belongs to a mailbox and keeps it alive,
-// and every call holds the mailbox's lock.
+// and every call holds the mailbox's lock. Its members are those of a published interface, or some of them.
 #pragma once
 
-#include "sandbox/dispatch/DispatchObject.h"
 #include "sandbox/outlook/Mailbox.h"
+#include "sandbox/outlook/facts/TypeInformation.h"
 
 namespace sandbox::outlook
 {
@@ -21,6 +21,17 @@ class OutlookObject : public DispatchObject
     }
 
   protected:
+    // The interface as it is published, for example "_Items".
+    virtual const wchar_t* InterfaceName() const = 0;
+    Microsoft::WRL::ComPtr<ITypeInfo> TypeInformation() const override
+    {
+        return TypeInformationOf(InterfaceName());
+    }
+
+    // The folder in whose store the object is; null for one that is in none.
+    virtual const MailFolder* Place() const { return nullptr; }
+    void BeforeMember(const Member& member, bool isWrite) override;
+
     explicit OutlookObject(MailboxRef mailbox) : mMailbox(std::move(mailbox)) {}
 
     const MailboxRef& Box() const noexcept { return mMailbox; }

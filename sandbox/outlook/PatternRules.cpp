@@ -212,9 +212,10 @@ void ClearPattern(ItemDraft& item)
     {
         return;
     }
+    const bool hasBounds = item.Kind() == ItemKind::Appointment;
     const Value start = item.Read(Start);
     const Value end = item.Read(End);
-    for (const PropertyId id : PropertiesOf(ItemKind::Appointment))
+    for (const PropertyId id : PropertiesOf(item.Kind()))
     {
         if (IsOfPattern(id))
         {
@@ -222,8 +223,11 @@ void ClearPattern(ItemDraft& item)
         }
     }
     item.Put(IsRecurring, false);
-    item.Put(Start, start);
-    item.Put(End, end);
+    if (hasBounds)
+    {
+        item.Put(Start, start);
+        item.Put(End, end);
+    }
 }
 
 Date FirstStart(const ItemDraft& item)
@@ -260,9 +264,12 @@ void SettlePattern(ItemDraft& item)
         settled.Put(rule.id, item.Read(rule.id));
     }
     settled.Put(RecurrenceEndsByDate, EndsByDate(item));
-    for (const PropertyId bound : {Start, End, Duration})
+    if (item.Kind() == ItemKind::Appointment)
     {
-        settled.Put(bound, item.Read(bound));
+        for (const PropertyId bound : {Start, End, Duration})
+        {
+            settled.Put(bound, item.Read(bound));
+        }
     }
     for (const auto& [id, value] : settled)
     {

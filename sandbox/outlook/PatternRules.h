@@ -1,5 +1,6 @@
-// The recurrence pattern of an appointment, as rules over the appointment's own properties: a pattern is
-// saved with its appointment, and what it does not state follows from the appointment's start and end.
+// The recurrence pattern of an appointment or a task, as rules over the item's own properties: a pattern is
+// saved with its item, and what it does not state follows from the appointment's start and end or the day of
+// the task.
 #pragma once
 
 #include "automation/Dates.h"

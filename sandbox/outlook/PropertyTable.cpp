@@ -17,7 +17,11 @@ constexpr unsigned kMail = MaskOf(ItemKind::Mail);
 constexpr unsigned kAppointment = MaskOf(ItemKind::Appointment);
 constexpr unsigned kContact = MaskOf(ItemKind::Contact);
 constexpr unsigned kTask = MaskOf(ItemKind::Task);
-constexpr unsigned kAll = kMail | kAppointment | kContact | kTask | MaskOf(ItemKind::Note);
+constexpr unsigned kPost = MaskOf(ItemKind::Post);
+constexpr unsigned kList = MaskOf(ItemKind::DistributionList);
+constexpr unsigned kAllButNotes = kMail | kAppointment | kContact | kTask | kPost | kList;
+constexpr unsigned kAll = kAllButNotes | MaskOf(ItemKind::Note);
+constexpr unsigned kRecurring = kAppointment | kTask;
 
 constexpr Property kProperties[] = {
     // id, name, type, kinds, default, lowest, highest, read-only
@@ -25,16 +29,16 @@ constexpr Property kProperties[] = {
     {PropertyId::Subject, L"Subject", PropertyType::Text, kAll},
     {PropertyId::Body, L"Body", PropertyType::Text, kAll},
     {PropertyId::Categories, L"Categories", PropertyType::Text, kAll},
-    {PropertyId::Companies, L"Companies", PropertyType::Text, kAll},
-    {PropertyId::Importance, L"Importance", PropertyType::Number, kAll, 1, 0, 2},
-    {PropertyId::Sensitivity, L"Sensitivity", PropertyType::Number, kAll, 0, 0, 3},
+    {PropertyId::Companies, L"Companies", PropertyType::Text, kAllButNotes},
+    {PropertyId::Importance, L"Importance", PropertyType::Number, kAllButNotes, 1, 0, 2},
+    {PropertyId::Sensitivity, L"Sensitivity", PropertyType::Number, kAllButNotes, 0, 0, 3},
     {PropertyId::MessageClass, L"MessageClass", PropertyType::Text, kAll},
-    {PropertyId::OutlookVersion, L"OutlookVersion", PropertyType::Text, kAll, 0, LONG_MIN, LONG_MAX, true},
+    {PropertyId::OutlookVersion, L"OutlookVersion", PropertyType::Text, kAllButNotes, 0, LONG_MIN, LONG_MAX, true},
     {PropertyId::CreationTime, L"CreationTime", PropertyType::Moment, kAll, 0, LONG_MIN, LONG_MAX, true},
     {PropertyId::LastModificationTime, L"LastModificationTime", PropertyType::Moment, kAll, 0, LONG_MIN, LONG_MAX, true},
-    {PropertyId::BillingInformation, L"BillingInformation", PropertyType::Text, kAll},
-    {PropertyId::Mileage, L"Mileage", PropertyType::Text, kAll},
-    {PropertyId::UnRead, L"UnRead", PropertyType::Truth, kAll},
+    {PropertyId::BillingInformation, L"BillingInformation", PropertyType::Text, kAllButNotes},
+    {PropertyId::Mileage, L"Mileage", PropertyType::Text, kAllButNotes},
+    {PropertyId::UnRead, L"UnRead", PropertyType::Truth, kAllButNotes},
     {PropertyId::Title, L"Title", PropertyType::Text, kContact},
     {PropertyId::FirstName, L"FirstName", PropertyType::Text, kContact},
     {PropertyId::MiddleName, L"MiddleName", PropertyType::Text, kContact},
@@ -94,25 +98,27 @@ constexpr Property kProperties[] = {
     {PropertyId::ReminderMinutesBeforeStart, L"ReminderMinutesBeforeStart", PropertyType::Number, kAppointment, 15, 0},
     {PropertyId::BusyStatus, L"BusyStatus", PropertyType::Number, kAppointment, 2, 0, 4},
     {PropertyId::Location, L"Location", PropertyType::Text, kAppointment},
-    {PropertyId::IsRecurring, L"IsRecurring", PropertyType::Truth, kAppointment, 0, LONG_MIN, LONG_MAX, true},
-    {PropertyId::RecurrenceType, L"Recurrence.RecurrenceType", PropertyType::Number, kAppointment, 1},
-    {PropertyId::RecurrenceInterval, L"Recurrence.Interval", PropertyType::Number, kAppointment, 1, 1, 999},
-    {PropertyId::RecurrenceDayOfWeekMask, L"Recurrence.DayOfWeekMask", PropertyType::Number, kAppointment, 0, 1, 127},
-    {PropertyId::RecurrenceDayOfMonth, L"Recurrence.DayOfMonth", PropertyType::Number, kAppointment, 0, 1, 31},
-    {PropertyId::RecurrenceMonthOfYear, L"Recurrence.MonthOfYear", PropertyType::Number, kAppointment, 0, 1, 12},
-    {PropertyId::RecurrenceInstance, L"Recurrence.Instance", PropertyType::Number, kAppointment, 0, 1, 5},
-    {PropertyId::RecurrenceStartTime, L"Recurrence.StartTime", PropertyType::Moment, kAppointment},
-    {PropertyId::RecurrenceEndTime, L"Recurrence.EndTime", PropertyType::Moment, kAppointment},
-    {PropertyId::RecurrenceDuration, L"Recurrence.Duration", PropertyType::Number, kAppointment, 0, 0},
-    {PropertyId::RecurrencePatternStartDate, L"Recurrence.PatternStartDate", PropertyType::Day, kAppointment},
-    {PropertyId::RecurrencePatternEndDate, L"Recurrence.PatternEndDate", PropertyType::Day, kAppointment},
-    {PropertyId::RecurrenceNoEndDate, L"Recurrence.NoEndDate", PropertyType::Truth, kAppointment, 1},
-    {PropertyId::RecurrenceOccurrences, L"Recurrence.Occurrences", PropertyType::Number, kAppointment, 10, 1, 999},
-    {PropertyId::RecurrenceEndsByDate, L"Recurrence.EndsByDate", PropertyType::Truth, kAppointment},
-    {PropertyId::To, L"To", PropertyType::Text, kMail},
-    {PropertyId::Cc, L"CC", PropertyType::Text, kMail},
-    {PropertyId::SenderName, L"SenderName", PropertyType::Text, kMail, 0, LONG_MIN, LONG_MAX, true},
-    {PropertyId::ReceivedTime, L"ReceivedTime", PropertyType::Moment, kMail, 0, LONG_MIN, LONG_MAX, true},
+    {PropertyId::IsRecurring, L"IsRecurring", PropertyType::Truth, kRecurring, 0, LONG_MIN, LONG_MAX, true},
+    {PropertyId::RecurrenceType, L"Recurrence.RecurrenceType", PropertyType::Number, kRecurring, 1},
+    {PropertyId::RecurrenceInterval, L"Recurrence.Interval", PropertyType::Number, kRecurring, 1, 1, 999},
+    {PropertyId::RecurrenceDayOfWeekMask, L"Recurrence.DayOfWeekMask", PropertyType::Number, kRecurring, 0, 1, 127},
+    {PropertyId::RecurrenceDayOfMonth, L"Recurrence.DayOfMonth", PropertyType::Number, kRecurring, 0, 1, 31},
+    {PropertyId::RecurrenceMonthOfYear, L"Recurrence.MonthOfYear", PropertyType::Number, kRecurring, 0, 1, 12},
+    {PropertyId::RecurrenceInstance, L"Recurrence.Instance", PropertyType::Number, kRecurring, 0, 1, 5},
+    {PropertyId::RecurrenceStartTime, L"Recurrence.StartTime", PropertyType::Moment, kRecurring},
+    {PropertyId::RecurrenceEndTime, L"Recurrence.EndTime", PropertyType::Moment, kRecurring},
+    {PropertyId::RecurrenceDuration, L"Recurrence.Duration", PropertyType::Number, kRecurring, 0, 0},
+    {PropertyId::RecurrencePatternStartDate, L"Recurrence.PatternStartDate", PropertyType::Day, kRecurring},
+    {PropertyId::RecurrencePatternEndDate, L"Recurrence.PatternEndDate", PropertyType::Day, kRecurring},
+    {PropertyId::RecurrenceNoEndDate, L"Recurrence.NoEndDate", PropertyType::Truth, kRecurring, 1},
+    {PropertyId::RecurrenceOccurrences, L"Recurrence.Occurrences", PropertyType::Number, kRecurring, 10, 1, 999},
+    {PropertyId::RecurrenceRegenerate, L"Recurrence.Regenerate", PropertyType::Truth, kRecurring},
+    {PropertyId::RecurrenceEndsByDate, L"Recurrence.EndsByDate", PropertyType::Truth, kRecurring},
+    {PropertyId::RecurrenceExceptions, L"Recurrence.Exceptions", PropertyType::Text, kAppointment},
+    {PropertyId::DLName, L"DLName", PropertyType::Text, kList},
+    {PropertyId::MemberCount, L"MemberCount", PropertyType::Number, kList, 0, 0, LONG_MAX, true},
+    {PropertyId::SenderName, L"SenderName", PropertyType::Text, kMail | kPost, 0, LONG_MIN, LONG_MAX, true},
+    {PropertyId::ReceivedTime, L"ReceivedTime", PropertyType::Moment, kMail | kPost, 0, LONG_MIN, LONG_MAX, true},
     // clang-format on
 };
 
@@ -166,22 +172,39 @@ struct KindTable
     std::unordered_map<std::wstring, PropertyId> byName;
 };
 
+struct KindInterface
+{
+    ItemKind kind;
+    const wchar_t* name;
+};
+
+constexpr KindInterface kInterfaces[] = {
+    {ItemKind::Mail, L"_MailItem"},
+    {ItemKind::Appointment, L"_AppointmentItem"},
+    {ItemKind::Contact, L"_ContactItem"},
+    {ItemKind::Task, L"_TaskItem"},
+    {ItemKind::Note, L"_NoteItem"},
+    {ItemKind::Post, L"_PostItem"},
+    {ItemKind::DistributionList, L"_DistListItem"},
+};
+
+std::vector<KindTable> MadeTables()
+{
+    std::vector<KindTable> tables;
+    for (size_t kind = 0; kind < kItemKinds; ++kind)
+    {
+        tables.emplace_back(static_cast<ItemKind>(kind));
+    }
+    return tables;
+}
+
 const KindTable& TableOf(ItemKind kind)
 {
-    static const KindTable mail(ItemKind::Mail);
-    static const KindTable appointment(ItemKind::Appointment);
-    static const KindTable contact(ItemKind::Contact);
-    static const KindTable task(ItemKind::Task);
-    static const KindTable note(ItemKind::Note);
-    switch (kind)
-    {
-    case ItemKind::Appointment: return appointment;
-    case ItemKind::Contact: return contact;
-    case ItemKind::Task: return task;
-    case ItemKind::Note: return note;
-    default: return mail;
-    }
+    static const std::vector<KindTable> tables = MadeTables();
+    return tables[static_cast<size_t>(kind)];
 }
+
+constexpr std::wstring_view kOfPattern = L"Recurrence.";
 
 } // namespace
 
@@ -204,7 +227,26 @@ const std::vector<PropertyId>& PropertiesOf(ItemKind kind)
 
 bool IsOfPattern(PropertyId id)
 {
-    return id >= PropertyId::RecurrenceType && id <= PropertyId::RecurrenceEndsByDate;
+    return id >= PropertyId::RecurrenceType && id <= PropertyId::RecurrenceExceptions;
+}
+
+const wchar_t* InterfaceOf(ItemKind kind)
+{
+    return std::ranges::find(kInterfaces, kind, &KindInterface::kind)->name;
+}
+
+const wchar_t* InterfaceOf(ItemKind kind, PropertyId id)
+{
+    return IsOfPattern(id) ? L"RecurrencePattern" : InterfaceOf(kind);
+}
+
+const wchar_t* MemberNameOf(PropertyId id)
+{
+    if (id == PropertyId::RecurrenceEndsByDate || id == PropertyId::RecurrenceExceptions)
+    {
+        return nullptr;
+    }
+    return PropertyOf(id).name + (IsOfPattern(id) ? kOfPattern.size() : 0);
 }
 
 const Value& DefaultOf(PropertyId id)

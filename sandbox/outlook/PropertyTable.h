@@ -21,7 +21,11 @@ enum class ItemKind
     Contact = 2,
     Task = 3,
     Note = 5,
+    Post = 6,
+    DistributionList = 7,
 };
+
+inline constexpr size_t kItemKinds = 8; // one more than the highest
 
 enum class PropertyType
 {
@@ -112,7 +116,7 @@ enum class PropertyId
     BusyStatus,
     Location,
     IsRecurring,
-    // the recurrence pattern of an appointment, kept with the appointment's own properties
+    // the recurrence pattern of an appointment or a task, kept with the item's own properties
     RecurrenceType,
     RecurrenceInterval,
     RecurrenceDayOfWeekMask,
@@ -126,10 +130,13 @@ enum class PropertyId
     RecurrencePatternEndDate,
     RecurrenceNoEndDate,
     RecurrenceOccurrences,
+    RecurrenceRegenerate,
     RecurrenceEndsByDate,
-    // mails
-    To,
-    Cc,
+    RecurrenceExceptions, // the days that differ from the series: see Exceptions.h
+    // distribution lists
+    DLName,
+    MemberCount,
+    // mails and posts
     SenderName,
     ReceivedTime,
     Count, // not a property: how many there are
@@ -159,8 +166,13 @@ const Property& PropertyOf(PropertyId id);
 std::optional<PropertyId> FindProperty(ItemKind kind, std::wstring_view name);
 // The properties of a kind, those of its recurrence pattern included.
 const std::vector<PropertyId>& PropertiesOf(ItemKind kind);
-// True for the members of the recurrence pattern, which are no members of the item itself.
+// True for what belongs to the recurrence pattern, which is no member of the item itself.
 bool IsOfPattern(PropertyId id);
+// The interface of items of a kind, and the one that has the property: another one for that of a pattern.
+const wchar_t* InterfaceOf(ItemKind kind);
+const wchar_t* InterfaceOf(ItemKind kind, PropertyId id);
+// The property's name on that interface; null for what the mailbox keeps and no client sees.
+const wchar_t* MemberNameOf(PropertyId id);
 const Value& DefaultOf(PropertyId id);
 
 } // namespace sandbox::outlook

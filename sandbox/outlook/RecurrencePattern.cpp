@@ -1,6 +1,6 @@
 #include "sandbox/outlook/RecurrencePattern.h"
 
-#include <cwchar>
+#include "sandbox/outlook/Exceptions.h"
 
 namespace sandbox::outlook
 {
@@ -8,37 +8,41 @@ namespace sandbox::outlook
 namespace
 {
 
-constexpr size_t kPrefix = std::char_traits<wchar_t>::length(L"Recurrence.");
-
 ItemDraft& DraftOfPattern(DispatchObject& self)
 {
     return static_cast<RecurrencePattern&>(self).Draft();
 }
 
-MemberTable MadeMembers()
+} // namespace
+
+MemberTable MembersOfPattern()
 {
-    MemberTable members = {Constant(L"Class", 28L)};
+    MemberTable members = {Constant(L"Class", 28L),
+                           {L"Exceptions", Reads(&RecurrencePattern::Exceptions), nullptr}};
     for (const PropertyId id : PropertiesOf(ItemKind::Appointment))
     {
-        if (IsOfPattern(id) && id != PropertyId::RecurrenceEndsByDate)
+        if (IsOfPattern(id) && MemberNameOf(id) != nullptr)
         {
             members.push_back(
-                {PropertyOf(id).name + kPrefix,
+                {MemberNameOf(id),
                  [id](DispatchObject& self, const Call&) { return DraftOfPattern(self).Read(id); },
                  [id](DispatchObject& self, const Call& call) {
                      DraftOfPattern(self).Assign(id, call.Assigned());
                  }});
         }
     }
-    return members;
+    return AsPublished(L"RecurrencePattern", std::move(members));
 }
-
-} // namespace
 
 const MemberTable& RecurrencePattern::Members() const
 {
-    static const MemberTable members = MadeMembers();
+    static const MemberTable members = MembersOfPattern();
     return members;
+}
+
+Value RecurrencePattern::Exceptions(const Call&)
+{
+    return MakeObject<ExceptionsObject>(Box(), mDraft);
 }
 
 } // namespace sandbox::outlook

@@ -8,6 +8,8 @@
 namespace sandbox::outlook
 {
 
+MemberTable MembersOfPattern();
+
 class RecurrencePattern : public OutlookObject
 {
   public:
@@ -20,9 +22,14 @@ class RecurrencePattern : public OutlookObject
 
   protected:
     const wchar_t* ClassName() const override { return L"RecurrencePattern"; }
+    const wchar_t* InterfaceName() const override { return L"RecurrencePattern"; }
     const MemberTable& Members() const override;
 
   private:
+    friend MemberTable MembersOfPattern();
+
+    Value Exceptions(const Call&);
+
     std::shared_ptr<ItemDraft> mDraft;
 };
 

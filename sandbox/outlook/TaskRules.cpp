@@ -123,9 +123,17 @@ void WriteStartDate(ItemDraft& item, const Value& converted)
     }
 }
 
+void WriteReminderSet(ItemDraft& item, const Value& converted);
+
+// With the option "Set reminders on tasks with due dates" a new task has a reminder with its due date.
 void WriteDueDate(ItemDraft& item, const Value& converted)
 {
     item.Put(DueDate, converted);
+    if (item.Box().Behaviour().taskReminders && !item.Stored() &&
+        automation::DateOf(converted) != kOutlookNoDate)
+    {
+        WriteReminderSet(item, true);
+    }
     if (IsBefore(automation::DateOf(converted), item.Date(StartDate)))
     {
         item.Put(StartDate, converted);

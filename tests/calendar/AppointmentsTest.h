@@ -27,6 +27,7 @@ class AppointmentsTest : public sandbox::OutlookTest
         appointment.Put(L"Subject", subject);
         appointment.Put(L"Start", start);
         appointment.Put(L"End", end);
+        appointment.Put(L"ReminderSet", false); // a new appointment has a reminder
         appointment.Call(L"Save");
         return appointment;
     }

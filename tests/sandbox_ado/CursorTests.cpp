@@ -126,14 +126,15 @@ TEST_F(AdoCursor, ThePositionTellsBothEndsAndTheEmptyRecordsetApart)
     EXPECT_EQ(-1, LongOf(Open(L"SELECT * FROM Thing WHERE Size=9").Get(L"AbsolutePosition")));
 }
 
-TEST_F(AdoCursor, AForwardOnlyCursorCountsNoRecordsAndHasNoBookmarks)
+TEST_F(AdoCursor, AForwardOnlyCursorCountsNoRecordsAndHasNeitherBookmarksNorPositions)
 {
     const Object rows = Open(L"SELECT * FROM Thing", kForwardOnly);
     EXPECT_EQ(-1, LongOf(rows.Get(L"RecordCount")));
     EXPECT_EQ(sandbox::kNotCapable, ErrorOf([&] { rows.Get(L"Bookmark"); }).Code());
     EXPECT_EQ(sandbox::kNotCapable, ErrorOf([&] { rows.Call(L"Move", 0L, 1.0); }).Code());
     EXPECT_EQ(sandbox::kNotCapable, ErrorOf([&] { rows.Call(L"MovePrevious"); }).Code());
-    EXPECT_EQ(-1, LongOf(rows.Get(L"AbsolutePosition")));
+    EXPECT_EQ(sandbox::kNotCapable, ErrorOf([&] { rows.Get(L"AbsolutePosition"); }).Code());
+    EXPECT_EQ(sandbox::kNotCapable, ErrorOf([&] { rows.Put(L"AbsolutePosition", 1L); }).Code());
     rows.Call(L"MoveNext");
     EXPECT_EQ(L"b", NameOf(rows));
     rows.Call(L"MoveFirst");

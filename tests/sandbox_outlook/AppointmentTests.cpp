@@ -19,6 +19,7 @@ TEST_F(AppointmentItem, ANewOneTakesHalfAnHourFromTheNextHalfHour)
     EXPECT_EQ(30, Number(mAppointment, L"Duration"));
     EXPECT_EQ(0, automation::MomentOf(automation::DateOf(mAppointment.Get(L"Start"))).minute % 30);
     EXPECT_FALSE(Truth(mAppointment, L"IsRecurring"));
+    EXPECT_TRUE(Truth(mAppointment, L"ReminderSet"));
     EXPECT_EQ(15, Number(mAppointment, L"ReminderMinutesBeforeStart"));
     EXPECT_EQ(L"IPM.Appointment", Text(mAppointment, L"MessageClass"));
     EXPECT_EQ(26, Number(mAppointment, L"Class"));

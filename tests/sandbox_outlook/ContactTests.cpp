@@ -94,7 +94,7 @@ TEST_F(ContactItem, ItsMessageClassClassAndVersionAreThoseOfAContact)
     EXPECT_EQ(L"IPM.Contact", Text(contact, L"MessageClass"));
     EXPECT_EQ(40, Number(contact, L"Class"));
     EXPECT_EQ(L"16.0", Text(contact, L"OutlookVersion"));
-    EXPECT_EQ(L"OutlookVersion is read-only.", FailureOf([&] { contact.Put(L"OutlookVersion", L"8.5"); }));
+    EXPECT_THROW(contact.Put(L"OutlookVersion", L"8.5"), automation::Error); // it is read-only
 }
 
 TEST_F(ContactItem, AnUnknownMemberIsAnError)

@@ -72,12 +72,29 @@ TEST_F(Filter, AFilterThatCannotBeReadIsAnErrorThatSaysWhere)
     EXPECT_EQ(L"Cannot parse condition. Error at \"'soon'\".", Failure(L"[Birthday] = 'soon'"));
 }
 
-TEST_F(Filter, AnyQuoteInsideAQuotedNameMakesTheFilterMalformed)
+TEST_F(Filter, ADoubledQuoteStandsForOneAndASingleOneEndsTheText)
 {
-    for (const wchar_t* name : {L"\"", L"a\"", L"\"a", L"a\"b", L"\"\"", L"a\"\"b"})
+    mMailbox->AddItem(kContacts, {{L"FirstName", L"a\"b"}, {L"LastName", L"X"}});
+    EXPECT_EQ(1, Matches(L"[FirstName] = \"a\"\"b\" And [LastName] = \"X\""));
+    EXPECT_EQ(1, Matches(L"[FirstName] = 'a\"b'"));
+    EXPECT_EQ(1, Matches(L"[LastName] = 'O''Neil'"));
+    EXPECT_EQ(0, Matches(L"[FirstName] = \"\"\"\" And [LastName] = \"X\""));
+    for (const wchar_t* name : {L"\"", L"a\"", L"\"a", L"a\"b"})
     {
         const std::wstring filter = std::wstring(L"[FirstName] = \"") + name + L"\" And [LastName] = \"X\"";
         EXPECT_NE(std::wstring::npos, Failure(filter.c_str()).find(L"Cannot parse condition.")) << name;
+    }
+}
+
+TEST_F(Filter, ThePropertiesThatFindAndRestrictDoNotTakeAreRefused)
+{
+    for (const wchar_t* name : {L"Categories", L"companies", L"ContactNames", L"Body", L"EntryID", L"DLName"})
+    {
+        const std::wstring filter = std::wstring(L"[") + name + L"] = 'X'";
+        const std::wstring failure =
+            std::wstring(L"Condition is not valid: \"") + name + L"\" cannot be filtered.";
+        EXPECT_EQ(failure, Failure(filter.c_str()));
+        EXPECT_EQ(failure, FailureOf([&] { Contacts().GetObject(L"Items").GetObject(L"Find", filter); }));
     }
 }
 

@@ -172,6 +172,34 @@ TEST_F(OutlookServerLife, ReadsRowsThatWereAddedSinceTheLastClientLeft)
     EXPECT_EQ(1, Number(Folder(outlook, 10).GetObject(L"Items"), L"Count"));
 }
 
+TEST_F(OutlookServerLife, TakesItsSwitchesFromTheMailboxFileAndFromTheControlObject)
+{
+    AddRow(L"邮箱\\Contacts", 1, L"LastName", L"Smith");
+    AddRow(L"邮箱\\Contacts", 2, L"LastName", L"Jones");
+    Run(L"INSERT INTO Switch VALUES ('Order', '1')");
+    const auto outlook = Outlook();
+    const auto items = Folder(outlook, 10).GetObject(L"Items");
+    EXPECT_EQ(L"Jones", Text(items.GetObject(L"Item", 1), L"LastName"));
+    const auto control = Control();
+    control.Call(L"Switch", L"Order", 0);
+    EXPECT_EQ(L"Smith", Text(items.GetObject(L"Item", 1), L"LastName"));
+    control.Call(L"Vanish", L"邮箱\\Contacts", 1);
+    EXPECT_EQ(L"Jones", Text(items.GetObject(L"Item", 1), L"LastName"));
+    EXPECT_EQ(L"There is no switch \"Sleepy\".", FailureOf([&] { control.Call(L"Switch", L"Sleepy", 1); }));
+}
+
+TEST_F(OutlookServerLife, HandsATableThroughTheProcessBoundary)
+{
+    AddRow(L"邮箱\\Contacts", 1, L"LastName", L"王");
+    const auto outlook = Outlook();
+    const auto table = Folder(outlook, 10).GetObject(L"GetTable");
+    const automation::Value rows = table.Get(L"GetArray", 10);
+    LONG at[] = {6, 0};
+    automation::Value name;
+    ASSERT_EQ(S_OK, SafeArrayGetElement(rows.Raw().parray, at, name.Receive()));
+    EXPECT_EQ(L"王", automation::TextOf(name));
+}
+
 TEST_F(OutlookServerLife, TakesTheMailboxOfTheEnvironmentWhereNoneIsChosen)
 {
     outlook::ChooseMailbox({});

@@ -33,6 +33,20 @@ HRESULT Unregister()
     return S_OK;
 }
 
+// The switches of the sandbox: see AwkwardAdo.h.
+automation::Object NewRecordset()
+{
+    wchar_t text[1024];
+    DWORD size = sizeof text;
+    AwkwardAdo awkward;
+    if (RegGetValueW(HKEY_CURRENT_USER, L"Software\\TelvixSandbox", L"Ado", RRF_RT_REG_SZ, nullptr, text,
+                     &size) == ERROR_SUCCESS)
+    {
+        SetSwitches(awkward, text);
+    }
+    return MakeRecordset(std::move(awkward));
+}
+
 } // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
@@ -48,9 +62,8 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, LPVOID* result)
 {
     return automation::Guard([&]() -> HRESULT {
         *result = nullptr;
-        return classId == kRecordsetClass
-                   ? MakeClassObject([] { return MakeRecordset(); }).CopyTo(interfaceId, result)
-                   : CLASS_E_CLASSNOTAVAILABLE;
+        return classId == kRecordsetClass ? MakeClassObject(&NewRecordset).CopyTo(interfaceId, result)
+                                          : CLASS_E_CLASSNOTAVAILABLE;
     });
 }
 

@@ -19,6 +19,8 @@ const MemberTable& ControlObject::Members() const
         {L"TerminateAfter", Reads(&ControlObject::TerminateAfter), nullptr},
         {L"FailCall", Reads(&ControlObject::FailCall), nullptr},
         {L"RejectCallsFor", Reads(&ControlObject::RejectCallsFor), nullptr},
+        {L"Switch", Reads(&ControlObject::Switch), nullptr},
+        {L"Vanish", Reads(&ControlObject::Vanish), nullptr},
     };
     return members;
 }
@@ -78,6 +80,20 @@ Value ControlObject::FailCall(const Call& call)
 Value ControlObject::RejectCallsFor(const Call& call)
 {
     mServer.RejectCallsFor(automation::LongOf(call.At(0)));
+    return {};
+}
+
+// A switch of the mailbox that is served (see Awkward.h), and its value.
+Value ControlObject::Switch(const Call& call)
+{
+    mServer.CurrentMailbox()->Switch(automation::TextOf(call.At(0)), call.At(1));
+    return {};
+}
+
+// The path of a folder and the position of the item that another program removes from it.
+Value ControlObject::Vanish(const Call& call)
+{
+    mServer.CurrentMailbox()->RemoveItem(automation::TextOf(call.At(0)), automation::LongOf(call.At(1)));
     return {};
 }
 

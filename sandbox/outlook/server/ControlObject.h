@@ -29,6 +29,8 @@ class ControlObject : public DispatchObject
     Value TerminateAfter(const Call& call);
     Value FailCall(const Call& call);
     Value RejectCallsFor(const Call& call);
+    Value Switch(const Call& call);
+    Value Vanish(const Call& call);
 
     Server& mServer;
 };

@@ -30,10 +30,12 @@ class Server
     // Refuses every call for so many milliseconds, as an Outlook that shows a dialog does.
     void RejectCallsFor(long milliseconds);
 
+    // The mailbox that applications are served. Throws automation::Error where there is none.
+    MailboxRef CurrentMailbox();
+
   private:
     automation::Object NewApplication();
     automation::Object NewControl();
-    MailboxRef CurrentMailbox();
     void Leave() noexcept;
 
     CallCounter mCalls;
