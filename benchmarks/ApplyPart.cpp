@@ -17,9 +17,9 @@ struct Outcome
     Pair Times;
 };
 
-void Apply(const Kind& kind, Direction direction, data::Run& run)
+void Apply(const Kind& kind, Direction direction, exchange::Run& run)
 {
-    const run::Category& category = kind.Category;
+    const exchange::Kind& category = kind.Category;
     if (direction == Direction::ToOutlook ? category.ApplyToOutlook(run) : category.ApplyFromOutlook(run))
     {
         throw std::runtime_error("the apply pass failed");
@@ -30,7 +30,7 @@ Measured ApplyOnce(const Kind& kind, Direction direction, const DataFiles& files
                    Purpose purpose)
 {
     Sides sides(files, kind, place);
-    data::Run run = sides.NewRun();
+    exchange::Run run = sides.NewRun();
     FillPending(direction, files.Count(), run.Pending);
     Measured measured = Measure(sides.Control(), purpose, [&] { Apply(kind, direction, run); });
     if (const std::wstring refused = sides.HostSide().LastRejection(); !refused.empty())
@@ -45,7 +45,7 @@ HostCalls CallsOfHost(const Kind& kind, const DataFiles& files)
 {
     HostCalls calls;
     Sides sides(files, kind, Place::InProcess);
-    data::Run run = sides.NewRun();
+    exchange::Run run = sides.NewRun();
     FillPending(Direction::FromOutlook, files.Count(), run.Pending);
     state::Shared().gDTC = Recorded(sides.HostSide().Dtc(), calls);
     Apply(kind, Direction::FromOutlook, run);
@@ -56,7 +56,7 @@ Measured WriteOnce(const Kind& kind, Direction direction, const DataFiles& files
                    const HostCalls& hostCalls, Purpose purpose)
 {
     Sides sides(files, kind, place);
-    data::Run run = sides.NewRun();
+    exchange::Run run = sides.NewRun();
     FillPending(direction, files.Count(), run.Pending);
     return Measure(sides.Control(), purpose, [&] {
         if (direction == Direction::ToOutlook)

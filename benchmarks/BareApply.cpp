@@ -14,7 +14,8 @@ namespace
 class Columns
 {
   public:
-    explicit Columns(const data::Run& run) : mRows(run.HostRows.AsObject()), mFieldsId(mRows.IdOf(L"Fields"))
+    explicit Columns(const exchange::Run& run)
+        : mRows(run.HostRows.AsObject()), mFieldsId(mRows.IdOf(L"Fields"))
     {
     }
 
@@ -92,7 +93,7 @@ void WriteItem(const Kind& kind, const RawObject& item, Columns& columns, Member
 class Mover
 {
   public:
-    explicit Mover(const data::Run& run) : mRows(run.HostRows.AsObject()), mId(mRows.IdOf(L"Move")) {}
+    explicit Mover(const exchange::Run& run) : mRows(run.HostRows.AsObject()), mId(mRows.IdOf(L"Move")) {}
 
     void To(long position) const
     {
@@ -117,7 +118,7 @@ void ReadItem(const Kind& kind, const RawObject& item)
 
 } // namespace
 
-void WriteBareToOutlook(const Kind& kind, const data::Run& run, Ids policy)
+void WriteBareToOutlook(const Kind& kind, const exchange::Run& run, Ids policy)
 {
     const RawObject items(run.Items);
     const DISPID addId = items.IdOf(L"Add");
@@ -139,7 +140,7 @@ void WriteBareToOutlook(const Kind& kind, const data::Run& run, Ids policy)
     }
 }
 
-void WriteBareFromOutlook(const Kind& kind, const data::Run& run, const HostCalls& hostCalls,
+void WriteBareFromOutlook(const Kind& kind, const exchange::Run& run, const HostCalls& hostCalls,
                           const automation::Object& host)
 {
     const RawObject items(run.Items);

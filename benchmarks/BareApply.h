@@ -9,11 +9,11 @@ namespace benchmarks
 {
 
 // Writes the run's pending host records into Outlook.
-void WriteBareToOutlook(const Kind& kind, const data::Run& run, Ids ids = Ids::PerObject);
+void WriteBareToOutlook(const Kind& kind, const exchange::Run& run, Ids ids = Ids::PerObject);
 
 // Reads what the run's pending items have for the host, and makes the host's calls of a pass that was written
 // down.
-void WriteBareFromOutlook(const Kind& kind, const data::Run& run, const HostCalls& hostCalls,
+void WriteBareFromOutlook(const Kind& kind, const exchange::Run& run, const HostCalls& hostCalls,
                           const automation::Object& host);
 
 } // namespace benchmarks

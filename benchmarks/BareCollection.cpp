@@ -34,7 +34,7 @@ long PartnersAmongItems(long count)
     return count - count / 2;
 }
 
-void ReadItems(const Kind& kind, const data::Run& run, Ids policy)
+void ReadItems(const Kind& kind, const exchange::Run& run, Ids policy)
 {
     const RawObject items(run.Items);
     const long count = automation::LongOf(items.Get(items.IdOf(L"Count")));
@@ -67,7 +67,7 @@ struct RawField
     DISPID ValueId;
 };
 
-void ReadRows(const Kind& kind, const data::Run& run)
+void ReadRows(const Kind& kind, const exchange::Run& run)
 {
     const RawObject rows(run.HostRows.AsObject());
     std::vector<RawField> keys;
@@ -97,7 +97,7 @@ void ReadRows(const Kind& kind, const data::Run& run)
 
 } // namespace
 
-void ReadBare(const Kind& kind, const data::Run& run, Ids ids)
+void ReadBare(const Kind& kind, const exchange::Run& run, Ids ids)
 {
     ReadItems(kind, run, ids);
     ReadRows(kind, run);

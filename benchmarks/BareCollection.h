@@ -13,6 +13,6 @@ enum class Ids
     PerClass,  // asked for at the first item and taken for granted at the others: what a cache could save
 };
 
-void ReadBare(const Kind& kind, const data::Run& run, Ids ids = Ids::PerObject);
+void ReadBare(const Kind& kind, const exchange::Run& run, Ids ids = Ids::PerObject);
 
 } // namespace benchmarks

@@ -30,12 +30,12 @@ const char* NameOf(Place place)
 
 // The texts of all match keys, as the collection keeps them: of both sides, the second ones where there is a
 // partner.
-double KeyBytes(const Kind& kind, const data::Run& run, size_t count)
+double KeyBytes(const Kind& kind, const exchange::Run& run, size_t count)
 {
     const auto bytes = [](const std::wstring& key) {
         return static_cast<double>((key.size() + 1) * sizeof(wchar_t));
     };
-    const run::MatchRule& rule = kind.Category.Match;
+    const exchange::MatchRule& rule = kind.Category.Match;
     const automation::Object item = run.Items.GetObject(L"Item", 1L);
     run.HostRows.MoveFirst();
     double perPair = bytes(rule.FirstKeyOfItem(item)) + bytes(rule.FirstKeyOfRow(run.HostRows));
@@ -46,7 +46,7 @@ double KeyBytes(const Kind& kind, const data::Run& run, size_t count)
     return perPair * static_cast<double>(count);
 }
 
-void DemandExpected(const data::Run& run, Direction direction, const char* complaint)
+void DemandExpected(const exchange::Run& run, Direction direction, const char* complaint)
 {
     data::Changes expected;
     FillPending(direction, static_cast<size_t>(automation::LongOf(run.Items.Get(L"Count"))), expected);
@@ -58,7 +58,7 @@ void DemandExpected(const data::Run& run, Direction direction, const char* compl
 
 Measured CollectOnce(const Kind& kind, Direction direction, Sides& sides, Purpose purpose)
 {
-    data::Run run = sides.AnotherRun();
+    exchange::Run run = sides.AnotherRun();
     Measured measured = Measure(sides.Control(), purpose, [&] { Collect(kind, direction, run); });
     DemandExpected(run, direction, "the collection proposed something else than the nested walk does");
     return measured;
@@ -66,7 +66,7 @@ Measured CollectOnce(const Kind& kind, Direction direction, Sides& sides, Purpos
 
 Measured ReadOnce(const Kind& kind, Sides& sides, Purpose purpose)
 {
-    const data::Run run = sides.AnotherRun();
+    const exchange::Run run = sides.AnotherRun();
     return Measure(sides.Control(), purpose, [&] { ReadBare(kind, run); });
 }
 
@@ -74,7 +74,7 @@ Measured ReadOnce(const Kind& kind, Sides& sides, Purpose purpose)
 Measured WalkOnce(const Kind& kind, Direction direction, Sides& sides, const WalkCalls& formula)
 {
     const bool isCounted = sides.Where() == Place::OutOfProcess;
-    data::Run run = sides.AnotherRun();
+    exchange::Run run = sides.AnotherRun();
     Measured measured = Measure(sides.Control(), isCounted ? Purpose::TimedAndCounted : Purpose::Timed,
                                 [&] { Walk(kind, direction, run); });
     DemandExpected(run, direction, "the nested walk proposed something unexpected");

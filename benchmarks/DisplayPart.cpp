@@ -12,7 +12,7 @@ namespace
 {
 
 // Hands the main dialog's own display to the work, as a run has it.
-void WithMainDialog(const std::function<void(data::RunDisplay& display)>& work)
+void WithMainDialog(const std::function<void(exchange::RunDisplay& display)>& work)
 {
     HWND main = nullptr;
     run::SynchronizeServices services{
@@ -21,7 +21,7 @@ void WithMainDialog(const std::function<void(data::RunDisplay& display)>& work)
                                const std::wstring&) { parameter.IsTrans = true; },
         .ShowConfigure = [] {},
         .RunTaskSync =
-            [&](data::RunDisplay& display) {
+            [&](exchange::RunDisplay& display) {
                 work(display);
                 DialogWatch::PressUntilClosed(main, IDCANCEL);
                 return false;
@@ -40,15 +40,15 @@ void WithMainDialog(const std::function<void(data::RunDisplay& display)>& work)
     run::ShowSynchronizeItem(services);
 }
 
-double SecondsOfProgress(data::RunDisplay& display, size_t count)
+double SecondsOfProgress(exchange::RunDisplay& display, size_t count)
 {
     constexpr int kRounds = 5;
     Measured best;
     for (int round = 0; round < kRounds; ++round)
     {
         best.Merge(Measure({}, Purpose::Timed, [&] {
-            const data::ShowsProgress shows(display);
-            data::WalkWithProgress(display, static_cast<long>(count), [](long) {});
+            const exchange::ShowsProgress shows(display);
+            exchange::WalkWithProgress(display, static_cast<long>(count), [](long) {});
         }));
     }
     return best.Seconds;
@@ -65,7 +65,7 @@ RunSeconds SecondsOfRun(const Kind& kind, size_t count)
 {
     const DataFiles files(count);
     Sides sides(files, kind, Place::OutOfProcess);
-    data::Run run = sides.NewRun();
+    exchange::Run run = sides.NewRun();
     const auto timed = [](auto&& body) { return Measure({}, Purpose::Timed, body).Seconds; };
     const double collection = timed([&] { Collect(kind, Direction::FromOutlook, run); });
     return {collection, timed([&] { kind.Category.ApplyFromOutlook(run); })};
@@ -78,7 +78,7 @@ void MeasureDisplay(const Plan& plan, Report& report)
     const size_t few = plan.DetailCount;
     const RunSeconds taken = SecondsOfRun(Kinds().front(), few);
     Table table({"records", "ms in the collection", "of it %", "ms in the run", "of it %"});
-    WithMainDialog([&](data::RunDisplay& display) {
+    WithMainDialog([&](exchange::RunDisplay& display) {
         for (const size_t count : plan.OutOfProcess)
         {
             const double scale = static_cast<double>(count) / static_cast<double>(few);

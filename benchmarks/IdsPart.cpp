@@ -11,14 +11,14 @@ namespace
 Measured Read(const Kind& kind, const DataFiles& files, Ids ids)
 {
     Sides sides(files, kind, Place::OutOfProcess);
-    const data::Run run = sides.NewRun();
+    const exchange::Run run = sides.NewRun();
     return Measure(sides.Control(), Purpose::TimedAndCounted, [&] { ReadBare(kind, run, ids); });
 }
 
 Measured Write(const Kind& kind, const DataFiles& files, Ids ids)
 {
     Sides sides(files, kind, Place::OutOfProcess);
-    data::Run run = sides.NewRun();
+    exchange::Run run = sides.NewRun();
     FillPending(Direction::ToOutlook, files.Count(), run.Pending);
     return Measure(sides.Control(), Purpose::TimedAndCounted, [&] { WriteBareToOutlook(kind, run, ids); });
 }

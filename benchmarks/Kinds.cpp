@@ -1,7 +1,11 @@
 #include "benchmarks/Kinds.h"
+#include "automation/OutlookConstants.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
+#include "tasks/Tasks.h"
 
 #include "automation/Dates.h"
-#include "data/ApplyToOutlook.h"
+#include "exchange/ApplyToOutlook.h"
 
 namespace benchmarks
 {
@@ -212,11 +216,11 @@ constexpr const wchar_t* kEntryReads[] = {
 };
 
 const Kind kKinds[] = {
-    {"contacts", run::kContactCategory, 10, data::kContactItem, kContactItemKeys, L"CompanyName",
+    {"contacts", contacts::kContacts, 10, automation::kContactItem, kContactItemKeys, L"CompanyName",
      kContactRowKeys, L"ACC_SNAME", L"F_CNTCTID", kContactSteps, kContactReads},
-    {"tasks", run::kTaskCategory, 13, data::kTaskItem, kTaskItemKeys, L"Companies", kTaskRowKeys,
+    {"tasks", tasks::kTasks, 13, automation::kTaskItem, kTaskItemKeys, L"Companies", kTaskRowKeys,
      L"ACC_SNAME", L"F_ACTID", kTaskSteps, kTaskReads},
-    {"calendar", run::kCalendarCategory, 9, data::kAppointmentItem, kEntryItemKeys, nullptr, kEntryRowKeys,
+    {"calendar", calendar::kCalendar, 9, automation::kAppointmentItem, kEntryItemKeys, nullptr, kEntryRowKeys,
      nullptr, L"F_ACTID", kEntrySteps, kEntryReads},
 };
 

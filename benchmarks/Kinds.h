@@ -2,7 +2,7 @@
 // by what members a record is matched, and what the apply passes have to read and write for one record.
 #pragma once
 
-#include "run/Category.h"
+#include "exchange/Kind.h"
 
 #include <span>
 #include <vector>
@@ -37,7 +37,7 @@ struct Step
 struct Kind
 {
     const char* Name;
-    const run::Category& Category;
+    const exchange::Kind& Category;
     long DefaultFolder; // OlDefaultFolders
     long ItemType;      // OlItemType
     std::span<const wchar_t* const> ItemKeys;

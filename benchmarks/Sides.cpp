@@ -6,10 +6,10 @@
 #include "sandbox/outlook/Classes.h"
 #include "sandbox/outlook/Outlook.h"
 #include "sandbox/outlook/Registration.h"
-#include "sandbox/sample_data/MailboxWriter.h"
-#include "sandbox/sample_data/NumberedRecords.h"
-#include "sandbox/sample_data/SampleData.h"
 #include "state/SharedState.h"
+#include "tools/sample_data/MailboxWriter.h"
+#include "tools/sample_data/NumberedRecords.h"
+#include "tools/sample_data/SampleData.h"
 
 namespace benchmarks
 {
@@ -128,21 +128,21 @@ Sides::~Sides()
     Remove(mMailboxCopy);
 }
 
-data::Run Sides::NewRun()
+exchange::Run Sides::NewRun()
 {
     mRows = {};
     return AnotherRun();
 }
 
-data::Run Sides::AnotherRun()
+exchange::Run Sides::AnotherRun()
 {
     const Object folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", mKind.DefaultFolder);
-    data::Run run{.Display = mDisplay, .Folder = folder, .Items = folder.GetObject(L"Items")};
+    exchange::Run run{.Display = mDisplay, .Folder = folder, .Items = folder.GetObject(L"Items")};
     run.Items.Get(L"Count"); // the stand-in reads the folder's items when they are first asked for
     if (!mRows)
     {
         const data::Host host;
-        const run::Category& category = mKind.Category;
+        const exchange::Kind& category = mKind.Category;
         const std::wstring filter =
             category.SourceFilter == nullptr ? std::wstring() : category.SourceFilter(host);
         data::Demand(host.OpenRecordset(run.HostRows, category.RecordSource, filter) >= 0, L"OpenRecordset");

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "benchmarks/Kinds.h"
-#include "data/Run.h"
+#include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Mailbox.h"
@@ -22,7 +22,7 @@ enum class Place
 };
 
 // Shows nothing.
-class NoDisplay : public data::RunDisplay
+class NoDisplay : public exchange::RunDisplay
 {
   public:
     void SetStatus(const std::wstring&) override {}
@@ -61,9 +61,9 @@ class Sides
     ~Sides();
 
     // A run over the rows and items as they are now.
-    data::Run NewRun();
+    exchange::Run NewRun();
     // One that shares the rows which the first NewRun fetched.
-    data::Run AnotherRun();
+    exchange::Run AnotherRun();
 
     size_t Count() const noexcept { return mFiles.Count(); }
     Place Where() const noexcept { return mPlace; }

@@ -39,7 +39,7 @@ void Demand(bool failed, const char* what)
 
 } // namespace
 
-void Collect(const Kind& kind, Direction direction, data::Run& run)
+void Collect(const Kind& kind, Direction direction, exchange::Run& run)
 {
     run::ChangeCollection collection(kind.Category, run);
     Demand(direction == Direction::ToOutlook ? collection.CollectToOutlook()
@@ -47,7 +47,7 @@ void Collect(const Kind& kind, Direction direction, data::Run& run)
            "the collection");
 }
 
-void Walk(const Kind& kind, Direction direction, data::Run& run)
+void Walk(const Kind& kind, Direction direction, exchange::Run& run)
 {
     const long rule = state::Shared().gSynParameter.TransConflictOption;
     Demand(direction == Direction::ToOutlook

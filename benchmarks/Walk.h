@@ -2,14 +2,14 @@
 #pragma once
 
 #include "benchmarks/Kinds.h"
-#include "data/Run.h"
+#include "exchange/Run.h"
 
 namespace benchmarks
 {
 
 // Throw std::runtime_error when the collection fails.
-void Collect(const Kind& kind, Direction direction, data::Run& run);
-void Walk(const Kind& kind, Direction direction, data::Run& run);
+void Collect(const Kind& kind, Direction direction, exchange::Run& run);
+void Walk(const Kind& kind, Direction direction, exchange::Run& run);
 
 // What either proposes over the numbered records, half of them with a partner and a rule that takes all.
 void FillPending(Direction direction, size_t count, data::Changes& pending);

@@ -21,7 +21,7 @@ long CountedWalk(const Kind& kind, Direction direction, size_t count)
 {
     const DataFiles files(count);
     Sides sides(files, kind, Place::InProcess);
-    data::Run run = sides.NewRun();
+    exchange::Run run = sides.NewRun();
     return Measure({}, Purpose::Counted, [&] { Walk(kind, direction, run); }).Traffic.AllCalls();
 }
 

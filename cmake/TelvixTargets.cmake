@@ -11,7 +11,7 @@ add_library(telvix_options INTERFACE)
 target_compile_definitions(telvix_options INTERFACE
   UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
 target_include_directories(telvix_options INTERFACE
-  ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
+  ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/generated)
 if(MSVC)
   target_compile_options(telvix_options INTERFACE /W4 /WX /utf-8 /permissive-)
 else()
@@ -60,16 +60,34 @@ function(telvix_build_fast name precompiled sources)
   endif()
 endfunction()
 
-# telvix_library(NAME lib...): a static library of the folder's sources; the libraries it builds on follow.
+# telvix_component_headers(NAME SCOPE FOLDER): shows the headers of a folder of src/ to the targets that link the
+# library, and to no others: an include that no dependency allows does not compile.
+function(telvix_component_headers name scope folder)
+  set(view ${CMAKE_BINARY_DIR}/views/${folder})
+  if(NOT EXISTS ${view}/${folder})
+    file(MAKE_DIRECTORY ${view})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${view}/${folder} SYMBOLIC COPY_ON_ERROR)
+  endif()
+  target_include_directories(${name} ${scope} ${view})
+endfunction()
+
+# telvix_library(NAME lib...): a static library of the sources of the folder and its subfolders, except those of
+# modules and programs (dll/, program/, server/); the libraries it builds on follow.
 function(telvix_library name)
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/(dll|program|server)/")
+  set(scope PUBLIC)
   if(sources)
     add_library(${name} STATIC ${sources})
-    target_link_libraries(${name} PUBLIC ${ARGN} telvix_options)
     telvix_build_fast(${name} telvix_precompiled 12)
   else()
+    set(scope INTERFACE)
     add_library(${name} INTERFACE)
-    target_link_libraries(${name} INTERFACE ${ARGN} telvix_options)
+  endif()
+  target_link_libraries(${name} ${scope} ${ARGN} telvix_options)
+  cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/src OUTPUT_VARIABLE folder)
+  if(NOT folder MATCHES "^[.][.]")
+    telvix_component_headers(${name} ${scope} ${folder})
   endif()
 endfunction()
 

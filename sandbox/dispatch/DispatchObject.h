@@ -105,8 +105,8 @@ class DispatchObject : public IDispatch
 
     // The name that observers see, for example "ContactItem".
     virtual const wchar_t* ClassName() const = 0;
-    // The members; one table per class, shared by its objects. It must not change, nor give DISPIDs to some of
-    // its members only.
+    // The members; one table per class, shared by its objects. It must not change, nor give DISPIDs to some
+    // of its members only.
     virtual const MemberTable& Members() const = 0;
     // The index of the default member (DISPID 0) of a table without DISPIDs, for collections usually "Item";
     // -1 for none.

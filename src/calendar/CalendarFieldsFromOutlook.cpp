@@ -2,7 +2,7 @@
 
 #include "automation/Dates.h"
 #include "calendar/Recurrence.h"
-#include "data/MappingFromOutlook.h"
+#include "exchange/MappingFromOutlook.h"
 #include "state/SharedState.h"
 
 namespace calendar
@@ -13,10 +13,10 @@ using automation::DateOf;
 using automation::MinuteOfDay;
 using automation::Object;
 using automation::Value;
-using data::HostValue;
-using data::ItemProperties;
 using data::RowColumns;
-using data::SourceProperty;
+using exchange::HostValue;
+using exchange::ItemProperties;
+using exchange::SourceProperty;
 
 namespace
 {
@@ -119,20 +119,21 @@ HostValue ReadIsRecurring(const SourceProperty& property)
     {
         AddSingleEnd(property.Item, property.Record);
     }
-    return data::ReadAsIs(property);
+    return exchange::ReadAsIs(property);
 }
 
-constexpr data::PropertyFromOutlook kAppointmentToColumns[] = {
-    {L"Subject", data::ReadUnlessEmpty}, {L"Categories", data::ReadCategories}, {L"Start", ReadStart},
-    {L"ReminderSet", data::ReadAsIs},    {L"IsRecurring", ReadIsRecurring},
+constexpr exchange::PropertyFromOutlook kAppointmentToColumns[] = {
+    {L"Subject", exchange::ReadUnlessEmpty}, {L"Categories", exchange::ReadCategories}, {L"Start", ReadStart},
+    {L"ReminderSet", exchange::ReadAsIs},    {L"IsRecurring", ReadIsRecurring},
 };
 
 } // namespace
 
-bool AddCalendarColumns(data::RelationTable& relations, const Object& item, RowColumns& entry)
+bool AddCalendarColumns(exchange::RelationTable& relations, const Object& item, RowColumns& entry)
 {
     ItemProperties properties(item);
-    return data::AddRelatedColumns(relations, kAppointmentToColumns, data::kNoColumn, properties, entry);
+    return exchange::AddRelatedColumns(relations, kAppointmentToColumns, exchange::kNoColumn, properties,
+                                       entry);
 }
 
 } // namespace calendar

@@ -3,15 +3,15 @@
 #pragma once
 
 #include "automation/Object.h"
-#include "data/RelationTable.h"
 #include "data/RowColumns.h"
+#include "exchange/RelationTable.h"
 
 namespace calendar
 {
 
 // Adds the columns to the entry's row; false when the appointment has no subject, and so is not to be written
 // at all. Throws automation::Error when Outlook refuses or a value cannot be formatted.
-bool AddCalendarColumns(data::RelationTable& relations, const automation::Object& item,
+bool AddCalendarColumns(exchange::RelationTable& relations, const automation::Object& item,
                         data::RowColumns& entry);
 
 } // namespace calendar

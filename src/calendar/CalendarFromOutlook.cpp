@@ -2,12 +2,12 @@
 
 #include "calendar/CalendarFieldsFromOutlook.h"
 #include "calendar/CalendarRelations.h"
-#include "data/ApplyFromOutlook.h"
 #include "data/Host.h"
 #include "data/Literals.h"
 #include "data/SqlFragments.h"
+#include "exchange/ApplyFromOutlook.h"
+#include "links/TaskLinks.h"
 #include "state/Failures.h"
-#include "tasks/TaskLinks.h"
 #include "ui/ShowMessageBox.h"
 
 namespace calendar
@@ -20,12 +20,6 @@ using data::RowColumns;
 
 namespace
 {
-
-constexpr data::PassFromOutlook kCalendarFromOutlook{
-    .RelationStatement = kRelationStatement,
-    .RelationOptions = kRelationOptions,
-    .Write = SynOlCalendarToSynCalendar,
-};
 
 // Runs a step of the writer; an error is shown with the host column that was being processed, and gives
 // failure.
@@ -48,15 +42,15 @@ Result Reported(const RowColumns& entry, Result failure, Step&& step)
 // False when the lookup of the account has failed; the builder has shown why.
 bool AddAccount(const Object& item, RowColumns& entry)
 {
-    using contacts::UndoneBy;
+    using links::UndoneBy;
     return entry.Mode() == data::kNewRecord
-               ? tasks::ChangeAddTaskAccount(entry.Catalogue(), item, entry.Fields, entry.Values,
+               ? links::ChangeAddTaskAccount(entry.Catalogue(), item, entry.Fields, entry.Values,
                                              UndoneBy::Hand) == 0
-               : tasks::ChangeEditTaskAccount(entry.Catalogue(), item, entry.SetList, UndoneBy::Hand) == 0;
+               : links::ChangeEditTaskAccount(entry.Catalogue(), item, entry.SetList, UndoneBy::Hand) == 0;
 }
 
 // False when the appointment is not to be written.
-bool Complete(data::Run& run, const Object& item, RowColumns& entry)
+bool Complete(exchange::Run& run, const Object& item, RowColumns& entry)
 {
     return AddCalendarColumns(run.Relations, item, entry) && AddAccount(item, entry);
 }
@@ -80,7 +74,7 @@ void Update(const Host& host, const automation::Recordset& rows, const RowColumn
     }
 }
 
-void Save(const data::Run& run, RowColumns& entry)
+void Save(const exchange::Run& run, RowColumns& entry)
 {
     const Host host;
     if (entry.Mode() == data::kNewRecord)
@@ -96,12 +90,13 @@ void Save(const data::Run& run, RowColumns& entry)
 
 } // namespace
 
-bool SynCalendarFromOutlook(data::Run& run)
-{
-    return data::ApplyFromOutlook(run, kCalendarFromOutlook);
-}
+const exchange::PassFromOutlook SynCalendarFromOutlook{
+    .RelationStatement = kRelationStatement,
+    .RelationOptions = kRelationOptions,
+    .Write = SynOlCalendarToSynCalendar,
+};
 
-long SynOlCalendarToSynCalendar(data::Run& run, long mode, const Object& item)
+long SynOlCalendarToSynCalendar(exchange::Run& run, long mode, const Object& item)
 {
     if (mode != data::kNewRecord && mode != data::kExistingRecord)
     {

@@ -1,16 +1,17 @@
 #include "calendar/CalendarToOutlook.h"
+#include "automation/OutlookConstants.h"
 
 #include "automation/Dates.h"
 #include "automation/Error.h"
 #include "automation/Readable.h"
 #include "calendar/CalendarRelations.h"
 #include "calendar/Recurrence.h"
-#include "data/ApplyToOutlook.h"
-#include "data/MappingToOutlook.h"
 #include "data/Remark.h"
+#include "exchange/ApplyToOutlook.h"
+#include "exchange/MappingToOutlook.h"
+#include "links/ContactLink.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
-#include "tasks/ContactLink.h"
 
 namespace calendar
 {
@@ -21,8 +22,8 @@ using automation::Object;
 using automation::OutlookDate;
 using automation::ReadableDate;
 using automation::Value;
-using data::PutAsIs;
-using data::TargetProperty;
+using exchange::PutAsIs;
+using exchange::TargetProperty;
 
 namespace
 {
@@ -43,10 +44,10 @@ const wchar_t* ObstacleToRepetition(const automation::Recordset& rows)
 }
 
 // The same for any entry, by the relation rows that bear on it.
-const wchar_t* Obstacle(data::Run& run)
+const wchar_t* Obstacle(exchange::Run& run)
 {
     const automation::Recordset& rows = run.HostRows;
-    for (const data::RelationRow& relation : run.Relations.Rows())
+    for (const exchange::RelationRow& relation : run.Relations.Rows())
     {
         const bool isStart = relation.OutlookName == L"Start";
         if (isStart && !OutlookDate(rows.ValueOf(relation.EnglishName)))
@@ -66,7 +67,7 @@ const wchar_t* Obstacle(data::Run& run)
 
 // What cannot be an appointment is left out, before anything of it is written. The pass ends with the first
 // entry that Outlook refuses.
-void Write(data::Run& run, long mode, const Object& item)
+void Write(exchange::Run& run, long mode, const Object& item)
 {
     if (const wchar_t* const obstacle = Obstacle(run))
     {
@@ -77,14 +78,6 @@ void Write(data::Run& run, long mode, const Object& item)
         throw automation::Error(E_FAIL, L"SynSynCalendarToOlCalendar");
     }
 }
-
-constexpr data::PassToOutlook kCalendarToOutlook{
-    .ItemType = data::kAppointmentItem,
-    .RelationStatement = kRelationStatement,
-    .RelationOptions = kRelationOptions,
-    .Write = Write,
-    .AddsItemFirst = true,
-};
 
 // A column that holds a time of day, to the minute; midnight where it holds none.
 Date TimeOrMidnight(const Value& time)
@@ -113,19 +106,19 @@ void PutStartAndEnd(const TargetProperty& property)
 
 bool MayBeLinked(const Object& contact)
 {
-    return !tasks::IsOfOutlook8(contact);
+    return !links::IsOfOutlook8(contact);
 }
 
 // Despite its key this adds a link; the appointment's recipients are never touched.
 void LinkToContact(const TargetProperty& property)
 {
-    tasks::LinkContact(property.Item, property.HostValue, property.HostRows.ValueOf(L"CONTACT_GIVENNAME"),
+    links::LinkContact(property.Item, property.HostValue, property.HostRows.ValueOf(L"CONTACT_GIVENNAME"),
                        MayBeLinked);
 }
 
 void PutReminder(const TargetProperty& property)
 {
-    data::PutTruth(property);
+    exchange::PutTruth(property);
     if (IsTrue(property.HostValue))
     {
         property.Item.Put(L"ReminderMinutesBeforeStart", state::Shared().gCalendarPreviewAlarmTime);
@@ -176,24 +169,27 @@ void PutRecurrence(const TargetProperty& property)
     PutWhereGiven(pattern, L"PatternEndDate", OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE")), AsItIs);
 }
 
-constexpr data::PropertyToOutlook kEntryToAppointment[] = {
+constexpr exchange::PropertyToOutlook kEntryToAppointment[] = {
     {L"Subject", PutAsIs},          {L"Start", PutStartAndEnd},    {L"Categories", PutAsIs},
     {L"Recipients", LinkToContact}, {L"ReminderSet", PutReminder}, {L"IsRecurring", PutRecurrence},
 };
 
 } // namespace
 
-bool SynCalendarToOutlook(data::Run& run)
-{
-    return data::ApplyToOutlook(run, kCalendarToOutlook);
-}
+const exchange::PassToOutlook SynCalendarToOutlook{
+    .ItemType = automation::kAppointmentItem,
+    .RelationStatement = kRelationStatement,
+    .RelationOptions = kRelationOptions,
+    .Write = Write,
+    .AddsItemFirst = true,
+};
 
-bool SynSynCalendarToOlCalendar(data::Run& run, long mode, const Object& item)
+bool SynSynCalendarToOlCalendar(exchange::Run& run, long mode, const Object& item)
 {
     return state::Trapped(true, [&] {
         if (mode == data::kNewRecord || mode == data::kExistingRecord)
         {
-            data::WriteRelatedProperties(run, kEntryToAppointment, item, data::Saves::OnceAtTheEnd);
+            exchange::WriteRelatedProperties(run, kEntryToAppointment, item, exchange::Saves::OnceAtTheEnd);
         }
         return false;
     });

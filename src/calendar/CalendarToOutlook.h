@@ -2,17 +2,17 @@
 // which property comes from the field relation table; how each property is written is fixed here.
 #pragma once
 
-#include "data/Run.h"
+#include "exchange/ApplyToOutlook.h"
 
 namespace calendar
 {
 
 // The apply pass of a calendar run towards Outlook: true when an error ended it.
-bool SynCalendarToOutlook(data::Run& run);
+extern const exchange::PassToOutlook SynCalendarToOutlook;
 
 // Writes the host entry on which the run's recordset stands into the appointment and saves it, once, at the
 // end. Mode 1 is for a new appointment, 2 for an existing one; any other does nothing. True when an error
 // ended the writer; the appointment is then left unsaved.
-bool SynSynCalendarToOlCalendar(data::Run& run, long mode, const automation::Object& item);
+bool SynSynCalendarToOlCalendar(exchange::Run& run, long mode, const automation::Object& item);
 
 } // namespace calendar

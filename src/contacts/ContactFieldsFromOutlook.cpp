@@ -1,6 +1,6 @@
 #include "contacts/ContactFieldsFromOutlook.h"
 
-#include "data/MappingFromOutlook.h"
+#include "exchange/MappingFromOutlook.h"
 #include "resources/Strings.h"
 
 namespace contacts
@@ -11,9 +11,9 @@ using automation::Value;
 namespace
 {
 
-using data::HostValue;
-using data::ReadAsIs;
-using data::SourceProperty;
+using exchange::HostValue;
+using exchange::ReadAsIs;
+using exchange::SourceProperty;
 
 // Outside the Chinese interface the host keeps the two names the other way round; contacts to Outlook make
 // the same exchange.
@@ -30,7 +30,7 @@ HostValue ReadName(const SourceProperty& property)
 HostValue ReadWhenFilled(bool inThisLanguage, const SourceProperty& property)
 {
     return inThisLanguage && !property.Item.IsEmpty(property.Name) ? property.Item.ValueOf(property.Name)
-                                                                   : Value(data::kNoColumn);
+                                                                   : Value(exchange::kNoColumn);
 }
 
 HostValue ReadInChineseWhenFilled(const SourceProperty& property)
@@ -49,7 +49,7 @@ HostValue ReadDate(const SourceProperty& property)
 }
 
 // Company and business address are not here: they reach the host through the account and address links.
-constexpr data::PropertyFromOutlook kItemToContactColumns[] = {
+constexpr exchange::PropertyFromOutlook kItemToContactColumns[] = {
     {L"LastName", ReadName},
     {L"FirstName", ReadName},
     {L"Suffix", ReadInChineseWhenFilled},
@@ -76,11 +76,12 @@ constexpr data::PropertyFromOutlook kItemToContactColumns[] = {
 
 } // namespace
 
-bool AddContactColumns(data::RelationTable& relations, const automation::Object& item,
+bool AddContactColumns(exchange::RelationTable& relations, const automation::Object& item,
                        data::RowColumns& contact)
 {
-    data::ItemProperties properties(item);
-    return data::AddRelatedColumns(relations, kItemToContactColumns, data::kNoColumn, properties, contact);
+    exchange::ItemProperties properties(item);
+    return exchange::AddRelatedColumns(relations, kItemToContactColumns, exchange::kNoColumn, properties,
+                                       contact);
 }
 
 } // namespace contacts

@@ -3,15 +3,15 @@
 #pragma once
 
 #include "automation/Object.h"
-#include "data/RelationTable.h"
 #include "data/RowColumns.h"
+#include "exchange/RelationTable.h"
 
 namespace contacts
 {
 
 // Adds the related columns to the contact's row; false when the item lacks a name that a row asks for, and so
 // is not to be written at all. Throws automation::Error when Outlook refuses or a value cannot be formatted.
-bool AddContactColumns(data::RelationTable& relations, const automation::Object& item,
+bool AddContactColumns(exchange::RelationTable& relations, const automation::Object& item,
                        data::RowColumns& contact);
 
 } // namespace contacts

@@ -1,10 +1,10 @@
 #include "contacts/ContactsFromOutlook.h"
 
-#include "contacts/Accounts.h"
 #include "contacts/ContactFieldsFromOutlook.h"
-#include "data/ApplyFromOutlook.h"
 #include "data/Host.h"
 #include "data/Literals.h"
+#include "exchange/ApplyFromOutlook.h"
+#include "links/Accounts.h"
 #include "state/Failures.h"
 #include "ui/ShowMessageBox.h"
 
@@ -19,14 +19,9 @@ using data::RowColumns;
 namespace
 {
 
-constexpr data::PassFromOutlook kContacts{
-    L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'",
-    {automation::kCursorKeyset, automation::kLockReadOnly, automation::kCommandText},
-    SynOlContactToSynContact};
-
 void Insert(const Host& host, const Object& item, RowColumns& contact)
 {
-    AddAccountLinks(host, item, contact);
+    links::AddAccountLinks(host, item, contact);
     const std::wstring key = QuotedText(host.NewGuid());
     const std::wstring keys = key + L"," + QuotedText(host.UserId()) + L",";
     data::Demand(
@@ -37,7 +32,7 @@ void Insert(const Host& host, const Object& item, RowColumns& contact)
 void Update(const Host& host, const automation::Recordset& rows, const Object& item, RowColumns& contact)
 {
     const std::wstring id = automation::TextOf(rows.ValueOf(L"F_CNTCTID"));
-    AddAccountLinks(host, item, contact, {id, automation::TextOrEmpty(rows.ValueOf(L"ACC_SNAME"))});
+    links::AddAccountLinks(host, item, contact, {id, automation::TextOrEmpty(rows.ValueOf(L"ACC_SNAME"))});
     if (!contact.SetList.empty())
     {
         data::Demand(host.Update(L"TBLCONTACT", contact.SetList, L"F_CNTCTID=" + QuotedText(id)) == 0,
@@ -45,7 +40,7 @@ void Update(const Host& host, const automation::Recordset& rows, const Object& i
     }
 }
 
-void Write(const Host& host, const data::Run& run, const Object& item, RowColumns& contact)
+void Write(const Host& host, const exchange::Run& run, const Object& item, RowColumns& contact)
 {
     switch (contact.Mode())
     {
@@ -59,12 +54,12 @@ void Write(const Host& host, const data::Run& run, const Object& item, RowColumn
 
 } // namespace
 
-bool SynContactFromOutlook(data::Run& run)
-{
-    return data::ApplyFromOutlook(run, kContacts);
-}
+const exchange::PassFromOutlook SynContactFromOutlook{
+    L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'",
+    {automation::kCursorKeyset, automation::kLockReadOnly, automation::kCommandText},
+    SynOlContactToSynContact};
 
-long SynOlContactToSynContact(data::Run& run, long mode, const Object& item)
+long SynOlContactToSynContact(exchange::Run& run, long mode, const Object& item)
 {
     return state::Trapped(-1L, [&] {
         RowColumns contact(run.Catalogue, mode);

@@ -1,7 +1,8 @@
 #include "contacts/ContactsToOutlook.h"
+#include "automation/OutlookConstants.h"
 
-#include "data/ApplyToOutlook.h"
-#include "data/MappingToOutlook.h"
+#include "exchange/ApplyToOutlook.h"
+#include "exchange/MappingToOutlook.h"
 #include "resources/Strings.h"
 
 namespace contacts
@@ -10,16 +11,9 @@ namespace contacts
 namespace
 {
 
-using data::PutAsIs;
-using data::PutDate;
-using data::TargetProperty;
-
-constexpr data::PassToOutlook kContactsToOutlook{
-    .ItemType = data::kContactItem,
-    .RelationStatement = L"Select * From SynRelation Where QuenlarTblName='TBLCONTACT'",
-    .RelationOptions = {},
-    .Write = SynSynContactToOlContact,
-};
+using exchange::PutDate;
+using exchange::PutAsIs;
+using exchange::TargetProperty;
 
 // Outside the Chinese interface the host's and Outlook's first and last names are exchanged, deliberately.
 void PutFirstName(const TargetProperty& property)
@@ -54,7 +48,7 @@ void PutCompany(const TargetProperty& property)
     property.Item.Put(L"Companies", property.HostValue);
 }
 
-constexpr data::PropertyToOutlook kContactToItem[] = {
+constexpr exchange::PropertyToOutlook kContactToItem[] = {
     {L"FirstName", PutFirstName},
     {L"LastName", PutLastName},
     {L"Suffix", PutInChinese},
@@ -87,14 +81,16 @@ constexpr data::PropertyToOutlook kContactToItem[] = {
 
 } // namespace
 
-bool SynContactToOutlook(data::Run& run)
-{
-    return data::ApplyToOutlook(run, kContactsToOutlook);
-}
+const exchange::PassToOutlook SynContactToOutlook{
+    .ItemType = automation::kContactItem,
+    .RelationStatement = L"Select * From SynRelation Where QuenlarTblName='TBLCONTACT'",
+    .RelationOptions = {},
+    .Write = SynSynContactToOlContact,
+};
 
-void SynSynContactToOlContact(data::Run& run, long /*mode*/, const automation::Object& item)
+void SynSynContactToOlContact(exchange::Run& run, long /*mode*/, const automation::Object& item)
 {
-    data::WriteRelatedProperties(run, kContactToItem, item, data::Saves::OnceAtTheEnd);
+    exchange::WriteRelatedProperties(run, kContactToItem, item, exchange::Saves::OnceAtTheEnd);
 }
 
 } // namespace contacts

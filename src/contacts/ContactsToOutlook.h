@@ -2,17 +2,17 @@
 // relation table; how each property is written is fixed here.
 #pragma once
 
-#include "data/Run.h"
+#include "exchange/ApplyToOutlook.h"
 
 namespace contacts
 {
 
 // The apply pass of a contact run towards Outlook: true when an error ended it.
-bool SynContactToOutlook(data::Run& run);
+extern const exchange::PassToOutlook SynContactToOutlook;
 
 // Writes the host contact on which the run's recordset stands into the item and saves it; mode 1 for a new
 // item, 2 for an existing one, which makes no difference here. Throws automation::Error when Outlook refuses
 // a value or the relation rows cannot be read.
-void SynSynContactToOlContact(data::Run& run, long mode, const automation::Object& item);
+void SynSynContactToOlContact(exchange::Run& run, long mode, const automation::Object& item);
 
 } // namespace contacts

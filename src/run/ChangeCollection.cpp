@@ -53,12 +53,13 @@ double Fraction(long done, long all)
 
 } // namespace
 
-ChangeCollection::ChangeCollection(const Category& category, data::Run& run)
-    : mCategory(category),
+ChangeCollection::ChangeCollection(const exchange::Kind& kind, exchange::Run& run)
+    : mKind(kind),
       mRun(run),
-      mFilters(category.FiltersOf(state::Shared().gSynParameter, data::Host())),
-      mItems(category.Match, run.Items),
-      mRows(category.Match, run.HostRows),
+      mFilters(kind.FiltersOf == nullptr ? exchange::Filters()
+                                         : kind.FiltersOf(state::Shared().gSynParameter, data::Host())),
+      mItems(kind.Match, run.Items),
+      mRows(kind.Match, run.HostRows),
       mItemIndex(mItems),
       mRowIndex(mRows)
 {
@@ -69,8 +70,8 @@ ChangeCollection::ChangeCollection(const Category& category, data::Run& run)
 bool ChangeCollection::CollectToOutlook()
 {
     return state::Trapped(true, [&] {
-        mRun.Display.SetStatus(resources::String(mCategory.CollectToOutlookTextId));
-        const data::ShowsProgress showsProgress(mRun.Display);
+        mRun.Display.SetStatus(resources::String(mKind.CollectToOutlookTextId));
+        const exchange::ShowsProgress showsProgress(mRun.Display);
         mItems.CountItems();
         const long all = mRun.HostRows.RecordCount();
         for (long row = 1; mRows.Exists(row); ++row)
@@ -126,11 +127,11 @@ bool ChangeCollection::CollectFromOutlook()
 {
     return state::Trapped(true, [&] {
         mRun.Display.SetStatus(resources::String(IDS_RUN_COLLECTING));
-        const data::ShowsProgress showsProgress(mRun.Display);
+        const exchange::ShowsProgress showsProgress(mRun.Display);
         const bool mayAdd =
-            data::CheckPermission(mCategory.PermissionKind, data::kUsualScope, data::kAddOperation);
+            data::CheckPermission(mKind.PermissionKind, data::kUsualScope, data::kAddOperation);
         const bool mayModify =
-            data::CheckPermission(mCategory.PermissionKind, data::kUsualScope, data::kModifyOperation);
+            data::CheckPermission(mKind.PermissionKind, data::kUsualScope, data::kModifyOperation);
         const long all = mItems.CountItems();
         for (long item = 1; item <= all; ++item)
         {

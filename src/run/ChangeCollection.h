@@ -2,7 +2,7 @@
 // plain walk of the one side for each record of the other, record for record and in the same order.
 #pragma once
 
-#include "run/Category.h"
+#include "exchange/Kind.h"
 #include "run/LazyIndex.h"
 
 namespace run
@@ -14,7 +14,7 @@ class ChangeCollection
 {
   public:
     // category and run outlive the collection; the run's host rows and items are open.
-    ChangeCollection(const Category& category, data::Run& run);
+    ChangeCollection(const exchange::Kind& kind, exchange::Run& run);
 
     // Collect...ChangesToOutlook and Collect...ChangesFromOutlook of the category: true when an error ended
     // the procedure.
@@ -27,9 +27,9 @@ class ChangeCollection
     void ProposeRow(long row, long partner);
     void ProposeItem(long item, long partner, bool mayAdd, bool mayModify);
 
-    const Category& mCategory;
-    data::Run& mRun;
-    Filters mFilters;
+    const exchange::Kind& mKind;
+    exchange::Run& mRun;
+    exchange::Filters mFilters;
     ItemKeys mItems;
     RowKeys mRows;
     LazyIndex mItemIndex;

@@ -1,5 +1,6 @@
 #include "run/FrmSynchronizeItem.h"
 
+#include "exchange/KindName.h"
 #include "resources/Strings.h"
 #include "run/SynchronizeTexts.h"
 #include "state/Failures.h"
@@ -25,19 +26,18 @@ constexpr int kListMargin = 4; // dialog units between the tabbed frame and the 
 
 struct CategoryRow
 {
-    const wchar_t* key;
-    UINT textId;
-    std::function<bool(data::RunDisplay&)> SynchronizeServices::*run;
+    const exchange::KindName& kind;
+    std::function<bool(exchange::RunDisplay&)> SynchronizeServices::*run;
 };
 
 // In the order of the list, which is also the order in which a chosen text is compared.
 constexpr CategoryRow kCategories[] = {
-    {L"Task", IDS_CATEGORY_TASK, &SynchronizeServices::RunTaskSync},
-    {L"Calendar", IDS_CATEGORY_CALENDAR, &SynchronizeServices::RunCalendarSync},
-    {L"Contact", IDS_CATEGORY_CONTACT, &SynchronizeServices::RunContactSync},
+    {exchange::kTaskName, &SynchronizeServices::RunTaskSync},
+    {exchange::kCalendarName, &SynchronizeServices::RunCalendarSync},
+    {exchange::kContactName, &SynchronizeServices::RunContactSync},
 };
 
-class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
+class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 {
   public:
     explicit FrmSynchronizeItem(const SynchronizeServices& services)
@@ -72,7 +72,7 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
         lvCategory.AddColumn(resources::String(IDS_CATEGORY));
         for (const CategoryRow& row : kCategories)
         {
-            lvCategory.Add(resources::String(row.textId), row.key);
+            lvCategory.Add(resources::String(row.kind.Caption), row.kind.TransObject);
         }
         lvCategory.FillWidth();
     }
@@ -170,7 +170,7 @@ class FrmSynchronizeItem : public ui::Dialog, private data::RunDisplay
         const std::wstring text = CategoryText();
         for (const CategoryRow& row : kCategories)
         {
-            if (text == resources::String(row.textId))
+            if (text == resources::String(row.kind.Caption))
             {
                 return (mServices.*row.run)(*this);
             }

@@ -2,7 +2,7 @@
 // and exchanges. It stays open from run to run and tells the outcome of the last one in its status line.
 #pragma once
 
-#include "data/RunDisplay.h"
+#include "exchange/RunDisplay.h"
 #include "state/SynParameter.h"
 
 #include <functional>
@@ -20,9 +20,9 @@ struct SynchronizeServices
     std::function<void(state::SynParameter& parameter, const std::wstring& objectName)> SetSynParamenter;
     std::function<void()> ShowConfigure;
     // One exchange each; true when it failed.
-    std::function<bool(data::RunDisplay& display)> RunTaskSync;
-    std::function<bool(data::RunDisplay& display)> RunCalendarSync;
-    std::function<bool(data::RunDisplay& display)> RunContactSync;
+    std::function<bool(exchange::RunDisplay& display)> RunTaskSync;
+    std::function<bool(exchange::RunDisplay& display)> RunCalendarSync;
+    std::function<bool(exchange::RunDisplay& display)> RunContactSync;
 };
 
 // The component's own.

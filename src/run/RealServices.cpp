@@ -1,8 +1,8 @@
 #include "run/FrmSynchronizeItem.h"
 
-#include "config/FrmConfigure.h"
-#include "config/OutlookProfiles.h"
-#include "config/ParameterStore.h"
+#include "config/dialogs/FrmConfigure.h"
+#include "config/outlook/OutlookProfiles.h"
+#include "config/store/ParameterStore.h"
 #include "run/Runs.h"
 
 namespace run

@@ -47,7 +47,7 @@ const std::wstring& RecordKeys::Second(long position)
     });
 }
 
-ItemKeys::ItemKeys(const MatchRule& rule, const automation::Object& items)
+ItemKeys::ItemKeys(const exchange::MatchRule& rule, const automation::Object& items)
     : RecordKeys(rule.SecondKeyOfItem != nullptr), mRule(rule), mItems(items)
 {
 }
@@ -68,7 +68,7 @@ void ItemKeys::Reach(long position)
     }
 }
 
-RowKeys::RowKeys(const MatchRule& rule, const automation::Recordset& rows)
+RowKeys::RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows)
     : RecordKeys(rule.SecondKeyOfRow != nullptr), mRule(rule), mRows(rows)
 {
 }

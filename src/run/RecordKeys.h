@@ -2,7 +2,7 @@
 // only as far as the search needs. Records are counted from 1. Both directions of a two-way run share them.
 #pragma once
 
-#include "run/MatchRule.h"
+#include "exchange/MatchRule.h"
 
 #include <deque>
 #include <optional>
@@ -49,7 +49,7 @@ class RecordKeys
 class ItemKeys : public RecordKeys
 {
   public:
-    ItemKeys(const MatchRule& rule, const automation::Object& items);
+    ItemKeys(const exchange::MatchRule& rule, const automation::Object& items);
 
     // Items.Count, asked once at the start of each collection procedure, since a walk goes by it.
     long CountItems();
@@ -61,7 +61,7 @@ class ItemKeys : public RecordKeys
     std::wstring ReadFirst() override { return mRule.FirstKeyOfItem(mCurrent); }
     std::wstring ReadSecond() override { return mRule.SecondKeyOfItem(mCurrent); }
 
-    const MatchRule& mRule;
+    const exchange::MatchRule& mRule;
     automation::Object mItems;
     automation::Object mCurrent;
     long mCurrentPosition = 0;
@@ -71,7 +71,7 @@ class ItemKeys : public RecordKeys
 class RowKeys : public RecordKeys
 {
   public:
-    RowKeys(const MatchRule& rule, const automation::Recordset& rows);
+    RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows);
 
     bool Exists(long position) override;
     void Reach(long position) override;
@@ -80,7 +80,7 @@ class RowKeys : public RecordKeys
     std::wstring ReadFirst() override { return mRule.FirstKeyOfRow(mRows); }
     std::wstring ReadSecond() override { return mRule.SecondKeyOfRow(mRows); }
 
-    const MatchRule& mRule;
+    const exchange::MatchRule& mRule;
     const automation::Recordset& mRows;
     long mCurrentPosition = 0; // 0 before the first row has been reached
     long mKnown = 0;           // rows that are known to exist

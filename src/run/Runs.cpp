@@ -1,10 +1,13 @@
 #include "run/Runs.h"
 
-#include "config/ParameterStore.h"
-#include "data/FrmMessage.h"
+#include "calendar/Calendar.h"
+#include "config/store/ParameterStore.h"
+#include "contacts/Contacts.h"
 #include "run/ChangeCollection.h"
+#include "run/FrmMessage.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
+#include "tasks/Tasks.h"
 
 namespace run
 {
@@ -15,9 +18,9 @@ namespace
 using state::Shared;
 
 // Collects in the directions that the parameters name; true when a procedure failed.
-bool Collect(const Category& category, data::Run& run, long transType)
+bool Collect(const exchange::Kind& kind, exchange::Run& run, long transType)
 {
-    ChangeCollection collection(category, run);
+    ChangeCollection collection(kind, run);
     const bool failed = transType != state::kOutlookToQuenlar && collection.CollectToOutlook();
     return failed || (transType != state::kQuenlarToOutlook && collection.CollectFromOutlook());
 }
@@ -38,28 +41,28 @@ long CountChanges(const data::Changes& changes, long transType)
     return count;
 }
 
-bool UserAccepts(const data::Run& run)
+bool UserAccepts(const exchange::Run& run)
 {
     // A dialog that is closed by neither button leaves the flag alone; an answer to an earlier run is no
     // consent to this one.
     Shared().gChangesAccepted = false;
-    data::ShowConfirmation(run.Display.CategoryText(), run.Pending);
+    run::ShowConfirmation(run.Display.CategoryText(), run.Pending);
     return Shared().gChangesAccepted;
 }
 
 // Writes the accepted changes; true when a worker failed, which keeps the other one from starting.
-bool Apply(const Category& category, data::Run& run, long transType)
+bool Apply(const exchange::Kind& kind, exchange::Run& run, long transType)
 {
     const bool toOutlook = transType != state::kOutlookToQuenlar;
     const bool fromOutlook = transType != state::kQuenlarToOutlook;
-    if (category.AppliesFromOutlookFirst)
+    if (kind.AppliesFromOutlookFirst)
     {
-        return (fromOutlook && category.ApplyFromOutlook(run)) || (toOutlook && category.ApplyToOutlook(run));
+        return (fromOutlook && kind.FromOutlook(run)) || (toOutlook && kind.ToOutlook(run));
     }
-    return (toOutlook && category.ApplyToOutlook(run)) || (fromOutlook && category.ApplyFromOutlook(run));
+    return (toOutlook && kind.ToOutlook(run)) || (fromOutlook && kind.FromOutlook(run));
 }
 
-bool Exchange(const Category& category, data::Run& run)
+bool Exchange(const exchange::Kind& kind, exchange::Run& run)
 {
     const long transType = Shared().gSynParameter.TransType;
     if (transType < state::kOutlookToQuenlar || transType > state::kBothWays)
@@ -67,7 +70,7 @@ bool Exchange(const Category& category, data::Run& run)
         return false;
     }
     run.Items = run.Folder.GetObject(L"Items");
-    if (Collect(category, run, transType))
+    if (Collect(kind, run, transType))
     {
         return true;
     }
@@ -75,24 +78,23 @@ bool Exchange(const Category& category, data::Run& run)
     {
         return false;
     }
-    return Apply(category, run, transType);
+    return Apply(kind, run, transType);
 }
 
-bool RunCategory(const Category& category, data::RunDisplay& display)
+bool RunKind(const exchange::Kind& kind, exchange::RunDisplay& display)
 {
     return state::Trapped(true, [&] {
-        data::Run run{.Display = display};
+        exchange::Run run{.Display = display};
         const automation::ClosesRecordset closes(run.HostRows);
         const data::Host host;
-        const std::wstring filter =
-            category.SourceFilter == nullptr ? std::wstring() : category.SourceFilter(host);
-        if (host.OpenRecordset(run.HostRows, category.RecordSource, filter) < 0)
+        const std::wstring filter = kind.SourceFilter == nullptr ? std::wstring() : kind.SourceFilter(host);
+        if (host.OpenRecordset(run.HostRows, kind.RecordSource, filter) < 0)
         {
             state::LogError();
-            return !category.SucceedsWithoutHostRows;
+            return !kind.SucceedsWithoutHostRows;
         }
         const bool failed = config::ResolveOutlookFolder(Shared().gSynParameter.CurrentFolder, run.Folder) ||
-                            Exchange(category, run);
+                            Exchange(kind, run);
         if (failed)
         {
             state::LogError();
@@ -103,19 +105,19 @@ bool RunCategory(const Category& category, data::RunDisplay& display)
 
 } // namespace
 
-bool RunTaskSync(data::RunDisplay& display)
+bool RunTaskSync(exchange::RunDisplay& display)
 {
-    return RunCategory(kTaskCategory, display);
+    return RunKind(tasks::kTasks, display);
 }
 
-bool RunCalendarSync(data::RunDisplay& display)
+bool RunCalendarSync(exchange::RunDisplay& display)
 {
-    return RunCategory(kCalendarCategory, display);
+    return RunKind(calendar::kCalendar, display);
 }
 
-bool RunContactSync(data::RunDisplay& display)
+bool RunContactSync(exchange::RunDisplay& display)
 {
-    return RunCategory(kContactCategory, display);
+    return RunKind(contacts::kContacts, display);
 }
 
 } // namespace run

@@ -2,14 +2,14 @@
 // one exchange, from the host's rows and the Outlook folder to the confirmed changes on both sides.
 #pragma once
 
-#include "data/RunDisplay.h"
+#include "exchange/RunDisplay.h"
 
 namespace run
 {
 
 // True when the run failed, False when it succeeded or ended without doing anything. Never throw.
-bool RunTaskSync(data::RunDisplay& display);
-bool RunCalendarSync(data::RunDisplay& display);
-bool RunContactSync(data::RunDisplay& display);
+bool RunTaskSync(exchange::RunDisplay& display);
+bool RunCalendarSync(exchange::RunDisplay& display);
+bool RunContactSync(exchange::RunDisplay& display);
 
 } // namespace run

@@ -1,13 +1,13 @@
 #include "tasks/TasksFromOutlook.h"
 
 #include "automation/Dates.h"
-#include "data/ApplyFromOutlook.h"
 #include "data/Host.h"
 #include "data/Literals.h"
-#include "data/MappingFromOutlook.h"
 #include "data/SqlFragments.h"
+#include "exchange/ApplyFromOutlook.h"
+#include "exchange/MappingFromOutlook.h"
+#include "links/TaskLinks.h"
 #include "state/Failures.h"
-#include "tasks/TaskLinks.h"
 #include "tasks/TaskRelations.h"
 #include "ui/ShowMessageBox.h"
 
@@ -22,15 +22,9 @@ using data::RowColumns;
 namespace
 {
 
-using data::HostValue;
-using data::ReadAsIs;
-using data::SourceProperty;
-
-constexpr data::PassFromOutlook kTasksFromOutlook{
-    .RelationStatement = kRelationStatement,
-    .RelationOptions = kRelationOptions,
-    .Write = SynOlTaskToSynTask,
-};
+using exchange::HostValue;
+using exchange::ReadAsIs;
+using exchange::SourceProperty;
 
 Value DayOrNull(const Value& date)
 {
@@ -80,14 +74,14 @@ HostValue ReadReminder(const SourceProperty& property)
 }
 
 // Contact and company are not here: they reach the host through the links.
-constexpr data::PropertyFromOutlook kTaskToColumns[] = {
-    {L"Subject", data::ReadUnlessEmpty},
+constexpr exchange::PropertyFromOutlook kTaskToColumns[] = {
+    {L"Subject", exchange::ReadUnlessEmpty},
     {L"StartDate", ReadDay},
     {L"DueDate", ReadDay},
     {L"DateCompleted", ReadDayWhenComplete},
     {L"CreationTime", ReadDateAndTime},
     {L"PercentComplete", ReadPercentage},
-    {L"Categories", data::ReadCategories},
+    {L"Categories", exchange::ReadCategories},
     {L"Importance", ReadImportance},
     {L"Status", ReadAsIs},
     {L"Complete", ReadStatus},
@@ -98,8 +92,8 @@ constexpr data::PropertyFromOutlook kTaskToColumns[] = {
 
 void Insert(const Host& host, const Object& item, RowColumns& task)
 {
-    data::Demand(ChangeNewTaskContact(item, task.Fields, task.Values) == 0, L"ChangeNewTaskContact");
-    data::Demand(ChangeAddTaskAccount(task.Catalogue(), item, task.Fields, task.Values) == 0,
+    data::Demand(links::ChangeNewTaskContact(item, task.Fields, task.Values) == 0, L"ChangeNewTaskContact");
+    data::Demand(links::ChangeAddTaskAccount(task.Catalogue(), item, task.Fields, task.Values) == 0,
                  L"ChangeAddTaskAccount");
     const std::wstring id = host.NewGuid();
     const std::wstring user = host.UserIdLiteral();
@@ -110,14 +104,15 @@ void Insert(const Host& host, const Object& item, RowColumns& task)
 
 void Update(const Host& host, const automation::Recordset& rows, const Object& item, RowColumns& task)
 {
-    data::Demand(ChangeEditTaskContact(item, task.SetList) == 0, L"ChangeEditTaskContact");
-    data::Demand(ChangeEditTaskAccount(task.Catalogue(), item, task.SetList) == 0, L"ChangeEditTaskAccount");
+    data::Demand(links::ChangeEditTaskContact(item, task.SetList) == 0, L"ChangeEditTaskContact");
+    data::Demand(links::ChangeEditTaskAccount(task.Catalogue(), item, task.SetList) == 0,
+                 L"ChangeEditTaskAccount");
     const std::wstring id = automation::TextOf(rows.ValueOf(L"F_ACTID"));
     data::Demand(host.Update(L"TBLACTIVITY", task.SetList, L"F_ACTID=" + data::QuotedText(id)) == 0,
                  L"Update");
 }
 
-void Write(const Host& host, const data::Run& run, const Object& item, RowColumns& task)
+void Write(const Host& host, const exchange::Run& run, const Object& item, RowColumns& task)
 {
     switch (task.Mode())
     {
@@ -129,17 +124,18 @@ void Write(const Host& host, const data::Run& run, const Object& item, RowColumn
 
 } // namespace
 
-bool SynTaskFromOutlook(data::Run& run)
-{
-    return data::ApplyFromOutlook(run, kTasksFromOutlook);
-}
+const exchange::PassFromOutlook SynTaskFromOutlook{
+    .RelationStatement = kRelationStatement,
+    .RelationOptions = kRelationOptions,
+    .Write = SynOlTaskToSynTask,
+};
 
-long SynOlTaskToSynTask(data::Run& run, long mode, const Object& item)
+long SynOlTaskToSynTask(exchange::Run& run, long mode, const Object& item)
 {
     return state::Trapped(-1L, [&] {
         RowColumns task(run.Catalogue, mode);
-        data::ItemProperties properties(item);
-        data::Demand(data::AddRelatedColumns(run.Relations, kTaskToColumns, Value(), properties, task),
+        exchange::ItemProperties properties(item);
+        data::Demand(exchange::AddRelatedColumns(run.Relations, kTaskToColumns, Value(), properties, task),
                      L"Subject");
         const Host host;
         data::Transaction transaction(host);

@@ -1,11 +1,12 @@
 #include "tasks/TasksToOutlook.h"
+#include "automation/OutlookConstants.h"
 
 #include "automation/Dates.h"
 #include "automation/Readable.h"
-#include "data/ApplyToOutlook.h"
-#include "data/MappingToOutlook.h"
+#include "exchange/ApplyToOutlook.h"
+#include "exchange/MappingToOutlook.h"
+#include "links/ContactLink.h"
 #include "state/SharedState.h"
-#include "tasks/ContactLink.h"
 #include "tasks/TaskRelations.h"
 
 #include <limits>
@@ -16,19 +17,11 @@ namespace tasks
 namespace
 {
 
-using data::PutAsIs;
-using data::PutDate;
-using data::PutNumber;
-using data::PutTruth;
-using data::TargetProperty;
-
-constexpr data::PassToOutlook kTasksToOutlook{
-    .ItemType = data::kTaskItem,
-    .RelationStatement = kRelationStatement,
-    .RelationOptions = kRelationOptions,
-    .Write = SynSynTaskToOlTask,
-    .AddsItemFirst = true,
-};
+using exchange::PutDate;
+using exchange::PutNumber;
+using exchange::PutTruth;
+using exchange::PutAsIs;
+using exchange::TargetProperty;
 
 // By the status that the task has at this moment, and so by the order of the relation rows.
 bool IsComplete(const TargetProperty& property)
@@ -86,7 +79,7 @@ void PutWork(const TargetProperty& property)
 
 void LinkToContact(const TargetProperty& property)
 {
-    LinkContact(property.Item, property.HostValue, property.HostRows.ValueOf(L"CONTACT_GIVENNAME"));
+    links::LinkContact(property.Item, property.HostValue, property.HostRows.ValueOf(L"CONTACT_GIVENNAME"));
 }
 
 // Not written where the lead time takes it beyond the dates that Outlook can hold.
@@ -113,7 +106,7 @@ void PutReminder(const TargetProperty& property)
     }
 }
 
-constexpr data::PropertyToOutlook kActivityToTask[] = {
+constexpr exchange::PropertyToOutlook kActivityToTask[] = {
     {L"Subject", PutAsIs},
     {L"StartDate", PutDate},
     {L"DueDate", PutDate},
@@ -132,16 +125,19 @@ constexpr data::PropertyToOutlook kActivityToTask[] = {
 
 } // namespace
 
-bool SynTaskToOutlook(data::Run& run)
-{
-    return data::ApplyToOutlook(run, kTasksToOutlook);
-}
+const exchange::PassToOutlook SynTaskToOutlook{
+    .ItemType = automation::kTaskItem,
+    .RelationStatement = kRelationStatement,
+    .RelationOptions = kRelationOptions,
+    .Write = SynSynTaskToOlTask,
+    .AddsItemFirst = true,
+};
 
-void SynSynTaskToOlTask(data::Run& run, long mode, const automation::Object& item)
+void SynSynTaskToOlTask(exchange::Run& run, long mode, const automation::Object& item)
 {
     if (mode == data::kNewRecord || mode == data::kExistingRecord)
     {
-        data::WriteRelatedProperties(run, kActivityToTask, item, data::Saves::AfterEachRowToo);
+        exchange::WriteRelatedProperties(run, kActivityToTask, item, exchange::Saves::AfterEachRowToo);
     }
 }
 

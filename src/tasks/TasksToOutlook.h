@@ -2,18 +2,18 @@
 // relation table, in the order of its rows; how each property is written is fixed here.
 #pragma once
 
-#include "data/Run.h"
+#include "exchange/ApplyToOutlook.h"
 
 namespace tasks
 {
 
 // The apply pass of a task run towards Outlook: true when an error ended it.
-bool SynTaskToOutlook(data::Run& run);
+extern const exchange::PassToOutlook SynTaskToOutlook;
 
 // Writes the host task on which the run's recordset stands into the item, which is saved after every relation
 // row, and once more: a task that fails half-way keeps what was written before. Mode 1 is for a new item, 2
 // for an existing one; any other does nothing. Throws automation::Error when Outlook refuses a value or the
 // relation rows cannot be read.
-void SynSynTaskToOlTask(data::Run& run, long mode, const automation::Object& item);
+void SynSynTaskToOlTask(exchange::Run& run, long mode, const automation::Object& item);
 
 } // namespace tasks

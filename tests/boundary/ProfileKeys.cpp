@@ -1,6 +1,6 @@
 #include "tests/boundary/ProfileKeys.h"
 
-#include "sandbox/demo/Installation.h"
+#include "tools/demo/Installation.h"
 
 namespace boundary_tests
 {

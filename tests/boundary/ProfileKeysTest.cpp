@@ -1,8 +1,8 @@
 #include "tests/boundary/ProfileKeys.h"
 
-#include "sandbox/demo/Installation.h"
 #include "tests/boundary/KeySecurity.h"
 #include "tests/boundary/Site.h"
+#include "tools/demo/Installation.h"
 
 namespace boundary_tests
 {

@@ -1,8 +1,8 @@
 #include "tests/boundary/Site.h"
 
-#include "sandbox/demo/Installation.h"
 #include "sandbox/dispatch/DispatchObject.h"
-#include "sandbox/sample_data/SampleData.h"
+#include "tools/demo/Installation.h"
+#include "tools/sample_data/SampleData.h"
 
 #include <atomic>
 #include <map>

@@ -1,7 +1,7 @@
 #include "tests/boundary/State.h"
 
 #include "automation/Text.h"
-#include "sandbox/demo/Snapshot.h"
+#include "tools/demo/Snapshot.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // up, reads what it says, leaves by Escape.
 #pragma once
 
-#include "sandbox/robot/Robot.h"
+#include "tools/robot/Robot.h"
 
 #include <functional>
 #include <string>

@@ -104,7 +104,7 @@ TEST_F(CalendarFromOutlook, OnlyADailyAppointmentIsMarked)
     {
         AddRepeating(Day(2003, 5, 6, 9, 0), Day(2003, 5, 6, 10, 0),
                      [&](const Object& pattern) { pattern.Put(L"RecurrenceType", type); });
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Pending.NewOutlookItems.Add(std::to_wstring(CountAppointments()), 0);
         EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
         const std::wstring insert = CallsOf(L"Insert").back();

@@ -1,4 +1,4 @@
-#include "run/CalendarRange.h"
+#include "calendar/CalendarRange.h"
 
 #include "tests/calendar/CalendarTest.h"
 
@@ -6,7 +6,7 @@ namespace test_support
 {
 
 using automation::Date;
-using run::EntrySpan;
+using calendar::EntrySpan;
 
 namespace
 {
@@ -25,12 +25,12 @@ state::SynParameter Range(long code, short prior = 0, short after = 0)
 
 bool IsFuture(Date first, Date last)
 {
-    return run::IsWithinRange({first, last}, Range(state::kFutureEntries), kNow);
+    return calendar::IsWithinRange({first, last}, Range(state::kFutureEntries), kNow);
 }
 
 bool IsWithinDays(Date first, Date last, short prior, short after)
 {
-    return run::IsWithinRange({first, last}, Range(state::kEntriesWithinDays, prior, after), kNow);
+    return calendar::IsWithinRange({first, last}, Range(state::kEntriesWithinDays, prior, after), kNow);
 }
 
 } // namespace
@@ -40,7 +40,7 @@ TEST(CalendarRange, CodeZeroAndUnknownCodesKeepEverything)
     const EntrySpan longAgo{Day(1900, 1, 1), Day(1900, 1, 2)};
     for (const long code : {0L, 3L, -1L})
     {
-        EXPECT_TRUE(run::IsWithinRange(longAgo, Range(code), kNow));
+        EXPECT_TRUE(calendar::IsWithinRange(longAgo, Range(code), kNow));
     }
 }
 
@@ -83,11 +83,11 @@ TEST(CalendarRange, CodeTwoCountsDaysOverTheEndOfAMonthAndAChangeOfTheClocks)
 {
     const auto parameter = Range(state::kEntriesWithinDays, 1, 1);
     const EntrySpan leapDay{Day(2004, 2, 29, 9, 0), Day(2004, 2, 29, 10, 0)};
-    EXPECT_TRUE(run::IsWithinRange(leapDay, parameter, Day(2004, 3, 1, 8, 0)));
-    EXPECT_FALSE(run::IsWithinRange(leapDay, parameter, Day(2004, 3, 2, 8, 0)));
+    EXPECT_TRUE(calendar::IsWithinRange(leapDay, parameter, Day(2004, 3, 1, 8, 0)));
+    EXPECT_FALSE(calendar::IsWithinRange(leapDay, parameter, Day(2004, 3, 2, 8, 0)));
     const EntrySpan lateOnTheLongDay{Day(2003, 10, 26, 23, 0), Day(2003, 10, 26, 23, 59)};
-    EXPECT_TRUE(run::IsWithinRange(lateOnTheLongDay, parameter, Day(2003, 10, 27, 23, 30)));
-    EXPECT_FALSE(run::IsWithinRange(lateOnTheLongDay, parameter, Day(2003, 10, 28, 0, 0)));
+    EXPECT_TRUE(calendar::IsWithinRange(lateOnTheLongDay, parameter, Day(2003, 10, 27, 23, 30)));
+    EXPECT_FALSE(calendar::IsWithinRange(lateOnTheLongDay, parameter, Day(2003, 10, 28, 0, 0)));
 }
 
 class CalendarSpan : public CalendarTest
@@ -97,8 +97,8 @@ class CalendarSpan : public CalendarTest
     {
         Execute(L"DELETE FROM Entries");
         AddEntry(columns);
-        const data::Run run = NewRun();
-        return run::SpanOfRow(run.HostRows);
+        const exchange::Run run = NewRun();
+        return calendar::SpanOfRow(run.HostRows);
     }
 
     static std::wstring Written(const EntrySpan& span) { return At(span.First) + L" - " + At(span.Last); }
@@ -147,12 +147,13 @@ TEST_F(CalendarSpan, ALastDayWithoutARuleDoesNotCount)
 TEST_F(CalendarSpan, ASingleAppointmentLastsFromItsStartToItsEnd)
 {
     EXPECT_EQ(L"2003-05-06 22:00 - 2003-05-07 01:00",
-              Written(run::SpanOfItem(AddAppointment(Day(2003, 5, 6, 22, 0), Day(2003, 5, 7, 1, 0)))));
+              Written(calendar::SpanOfItem(AddAppointment(Day(2003, 5, 6, 22, 0), Day(2003, 5, 7, 1, 0)))));
 }
 
 TEST_F(CalendarSpan, AnAllDayAppointmentLastsToMidnight)
 {
-    EXPECT_EQ(L"2003-05-06 00:00 - 2003-05-07 00:00", Written(run::SpanOfItem(AddAllDay(Day(2003, 5, 6)))));
+    EXPECT_EQ(L"2003-05-06 00:00 - 2003-05-07 00:00",
+              Written(calendar::SpanOfItem(AddAllDay(Day(2003, 5, 6)))));
 }
 
 TEST_F(CalendarSpan, ARepeatingAppointmentLastsToTheEndOfItsLastDay)
@@ -160,26 +161,26 @@ TEST_F(CalendarSpan, ARepeatingAppointmentLastsToTheEndOfItsLastDay)
     const Object appointment =
         AddRepeating(Day(2003, 5, 6, 9, 0), Day(2003, 5, 6, 10, 0),
                      [](const Object& pattern) { pattern.Put(L"PatternEndDate", Day(2003, 5, 20)); });
-    EXPECT_EQ(L"2003-05-06 09:00 - 2003-05-21 00:00", Written(run::SpanOfItem(appointment)));
+    EXPECT_EQ(L"2003-05-06 09:00 - 2003-05-21 00:00", Written(calendar::SpanOfItem(appointment)));
 }
 
 TEST_F(CalendarSpan, AnEndlessAppointmentNeverEnds)
 {
     const Object appointment =
         AddRepeating(Day(2003, 5, 6, 9, 0), Day(2003, 5, 6, 10, 0), [](const Object&) {});
-    EXPECT_GT(run::SpanOfItem(appointment).Last, Day(9999, 12, 31));
+    EXPECT_GT(calendar::SpanOfItem(appointment).Last, Day(9999, 12, 31));
 }
 
 TEST_F(CalendarSpan, AskingForItDoesNotMakeASingleAppointmentRecurring)
 {
     const Object appointment = AddAppointment(Day(2003, 5, 6, 9, 0), Day(2003, 5, 6, 10, 0));
-    run::SpanOfItem(appointment);
+    calendar::SpanOfItem(appointment);
     EXPECT_FALSE(Truth(appointment, L"IsRecurring"));
 }
 
 TEST_F(CalendarSpan, TheFiltersKeepEverythingForCodeZeroWithoutAskingForTheTime)
 {
-    const run::Filters filters = run::WithinCalendarRange(Range(state::kAllEntries), data::Host());
+    const exchange::Filters filters = calendar::WithinCalendarRange(Range(state::kAllEntries), data::Host());
     EXPECT_FALSE(filters.KeepsRow);
     EXPECT_FALSE(filters.KeepsItem);
     EXPECT_TRUE(CallsOf(L"SysDateTime").empty());
@@ -190,8 +191,9 @@ TEST_F(CalendarSpan, TheFiltersGoByTheHostsClockWhichTheyReadOnce)
 {
     AddEntry({{L"F_ACTESTIME", L"'1899-12-30 09:30:00'"}, {L"F_ACTEETIME", L"'1899-12-30 11:00:00'"}});
     AddEntry({{L"F_ACTESTIME", L"'1899-12-30 11:30:00'"}, {L"F_ACTEETIME", L"'1899-12-30 12:30:00'"}});
-    const data::Run run = NewRun();
-    const run::Filters filters = run::WithinCalendarRange(Range(state::kFutureEntries), data::Host());
+    const exchange::Run run = NewRun();
+    const exchange::Filters filters =
+        calendar::WithinCalendarRange(Range(state::kFutureEntries), data::Host());
     EXPECT_FALSE(filters.KeepsRow(run.HostRows));
     run.HostRows.MoveNext();
     EXPECT_TRUE(filters.KeepsRow(run.HostRows));

@@ -114,9 +114,9 @@ void CalendarTest::AddEntry(const Pairs& columns) const
     Execute(InsertStatement(L"Entries", entry));
 }
 
-data::Run CalendarTest::NewRun()
+exchange::Run CalendarTest::NewRun()
 {
-    data::Run run{.Display = mDisplay};
+    exchange::Run run{.Display = mDisplay};
     run.HostRows = automation::OpenRecordset(L"SELECT * FROM Entries", state::Shared().gCnnString,
                                              {.cursorLocation = automation::kCursorClient});
     run.Folder = Calendar();
@@ -126,7 +126,7 @@ data::Run CalendarTest::NewRun()
 
 Object CalendarTest::WriteNewAppointment()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     EXPECT_FALSE(calendar::SynCalendarToOutlook(run));
     return AppointmentAt(CountAppointments());
@@ -134,7 +134,7 @@ Object CalendarTest::WriteNewAppointment()
 
 Object CalendarTest::WriteExistingAppointment()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 1);
     run.Pending.ChangedOutlookItems.Add(L"1", 1);
     EXPECT_FALSE(calendar::SynCalendarToOutlook(run));
@@ -143,7 +143,7 @@ Object CalendarTest::WriteExistingAppointment()
 
 bool CalendarTest::WriteAllEntries()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     const long count = run.HostRows.RecordCount();
     for (long row = 1; row <= count; ++row)
     {
@@ -154,7 +154,7 @@ bool CalendarTest::WriteAllEntries()
 
 CalendarTest::Columns CalendarTest::InsertFirstAppointment()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
     return Written();
@@ -162,7 +162,7 @@ CalendarTest::Columns CalendarTest::InsertFirstAppointment()
 
 CalendarTest::Columns CalendarTest::UpdateFirstAppointment()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 0);
     run.Pending.ChangedOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));

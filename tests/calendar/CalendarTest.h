@@ -3,7 +3,7 @@
 // over all of them.
 #pragma once
 
-#include "data/Run.h"
+#include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "tests/calendar/AppointmentsTest.h"
 #include "tests/sandbox_host/DatabaseFile.h"
@@ -40,7 +40,7 @@ class CalendarTest : public AppointmentsTest
     void AddEntry(const Pairs& columns = {}) const;
 
     // A run over the host entries and the calendar folder as they are now.
-    data::Run NewRun();
+    exchange::Run NewRun();
     // Writes host entry 1 as a new appointment, or over the folder's appointment 1, and returns that.
     Object WriteNewAppointment();
     Object WriteExistingAppointment();

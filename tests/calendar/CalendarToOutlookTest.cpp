@@ -79,7 +79,7 @@ TEST_F(CalendarToOutlook, AnEmptyTextForATimeOrALastDayCountsAsNone)
         rows.columns.push_back({column});
     }
     rows.rows[0].resize(rows.columns.size(), L"");
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.HostRows = automation::Recordset(sandbox::MakeRecordset(std::move(rows)));
     run.Pending.NewHostRecords.Add(1L, 0);
     EXPECT_FALSE(calendar::SynCalendarToOutlook(run));
@@ -213,7 +213,7 @@ TEST_F(CalendarToOutlook, AModeOtherThanNewAndExistingTouchesNothing)
 {
     AddEntry();
     const Object appointment = AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     const CountsCalls saves(L"AppointmentItem.Save");
     for (const long mode : {0, 3, -1})
     {
@@ -248,7 +248,7 @@ TEST_F(CalendarToOutlook, TheWriterAloneFailsForAnEntryWithoutADate)
 {
     AddEntry({{L"F_ACTESDATE", L"NULL"}});
     const Object appointment = AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
     EXPECT_TRUE(calendar::SynSynCalendarToOlCalendar(run, 2, appointment));
     EXPECT_EQ(L"2003-01-01 08:00 - 2003-01-01 09:00", BoundsOf(AppointmentAt(1)));
@@ -266,7 +266,7 @@ TEST_F(CalendarToOutlook, APairIsWrittenOnlyWhenItsMarkIsOneButTheProgressAdvanc
 {
     AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
     AddEntry();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (const long mark : {0, 2})
     {
         run.Pending.ChangedHostRecords.Add(1L, mark);

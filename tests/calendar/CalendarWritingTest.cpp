@@ -26,7 +26,7 @@ class CalendarWriting : public CalendarTest
     // Calls the writer for appointment 1 over host entry 1.
     long Write(long mode)
     {
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
         return calendar::SynOlCalendarToSynCalendar(run, mode, AppointmentAt(1));
     }
@@ -277,7 +277,7 @@ TEST_F(CalendarWriting, APairIsWrittenOnlyWhenItsMarkIsZeroButTheProgressAdvance
 {
     AddMeeting();
     AddEntry();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (const long mark : {1L, 0L, 2L})
     {
         run.Pending.ChangedHostRecords.Add(1L, mark);
@@ -295,7 +295,7 @@ TEST_F(CalendarWriting, ThePassGoesOnAfterARefusedAppointment)
     AddMeeting();
     AddMeeting();
     mHost->Status[L"Insert"] = -1;
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     run.Pending.NewOutlookItems.Add(L"2", 0);
     bool failed = true;
@@ -307,7 +307,7 @@ TEST_F(CalendarWriting, ThePassGoesOnAfterARefusedAppointment)
 
 TEST_F(CalendarWriting, AnItemThatIsGoneEndsThePass)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_TRUE(calendar::SynCalendarFromOutlook(run));
     EXPECT_FALSE(mDisplay.IsShown);

@@ -1,4 +1,5 @@
 #include "tests/calendar/ExchangeTest.h"
+#include "calendar/Calendar.h"
 
 #include "run/ChangeCollection.h"
 #include "state/SharedState.h"
@@ -12,13 +13,13 @@ namespace test_support
 namespace
 {
 
-std::wstring NameOfRow(const data::Run& run, long position)
+std::wstring NameOfRow(const exchange::Run& run, long position)
 {
     run.HostRows.MoveTo(position);
     return automation::TextOf(run.HostRows.ValueOf(L"F_ACTNAME"));
 }
 
-std::wstring NameOfItem(const data::Run& run, const std::wstring& position)
+std::wstring NameOfItem(const exchange::Run& run, const std::wstring& position)
 {
     return Text(run.Items.GetObject(L"Item", std::stol(position)), L"Subject");
 }
@@ -66,21 +67,21 @@ void ExchangeTest::AddRepeatingEntry(const std::wstring& name, long rule, const 
                     {L"F_ACTREPTEDATE", lastDay.empty() ? L"NULL" : L"'" + lastDay + L" 00:00:00'"}});
 }
 
-data::Run ExchangeTest::OpenRun()
+exchange::Run ExchangeTest::OpenRun()
 {
-    data::Run run{.Display = mDisplay};
+    exchange::Run run{.Display = mDisplay};
     const data::Host host;
-    const run::Category& calendar = run::kCalendarCategory;
+    const exchange::Kind& calendar = calendar::kCalendar;
     EXPECT_EQ(0, host.OpenRecordset(run.HostRows, calendar.RecordSource, calendar.SourceFilter(host)));
     run.Folder = Calendar();
     run.Items = run.Folder.GetObject(L"Items");
     return run;
 }
 
-void ExchangeTest::Collect(data::Run& run, long transType, long conflictOption)
+void ExchangeTest::Collect(exchange::Run& run, long transType, long conflictOption)
 {
     state::Shared().gSynParameter.TransConflictOption = conflictOption;
-    run::ChangeCollection collection(run::kCalendarCategory, run);
+    run::ChangeCollection collection(calendar::kCalendar, run);
     if (transType != state::kOutlookToQuenlar)
     {
         EXPECT_FALSE(collection.CollectToOutlook());
@@ -93,7 +94,7 @@ void ExchangeTest::Collect(data::Run& run, long transType, long conflictOption)
 
 ExchangeTest::Proposals ExchangeTest::Propose(long transType, long conflictOption)
 {
-    data::Run run = OpenRun();
+    exchange::Run run = OpenRun();
     Collect(run, transType, conflictOption);
     Proposals proposals;
     for (const data::ClsSalesRecord& record : run.Pending.NewHostRecords)
@@ -115,15 +116,15 @@ ExchangeTest::Proposals ExchangeTest::Propose(long transType, long conflictOptio
 
 void ExchangeTest::Exchange(long transType, long conflictOption)
 {
-    data::Run run = OpenRun();
+    exchange::Run run = OpenRun();
     Collect(run, transType, conflictOption);
     if (transType != state::kOutlookToQuenlar)
     {
-        EXPECT_FALSE(run::kCalendarCategory.ApplyToOutlook(run));
+        EXPECT_FALSE(calendar::kCalendar.ApplyToOutlook(run));
     }
     if (transType != state::kQuenlarToOutlook)
     {
-        EXPECT_FALSE(run::kCalendarCategory.ApplyFromOutlook(run));
+        EXPECT_FALSE(calendar::kCalendar.ApplyFromOutlook(run));
     }
     EXPECT_EQ(L"", mHost.LastRejection());
     automation::CloseRecordset(run.HostRows);

@@ -2,7 +2,7 @@
 // component's own collection and workers between them; only the dialogs are left out.
 #pragma once
 
-#include "data/Run.h"
+#include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "state/SynParameter.h"
@@ -56,8 +56,8 @@ class ExchangeTest : public AppointmentsTest
     RecordingDisplay mDisplay;
 
   private:
-    data::Run OpenRun();
-    void Collect(data::Run& run, long transType, long conflictOption);
+    exchange::Run OpenRun();
+    void Collect(exchange::Run& run, long transType, long conflictOption);
 
     sandbox::AdoInProcess mAdo;
 };

@@ -57,7 +57,7 @@ TEST_F(StartTimeText, IsATextThatBeginsWithABlankAndEndsInNoSeconds)
 {
     AddEntry({{L"F_ACTREPEATS", L"1"}, {L"FR_NAME", L"'每天'"}, {L"F_ACTESTIME", L"'1899-12-30 09:05:59'"}});
     std::map<std::wstring, Value> assigned;
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
     run.HostRows.MoveFirst();
     EXPECT_FALSE(

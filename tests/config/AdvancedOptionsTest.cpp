@@ -1,4 +1,4 @@
-#include "config/AdvancedOptions.h"
+#include "config/store/AdvancedOptions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "config/ChosenFolders.h"
+#include "config/store/ChosenFolders.h"
 
 #include "tests/config_host/HostTest.h"
 
@@ -8,7 +8,6 @@ namespace
 {
 
 using config::ChosenFolders;
-using config::FindObjectKind;
 using Texts = std::vector<std::wstring>;
 
 class ChosenFoldersTest : public config_tests::HostTest
@@ -65,17 +64,19 @@ TEST(ChosenFolders, OnlyOneFolderIsTheDefault)
 
 TEST(ChosenFolders, ValuesBeginWithTheNumberOfTheKind)
 {
-    EXPECT_EQ(L"10,'Store\\A',1", config::FolderValueList(*FindObjectKind(L"Contact"), {L"Store\\A", true}));
-    EXPECT_EQ(L"20,'Store\\A',0", config::FolderValueList(*FindObjectKind(L"Task"), {L"Store\\A", false}));
+    EXPECT_EQ(L"10,'Store\\A',1",
+              config::FolderValueList(*exchange::FindKindName(L"Contact"), {L"Store\\A", true}));
+    EXPECT_EQ(L"20,'Store\\A',0",
+              config::FolderValueList(*exchange::FindKindName(L"Task"), {L"Store\\A", false}));
     EXPECT_EQ(L"30,'Store\\A',0",
-              config::FolderValueList(*FindObjectKind(L"Calendar"), {L"Store\\A", false}));
-    EXPECT_EQ(nullptr, FindObjectKind(L"contact"));
+              config::FolderValueList(*exchange::FindKindName(L"Calendar"), {L"Store\\A", false}));
+    EXPECT_EQ(nullptr, exchange::FindKindName(L"contact"));
 }
 
 TEST(ChosenFolders, AnApostropheInAPathIsDoubled)
 {
     EXPECT_EQ(L"10,'Anna''s folder',0",
-              config::FolderValueList(*FindObjectKind(L"Contact"), {L"Anna's folder", false}));
+              config::FolderValueList(*exchange::FindKindName(L"Contact"), {L"Anna's folder", false}));
 }
 
 TEST(TakeCurrentFolder, TheOnlyFolderIsCurrentElseTheSelectedOne)
@@ -103,7 +104,7 @@ TEST_F(ChosenFoldersTest, TheUsersFoldersOfTheKindAreReplaced)
     GiveFolder(10, L"Store\\Old", true);
     GiveFolder(20, L"Store\\Tasks", true);
     Execute(L"INSERT INTO T_POutlookSyncFolder VALUES (8, 10, 'Store\\Others', 1)");
-    EXPECT_FALSE(config::StoreChosenFolders(*FindObjectKind(L"Contact"),
+    EXPECT_FALSE(config::StoreChosenFolders(*exchange::FindKindName(L"Contact"),
                                             {{L"Store\\New", false}, {L"Store\\Newer", true}}));
     EXPECT_EQ((Texts{L"20|Store\\Tasks|1", L"10|Store\\New|0", L"10|Store\\Newer|1"}), Folders());
     EXPECT_EQ(Texts{L"Store\\Others"}, Rows(L"SELECT OutlookFolder FROM T_POutlookSyncFolder WHERE F_UID=8"));
@@ -113,7 +114,7 @@ TEST_F(ChosenFoldersTest, TheUsersFoldersOfTheKindAreReplaced)
 TEST_F(ChosenFoldersTest, AnEmptyListDeletesAllOfTheKindsRows)
 {
     GiveFolder(10, L"Store\\Old", true);
-    EXPECT_FALSE(config::StoreChosenFolders(*FindObjectKind(L"Contact"), {}));
+    EXPECT_FALSE(config::StoreChosenFolders(*exchange::FindKindName(L"Contact"), {}));
     EXPECT_TRUE(Folders().empty());
 }
 
@@ -121,7 +122,7 @@ TEST_F(ChosenFoldersTest, ARefusedDeleteWritesNothing)
 {
     GiveFolder(10, L"Store\\Old", true);
     RefuseEvery(L"Delete");
-    EXPECT_TRUE(config::StoreChosenFolders(*FindObjectKind(L"Contact"), {{L"Store\\New", true}}));
+    EXPECT_TRUE(config::StoreChosenFolders(*exchange::FindKindName(L"Contact"), {{L"Store\\New", true}}));
     EXPECT_EQ(Texts{L"10|Store\\Old|1"}, Folders());
     EXPECT_TRUE(mLog.CallsOf(L"Insert").empty());
 }
@@ -132,14 +133,14 @@ TEST_F(ChosenFoldersTest, StoredFoldersAreLoadedWithOneDefaultAtMost)
     GiveFolder(10, L"B", true);
     GiveFolder(20, L"C", true);
     EXPECT_EQ((ChosenFolders{{L"A", false}, {L"B", true}}),
-              config::LoadChosenFolders(*FindObjectKind(L"Contact")));
+              config::LoadChosenFolders(*exchange::FindKindName(L"Contact")));
 }
 
 TEST_F(ChosenFoldersTest, ThereIsNoListWhenTheHostRefuses)
 {
     GiveFolder(10, L"A", true);
     RefuseEvery(L"OpenRecordsetByString");
-    EXPECT_FALSE(config::LoadChosenFolders(*FindObjectKind(L"Contact")));
+    EXPECT_FALSE(config::LoadChosenFolders(*exchange::FindKindName(L"Contact")));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-#include "config/ParameterStore.h"
+#include "config/store/ParameterStore.h"
 
-#include "config/Translation.h"
+#include "config/store/Translation.h"
 #include "tests/config_host/HostTest.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "config/FolderTree.h"
+#include "config/outlook/FolderTree.h"
 
 #include "automation/Error.h"
 #include "sandbox/outlook/Outlook.h"

@@ -1,4 +1,4 @@
-#include "config/LocalSysInfo.h"
+#include "config/outlook/LocalSysInfo.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "config/OutlookFolders.h"
+#include "config/outlook/OutlookFolders.h"
 
 #include "resources/Strings.h"
 #include "sandbox/outlook/Outlook.h"

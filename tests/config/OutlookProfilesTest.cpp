@@ -1,6 +1,6 @@
-#include "config/OutlookProfiles.h"
+#include "config/outlook/OutlookProfiles.h"
 
-#include "config/ProfileText.h"
+#include "config/outlook/ProfileText.h"
 #include "resources/Strings.h"
 #include "tests/config/NewerProfiles.h"
 #include "tests/config/TellsUser.h"

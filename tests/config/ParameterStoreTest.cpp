@@ -1,10 +1,10 @@
-#include "config/ParameterStore.h"
+#include "config/store/ParameterStore.h"
 
-#include "config/UserRows.h"
-#include "sandbox/robot/Robot.h"
+#include "config/store/UserRows.h"
 #include "tests/config_host/HostTest.h"
 #include "tests/support/Drive.h"
 #include "tests/support/StandIns.h"
+#include "tools/robot/Robot.h"
 
 #include <gtest/gtest.h>
 

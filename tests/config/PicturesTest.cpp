@@ -1,4 +1,4 @@
-#include "config/Pictures.h"
+#include "config/dialogs/Pictures.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 // profile of a user's is lost.
 #pragma once
 
-#include "config/LocalSysInfo.h"
+#include "config/outlook/LocalSysInfo.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // What the host's status numbers mean to the parameter store: negative is failure, anything else success.
-#include "config/ChosenFolders.h"
-#include "config/ParameterStore.h"
-#include "config/UserRows.h"
+#include "config/store/ChosenFolders.h"
+#include "config/store/ParameterStore.h"
+#include "config/store/UserRows.h"
 #include "tests/support/RecordingHost.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST_F(Status, APositiveNumberIsSuccess)
     EXPECT_FALSE(config::OpenUserRecordset(mRows, L""));
     EXPECT_FALSE(config::UpdateUserRows(L"IsTrans=1", config::kParameterTable, L""));
     EXPECT_FALSE(config::InsertUserRow(L"TransObjectID", L"10", config::kFolderTable));
-    EXPECT_FALSE(config::StoreChosenFolders(*config::FindObjectKind(L"Contact"), {{L"Store", true}}));
+    EXPECT_FALSE(config::StoreChosenFolders(*exchange::FindKindName(L"Contact"), {{L"Store", true}}));
     EXPECT_TRUE(config::CreateDefaultParameters());
 }
 
@@ -40,7 +40,7 @@ TEST_F(Status, ANegativeNumberIsFailure)
     EXPECT_TRUE(config::OpenUserRecordset(mRows, L""));
     EXPECT_TRUE(config::UpdateUserRows(L"IsTrans=1", config::kParameterTable, L""));
     EXPECT_TRUE(config::InsertUserRow(L"TransObjectID", L"10", config::kFolderTable));
-    EXPECT_TRUE(config::StoreChosenFolders(*config::FindObjectKind(L"Contact"), {{L"Store", true}}));
+    EXPECT_TRUE(config::StoreChosenFolders(*exchange::FindKindName(L"Contact"), {{L"Store", true}}));
     EXPECT_FALSE(config::CreateDefaultParameters());
 }
 

@@ -1,4 +1,4 @@
-#include "config/SysReg.h"
+#include "config/outlook/SysReg.h"
 
 #include "automation/Error.h"
 #include "tests/config/RegistryBranch.h"

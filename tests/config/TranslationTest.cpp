@@ -1,4 +1,4 @@
-#include "config/Translation.h"
+#include "config/store/Translation.h"
 
 #include "tests/config_host/HostTest.h"
 #include "tests/support/WithLanguage.h"

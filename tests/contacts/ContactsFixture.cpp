@@ -40,7 +40,7 @@ long ContactsFixture::AddNamedItem(Properties properties)
     return AddItem(properties);
 }
 
-data::Run ContactsFixture::NewRun()
+exchange::Run ContactsFixture::NewRun()
 {
     const Object folder =
         Outlook.GetObject(L"GetNamespace", L"MAPI").GetObject(L"GetDefaultFolder", kContactsFolder);
@@ -51,7 +51,7 @@ data::Run ContactsFixture::NewRun()
 
 bool ContactsFixture::Import(const std::vector<long>& positions)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (const long position : positions)
     {
         run.Pending.NewOutlookItems.Add(std::to_wstring(position), 0);
@@ -61,7 +61,7 @@ bool ContactsFixture::Import(const std::vector<long>& positions)
 
 bool ContactsFixture::Overwrite(const std::vector<std::pair<long, long>>& pairs)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (const auto& [item, row] : pairs)
     {
         run.Pending.ChangedOutlookItems.Add(std::to_wstring(item), 0);
@@ -72,7 +72,7 @@ bool ContactsFixture::Overwrite(const std::vector<std::pair<long, long>>& pairs)
 
 long ContactsFixture::Write(long mode, long position)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Relations.Use(L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'", {});
     return contacts::SynOlContactToSynContact(run, mode, run.Items.GetObject(L"Item", position));
 }
@@ -92,7 +92,7 @@ long ContactsFixture::AddRow(const std::vector<std::pair<std::wstring, std::wstr
 
 bool ContactsFixture::Export(const std::vector<long>& rows)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (const long row : rows)
     {
         run.Pending.NewHostRecords.Add(row, 0);
@@ -102,7 +102,7 @@ bool ContactsFixture::Export(const std::vector<long>& rows)
 
 bool ContactsFixture::OverwriteItems(const std::vector<std::pair<long, long>>& pairs)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (const auto& [row, item] : pairs)
     {
         run.Pending.ChangedHostRecords.Add(row, 1);

@@ -5,7 +5,7 @@
 #include "automation/Dates.h"
 #include "contacts/ContactsFromOutlook.h"
 #include "contacts/ContactsToOutlook.h"
-#include "data/Run.h"
+#include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
@@ -41,7 +41,7 @@ class ContactsFixture : public testing::Test
     // Adds a contact item that has a first and a last name, and these properties.
     long AddNamedItem(Properties properties);
 
-    data::Run NewRun();
+    exchange::Run NewRun();
     // The apply pass with these items as additions, in this order; its result.
     bool Import(const std::vector<long>& positions);
     // The apply pass with these pairs of an item and the position of its host row as modifications.

@@ -36,7 +36,7 @@ class ContactsFromOutlookFailure : public test_support::ContactsFixture
     bool ImportWithFailureAt(long k)
     {
         Clear();
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Pending.NewOutlookItems.Add(L"1", 0);
         run.Pending.NewOutlookItems.Add(L"2", 0);
         sandbox::CallCounter counter;
@@ -130,7 +130,7 @@ TEST_F(ContactsFromOutlookFailure, AfterAFailedAccountTheTransactionIsAskedForOn
 TEST_F(ContactsFromOutlookFailure, AnAccountSourceThatCannotBeOpenedFailsTheContact)
 {
     const long item = AddEmployee(L"Miller", L"Acme");
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(std::to_wstring(item), 0);
     TheHost.Failures().Order(L"OpenRecordset", 1, {-1});
     EXPECT_FALSE(contacts::SynContactFromOutlook(run));

@@ -57,7 +57,7 @@ TEST_F(ContactsFromOutlook, TheKeyAndTheQuotedUserComeBeforeTheRelatedColumns)
 TEST_F(ContactsFromOutlook, TheRelationRowsAndTheCatalogueAreOpenedAsTheContractHasThem)
 {
     const long item = AddNamedItem({});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(std::to_wstring(item), 0);
     const test_support::OpenedRecordsets opened;
     EXPECT_FALSE(contacts::SynContactFromOutlook(run));

@@ -101,7 +101,7 @@ TEST_F(ContactsToOutlook, AdditionsAreWrittenBeforeModifications)
 {
     AddThreeRows();
     AddItem({{L"NickName", L"old"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(3L, 1);
     run.Pending.ChangedOutlookItems.Add(L"2", 1); // the item that the addition makes
     run.Pending.NewHostRecords.Add(1L, 0);
@@ -115,7 +115,7 @@ TEST_F(ContactsToOutlook, OnlyModificationsMarkedForOutlookAreWrittenButEachAdva
     AddThreeItems();
     for (const long state : {0L, 2L, -1L})
     {
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Pending.ChangedHostRecords.Add(1L, state);
         run.Pending.ChangedOutlookItems.Add(L"1", 1);
         run.Pending.ChangedHostRecords.Add(2L, 1);
@@ -130,7 +130,7 @@ TEST_F(ContactsToOutlook, OnlyModificationsMarkedForOutlookAreWrittenButEachAdva
 TEST_F(ContactsToOutlook, TheMarkOfAnAdditionMakesNoDifference)
 {
     AddThreeRows();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     run.Pending.NewHostRecords.Add(2L, 1);
     run.Pending.NewHostRecords.Add(3L, 2);
@@ -142,7 +142,7 @@ TEST_F(ContactsToOutlook, ZeroAdditionsAndModificationsWriteNothingReadNothingAn
 {
     AddThreeRows();
     AddThreeItems();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     const CallCounter counter;
     EXPECT_FALSE(contacts::SynContactToOutlook(run));
     EXPECT_EQ(counter.Total(), 0);
@@ -172,7 +172,7 @@ TEST_F(ContactsToOutlook, AnItemIndexIsReadAsANumberAsFarAsItIsOne)
 {
     AddThreeRows();
     AddThreeItems();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 1);
     run.Pending.ChangedOutlookItems.Add(L" 2nd", 1);
     EXPECT_FALSE(contacts::SynContactToOutlook(run));
@@ -182,7 +182,7 @@ TEST_F(ContactsToOutlook, AnItemIndexIsReadAsANumberAsFarAsItIsOne)
 TEST_F(ContactsToOutlook, TheHostRowsStayOnTheLastWrittenRow)
 {
     AddThreeRows();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(3L, 0);
     run.Pending.NewHostRecords.Add(2L, 0);
     EXPECT_FALSE(contacts::SynContactToOutlook(run));
@@ -213,7 +213,7 @@ TEST_F(ContactsToOutlook, AnErrorInTheAdditionsKeepsTheModificationsFromStarting
     AddThreeRows();
     AddItem({{L"NickName", L"old"}});
     const RefusesNickName refuses(1);
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(2L, 0);
     run.Pending.ChangedHostRecords.Add(1L, 1);
     run.Pending.ChangedOutlookItems.Add(L"1", 1);
@@ -265,7 +265,7 @@ TEST_F(ContactsToOutlook, TheRelationsAreReadOncePerPassHoweverManyRecordsItWrit
 {
     AddThreeRows();
     AddThreeItems();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (long row = 1; row <= 3; ++row)
     {
         run.Pending.NewHostRecords.Add(row, 0);
@@ -287,7 +287,7 @@ TEST_F(ContactsToOutlook, WritingOneMoreRecordReadsItsColumnsAndNothingElseOfThe
     AddThreeRows();
     Relate({{L"F_NICKNAME", L"NickName"}, {L"F_SPOUSE", L"Spouse"}});
     const auto callsFor = [&](const std::vector<long>& rows) {
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         for (const long row : rows)
         {
             run.Pending.NewHostRecords.Add(row, 0);
@@ -303,7 +303,7 @@ TEST_F(ContactsToOutlook, WritingOneMoreRecordReadsItsColumnsAndNothingElseOfThe
 TEST_F(ContactsToOutlook, TheRelationRecordsetIsClosedAfterAFailureToo)
 {
     AddThreeRows();
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     const CallCounter counter;
     const RefusesNickName refuses(1);

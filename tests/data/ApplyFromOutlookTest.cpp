@@ -1,4 +1,4 @@
-#include "data/ApplyFromOutlook.h"
+#include "exchange/ApplyFromOutlook.h"
 
 #include "automation/Error.h"
 #include "sandbox/ado/Recordset.h"
@@ -14,7 +14,7 @@ using automation::LongOf;
 using automation::Object;
 using automation::TextOf;
 using automation::Value;
-using data::Run;
+using exchange::Run;
 using Progress = std::vector<double>;
 
 // Folder.Items with items that only know their position; position 13 fails.
@@ -75,10 +75,10 @@ class ApplyFromOutlook : public testing::Test
         TheRun.Pending.ChangedHostRecords.Add(row, mark);
     }
 
-    bool Apply() { return data::ApplyFromOutlook(TheRun, {L"SELECT", {}, WriteRow}); }
+    bool Apply() { return exchange::ApplyFromOutlook(TheRun, {L"SELECT", {}, WriteRow}); }
 
     test_support::RecordingDisplay Display;
-    data::Run TheRun{Display, {}, {}, {}, {}, {}, {}};
+    exchange::Run TheRun{Display, {}, {}, {}, {}, {}, {}};
 };
 
 TEST_F(ApplyFromOutlook, NothingPendingWritesNothingAndSucceeds)

@@ -1,4 +1,5 @@
-#include "data/ApplyToOutlook.h"
+#include "exchange/ApplyToOutlook.h"
+#include "automation/OutlookConstants.h"
 
 #include "sandbox/ado/Recordset.h"
 #include "sandbox/dispatch/DispatchObject.h"
@@ -13,7 +14,7 @@ namespace
 
 using automation::Object;
 using automation::Value;
-using data::Run;
+using exchange::Run;
 
 // Folder.Items that gives an object for every item asked for or added.
 class FolderItems : public sandbox::DispatchObject
@@ -46,11 +47,14 @@ class ApplyToOutlook : public testing::Test
         TheRun.HostRows = automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"first"}}}));
     }
 
-    bool Apply() { return data::ApplyToOutlook(TheRun, {data::kTaskItem, L"SELECT", {}, WriteMode}); }
+    bool Apply()
+    {
+        return exchange::ApplyToOutlook(TheRun, {automation::kTaskItem, L"SELECT", {}, WriteMode});
+    }
 
     test_support::WithLanguage English{resources::Language::English};
     test_support::RecordingDisplay Display;
-    data::Run TheRun{Display, {}, {}, {}, {}, {}, {}};
+    exchange::Run TheRun{Display, {}, {}, {}, {}, {}, {}};
 };
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "data/Lookups.h"
 
 #include "automation/Error.h"
-#include "data/AccountInfo.h"
 #include "data/Host.h"
+#include "links/AccountInfo.h"
 #include "tests/support/RecordingHost.h"
 
 #include <gtest/gtest.h>
@@ -12,9 +12,9 @@ namespace
 
 using automation::TextOf;
 using automation::Value;
-using data::AddAccountInfo;
 using data::LookupTypedValue;
 using data::LookupValue;
+using links::AddAccountInfo;
 using Calls = std::vector<std::wstring>;
 
 class Lookups : public testing::Test
@@ -179,7 +179,7 @@ TEST_F(AccountInfo, ForCallersThatReportItThemselvesTheHostsErrorComesThrough)
     Host->Failing = {L"Insert"};
     try
     {
-        data::InsertAccountInfo(data::Host(), L"A1");
+        links::InsertAccountInfo(data::Host(), L"A1");
         FAIL() << "no error";
     }
     catch (const automation::Error& error)

@@ -1,6 +1,6 @@
 // A folder of Outlook may hold items of several classes, which have members of the same name under different
 // numbers.
-#include "data/ApplyFromOutlook.h"
+#include "exchange/ApplyFromOutlook.h"
 
 #include "automation/Text.h"
 #include "sandbox/ado/Recordset.h"
@@ -21,7 +21,7 @@ constexpr long kRounds = 3;
 
 std::vector<std::wstring> gRead;
 
-long Read(data::Run& /*run*/, long /*mode*/, const Object& item)
+long Read(exchange::Run& /*run*/, long /*mode*/, const Object& item)
 {
     gRead.push_back(automation::TextOf(item.Get(L"Subject")) + L" " +
                     std::to_wstring(automation::LongOf(item.Get(L"Class"))));
@@ -49,7 +49,7 @@ Object MixedItems()
 TEST(AFolderOfMixedItems, IsReadByEachItemsOwnMembersAskedForOncePerClass)
 {
     test_support::RecordingDisplay display;
-    data::Run run{display};
+    exchange::Run run{display};
     run.Items = MixedItems();
     std::vector<std::wstring> expected;
     const wchar_t* classNumbers[] = {L" 40", L" 48", L" 26", L" 43"};
@@ -61,7 +61,7 @@ TEST(AFolderOfMixedItems, IsReadByEachItemsOwnMembersAskedForOncePerClass)
     gRead.clear();
     sandbox::CallCounter calls;
     sandbox::CallObserver* const before = sandbox::Observe(&calls);
-    EXPECT_FALSE(data::ApplyFromOutlook(run, {L"SELECT", {}, Read}));
+    EXPECT_FALSE(exchange::ApplyFromOutlook(run, {L"SELECT", {}, Read}));
     sandbox::Observe(before);
     EXPECT_EQ(expected, gRead);
     for (const wchar_t* name : {L"ContactItem", L"TaskItem", L"AppointmentItem", L"MailItem"})

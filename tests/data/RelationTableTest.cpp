@@ -1,4 +1,4 @@
-#include "data/RelationTable.h"
+#include "exchange/RelationTable.h"
 
 #include "automation/Error.h"
 #include "tests/data/CatalogueDatabase.h"
@@ -23,7 +23,7 @@ class Relations : public testing::Test
     std::wstring Rows()
     {
         std::wstring text;
-        for (const data::RelationRow& row : Table.Rows())
+        for (const exchange::RelationRow& row : Table.Rows())
         {
             text += row.EnglishName + L"=" + row.OutlookName + L";";
         }
@@ -31,7 +31,7 @@ class Relations : public testing::Test
     }
 
     test_support::CatalogueDatabase Database;
-    data::RelationTable Table;
+    exchange::RelationTable Table;
 };
 
 TEST_F(Relations, TheRowsOfTheStatementComeInTheOrderOfTheDatabase)

@@ -2,9 +2,9 @@
 
 #include "automation/Object.h"
 #include "resources/Strings.h"
-#include "sandbox/demo/Installation.h"
 #include "sandbox/outlook/Registration.h"
-#include "sandbox/sample_data/SampleData.h"
+#include "tools/demo/Installation.h"
+#include "tools/sample_data/SampleData.h"
 
 namespace test_support
 {

@@ -2,9 +2,9 @@
 // by the robot.
 #pragma once
 
-#include "sandbox/demo/Conversation.h"
-#include "sandbox/demo/Snapshot.h"
 #include "sandbox/host/Host.h"
+#include "tools/demo/Conversation.h"
+#include "tools/demo/Snapshot.h"
 
 #include <gtest/gtest.h>
 

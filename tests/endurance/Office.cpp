@@ -2,8 +2,8 @@
 
 #include "automation/Text.h"
 #include "sandbox/database/DatabaseFile.h"
-#include "sandbox/demo/Installation.h"
-#include "sandbox/sample_data/SampleData.h"
+#include "tools/demo/Installation.h"
+#include "tools/sample_data/SampleData.h"
 
 #include <utility>
 

@@ -6,9 +6,9 @@
 
 #include "automation/Object.h"
 #include "sandbox/ado/Ado.h"
-#include "sandbox/demo/Conversation.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tools/demo/Conversation.h"
 
 #include <array>
 #include <functional>

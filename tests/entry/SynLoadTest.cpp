@@ -3,11 +3,11 @@
 #include "automation/Error.h"
 #include "automation/Object.h"
 #include "sandbox/outlook/Outlook.h"
-#include "sandbox/robot/Robot.h"
 #include "state/SharedState.h"
 #include "tests/support/Drive.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/StandIns.h"
+#include "tools/robot/Robot.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,8 @@
 // Whatever call fails, nothing is lost or half-written, nothing stays open or is held, and the next run puts
 // things right.
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
+#include "tasks/Tasks.h"
 #include "tests/faults/FaultTrials.h"
 
 #include "run/Runs.h"
@@ -11,10 +14,10 @@ namespace
 
 using namespace test_support;
 
-const ExchangedKind kContactKind{"contacts", run::kContactCategory, run::RunContactSync,
+const ExchangedKind kContactKind{"contacts", contacts::kContacts, run::RunContactSync,
                                  L"Personal Folders\\Contacts"};
-const ExchangedKind kTaskKind{"tasks", run::kTaskCategory, run::RunTaskSync, L"Personal Folders\\Tasks"};
-const ExchangedKind kCalendarKind{"calendar", run::kCalendarCategory, run::RunCalendarSync,
+const ExchangedKind kTaskKind{"tasks", tasks::kTasks, run::RunTaskSync, L"Personal Folders\\Tasks"};
+const ExchangedKind kCalendarKind{"calendar", calendar::kCalendar, run::RunCalendarSync,
                                   L"Personal Folders\\Calendar"};
 
 class EveryKind : public FaultTrials, public testing::WithParamInterface<Exchanged>

@@ -1,8 +1,9 @@
 #include "tests/faults/FaultTrials.h"
+#include "tasks/Tasks.h"
 
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "config/ParameterStore.h"
+#include "config/store/ParameterStore.h"
 #include "run/ChangeCollection.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
@@ -30,7 +31,7 @@ bool IsQuestionOfRights(const std::wstring& member)
 // The contract saves a task after every relation row, so a fault may leave one that is written in part.
 bool MayLeavePart(const Exchanged& what)
 {
-    return what.IsToOutlook() && &what.kind.category == &run::kTaskCategory;
+    return what.IsToOutlook() && &what.kind.category == &tasks::kTasks;
 }
 
 // The contract has a run of tasks succeed where the host does not open their rows.
@@ -104,9 +105,9 @@ FaultTrials::~FaultTrials()
     state::Shared() = {};
 }
 
-data::Run FaultTrials::OpenRun(const ExchangedKind& kind)
+exchange::Run FaultTrials::OpenRun(const ExchangedKind& kind)
 {
-    data::Run run{.Display = mDisplay};
+    exchange::Run run{.Display = mDisplay};
     const data::Host host;
     const std::wstring filter =
         kind.category.SourceFilter == nullptr ? std::wstring() : kind.category.SourceFilter(host);
@@ -119,8 +120,8 @@ data::Run FaultTrials::OpenRun(const ExchangedKind& kind)
 // The steps of a run one by one, so that the fault strikes within one of them; true when it was reported.
 bool FaultTrials::ExchangeInSteps(const Trial& trial)
 {
-    const run::Category& category = trial.what.kind.category;
-    data::Run run = OpenRun(trial.what.kind);
+    const exchange::Kind& category = trial.what.kind.category;
+    exchange::Run run = OpenRun(trial.what.kind);
     const automation::ClosesRecordset closes(run.HostRows);
     const auto startCounting = [&] { *mFaults = {trial.fault, trial.at, 0, {}}; };
     if (trial.phase == Phase::Collection)

@@ -2,7 +2,7 @@
 // sides, strikes one call, looks at what is left, then lets an undisturbed run put things right.
 #pragma once
 
-#include "run/Category.h"
+#include "exchange/Kind.h"
 #include "sandbox/dispatch/ClassObject.h"
 #include "tests/faults/FaultyObject.h"
 #include "tests/faults/TwoSides.h"
@@ -20,8 +20,8 @@ namespace test_support
 struct ExchangedKind
 {
     const char* name;
-    const run::Category& category;
-    bool (*run)(data::RunDisplay& display);
+    const exchange::Kind& category;
+    bool (*run)(exchange::RunDisplay& display);
     const wchar_t* folder;
 };
 
@@ -74,7 +74,7 @@ class FaultTrials : public testing::Test
 
     Outcome Exchange(const Trial& trial);
     bool ExchangeInSteps(const Trial& trial);
-    data::Run OpenRun(const ExchangedKind& kind);
+    exchange::Run OpenRun(const ExchangedKind& kind);
     void ExchangeUndisturbed(const Exchanged& what);
 
     // The states that a trial can be compared with.

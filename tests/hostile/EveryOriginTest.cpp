@@ -1,15 +1,18 @@
 // Values of every origin at once (Outlook, the host's rows and keys, the user's id, the stored parameters):
 // no statement that the component sends says anything else because of them.
 #include "automation/Text.h"
-#include "config/ChosenFolders.h"
-#include "config/OutlookFolders.h"
-#include "config/ParameterStore.h"
-#include "config/Translation.h"
-#include "config/UserRows.h"
-#include "run/Category.h"
+#include "calendar/Calendar.h"
+#include "config/outlook/OutlookFolders.h"
+#include "config/store/ChosenFolders.h"
+#include "config/store/ParameterStore.h"
+#include "config/store/Translation.h"
+#include "config/store/UserRows.h"
+#include "contacts/Contacts.h"
+#include "exchange/Kind.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tasks/Tasks.h"
 #include "tests/hostile/HostileItem.h"
 #include "tests/hostile/HostileValues.h"
 #include "tests/hostile/NoMessageBoxes.h"
@@ -50,11 +53,11 @@ class EveryOrigin : public testing::Test
     }
 
     // Writes an item over a row whose columns all hold the text, and as a new row.
-    void Import(const run::Category& category, const std::wstring& text, const ItemValues& item)
+    void Import(const exchange::Kind& category, const std::wstring& text, const ItemValues& item)
     {
         for (const bool isNew : {true, false})
         {
-            data::Run run{.Display = mDisplay};
+            exchange::Run run{.Display = mDisplay};
             run.HostRows = Recordset(sandbox::MakeRecordset(
                 {{{L"F_CNTCTID"}, {L"F_ACTID"}, {L"ACC_SNAME"}}, {{text, text, text}}}));
             run.Items = MakeItemsOf(MakeHostileItem(item));
@@ -80,21 +83,20 @@ class EveryOrigin : public testing::Test
             {
                 mHost->Rows.rows.clear();
             }
-            Import(run::kContactCategory, text,
+            Import(contacts::kContacts, text,
                    {{L"LastName", text},
                     {L"FirstName", text},
                     {L"CompanyName", text},
                     {L"NickName", text},
                     {L"BusinessAddressCity", text}});
-            Import(run::kContactCategory, text,
+            Import(contacts::kContacts, text,
                    {{L"LastName", text}, {L"FirstName", text}, {L"CompanyName", text + L" & Sons"}});
-            Import(run::kTaskCategory, text,
-                   {{L"Subject", text}, {L"Companies", text}, {L"ContactNames", text}});
-            Import(run::kCalendarCategory, text, {{L"Subject", text}, {L"Companies", text}});
+            Import(tasks::kTasks, text, {{L"Subject", text}, {L"Companies", text}, {L"ContactNames", text}});
+            Import(calendar::kCalendar, text, {{L"Subject", text}, {L"Companies", text}});
         }
         Recordset rows;
-        data::Host().OpenRecordset(rows, run::kCalendarCategory.RecordSource,
-                                   run::kCalendarCategory.SourceFilter(data::Host()));
+        data::Host().OpenRecordset(rows, calendar::kCalendar.RecordSource,
+                                   calendar::kCalendar.SourceFilter(data::Host()));
         return ShapesOf(mStatements);
     }
 
@@ -112,8 +114,8 @@ class EveryOrigin : public testing::Test
         config::SetSynParamenter(record, text);
         config::LoadDefaultFolder(record, L"Contact");
         config::PurgeMissingFolders();
-        config::StoreChosenFolders(*config::FindObjectKind(L"Task"), {{text, true}, {L"A" + text, false}});
-        config::LoadChosenFolders(*config::FindObjectKind(L"Task"));
+        config::StoreChosenFolders(*exchange::FindKindName(L"Task"), {{text, true}, {L"A" + text, false}});
+        config::LoadChosenFolders(*exchange::FindKindName(L"Task"));
         config::Translation row;
         row.TransObject = row.TransTypePic = text;
         config::UpdateUserRows(config::TranslationSetClause(row), config::kParameterTable, L"");

@@ -164,9 +164,9 @@ HostileFromOutlook::RowCounts HostileFromOutlook::CountRows()
     return counts;
 }
 
-void HostileFromOutlook::Import(const run::Category& category, const automation::Object& item, bool isNew)
+void HostileFromOutlook::Import(const exchange::Kind& category, const automation::Object& item, bool isNew)
 {
-    data::Run run{.Display = mDisplay};
+    exchange::Run run{.Display = mDisplay};
     const data::Host host;
     const std::wstring filter = category.SourceFilter == nullptr ? L"" : category.SourceFilter(host);
     ASSERT_EQ(0, host.OpenRecordset(run.HostRows, category.RecordSource, filter));

@@ -2,7 +2,7 @@
 // the checks that hold after every record, whatever it held.
 #pragma once
 
-#include "run/Category.h"
+#include "exchange/Kind.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "tests/hostile/HostileItem.h"
@@ -31,7 +31,7 @@ class HostileFromOutlook : public testing::Test
     using RowCounts = std::map<std::wstring, long>;
 
     // Writes the item with the category's pass, as a new row or over the row with the key TARGET.
-    void Import(const run::Category& category, const automation::Object& item, bool isNew);
+    void Import(const exchange::Kind& category, const automation::Object& item, bool isNew);
     // What must hold after any import into this table: at most one row more (or none), the statements well
     // formed and about nothing else, no transaction open. For records without a transaction of their own an
     // account may stay behind.

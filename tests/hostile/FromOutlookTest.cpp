@@ -1,6 +1,9 @@
 // Whole items on their way into the host, every property hostile: what is written is one record or none, with
 // the values that the contract gives it, and nothing else changes.
 #include "tests/hostile/FromOutlook.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
+#include "tasks/Tasks.h"
 
 #include "sandbox/host/FieldRows.h"
 #include "sandbox/host/Literals.h"
@@ -81,7 +84,7 @@ class HostileImport : public HostileFromOutlook
   protected:
     struct Kind
     {
-        const run::Category& category;
+        const exchange::Kind& category;
         const wchar_t* table;
         const wchar_t* relationTable;
         bool isAtomic;
@@ -148,21 +151,21 @@ class HostileImport : public HostileFromOutlook
 TEST_F(HostileImport, ContactsAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("contacts from Outlook");
-    const Kind kind{run::kContactCategory, L"TBLCONTACT", L"TBLCONTACT", true};
+    const Kind kind{contacts::kContacts, L"TBLCONTACT", L"TBLCONTACT", true};
     ImportMany(kind, values, Times(600), [](HostileValues& from) { return HostileRecord(kContact, from); });
 }
 
 TEST_F(HostileImport, TasksAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("tasks from Outlook");
-    const Kind kind{run::kTaskCategory, L"TBLACTIVITY", L"TBLACTIVITY", true};
+    const Kind kind{tasks::kTasks, L"TBLACTIVITY", L"TBLACTIVITY", true};
     ImportMany(kind, values, Times(600), [](HostileValues& from) { return HostileRecord(kTask, from); });
 }
 
 TEST_F(HostileImport, AppointmentsAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("appointments from Outlook");
-    const Kind kind{run::kCalendarCategory, L"TBLACTIVITY", L"VW_CALENDAR", false};
+    const Kind kind{calendar::kCalendar, L"TBLACTIVITY", L"VW_CALENDAR", false};
     ImportMany(kind, values, Times(600), [](HostileValues& from) {
         ItemValues item = HostileRecord(kAppointment, from);
         item[L"GetRecurrencePattern"] =

@@ -1,6 +1,9 @@
 // Hostile keys on both sides of the change collection: what it proposes is what the plain nested walk
 // proposes.
-#include "run/Category.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
+#include "exchange/Kind.h"
+#include "tasks/Tasks.h"
 #include "tests/hostile/HostileValues.h"
 #include "tests/run/CollectionTest.h"
 
@@ -18,7 +21,7 @@ using Pool = std::vector<Value>;
 class HostileMatching : public CollectionTest
 {
   protected:
-    explicit HostileMatching(const run::Category& category, const char* name)
+    explicit HostileMatching(const exchange::Kind& category, const char* name)
         : CollectionTest(category), mValues(name)
     {
     }
@@ -78,19 +81,19 @@ class HostileMatching : public CollectionTest
 class HostileContacts : public HostileMatching
 {
   protected:
-    HostileContacts() : HostileMatching(run::kContactCategory, "matching contacts") {}
+    HostileContacts() : HostileMatching(contacts::kContacts, "matching contacts") {}
 };
 
 class HostileTasks : public HostileMatching
 {
   protected:
-    HostileTasks() : HostileMatching(run::kTaskCategory, "matching tasks") {}
+    HostileTasks() : HostileMatching(tasks::kTasks, "matching tasks") {}
 };
 
 class HostileAppointments : public HostileMatching
 {
   protected:
-    HostileAppointments() : HostileMatching(run::kCalendarCategory, "matching appointments") {}
+    HostileAppointments() : HostileMatching(calendar::kCalendar, "matching appointments") {}
 };
 
 TEST_F(HostileContacts, AreMatchedAsByTheNestedWalk)

@@ -1,9 +1,9 @@
 // Hostile texts in the stored parameters and among the chosen folders: what is loaded is what is stored, what
 // is written stays within the user's own rows.
 #include "automation/Text.h"
-#include "config/ChosenFolders.h"
-#include "config/OutlookFolders.h"
-#include "config/ParameterStore.h"
+#include "config/outlook/OutlookFolders.h"
+#include "config/store/ChosenFolders.h"
+#include "config/store/ParameterStore.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
@@ -91,7 +91,7 @@ TEST_F(HostileParameters, TemplatesAreCopiedAndLoadedTextForText)
 TEST_F(HostileParameters, AFolderIsStoredTextForText)
 {
     HostileValues values("chosen folders");
-    const config::ObjectKind& kind = *config::FindObjectKind(L"Contact");
+    const exchange::KindName& kind = *exchange::FindKindName(L"Contact");
     for (long i = 0; i < Times(300) && !HasFailure(); ++i)
     {
         const std::wstring path = values.StorableText(100);

@@ -3,13 +3,16 @@
 #include "automation/Dates.h"
 #include "automation/Readable.h"
 #include "automation/Text.h"
-#include "run/Category.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
+#include "exchange/Kind.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/host/RelationRows.h"
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
+#include "tasks/Tasks.h"
 #include "tests/hostile/HostileRecords.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/WithLanguage.h"
@@ -78,7 +81,7 @@ class HostileExport : public testing::Test
   protected:
     struct Kind
     {
-        const run::Category& category;
+        const exchange::Kind& category;
         const wchar_t* relationTable;
         const wchar_t* folder;
         long folderNumber; // OlDefaultFolders
@@ -110,7 +113,7 @@ class HostileExport : public testing::Test
             rows.columns.push_back({name});
             rows.rows[0].push_back(value);
         }
-        data::Run run{.Display = mDisplay};
+        exchange::Run run{.Display = mDisplay};
         run.HostRows = automation::Recordset(sandbox::MakeRecordset(std::move(rows)));
         run.Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", kind.folderNumber);
         run.Items = run.Folder.GetObject(L"Items");
@@ -186,7 +189,7 @@ class HostileExport : public testing::Test
     // nothing is written; the pass goes on.
     static bool IsLeftOut(const Kind& kind, const ItemValues& record)
     {
-        if (&kind.category != &run::kCalendarCategory)
+        if (&kind.category != &calendar::kCalendar)
         {
             return false;
         }
@@ -259,21 +262,21 @@ class HostileExport : public testing::Test
 TEST_F(HostileExport, ContactsAreSavedWholeOrNotAtAll)
 {
     HostileValues values("contacts to Outlook");
-    const Kind kind{run::kContactCategory, L"TBLCONTACT", L"Personal Folders\\Contacts", 10, true};
+    const Kind kind{contacts::kContacts, L"TBLCONTACT", L"Personal Folders\\Contacts", 10, true};
     ExportMany(kind, kContact, values, Times(600));
 }
 
 TEST_F(HostileExport, TasksAreSavedWholeOrThePassFails)
 {
     HostileValues values("tasks to Outlook");
-    const Kind kind{run::kTaskCategory, L"TBLACTIVITY", L"Personal Folders\\Tasks", 13, false};
+    const Kind kind{tasks::kTasks, L"TBLACTIVITY", L"Personal Folders\\Tasks", 13, false};
     ExportMany(kind, kTask, values, Times(600));
 }
 
 TEST_F(HostileExport, AppointmentsAreSavedWholeOrNotAtAll)
 {
     HostileValues values("appointments to Outlook");
-    const Kind kind{run::kCalendarCategory, L"VW_CALENDAR", L"Personal Folders\\Calendar", 9, true};
+    const Kind kind{calendar::kCalendar, L"VW_CALENDAR", L"Personal Folders\\Calendar", 9, true};
     ExportMany(kind, kEntry, values, Times(600));
 }
 

@@ -1,5 +1,8 @@
 // The page says what a value of an item does to the host's row. Whatever it does, the pass goes on.
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
 #include "sandbox/host/Literals.h"
+#include "tasks/Tasks.h"
 #include "tests/hostile/FromOutlook.h"
 #include "tests/hostile/ValueTable.h"
 
@@ -18,7 +21,7 @@ constexpr const char* kHeadingFromOutlook = "Kind, from Outlook";
 struct SourceKind
 {
     const char* name;
-    const run::Category& category;
+    const exchange::Kind& category;
     const wchar_t* relationTable;
     const wchar_t* table;
     ItemValues item; // what an item holds beside the value under test
@@ -26,12 +29,12 @@ struct SourceKind
 
 const SourceKind kSourceKinds[] = {
     {"Contact",
-     run::kContactCategory,
+     contacts::kContacts,
      L"TBLCONTACT",
      L"TBLCONTACT",
      {{L"LastName", L"Li"}, {L"FirstName", L"Ming"}, {L"CompanyName", L"Quay"}}},
     {"Task",
-     run::kTaskCategory,
+     tasks::kTasks,
      L"TBLACTIVITY",
      L"TBLACTIVITY",
      {{L"Subject", L"Call"},
@@ -43,7 +46,7 @@ const SourceKind kSourceKinds[] = {
       {L"TotalWork", 0L},
       {L"ActualWork", 0L}}},
     {"Calendar",
-     run::kCalendarCategory,
+     calendar::kCalendar,
      L"VW_CALENDAR",
      L"TBLACTIVITY",
      {{L"Subject", L"Board"},

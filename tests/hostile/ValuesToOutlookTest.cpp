@@ -1,11 +1,14 @@
 // The page says what a value of the host does to an item of Outlook. Whatever it does, the record behind it
 // is written and the pass succeeds.
-#include "run/Category.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
+#include "exchange/Kind.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
+#include "tasks/Tasks.h"
 #include "tests/hostile/ValueTable.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/WithLanguage.h"
@@ -32,7 +35,7 @@ constexpr const char* kHeading = "Kind, to Outlook";
 struct TargetKind
 {
     const char* name;
-    const run::Category& category;
+    const exchange::Kind& category;
     const wchar_t* relationTable;
     const wchar_t* folder;
     long folderNumber;                    // OlDefaultFolders
@@ -43,7 +46,7 @@ struct TargetKind
 
 const TargetKind kTargetKinds[] = {
     {"Contact",
-     run::kContactCategory,
+     contacts::kContacts,
      L"TBLCONTACT",
      L"Personal Folders\\Contacts",
      10,
@@ -51,7 +54,7 @@ const TargetKind kTargetKinds[] = {
      {{L"Birthday", DateOf(Moment{2003, 5, 6})}, {L"Anniversary", DateOf(Moment{2003, 5, 6})}},
      {}},
     {"Task",
-     run::kTaskCategory,
+     tasks::kTasks,
      L"TBLACTIVITY",
      L"Personal Folders\\Tasks",
      13,
@@ -73,7 +76,7 @@ const TargetKind kTargetKinds[] = {
       {L"CONTACT_GIVENNAME", L"Mary"},
       {L"YES", true}}},
     {"Calendar",
-     run::kCalendarCategory,
+     calendar::kCalendar,
      L"VW_CALENDAR",
      L"Personal Folders\\Calendar",
      9,
@@ -215,7 +218,7 @@ class ValuesToOutlook : public testing::Test
             rows.rows[0].push_back(column == entry.column ? value : good);
             rows.rows[1].push_back(good);
         }
-        data::Run run{.Display = mDisplay};
+        exchange::Run run{.Display = mDisplay};
         run.HostRows = automation::Recordset(sandbox::MakeRecordset(std::move(rows)));
         run.Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", kind.folderNumber);
         run.Items = run.Folder.GetObject(L"Items");

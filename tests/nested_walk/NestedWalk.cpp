@@ -12,7 +12,8 @@ namespace test_support
 namespace
 {
 
-bool Matches(const run::Category& category, const automation::Object& item, const automation::Recordset& rows)
+bool Matches(const exchange::Kind& category, const automation::Object& item,
+             const automation::Recordset& rows)
 {
     const std::wstring kind = category.Key;
     return kind == L"Contact" ? IsSameContact(item, rows)
@@ -28,7 +29,7 @@ void MoveToFirst(const automation::Recordset& rows)
     }
 }
 
-long FindItem(const run::Category& category, data::Run& run, long count)
+long FindItem(const exchange::Kind& category, exchange::Run& run, long count)
 {
     for (long i = 1; i <= count; ++i)
     {
@@ -40,7 +41,7 @@ long FindItem(const run::Category& category, data::Run& run, long count)
     return 0;
 }
 
-long FindRow(const run::Category& category, data::Run& run, const automation::Object& item)
+long FindRow(const exchange::Kind& category, exchange::Run& run, const automation::Object& item)
 {
     for (MoveToFirst(run.HostRows); !run.HostRows.AtEnd(); run.HostRows.MoveNext())
     {
@@ -68,10 +69,10 @@ bool Failed(Body&& body)
 
 } // namespace
 
-bool WalkToOutlook(const run::Category& category, data::Run& run, long conflictOption)
+bool WalkToOutlook(const exchange::Kind& category, exchange::Run& run, long conflictOption)
 {
     return Failed([&] {
-        const run::Filters filters = category.FiltersOf(state::Shared().gSynParameter, data::Host());
+        const exchange::Filters filters = category.FiltersOf(state::Shared().gSynParameter, data::Host());
         const long count = automation::LongOf(run.Items.Get(L"Count"));
         for (MoveToFirst(run.HostRows); !run.HostRows.AtEnd(); run.HostRows.MoveNext())
         {
@@ -94,11 +95,11 @@ bool WalkToOutlook(const run::Category& category, data::Run& run, long conflictO
     });
 }
 
-bool WalkFromOutlook(const run::Category& category, data::Run& run, long conflictOption, bool mayAdd,
+bool WalkFromOutlook(const exchange::Kind& category, exchange::Run& run, long conflictOption, bool mayAdd,
                      bool mayModify)
 {
     return Failed([&] {
-        const run::Filters filters = category.FiltersOf(state::Shared().gSynParameter, data::Host());
+        const exchange::Filters filters = category.FiltersOf(state::Shared().gSynParameter, data::Host());
         const long count = automation::LongOf(run.Items.Get(L"Count"));
         for (long i = 1; i <= count; ++i)
         {

@@ -2,14 +2,14 @@
 // one matches, by keys of its own. The yardstick that the collection's result is held against.
 #pragma once
 
-#include "run/Category.h"
+#include "exchange/Kind.h"
 
 namespace test_support
 {
 
 // Both return true when an error ended the walk, with what was proposed so far in the run's collections.
-bool WalkToOutlook(const run::Category& category, data::Run& run, long conflictOption);
-bool WalkFromOutlook(const run::Category& category, data::Run& run, long conflictOption, bool mayAdd,
+bool WalkToOutlook(const exchange::Kind& category, exchange::Run& run, long conflictOption);
+bool WalkFromOutlook(const exchange::Kind& category, exchange::Run& run, long conflictOption, bool mayAdd,
                      bool mayModify);
 
 } // namespace test_support

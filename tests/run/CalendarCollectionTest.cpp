@@ -1,5 +1,6 @@
 // Change collection of the calendar: the range codes against the host's clock, and the whole against the
 // plain nested walk.
+#include "calendar/Calendar.h"
 #include "tests/run/CollectionTest.h"
 
 #include "automation/Dates.h"
@@ -46,7 +47,7 @@ Record Entry(Value name, Date start)
 class CalendarCollection : public CollectionTest
 {
   protected:
-    CalendarCollection() : CollectionTest(run::kCalendarCategory) { Host.SetSysDateTime(InDays(0.5)); }
+    CalendarCollection() : CollectionTest(calendar::kCalendar) { Host.SetSysDateTime(InDays(0.5)); }
     ~CalendarCollection() override { Shared().gCalendarStartTime = {}; }
 
     void TakeFutureEntriesOnly() { Shared().gSynParameter.CalendarTransItem = state::kFutureEntries; }

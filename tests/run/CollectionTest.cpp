@@ -47,7 +47,7 @@ void Fill(Records& records, RandomData& random, const std::function<Record(Rando
 
 } // namespace
 
-CollectionTest::CollectionTest(const run::Category& category) : mCategory(category)
+CollectionTest::CollectionTest(const exchange::Kind& category) : mCategory(category)
 {
     state::Shared().gDTC = Host.Object();
     state::Shared().gSynParameter = {};
@@ -59,9 +59,9 @@ CollectionTest::~CollectionTest()
     state::Shared().gSynParameter = {};
 }
 
-data::Run CollectionTest::NewRun()
+exchange::Run CollectionTest::NewRun()
 {
-    data::Run run{.Display = Display};
+    exchange::Run run{.Display = Display};
     run.Items = MakeItems(Items);
     run.HostRows = MakeRows(Rows);
     return run;
@@ -70,7 +70,7 @@ data::Run CollectionTest::NewRun()
 std::string CollectionTest::Collect(long rule, long direction)
 {
     state::Shared().gSynParameter.TransConflictOption = rule;
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run::ChangeCollection collection(mCategory, run);
     const bool failed = (direction != 1 && collection.CollectToOutlook()) ||
                         (direction != 2 && collection.CollectFromOutlook());
@@ -79,7 +79,7 @@ std::string CollectionTest::Collect(long rule, long direction)
 
 std::string CollectionTest::Walk(long rule, long direction)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     const bool failed = (direction != 1 && WalkToOutlook(mCategory, run, rule)) ||
                         (direction != 2 && WalkFromOutlook(mCategory, run, rule, true, true));
     return failed ? "failed" : Described(run.Pending);

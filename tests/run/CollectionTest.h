@@ -31,7 +31,7 @@ class RandomData
 class CollectionTest : public testing::Test
 {
   protected:
-    explicit CollectionTest(const run::Category& category);
+    explicit CollectionTest(const exchange::Kind& category);
     ~CollectionTest() override;
 
     // Collects by a conflict rule and direction (1 from Outlook, 2 to Outlook, 3 both): what was proposed, as
@@ -51,7 +51,7 @@ class CollectionTest : public testing::Test
     // proposed, or failed.
     long CompareWithTheNestedWalk(const Rounds& rounds);
 
-    data::Run NewRun();
+    exchange::Run NewRun();
 
     TestHost Host;
     RecordingDisplay Display;
@@ -61,7 +61,7 @@ class CollectionTest : public testing::Test
   private:
     long CompareAllRulesAndDirections();
 
-    const run::Category& mCategory;
+    const exchange::Kind& mCategory;
 };
 
 } // namespace test_support

@@ -1,7 +1,8 @@
+#include "contacts/Contacts.h"
 #include "tests/run/CollectionTest.h"
 
-#include "sandbox/robot/Robot.h"
 #include "tests/support/CallCounter.h"
+#include "tools/robot/Robot.h"
 
 using namespace test_support;
 using automation::Value;
@@ -24,7 +25,7 @@ Record ContactRow(Value surname, Value givenName, Value account)
 class ContactCollection : public CollectionTest
 {
   protected:
-    ContactCollection() : CollectionTest(run::kContactCategory) {}
+    ContactCollection() : CollectionTest(contacts::kContacts) {}
 };
 
 } // namespace
@@ -172,8 +173,8 @@ TEST_F(ContactCollection, ARowThatCannotBeReadFailsOnlyWhereTheWalkReachesIt)
     Record broken = ContactRow(L"Lim", L"Ing", L"Harbour");
     broken.erase(L"F_GIVENNAME");
     *Rows = {ContactRow(L"New", L"Ann", L"Harbour"), broken, ContactRow(L"Li", L"Ming", L"Harbour")};
-    data::Run run = NewRun();
-    EXPECT_TRUE(run::ChangeCollection(run::kContactCategory, run).CollectToOutlook());
+    exchange::Run run = NewRun();
+    EXPECT_TRUE(run::ChangeCollection(contacts::kContacts, run).CollectToOutlook());
     ASSERT_EQ(1, run.Pending.NewHostRecords.Count());
     EXPECT_EQ(0, run.Pending.ChangedHostRecords.Count());
 }

@@ -1,7 +1,10 @@
 // The page about the exchange rules says what the collection does.
 #include "automation/Text.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
 #include "run/ChangeCollection.h"
 #include "state/SharedState.h"
+#include "tasks/Tasks.h"
 #include "tests/run/Sides.h"
 #include "tests/run/TestHost.h"
 #include "tests/support/PageTable.h"
@@ -100,12 +103,12 @@ class ExchangeRules : public testing::Test
 
     // The cells of a row of the page as the collection would have them: a matching pair, a row alone and an
     // item alone.
-    Cells Proposed(const run::Category& category, long direction, long rule)
+    Cells Proposed(const exchange::Kind& category, long direction, long rule)
     {
         Shared().gSynParameter = {};
         Shared().gSynParameter.TransConflictOption = rule;
         RecordingDisplay display;
-        data::Run run{.Display = display};
+        exchange::Run run{.Display = display};
         run.Items = MakeItems(std::make_shared<Records>(Records{ItemNamed(L"both"), ItemNamed(L"item")}));
         run.HostRows = MakeRows(std::make_shared<Records>(Records{RowNamed(L"both"), RowNamed(L"row")}));
         run::ChangeCollection collection(category, run);
@@ -120,8 +123,7 @@ class ExchangeRules : public testing::Test
     TestHost mHost;
 };
 
-const run::Category* const kCategories[] = {&run::kContactCategory, &run::kTaskCategory,
-                                            &run::kCalendarCategory};
+const exchange::Kind* const kCategories[] = {&contacts::kContacts, &tasks::kTasks, &calendar::kCalendar};
 
 TEST_F(ExchangeRules, ThePageTellsWhatIsProposedForEveryDirectionAndConflictRule)
 {
@@ -132,7 +134,7 @@ TEST_F(ExchangeRules, ThePageTellsWhatIsProposedForEveryDirectionAndConflictRule
         const long direction = DirectionNamed(cells[0]);
         const long rule = std::stol(cells[1]);
         SCOPED_TRACE(cells[0] + ", " + cells[1]);
-        for (const run::Category* const category : kCategories)
+        for (const exchange::Kind* const category : kCategories)
         {
             EXPECT_EQ(Proposed(*category, direction, rule), Cells(cells.begin() + 2, cells.end()))
                 << automation::ToUtf8(category->Key);
@@ -155,7 +157,7 @@ TEST_F(ExchangeRules, ThePageTellsTheOrderOfATwoWayRunOfEveryKind)
     EXPECT_EQ(std::size(kCategories), described.size());
     const Cells fromOutlookFirst = {"Outlook to Quenlar", "Quenlar to Outlook"};
     const Cells toOutlookFirst = {"Quenlar to Outlook", "Outlook to Quenlar"};
-    for (const run::Category* const category : kCategories)
+    for (const exchange::Kind* const category : kCategories)
     {
         EXPECT_EQ(category->AppliesFromOutlookFirst ? fromOutlookFirst : toOutlookFirst,
                   described[automation::ToUtf8(category->Key)]);

@@ -1,7 +1,7 @@
 // Whether the component takes an item and a row for the same record, by a category's rule alone.
 #pragma once
 
-#include "run/MatchRule.h"
+#include "exchange/MatchRule.h"
 #include "tests/run/Sides.h"
 
 #include <memory>
@@ -9,7 +9,7 @@
 namespace test_support
 {
 
-inline bool Match(const run::MatchRule& rule, const Record& itemRecord, const Record& rowRecord)
+inline bool Match(const exchange::MatchRule& rule, const Record& itemRecord, const Record& rowRecord)
 {
     const auto items = std::make_shared<Records>(Records{itemRecord});
     const auto rows = std::make_shared<Records>(Records{rowRecord});

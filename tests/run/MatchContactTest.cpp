@@ -1,5 +1,6 @@
 // When a contact and a host row are the same record.
 #include "automation/Text.h"
+#include "contacts/Contacts.h"
 #include "tests/run/MatchByRule.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ constexpr const wchar_t* kNothing[] = {L"", L"  "};
 class MatchContact : public testing::Test
 {
   protected:
-    static bool Match() { return test_support::Match(run::kMatchContact, Item, Row); }
+    static bool Match() { return test_support::Match(contacts::kContacts.Match, Item, Row); }
 
     static bool MatchWith(const wchar_t* inItem, const Value& itemValue, const wchar_t* inRow,
                           const Value& rowValue)

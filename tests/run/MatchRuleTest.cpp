@@ -1,7 +1,9 @@
 // When a task or an appointment and a host row are the same record.
 #include "automation/Dates.h"
 #include "automation/Text.h"
+#include "calendar/Calendar.h"
 #include "state/SharedState.h"
+#include "tasks/Tasks.h"
 #include "tests/run/MatchByRule.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +28,7 @@ bool TasksMatchWith(const wchar_t* property, const Value& inItem, const wchar_t*
         {L"F_ACTNAME", L"Call"}, {L"F_ACTTYPE", L"Phone"}, {L"F_ACTPSTIME", kDay}, {L"ACC_SNAME", L"X"}};
     item[property] = inItem;
     row[column] = inRow;
-    return Match(run::kMatchTask, item, row);
+    return Match(tasks::kTasks.Match, item, row);
 }
 
 struct Key
@@ -82,7 +84,7 @@ TEST(MatchTask, EachKeyIsComparedByItselfUnlikeTheNamesOfContacts)
     const Record item{{L"Subject", L"ab"}, {L"Categories", L"c"}, {L"StartDate", kDay}, {L"Companies", L""}};
     const Record row{
         {L"F_ACTNAME", L"a"}, {L"F_ACTTYPE", L"bc"}, {L"F_ACTPSTIME", kDay}, {L"ACC_SNAME", L""}};
-    EXPECT_FALSE(Match(run::kMatchTask, item, row));
+    EXPECT_FALSE(Match(tasks::kTasks.Match, item, row));
 }
 
 TEST(MatchTask, NoTextCanPassForTwo)
@@ -98,7 +100,7 @@ TEST(MatchTask, NoTextCanPassForTwo)
                          {L"F_ACTTYPE", L"b" + between + L"c"},
                          {L"F_ACTPSTIME", kDay},
                          {L"ACC_SNAME", L""}};
-        EXPECT_FALSE(Match(run::kMatchTask, item, row));
+        EXPECT_FALSE(Match(tasks::kTasks.Match, item, row));
     }
 }
 
@@ -159,7 +161,7 @@ class MatchAppointment : public testing::Test
 
     static bool Match(const Record& item, const Record& row)
     {
-        return test_support::Match(run::kMatchAppointment, item, row);
+        return test_support::Match(calendar::kCalendar.Match, item, row);
     }
 };
 

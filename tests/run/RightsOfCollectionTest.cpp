@@ -1,6 +1,9 @@
 // The rights that a collection asks for, and what it proposes without them.
 #include "automation/Text.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
 #include "state/SharedState.h"
+#include "tasks/Tasks.h"
 #include "tests/run/CollectionTest.h"
 #include "tests/support/MessageBoxes.h"
 
@@ -13,20 +16,20 @@ using Questions = std::vector<TestHost::Question>;
 
 struct RightsOfKind
 {
-    const run::Category& category;
+    const exchange::Kind& category;
     Questions expected; // adding, then modifying
 };
 
 const RightsOfKind kRightsOfKinds[] = {
-    {run::kContactCategory, {{2, 2, 2}, {2, 2, 4}}},
-    {run::kTaskCategory, {{4, 5, 2}, {4, 5, 4}}},
-    {run::kCalendarCategory, {{6, 9, 2}, {6, 9, 4}}},
+    {contacts::kContacts, {{2, 2, 2}, {2, 2, 4}}},
+    {tasks::kTasks, {{4, 5, 2}, {4, 5, 4}}},
+    {calendar::kCalendar, {{6, 9, 2}, {6, 9, 4}}},
 };
 
 class RightsOfCollection : public CollectionTest
 {
   protected:
-    RightsOfCollection() : CollectionTest(run::kContactCategory)
+    RightsOfCollection() : CollectionTest(contacts::kContacts)
     {
         *Items = {Contact(L"Li"), Contact(L"Ode")};
         *Rows = {{{L"F_SURNAME", L"Li"}, {L"F_GIVENNAME", L""}, {L"ACC_SNAME", L""}},
@@ -55,7 +58,7 @@ TEST_F(RightsOfCollection, OfEachKindTheRightsToAddAndToModifyAreAskedForOnceInT
         state::Shared().gDTC = host.Object();
         Items->clear();
         Rows->clear();
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run::ChangeCollection collection(kind.category, run);
         EXPECT_FALSE(collection.CollectToOutlook());
         EXPECT_EQ(Questions{}, host.Questions()) << "towards Outlook no right is needed";
@@ -93,8 +96,8 @@ TEST_F(RightsOfCollection, WhatWasCollectedBeforeAnItemThatFailsStays)
 {
     *Items = {Contact(L"Ode"), Contact(L"Li"), Contact(L"Zoe"), Record{}, Contact(L"Ann")};
     state::Shared().gSynParameter.TransConflictOption = state::kOutlookWins;
-    data::Run run = NewRun();
-    EXPECT_TRUE(run::ChangeCollection(run::kContactCategory, run).CollectFromOutlook());
+    exchange::Run run = NewRun();
+    EXPECT_TRUE(run::ChangeCollection(contacts::kContacts, run).CollectFromOutlook());
     ASSERT_EQ(2, run.Pending.NewOutlookItems.Count());
     EXPECT_EQ(L"1", run.Pending.NewOutlookItems.Item(1L).ItemIndex);
     EXPECT_EQ(L"3", run.Pending.NewOutlookItems.Item(2L).ItemIndex);

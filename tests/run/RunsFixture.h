@@ -23,7 +23,7 @@ namespace test_support
 struct RunKind
 {
     const wchar_t* name;
-    bool (*run)(data::RunDisplay& display);
+    bool (*run)(exchange::RunDisplay& display);
     const wchar_t* folder;
     const wchar_t* table;
     const wchar_t* row;                 // a statement that adds a host record of the first user

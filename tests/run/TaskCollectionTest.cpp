@@ -1,4 +1,5 @@
 // Change collection of tasks: the pending-only choice, and the whole against the plain nested walk.
+#include "tasks/Tasks.h"
 #include "tests/run/CollectionTest.h"
 
 #include "state/SharedState.h"
@@ -38,7 +39,7 @@ Record TaskRow(Value name, Value completed = Value::Null())
 class TaskCollection : public CollectionTest
 {
   protected:
-    TaskCollection() : CollectionTest(run::kTaskCategory) {}
+    TaskCollection() : CollectionTest(tasks::kTasks) {}
 
     void TakePendingTasksOnly() { Shared().gSynParameter.TaskTransItem = state::kPendingTasks; }
 };

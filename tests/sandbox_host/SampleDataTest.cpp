@@ -1,4 +1,4 @@
-#include "sandbox/sample_data/SampleData.h"
+#include "tools/sample_data/SampleData.h"
 #include "automation/Dates.h"
 #include "automation/Error.h"
 #include "automation/Text.h"

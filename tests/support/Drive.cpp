@@ -1,7 +1,7 @@
 #include "tests/support/Drive.h"
 
 #include "automation/Text.h"
-#include "sandbox/robot/Picture.h"
+#include "tools/robot/Picture.h"
 
 #include <gtest/gtest.h>
 

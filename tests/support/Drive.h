@@ -1,7 +1,7 @@
 // For tests of dialogs: the test's own thread shows them, a robot uses them.
 #pragma once
 
-#include "sandbox/robot/Robot.h"
+#include "tools/robot/Robot.h"
 
 #include <functional>
 #include <string>

@@ -3,7 +3,7 @@
 // sandbox_robot.
 #pragma once
 
-#include "sandbox/robot/Robot.h"
+#include "tools/robot/Robot.h"
 
 #include <atomic>
 #include <ostream>

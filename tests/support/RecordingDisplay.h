@@ -1,7 +1,7 @@
 // A run's display that keeps what it was told.
 #pragma once
 
-#include "data/RunDisplay.h"
+#include "exchange/RunDisplay.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +9,7 @@
 namespace test_support
 {
 
-class RecordingDisplay : public data::RunDisplay
+class RecordingDisplay : public exchange::RunDisplay
 {
   public:
     std::wstring Status;

@@ -1,4 +1,4 @@
-#include "tasks/ContactLink.h"
+#include "links/ContactLink.h"
 
 #include "automation/Error.h"
 #include "state/SharedState.h"
@@ -46,7 +46,7 @@ bool Refuse(const Object& /*contact*/)
 
 bool IsNotOfOutlook8(const Object& contact)
 {
-    return !tasks::IsOfOutlook8(contact);
+    return !links::IsOfOutlook8(contact);
 }
 
 } // namespace
@@ -109,7 +109,7 @@ TEST_F(ContactLink, TwoTasksOfANewContactInOnePassShareIt)
 {
     AddHostTaskWith(L"'Zhang'", L"'Wei'");
     AddHostTaskWith(L"'Zhang'", L"'Wei'");
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     run.Pending.NewHostRecords.Add(2L, 0);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
@@ -127,7 +127,7 @@ TEST_F(ContactLink, ADoubleQuoteInANameEndsThePassWithNothingHalfOpen)
         AddHostTaskWith(surname, givenName);
         AddHostTaskWith(L"'Li'", L"'Hua'");
         const long before = CountTasks();
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Pending.NewHostRecords.Add(1L, 0);
         run.Pending.NewHostRecords.Add(2L, 0);
         const CallCounter calls;
@@ -175,9 +175,9 @@ TEST_F(ContactLink, AConditionIsAskedOfTheContactFoundAndMayRefuseIt)
     AddContact(L"Hua", L"Li");
     AddOutlookTask({{L"Subject", L"Call"}});
     const Object task = TaskAt(1);
-    tasks::LinkContact(task, L"Zhang", L"Wei", IsNotOfOutlook8);
+    links::LinkContact(task, L"Zhang", L"Wei", IsNotOfOutlook8);
     EXPECT_EQ(0, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
-    tasks::LinkContact(task, L"Li", L"Hua", IsNotOfOutlook8);
+    links::LinkContact(task, L"Li", L"Hua", IsNotOfOutlook8);
     EXPECT_EQ(1, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
     EXPECT_EQ(2, CountContacts());
 }
@@ -186,7 +186,7 @@ TEST_F(ContactLink, AConditionIsNotAskedOfAContactThatIsCreated)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
     const Object task = TaskAt(1);
-    tasks::LinkContact(task, L"Zhang", L"Wei", Refuse);
+    links::LinkContact(task, L"Zhang", L"Wei", Refuse);
     EXPECT_EQ(1, CountContacts());
     EXPECT_EQ(1, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
 }
@@ -196,7 +196,7 @@ TEST_F(ContactLink, TheItemItselfIsLeftToItsWriterToSave)
     AddOutlookTask({{L"Subject", L"Call"}});
     const Object task = TaskAt(1);
     const CallCounter calls;
-    tasks::LinkContact(task, L"Zhang", L"Wei");
+    links::LinkContact(task, L"Zhang", L"Wei");
     EXPECT_EQ(0, calls.Of(L"TaskItem.Save"));
     EXPECT_EQ(1, calls.Of(L"ContactItem.Save"));
 }

@@ -7,6 +7,7 @@
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
+#include "tasks/Tasks.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/tasks/TaskTest.h"
 
@@ -57,10 +58,10 @@ class TaskExchange : public testing::Test
         mMailbox->AddItem(kTasks, properties);
     }
 
-    data::Run NewRun()
+    exchange::Run NewRun()
     {
         const automation::Object folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
-        data::Run run{.Display = mDisplay, .Folder = folder, .Items = folder.GetObject(L"Items")};
+        exchange::Run run{.Display = mDisplay, .Folder = folder, .Items = folder.GetObject(L"Items")};
         EXPECT_LE(0, data::Host().OpenRecordset(run.HostRows, L"ActivityMyActivity"));
         return run;
     }
@@ -68,17 +69,17 @@ class TaskExchange : public testing::Test
     // Proposes and writes; how many records were proposed.
     long ExchangeToOutlook()
     {
-        data::Run run = NewRun();
-        EXPECT_FALSE(run::ChangeCollection(run::kTaskCategory, run).CollectToOutlook());
-        EXPECT_FALSE(run::kTaskCategory.ApplyToOutlook(run));
+        exchange::Run run = NewRun();
+        EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectToOutlook());
+        EXPECT_FALSE(tasks::kTasks.ApplyToOutlook(run));
         return run.Pending.NewHostRecords.Count() + run.Pending.ChangedHostRecords.Count();
     }
 
     long ExchangeFromOutlook()
     {
-        data::Run run = NewRun();
-        EXPECT_FALSE(run::ChangeCollection(run::kTaskCategory, run).CollectFromOutlook());
-        EXPECT_FALSE(run::kTaskCategory.ApplyFromOutlook(run));
+        exchange::Run run = NewRun();
+        EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectFromOutlook());
+        EXPECT_FALSE(tasks::kTasks.ApplyFromOutlook(run));
         return run.Pending.NewOutlookItems.Count() + run.Pending.ChangedOutlookItems.Count();
     }
 

@@ -1,4 +1,5 @@
 #include "tests/tasks/TaskExchange.h"
+#include "tasks/Tasks.h"
 
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
@@ -204,9 +205,9 @@ TEST_F(TaskExchange, ADoubleQuoteInAContactsNameLeavesNothingOpenOnEitherSide)
                              L"('C1',1,'Zh\"ang','Wei')");
     AddHostTask(L"F_ACTNAME,F_CNTCTID", L"'One','C1'");
     AddHostTask(L"F_ACTNAME", L"'Two'");
-    data::Run run = NewRun();
-    EXPECT_FALSE(run::ChangeCollection(run::kTaskCategory, run).CollectToOutlook());
-    EXPECT_TRUE(run::kTaskCategory.ApplyToOutlook(run));
+    exchange::Run run = NewRun();
+    EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectToOutlook());
+    EXPECT_TRUE(tasks::kTasks.ApplyToOutlook(run));
     EXPECT_EQ(1, mMailbox->ItemCount(kTasks));
     EXPECT_EQ(0, mMailbox->ItemCount(kContacts));
     EXPECT_FALSE(data::Host().InTransaction());

@@ -1,5 +1,6 @@
 // Every call of a pass fails once: whatever it was, nothing is left open or half-written that the contract
 // does not leave, and nothing leaks.
+#include "tasks/Tasks.h"
 #include "tests/tasks/TaskExchange.h"
 
 #include "automation/Error.h"
@@ -64,10 +65,10 @@ TEST_F(TaskFailure, FromOutlookEachTaskIsWrittenWholeOrNotAtAllAndTheNextRunConv
         {
             mHost.Database().Execute(std::wstring(L"DELETE FROM ") + table);
         }
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Pending.NewOutlookItems.Add(L"1", 0);
         run.Pending.NewOutlookItems.Add(L"2", 0);
-        MessagesDuring([&] { failed = WithFailureAt(k, [&] { run::kTaskCategory.ApplyFromOutlook(run); }); });
+        MessagesDuring([&] { failed = WithFailureAt(k, [&] { tasks::kTasks.ApplyFromOutlook(run); }); });
         EXPECT_FALSE(mHost.Database().InTransaction());
         EXPECT_EQ(Count(L"TBLACCOUNT"), Count(L"TBLACCINFO"));
         EXPECT_EQ(L"0",
@@ -93,11 +94,11 @@ TEST_F(TaskFailure, TowardsOutlookAPassThatDoesNotReportAFailureHasWrittenEveryt
     {
         SCOPED_TRACE(++k);
         UseNewMailbox();
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Pending.NewHostRecords.Add(1L, 0);
         run.Pending.NewHostRecords.Add(2L, 0);
         bool reported = false;
-        failed = WithFailureAt(k, [&] { reported = run::kTaskCategory.ApplyToOutlook(run); });
+        failed = WithFailureAt(k, [&] { reported = tasks::kTasks.ApplyToOutlook(run); });
         EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
         if (!reported)
         {

@@ -79,7 +79,7 @@ TEST_F(TaskFieldsFromOutlook, ATaskWithAStartDateStoresItsReminder)
 TEST_F(TaskFieldsFromOutlook, StartDueAndCompletionDatesAreStoredWithoutATimeOfDay)
 {
     Relate({{L"F_ACTPSTIME", L"StartDate"}, {L"F_ACTMADE", L"DueDate"}, {L"F_ACTMADE", L"DateCompleted"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
     EXPECT_EQ(
         0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, sandbox::MakeObject<CompletedTaskWithTimes>()));

@@ -1,4 +1,4 @@
-#include "tasks/TaskLinks.h"
+#include "links/TaskLinks.h"
 
 #include "tasks/TasksFromOutlook.h"
 #include "tests/support/MessageBoxes.h"
@@ -31,14 +31,14 @@ class TaskLinks : public test_support::TaskTest
     {
         std::wstring fields;
         std::wstring values;
-        EXPECT_EQ(0, tasks::ChangeNewTaskContact(TaskAt(1), fields, values));
+        EXPECT_EQ(0, links::ChangeNewTaskContact(TaskAt(1), fields, values));
         return fields + L"|" + values;
     }
 
     std::wstring UpdatedContact()
     {
         std::wstring setList;
-        EXPECT_EQ(0, tasks::ChangeEditTaskContact(TaskAt(1), setList));
+        EXPECT_EQ(0, links::ChangeEditTaskContact(TaskAt(1), setList));
         return setList;
     }
 
@@ -46,14 +46,14 @@ class TaskLinks : public test_support::TaskTest
     {
         std::wstring fields;
         std::wstring values;
-        EXPECT_EQ(0, tasks::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
+        EXPECT_EQ(0, links::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
         return fields + L"|" + values;
     }
 
     std::wstring UpdatedAccount()
     {
         std::wstring setList;
-        EXPECT_EQ(0, tasks::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
+        EXPECT_EQ(0, links::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
         return setList;
     }
 
@@ -92,13 +92,13 @@ TEST_F(TaskLinks, AFragmentAfterOthersCarriesAComma)
     Host().Found[kLookupContact] = L"C1";
     std::wstring fields = L"F_ACTNAME";
     std::wstring values = L"'Call'";
-    EXPECT_EQ(0, tasks::ChangeNewTaskContact(TaskAt(1), fields, values));
-    EXPECT_EQ(0, tasks::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
+    EXPECT_EQ(0, links::ChangeNewTaskContact(TaskAt(1), fields, values));
+    EXPECT_EQ(0, links::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
     EXPECT_EQ(L"F_ACTNAME,F_CNTCTID,F_ACCID", fields);
     EXPECT_EQ(L"'Call','C1',NULL", values);
     std::wstring setList = L"F_ACTNAME='Call'";
-    EXPECT_EQ(0, tasks::ChangeEditTaskContact(TaskAt(1), setList));
-    EXPECT_EQ(0, tasks::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
+    EXPECT_EQ(0, links::ChangeEditTaskContact(TaskAt(1), setList));
+    EXPECT_EQ(0, links::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
     EXPECT_EQ(L"F_ACTNAME='Call',F_CNTCTID='C1',F_ACCID=NULL", setList);
 }
 
@@ -213,7 +213,7 @@ TEST_F(TaskLinks, ALookupsErrorIsShownWithTheNumberThatAScriptWouldSee)
     Host().FailureCode = static_cast<HRESULT>(0x800A0CC1);
     const auto messages = MessagesDuring([&] {
         std::wstring setList;
-        EXPECT_EQ(-1, tasks::ChangeEditTaskContact(TaskAt(1), setList));
+        EXPECT_EQ(-1, links::ChangeEditTaskContact(TaskAt(1), setList));
     });
     ASSERT_EQ(1u, messages.size());
     EXPECT_EQ(L"3265:no such table", messages[0].text);
@@ -229,13 +229,13 @@ TEST_F(TaskLinks, AFailedLookupIsShownUnderTheNameOfItsBuilderAndIsAFailure)
     std::wstring setList = L"F_ACTNAME='Call'";
     const auto shown = [](auto&& build) { return MessagesDuring([&] { EXPECT_EQ(-1, build()); }); };
     EXPECT_EQ(Failure(L"ChangeNewTaskContact"),
-              shown([&] { return tasks::ChangeNewTaskContact(task, fields, values); }));
+              shown([&] { return links::ChangeNewTaskContact(task, fields, values); }));
     EXPECT_EQ(Failure(L"ChangeEditTaskContact"),
-              shown([&] { return tasks::ChangeEditTaskContact(task, setList); }));
+              shown([&] { return links::ChangeEditTaskContact(task, setList); }));
     EXPECT_EQ(Failure(L"ChangeAddTaskAccount"),
-              shown([&] { return tasks::ChangeAddTaskAccount(mCatalogue, task, fields, values); }));
+              shown([&] { return links::ChangeAddTaskAccount(mCatalogue, task, fields, values); }));
     EXPECT_EQ(Failure(L"ChangeEditTaskAccount"),
-              shown([&] { return tasks::ChangeEditTaskAccount(mCatalogue, task, setList); }));
+              shown([&] { return links::ChangeEditTaskAccount(mCatalogue, task, setList); }));
     EXPECT_EQ(L"F_ACTNAME", fields);
     EXPECT_EQ(L"'Call'", values);
     EXPECT_EQ(L"F_ACTNAME='Call'", setList);
@@ -246,7 +246,7 @@ TEST_F(TaskLinks, ATaskWhoseLinkFailsIsRolledBackAndThePassGoesOn)
     AddOutlookTask({{L"Subject", L"One"}, {L"ContactNames", L"张伟"}});
     AddOutlookTask({{L"Subject", L"Two"}});
     Host().Failing = {{kLookupContact, L"no such table"}};
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     run.Pending.NewOutlookItems.Add(L"2", 0);
     const auto messages = MessagesDuring([&] { EXPECT_FALSE(tasks::SynTaskFromOutlook(run)); });

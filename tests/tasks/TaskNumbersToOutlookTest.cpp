@@ -24,7 +24,7 @@ TEST_F(TaskNumbersToOutlook, ATaskWithoutALevelThatOutlookKnowsKeepsItsImportanc
         Execute(L"DELETE FROM Activities");
         AddHostTask({{L"F_ACTLEVEL", level}, {L"F_ACTNAME", L"'First'"}});
         AddHostTask({{L"F_ACTLEVEL", L"3"}, {L"F_ACTNAME", L"'Behind'"}});
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         run.Pending.NewHostRecords.Add(1L, 0);
         run.Pending.NewHostRecords.Add(2L, 0);
         EXPECT_FALSE(tasks::SynTaskToOutlook(run));
@@ -33,7 +33,7 @@ TEST_F(TaskNumbersToOutlook, ATaskWithoutALevelThatOutlookKnowsKeepsItsImportanc
     }
     Execute(L"DELETE FROM Activities WHERE F_ACTLEVEL=3");
     AddOutlookTask({{L"Importance", 2}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 1);
     run.Pending.ChangedOutlookItems.Add(std::to_wstring(CountTasks()), 1);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));

@@ -89,7 +89,7 @@ long TaskTest::AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) c
     return mMailbox->AddItem(kTasks, properties);
 }
 
-data::Run TaskTest::NewRun()
+exchange::Run TaskTest::NewRun()
 {
     const Object folder = Namespace().GetObject(L"GetDefaultFolder", 13L);
     return {.Display = mDisplay,
@@ -101,7 +101,7 @@ data::Run TaskTest::NewRun()
 
 Object TaskTest::WriteNewTask()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
     return TaskAt(CountTasks());
@@ -109,7 +109,7 @@ Object TaskTest::WriteNewTask()
 
 Object TaskTest::WriteExistingTask()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 1);
     run.Pending.ChangedOutlookItems.Add(L"1", 1);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
@@ -118,14 +118,14 @@ Object TaskTest::WriteExistingTask()
 
 void TaskTest::InsertFirstTask()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
 }
 
 void TaskTest::UpdateFirstTask()
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 0);
     run.Pending.ChangedOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));

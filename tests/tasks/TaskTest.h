@@ -3,7 +3,7 @@
 #pragma once
 
 #include "automation/Dates.h"
-#include "data/Run.h"
+#include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/database/Connection.h"
 #include "sandbox/outlook/Outlook.h"
@@ -45,7 +45,7 @@ class TaskTest : public testing::Test
     long AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const;
 
     // A run over the host tasks and the task folder as they are now.
-    data::Run NewRun();
+    exchange::Run NewRun();
     // Writes host task 1 as a new task, or over the folder's task 1, and returns that task.
     automation::Object WriteNewTask();
     automation::Object WriteExistingTask();

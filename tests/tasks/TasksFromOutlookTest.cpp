@@ -22,7 +22,7 @@ class TasksFromOutlook : public test_support::TaskTest
     // A run that inserts the folder's tasks.
     bool InsertAll()
     {
-        data::Run run = NewRun();
+        exchange::Run run = NewRun();
         for (long i = 1; i <= CountTasks(); ++i)
         {
             run.Pending.NewOutlookItems.Add(std::to_wstring(i), 0);
@@ -54,7 +54,7 @@ TEST_F(TasksFromOutlook, TheRelationRowsAndTheCatalogueAreOpenedAsTheContractHas
 {
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddOutlookTask({{L"Subject", L"Call"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     const test_support::OpenedRecordsets opened;
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
@@ -159,7 +159,7 @@ TEST_F(TasksFromOutlook, TheWriterSaysWhetherTheTaskWasWritten)
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddOutlookTask({{L"Subject", L"Call"}});
     AddOutlookTask({});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
     EXPECT_EQ(0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
     EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(2)));
@@ -171,7 +171,7 @@ TEST_F(TasksFromOutlook, AnyOtherModeSaysSoInEnglishInBothLanguagesAndWritesNoth
 {
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddOutlookTask({{L"Subject", L"Call"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
     for (const Language language : {Language::English, Language::Chinese})
     {
@@ -190,7 +190,7 @@ TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
     AddHostTask({});
     AddHostTask({});
     AddOutlookTask({{L"Subject", L"One"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 0);
     run.Pending.ChangedOutlookItems.Add(L"1", 1);
     run.Pending.ChangedHostRecords.Add(2L, 1); // the mark of the item decides
@@ -208,7 +208,7 @@ TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
 TEST_F(TasksFromOutlook, AnItemThatIsGoneEndsThePass)
 {
     AddOutlookTask({{L"Subject", L"One"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"7", 0);
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_TRUE(tasks::SynTaskFromOutlook(run));

@@ -199,7 +199,7 @@ TEST_F(TasksToOutlook, WithoutAReminderOrAStartTheReminderTimeIsNotWritten)
 TEST_F(TasksToOutlook, AnEmptyTextForTheStartIsNoStart)
 {
     Relate({{L"F_ACTREMIND", L"ReminderSet"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.HostRows =
         automation::Recordset(sandbox::MakeRecordset({{{L"F_ACTREMIND"}, {L"F_ACTPSTIME"}}, {{true, L""}}}));
     run.Pending.NewHostRecords.Add(1L, 0);
@@ -247,7 +247,7 @@ TEST_F(TasksToOutlook, TheRelationRowsAreReadOncePerPass)
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddHostTask({{L"F_ACTNAME", L"'One'"}});
     AddHostTask({{L"F_ACTNAME", L"'Two'"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     run.Pending.NewHostRecords.Add(2L, 0);
     const CallCounter calls;
@@ -263,7 +263,7 @@ TEST_F(TasksToOutlook, AnyModeButNewAndExistingTouchesNothing)
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddHostTask({{L"F_ACTNAME", L"'Call'"}});
     AddOutlookTask({{L"Subject", L"As it was"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
     const Object task = TaskAt(1);
     const CallCounter calls;
@@ -283,7 +283,7 @@ TEST_F(TasksToOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
     AddHostTask({{L"F_ACTNAME", L"'Two'"}});
     AddOutlookTask({{L"Subject", L"A"}});
     AddOutlookTask({{L"Subject", L"B"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 0);
     run.Pending.ChangedOutlookItems.Add(L"2", 0);
     run.Pending.ChangedHostRecords.Add(2L, 1);
@@ -299,7 +299,7 @@ TEST_F(TasksToOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
 
 TEST_F(TasksToOutlook, TheStatusTextIsInTheInterfaceLanguage)
 {
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     const test_support::WithLanguage chinese(Language::Chinese);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
     EXPECT_EQ(L"正在进行数据传输，请稍候...", mDisplay.Events.front());
@@ -315,7 +315,7 @@ TEST_F(TasksToOutlook, AnErrorEndsThePassAndWhatWasWrittenStays)
                  {L"CONTACT_SURNAME", L"'Sm\"ith'"},
                  {L"CONTACT_GIVENNAME", L"'Mary'"}});
     AddHostTask({{L"F_ACTNAME", L"'Three'"}, {L"F_ACTTYPE", L"'Phone'"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     for (const long row : {1, 2, 3})
     {
         run.Pending.NewHostRecords.Add(row, 0);
@@ -332,7 +332,7 @@ TEST_F(TasksToOutlook, RelationRowsThatCannotBeReadEndThePass)
 {
     Execute(L"DROP TABLE SynRelation");
     AddHostTask({{L"F_ACTNAME", L"'One'"}});
-    data::Run run = NewRun();
+    exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     EXPECT_TRUE(tasks::SynTaskToOutlook(run));
     EXPECT_EQ(0, CountTasks());

@@ -1,4 +1,4 @@
-#include "data/FrmMessage.h"
+#include "run/FrmMessage.h"
 
 #include "tests/support/Drive.h"
 #include "tests/ui/Interface.h"
@@ -9,8 +9,8 @@ namespace
 {
 
 using namespace ui_tests;
-using data::ConfirmHeading;
-using data::ConfirmSection;
+using run::ConfirmHeading;
+using run::ConfirmSection;
 using test_support::Drive;
 using test_support::Robot;
 using test_support::ShownDialog;
@@ -44,7 +44,7 @@ void Confirm(long transType, const data::Changes& changes, const std::wstring& c
 {
     state::Shared().gSynParameter.TransType = transType;
     Drive([&](Robot& robot) { script(robot, robot.WaitForDialog()); },
-          [&] { data::ShowConfirmation(category, changes); });
+          [&] { run::ShowConfirmation(category, changes); });
 }
 
 TEST(ConfirmHeading, TheOneWayHeadingTowardsOutlookHasASmallOutlookAndTheTwoWayOneACapital)
@@ -87,13 +87,13 @@ TEST(ConfirmHeading, ASectionThatTheDirectionDoesNotShowHasNone)
 TEST(ConfirmTexts, NoSpaceStandsBetweenTextAndCount)
 {
     const Interface english(Language::English);
-    EXPECT_EQ(L"Addtions:12", data::AdditionsLine(12));
-    EXPECT_EQ(L"be modified:0", data::ModificationsLine(0));
-    EXPECT_EQ(L"Confirm Task Change", data::ConfirmCaption(L"Task"));
+    EXPECT_EQ(L"Addtions:12", run::AdditionsLine(12));
+    EXPECT_EQ(L"be modified:0", run::ModificationsLine(0));
+    EXPECT_EQ(L"Confirm Task Change", run::ConfirmCaption(L"Task"));
     const Interface chinese(Language::Chinese);
-    EXPECT_EQ(L"添加记录条数：12", data::AdditionsLine(12));
-    EXPECT_EQ(L"修改记录条数：0", data::ModificationsLine(0));
-    EXPECT_EQ(L"确认任务的改变", data::ConfirmCaption(L"任务"));
+    EXPECT_EQ(L"添加记录条数：12", run::AdditionsLine(12));
+    EXPECT_EQ(L"修改记录条数：0", run::ModificationsLine(0));
+    EXPECT_EQ(L"确认任务的改变", run::ConfirmCaption(L"任务"));
 }
 
 TEST(FrmMessage, ATwoWayRunWithNoChangesShowsBothSectionsWithZerosAndStillAsks)

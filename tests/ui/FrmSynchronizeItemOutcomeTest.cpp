@@ -15,7 +15,7 @@ TEST(FrmSynchronizeItem, EachCategoryLoadsItsParametersByItsKeyAndRunsItsProcedu
     {
         const Interface with(language);
         Recorder recorder;
-        recorder.DuringRun = [](data::RunDisplay& display) { display.SetStatus(L"running"); };
+        recorder.DuringRun = [](exchange::RunDisplay& display) { display.SetStatus(L"running"); };
         Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
             const std::wstring done = In(language, L"Synchronize Succeed.", L"传输操作完成。");
             for (const int row : {kTaskRow, kCalendarRow, kContactRow})
@@ -49,7 +49,7 @@ TEST(FrmSynchronizeItem, AnErrorThatEscapesARunIsAFailureAndTheDialogStaysOpen)
 {
     const Interface english(Language::English);
     Recorder recorder;
-    recorder.DuringRun = [](data::RunDisplay&) { throw std::runtime_error("from the run"); };
+    recorder.DuringRun = [](exchange::RunDisplay&) { throw std::runtime_error("from the run"); };
     Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
         ChooseAndStart(dialog, kTaskRow);
         WaitForStatus(robot, dialog, L"Translate fail!");

@@ -1,5 +1,5 @@
 // The main dialog while a run is going.
-#include "data/FrmMessage.h"
+#include "run/FrmMessage.h"
 #include "tests/ui/MainDialog.h"
 #include "ui/Dialog.h"
 
@@ -14,7 +14,7 @@ TEST(FrmSynchronizeItem, DuringARunNothingStartsASecondOneOrClosesTheDialog)
 {
     const Interface english(Language::English);
     Recorder recorder;
-    recorder.DuringRun = [](data::RunDisplay& display) {
+    recorder.DuringRun = [](exchange::RunDisplay& display) {
         const ShownDialog dialog(ui::Dialog::Shown(IDD_SYNCHRONIZEITEM)->Handle());
         const HWND list = dialog.Control(IDC_SYNC_CATEGORY);
         dialog.Click(IDC_SYNC_START);
@@ -72,8 +72,8 @@ TEST(FrmSynchronizeItem, DuringARunTheConfirmationTakesInputAsAlways)
     const Interface english(Language::English);
     Recorder recorder;
     std::atomic<bool> accepted{false};
-    recorder.DuringRun = [&](data::RunDisplay& display) {
-        data::ShowConfirmation(display.CategoryText(), {});
+    recorder.DuringRun = [&](exchange::RunDisplay& display) {
+        run::ShowConfirmation(display.CategoryText(), {});
         accepted = state::Shared().gChangesAccepted;
     };
     Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
@@ -99,7 +99,7 @@ TEST(FrmSynchronizeItem, DuringARunThePointerIsAnHourglassAndAfterItAnArrow)
                      MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
         return GetCursor();
     };
-    recorder.DuringRun = [&](data::RunDisplay&) {
+    recorder.DuringRun = [&](exchange::RunDisplay&) {
         during = pointerOver(ui::Dialog::Shown(IDD_SYNCHRONIZEITEM)->Handle());
     };
     const MainThread main;
@@ -120,11 +120,11 @@ TEST(FrmSynchronizeItem, ARunShowsItsStatusAndProgressAtOnceAndNamesItsCategory)
     bool shown = false;
     bool hidden = true;
     bool painted = false;
-    recorder.DuringRun = [&](data::RunDisplay& display) {
+    recorder.DuringRun = [&](exchange::RunDisplay& display) {
         const ShownDialog dialog(ui::Dialog::Shown(IDD_SYNCHRONIZEITEM)->Handle());
         category = display.CategoryText();
         {
-            const data::ShowsProgress progress(display);
+            const exchange::ShowsProgress progress(display);
             display.SetStatus(L"Collecting information...");
             display.SetProgress(0.5);
             shown = dialog.IsVisible(IDC_SYNC_PROGRESS);
@@ -156,7 +156,7 @@ TEST(FrmSynchronizeItem, ProgressThatWouldNotChangeThePictureDoesNotReachTheBar)
     const Interface english(Language::English);
     Recorder recorder;
     int positions = 0;
-    recorder.DuringRun = [&](data::RunDisplay& display) {
+    recorder.DuringRun = [&](exchange::RunDisplay& display) {
         const ShownDialog dialog(ui::Dialog::Shown(IDD_SYNCHRONIZEITEM)->Handle());
         const HWND bar = dialog.Control(IDC_SYNC_PROGRESS);
         SetWindowSubclass(bar, CountPositions, 1, reinterpret_cast<DWORD_PTR>(&positions));

@@ -28,7 +28,7 @@ struct Recorder
     bool IsTrans = true;
     bool Fails = false;
     std::function<void()> DuringLoading;
-    std::function<void(data::RunDisplay&)> DuringRun;
+    std::function<void(exchange::RunDisplay&)> DuringRun;
     std::wstring Loaded;         // names whose parameters were loaded, each followed by a blank
     std::wstring Ran;            // procedures that ran, likewise
     std::wstring ConfiguredKind; // that the configuration opens on
@@ -38,7 +38,7 @@ struct Recorder
     run::SynchronizeServices Services()
     {
         const auto runs = [this](const wchar_t* name) {
-            return [this, name](data::RunDisplay& display) {
+            return [this, name](exchange::RunDisplay& display) {
                 Ran += name;
                 if (DuringRun)
                 {

@@ -1,7 +1,7 @@
 // What the tests of the advanced option dialogs share: showing one, and what a robot does in it.
 #pragma once
 
-#include "config/FrmAdvanced.h"
+#include "config/dialogs/FrmAdvanced.h"
 #include "tests/ui_config/Ground.h"
 #include "tests/ui_config/Look.h"
 

@@ -1,8 +1,8 @@
 // What the tests of the folder picker share: showing it, and adding a folder as a robot does.
 #pragma once
 
-#include "config/FrmSynContent.h"
-#include "config/Pictures.h"
+#include "config/dialogs/FrmSynContent.h"
+#include "config/dialogs/Pictures.h"
 #include "tests/ui_config/Ground.h"
 #include "tests/ui_config/Look.h"
 

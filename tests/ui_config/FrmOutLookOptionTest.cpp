@@ -1,4 +1,4 @@
-#include "config/FrmOutLookOption.h"
+#include "config/dialogs/FrmOutLookOption.h"
 
 #include "tests/config/NewerProfiles.h"
 #include "tests/ui_config/Ground.h"

@@ -1,4 +1,4 @@
-#include "config/FrmSynChoose.h"
+#include "config/dialogs/FrmSynChoose.h"
 
 #include "tests/ui_config/Ground.h"
 #include "tests/ui_config/Look.h"

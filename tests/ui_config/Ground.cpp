@@ -1,6 +1,6 @@
 #include "tests/ui_config/Ground.h"
 
-#include "config/ParameterStore.h"
+#include "config/store/ParameterStore.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // What the tests of the dialog with the list of kinds share.
 #pragma once
 
-#include "config/FrmConfigure.h"
+#include "config/dialogs/FrmConfigure.h"
 #include "tests/ui_config/Ground.h"
 #include "tests/ui_config/Look.h"
 

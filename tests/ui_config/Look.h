@@ -1,7 +1,7 @@
 // What a robot sees of, and does to, the controls that only the configuration dialogs have.
 #pragma once
 
-#include "sandbox/robot/ShownDialog.h"
+#include "tools/robot/ShownDialog.h"
 
 #include <string>
 #include <vector>

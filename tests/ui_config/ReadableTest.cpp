@@ -1,10 +1,10 @@
 // Every configuration dialog in both languages and at the sizes that screens of 96, 144 and 192 DPI show:
 // nothing is clipped, nothing leaves the dialog, accelerators are unique, prompts leave no gap.
-#include "config/FrmAdvanced.h"
-#include "config/FrmConfigure.h"
-#include "config/FrmOutLookOption.h"
-#include "config/FrmSynChoose.h"
-#include "config/FrmSynContent.h"
+#include "config/dialogs/FrmAdvanced.h"
+#include "config/dialogs/FrmConfigure.h"
+#include "config/dialogs/FrmOutLookOption.h"
+#include "config/dialogs/FrmSynChoose.h"
+#include "config/dialogs/FrmSynContent.h"
 #include "tests/ui_config/Ground.h"
 #include "tests/ui_config/Look.h"
 

@@ -1,0 +1,191 @@
+#include "config/dialogs/FrmAdvanced.h"
+
+#include "config/dialogs/FrmAdvActivites.h"
+#include "config/dialogs/FrmAdvCalendar.h"
+#include "config/dialogs/FrmAdvContacts.h"
+#include "config/dialogs/NotLoaded.h"
+#include "config/store/UserRows.h"
+#include "data/Literals.h"
+#include "resources/Strings.h"
+#include "state/Failures.h"
+#include "state/SharedState.h"
+#include "ui/FitText.h"
+
+namespace config
+{
+
+namespace
+{
+
+constexpr UINT kConflictCaptions[] = {IDS_CONFLICT_ADD_ALL, IDS_CONFLICT_IGNORE_ALL, IDS_CONFLICT_NOTIFY,
+                                      IDS_CONFLICT_HOST_WINS, IDS_CONFLICT_OUTLOOK_WINS};
+constexpr int kConflictCount = static_cast<int>(std::size(kConflictCaptions));
+
+std::wstring WhereOf(const wchar_t* objectName)
+{
+    return L"TransObject=" + data::QuotedText(objectName);
+}
+
+} // namespace
+
+FrmAdvanced::FrmAdvanced(UINT templateId, const wchar_t* objectName)
+    : Dialog(templateId),
+      SstbOption(*this, IDC_ADV_TABS),
+      lblConflict(*this, IDC_ADV_CONFLICT_EXPLANATION),
+      fraConflict(*this, IDC_ADV_CONFLICT_FRAME),
+      OptConflict(*this, IDC_ADV_CONFLICT, kConflictCount, state::kAddAllConflicting),
+      CmdOk(*this, IDOK),
+      cmdCancel(*this, IDCANCEL),
+      mObjectName(objectName)
+{
+}
+
+void FrmAdvanced::OnInit()
+{
+    SetCaptions();
+    SstbOption.AddPage(resources::String(IDS_CONFLICT_TAB),
+                       {{IDC_ADV_CONFLICT_EXPLANATION, IDC_ADV_CONFLICT + kConflictCount - 1}});
+    AddRangePage(SstbOption);
+    FitExplanations();
+    mIsLoaded = state::Trapped(false, [&] { return Load(); });
+    if (!mIsLoaded)
+    {
+        TellThatNothingIsLoaded();
+        CmdOk.Enable(false);
+    }
+}
+
+// The pages' explanations lie in one place.
+void FrmAdvanced::FitExplanations()
+{
+    ui::Label lblRange(*this, IDC_ADV_RANGE_EXPLANATION);
+    if (lblRange.Handle() != nullptr)
+    {
+        ui::FitLabels(*this, {&lblConflict, &lblRange});
+    }
+    else
+    {
+        ui::FitLabels(*this, {&lblConflict});
+    }
+}
+
+void FrmAdvanced::SetCaptions()
+{
+    SetCaption(Caption());
+    lblConflict.SetText(resources::String(IDS_CONFLICT_EXPLANATION));
+    fraConflict.SetText(resources::String(IDS_OPTIONS));
+    for (int i = 0; i < kConflictCount; ++i)
+    {
+        OptConflict.SetText(state::kAddAllConflicting + i, resources::String(kConflictCaptions[i]));
+    }
+    CmdOk.SetText(resources::String(IDS_OK));
+    cmdCancel.SetText(resources::String(IDS_CANCEL));
+}
+
+// False for failure.
+bool FrmAdvanced::Load()
+{
+    automation::Recordset row;
+    const automation::ClosesRecordset closes(row);
+    if (OpenUserRecordset(row, L"Select * From " + std::wstring(kParameterTable) + L" Where " +
+                                   WhereOf(mObjectName)) ||
+        row.AtEnd())
+    {
+        return false;
+    }
+    mConflictCode = CodeIn(row, L"TransConflictOption");
+    state::EditedParameter().TransConflictOption = mConflictCode.value_or(kNoCode);
+    OptConflict.Select(state::EditedParameter().TransConflictOption);
+    LoadRange(row);
+    return true;
+}
+
+Code FrmAdvanced::CodeIn(const automation::Recordset& row, const wchar_t* column)
+{
+    const automation::Value value = row.ValueOf(column);
+    return automation::IsEmptyOrNull(value)
+               ? Code()
+               : state::Trapped(Code(), [&] { return Code(automation::LongOf(value)); });
+}
+
+void FrmAdvanced::UpdateRow(const std::wstring& setClause) const
+{
+    if (!setClause.empty())
+    {
+        UpdateUserRows(setClause, kParameterTable, WhereOf(mObjectName));
+    }
+}
+
+void FrmAdvanced::OnCommand(int id, int notification)
+{
+    state::Trapped(false, [&] {
+        if (const auto code = OptConflict.Clicked(id, notification))
+        {
+            mConflictCode = *code;
+        }
+        else if (id == IDOK)
+        {
+            if (mIsLoaded)
+            {
+                Store();
+            }
+            Unload(IDOK);
+        }
+        else if (id == IDCANCEL)
+        {
+            Unload();
+        }
+        else
+        {
+            OnRange(id, notification);
+        }
+        return true;
+    });
+}
+
+LRESULT FrmAdvanced::OnNotify(const NMHDR& notification)
+{
+    SstbOption.Follow(notification);
+    return 0;
+}
+
+int FrmAdvanced::FirstFocus() const
+{
+    return OptConflict.IdToFocus();
+}
+
+namespace
+{
+
+template<typename Form>
+void Show()
+{
+    Form().ShowModal();
+}
+
+struct AdvancedForm
+{
+    const wchar_t* TransObject;
+    void (*Show)();
+};
+
+constexpr AdvancedForm kForms[] = {
+    {L"Contact", &Show<FrmAdvContacts>},
+    {L"Task", &Show<FrmAdvActivites>},
+    {L"Calendar", &Show<FrmAdvCalendar>},
+};
+
+} // namespace
+
+void ShowAdvancedOptions(const std::wstring& objectName)
+{
+    for (const AdvancedForm& form : kForms)
+    {
+        if (objectName == form.TransObject)
+        {
+            form.Show();
+        }
+    }
+}
+
+} // namespace config

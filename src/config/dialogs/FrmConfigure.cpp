@@ -1,0 +1,210 @@
+#include "config/dialogs/FrmConfigure.h"
+
+#include "config/dialogs/FrmAdvanced.h"
+#include "config/dialogs/FrmSynChoose.h"
+#include "config/dialogs/NotLoaded.h"
+#include "config/store/ParameterStore.h"
+#include "config/store/UserRows.h"
+#include "data/Literals.h"
+#include "exchange/KindName.h"
+#include "resources/Strings.h"
+#include "state/Failures.h"
+#include "state/SharedState.h"
+
+#include <utility>
+
+namespace config
+{
+
+namespace
+{
+
+constexpr int kArrowColumn = 1;
+constexpr int kArrowColumnWidth = 10; // dialog units; the column then takes what is left
+
+// The row's own picture, or that of its kind where the row names none that there is.
+int PictureOfKind(const Translation& row)
+{
+    const int picture = Pictures::IndexOf(row.TransObjectPic);
+    const exchange::KindName* kind = exchange::FindKindName(row.TransObject);
+    return picture >= 0 || kind == nullptr ? picture : Pictures::IndexOf(kind->Picture);
+}
+
+} // namespace
+
+FrmConfigure::FrmConfigure()
+    : Dialog(IDD_CONFIGURE),
+      lblTran(*this, IDC_CONFIGURE_LABEL),
+      lvTran(*this, IDC_CONFIGURE_LIST),
+      cmdChoose(*this, IDC_CONFIGURE_CHOOSE),
+      cmdAdvance(*this, IDC_CONFIGURE_ADVANCE),
+      CmdOk(*this, IDOK),
+      cmdCancel(*this, IDCANCEL)
+{
+}
+
+void FrmConfigure::OnInit()
+{
+    SetCaption(resources::Choose(L"配置同步传输", L"Config Translation"));
+    lblTran.SetText(resources::Choose(L"本系统同步项目:", L"Quenlar Applications"));
+    cmdAdvance.SetText(resources::Choose(L"高级(&A)...", L"&Advanced..."));
+    cmdChoose.SetText(resources::Choose(L"选择(&S)...", L"Choo&se..."));
+    CmdOk.SetText(resources::String(IDS_OK));
+    cmdCancel.SetText(resources::String(IDS_CANCEL));
+    lvTran.Prepare();
+    lvTran.UsePictures(mPictures.List());
+    lvTran.UseCheckBoxes();
+    state::Trapped(false, [&] {
+        FillList();
+        SelectKindOfRecord();
+        return true;
+    });
+}
+
+void FrmConfigure::FillList()
+{
+    auto rows = LoadTranslations();
+    if (!rows)
+    {
+        TellThatNothingIsLoaded();
+        CmdOk.Enable(false);
+    }
+    mRows = std::move(rows).value_or(std::vector<Translation>());
+    lvTran.AddColumn(resources::String(IDS_CATEGORY), 0);
+    lvTran.AddColumn(resources::String(IDS_CHOOSE_OPERATION), kArrowColumnWidth);
+    for (const Translation& translation : mRows)
+    {
+        const int row = lvTran.Add(translation.Name, translation.TransObject);
+        lvTran.SetPicture(row, 0, PictureOfKind(translation));
+        Redraw(row);
+    }
+    lvTran.FitFirstColumn();
+    lvTran.FillWidth();
+}
+
+void FrmConfigure::SelectKindOfRecord()
+{
+    for (size_t i = 0; i < mRows.size(); ++i)
+    {
+        if (mRows[i].TransObject == state::EditedParameter().TransObject)
+        {
+            lvTran.Select(static_cast<int>(i));
+            return;
+        }
+    }
+}
+
+// The stored values, with what has been edited here and is not stored yet.
+void FrmConfigure::DescribeSelected(int row)
+{
+    const Translation& translation = mRows.at(static_cast<size_t>(row));
+    // What cannot be loaded stays as it is in the record, and a folder of another kind must not be shown.
+    state::EditedParameter().CurrentFolder.clear();
+    state::EditedParameter().DefaultFolder.clear();
+    SetSynParamenter(state::EditedParameter(), translation.TransObject);
+    state::EditedParameter().TransObject = translation.TransObject;
+    if (const exchange::KindName* kind = exchange::FindKindName(translation.TransObject); kind != nullptr)
+    {
+        state::EditedParameter().TransObjectPic = kind->Picture;
+    }
+    ApplyTo(state::EditedParameter(), translation);
+}
+
+void FrmConfigure::EnableButtons()
+{
+    const bool isSelected = lvTran.Selected().has_value();
+    cmdChoose.Enable(isSelected);
+    cmdAdvance.Enable(isSelected);
+}
+
+void FrmConfigure::Redraw(int row)
+{
+    const Translation& translation = mRows.at(static_cast<size_t>(row));
+    const bool drawingBefore = std::exchange(mDrawing, true);
+    lvTran.Check(row, translation.Checked);
+    const Direction* direction = FindDirection(translation.Arrow());
+    lvTran.SetText(row, kArrowColumn,
+                   direction != nullptr ? resources::String(direction->Caption) : std::wstring());
+    lvTran.SetPicture(row, kArrowColumn, Pictures::IndexOf(translation.Arrow()));
+    mDrawing = drawingBefore;
+}
+
+void FrmConfigure::TakeCheckMark(int row)
+{
+    SetChecked(mRows.at(static_cast<size_t>(row)), lvTran.IsChecked(row));
+    Redraw(row);
+    if (lvTran.Selected() == row)
+    {
+        ApplyTo(state::EditedParameter(), mRows[static_cast<size_t>(row)]);
+    }
+}
+
+LRESULT FrmConfigure::OnNotify(const NMHDR& notification)
+{
+    return state::Trapped(LRESULT{0}, [&] {
+        if (lvTran.IsSelectionChange(notification))
+        {
+            if (const auto selected = lvTran.NewlySelected(notification))
+            {
+                DescribeSelected(*selected);
+            }
+            EnableButtons();
+        }
+        else if (const auto toggled = lvTran.Toggled(notification); toggled && !mDrawing)
+        {
+            TakeCheckMark(*toggled);
+        }
+        return LRESULT{0};
+    });
+}
+
+void FrmConfigure::OnCommand(int id, int notification)
+{
+    state::Trapped(false, [&] {
+        switch (id)
+        {
+        case IDC_CONFIGURE_CHOOSE: OnChoose(); break;
+        case IDC_CONFIGURE_ADVANCE: OnAdvance(); break;
+        case IDOK: OnOk(); break;
+        default: Dialog::OnCommand(id, notification); break;
+        }
+        return true;
+    });
+}
+
+void FrmConfigure::OnChoose()
+{
+    const auto row = lvTran.Selected();
+    if (!row)
+    {
+        return;
+    }
+    FrmSynChoose().ShowModal();
+    TakeFrom(mRows.at(static_cast<size_t>(*row)), state::EditedParameter());
+    Redraw(*row);
+}
+
+void FrmConfigure::OnAdvance()
+{
+    ShowAdvancedOptions(state::EditedParameter().TransObject);
+}
+
+void FrmConfigure::OnOk()
+{
+    for (const Translation& row : mRows)
+    {
+        UpdateUserRows(TranslationSetClause(row), kParameterTable,
+                       L"TransObject=" + data::QuotedText(row.TransObject));
+    }
+    Unload(IDOK);
+}
+
+void ShowConfigure()
+{
+    state::Trapped(false, [] {
+        FrmConfigure().ShowModal();
+        return true;
+    });
+}
+
+} // namespace config

@@ -1,0 +1,14 @@
+#include "config/dialogs/NotLoaded.h"
+
+#include "resources/Strings.h"
+#include "ui/ShowMessage.h"
+
+namespace config
+{
+
+void TellThatNothingIsLoaded()
+{
+    ui::ShowMessage(resources::String(IDS_ERROR), 0, resources::String(IDS_NOT_LOADED));
+}
+
+} // namespace config

@@ -1,0 +1,120 @@
+#include "config/store/ChosenFolders.h"
+
+#include "config/store/UserRows.h"
+#include "data/Host.h"
+#include "data/Literals.h"
+#include "state/Failures.h"
+
+#include <algorithm>
+
+namespace config
+{
+
+using automation::Recordset;
+
+std::optional<ChosenFolders> LoadChosenFolders(const exchange::KindName& kind)
+{
+    using Result = std::optional<ChosenFolders>;
+    Recordset rows;
+    const automation::ClosesRecordset closes(rows);
+    return state::Trapped(Result(), [&] {
+        if (OpenUserRecordset(rows, L"Select * From " + std::wstring(kFolderTable) +
+                                        L" Where TransObjectID=" + std::to_wstring(kind.TransObjectID)))
+        {
+            return Result();
+        }
+        ChosenFolders folders;
+        for (; !rows.AtEnd(); rows.MoveNext())
+        {
+            folders.push_back({automation::TextOrEmpty(rows.ValueOf(L"OutlookFolder")), false});
+            if (IsSet(rows.ValueOf(L"IsDefault"))) // of several, the last one counts
+            {
+                MakeDefault(folders, folders.size() - 1);
+            }
+        }
+        return Result(std::move(folders));
+    });
+}
+
+bool IsListed(const ChosenFolders& folders, const std::wstring& path)
+{
+    return std::any_of(folders.begin(), folders.end(), [&](const auto& one) { return one.Path == path; });
+}
+
+bool AddFolder(ChosenFolders& folders, const std::wstring& path)
+{
+    if (IsListed(folders, path))
+    {
+        return false;
+    }
+    folders.push_back({path, !DefaultOf(folders)});
+    return true;
+}
+
+void RemoveFolder(ChosenFolders& folders, size_t index)
+{
+    const bool wasDefault = folders.at(index).IsDefault;
+    folders.erase(folders.begin() + static_cast<std::ptrdiff_t>(index));
+    if (wasDefault && !folders.empty())
+    {
+        MakeDefault(folders, std::min(index, folders.size() - 1));
+    }
+}
+
+void MakeDefault(ChosenFolders& folders, size_t index)
+{
+    for (size_t i = 0; i < folders.size(); ++i)
+    {
+        folders[i].IsDefault = i == index;
+    }
+}
+
+std::optional<size_t> DefaultOf(const ChosenFolders& folders)
+{
+    const auto found =
+        std::find_if(folders.begin(), folders.end(), [](const auto& one) { return one.IsDefault; });
+    return found != folders.end() ? std::optional(static_cast<size_t>(found - folders.begin()))
+                                  : std::nullopt;
+}
+
+std::wstring FolderValueList(const exchange::KindName& kind, const ChosenFolder& folder)
+{
+    return std::to_wstring(kind.TransObjectID) + L"," + data::QuotedText(folder.Path) +
+           (folder.IsDefault ? L",1" : L",0");
+}
+
+bool StoreChosenFolders(const exchange::KindName& kind, const ChosenFolders& folders)
+{
+    return state::Trapped(true, [&] {
+        const data::Host host;
+        RequireAccepted(host.Delete(kFolderTable, L"TransObjectID=" + std::to_wstring(kind.TransObjectID) +
+                                                      L" And F_UID=" + host.UserIdLiteral()),
+                        L"Delete");
+        for (const ChosenFolder& folder : folders)
+        {
+            InsertUserRow(L"TransObjectID,OutlookFolder,IsDefault", FolderValueList(kind, folder),
+                          kFolderTable);
+        }
+        return false;
+    });
+}
+
+void TakeCurrentFolder(state::SynParameter& record, const ChosenFolders& folders,
+                       std::optional<size_t> selected)
+{
+    if (folders.empty())
+    {
+        record.CurrentFolder.clear();
+        record.DefaultFolder.clear();
+    }
+    else if (folders.size() == 1)
+    {
+        record.CurrentFolder = folders.front().Path;
+    }
+    else if (selected)
+    {
+        record.CurrentFolder = folders.at(*selected).Path;
+    }
+}
+
+} // namespace config

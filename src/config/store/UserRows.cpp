@@ -1,0 +1,59 @@
+#include "config/store/UserRows.h"
+
+#include "automation/Error.h"
+#include "data/Host.h"
+#include "state/Failures.h"
+
+namespace config
+{
+
+void RequireAccepted(long status, const wchar_t* member)
+{
+    if (status < 0)
+    {
+        throw automation::Error(E_FAIL, member, L"The host reports " + std::to_wstring(status) + L".");
+    }
+}
+
+bool IsSet(const automation::Value& flag)
+{
+    return !automation::IsEmptyOrNull(flag) && automation::TruthOf(flag);
+}
+
+bool OpenUserRecordset(automation::Recordset& recordset, const std::wstring& whereOrSql)
+{
+    return state::Trapped(true, [&] {
+        const data::Host host;
+        const std::wstring ofUser = L"F_UID=" + host.UserIdLiteral();
+        const std::wstring sql = whereOrSql.empty() ? ofUser : whereOrSql + L" And " + ofUser;
+        RequireAccepted(host.OpenRecordsetByString(recordset, sql), L"OpenRecordsetByString");
+        return false;
+    });
+}
+
+bool UpdateUserRows(const std::wstring& setClause, const std::wstring& tableName,
+                    const std::wstring& whereClause)
+{
+    return state::Trapped(true, [&] {
+        const data::Host host;
+        // Without a condition of its own the statement names P_UID, which is what the host has always seen.
+        const std::wstring where = whereClause.empty() ? L"P_UID=" + host.UserIdLiteral()
+                                                       : whereClause + L" And F_UID=" + host.UserIdLiteral();
+        RequireAccepted(host.Update(tableName, setClause, where), L"Update");
+        return false;
+    });
+}
+
+bool InsertUserRow(const std::wstring& columnList, const std::wstring& valueList,
+                   const std::wstring& tableName)
+{
+    return state::Trapped(true, [&] {
+        const data::Host host;
+        RequireAccepted(
+            host.Insert(tableName, columnList + L",F_UID", valueList + L"," + host.UserIdLiteral()),
+            L"Insert");
+        return false;
+    });
+}
+
+} // namespace config

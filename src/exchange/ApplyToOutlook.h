@@ -1,0 +1,30 @@
+// The apply pass towards Outlook, the same for all kinds of data: new host records become new items of the
+// folder, changed host records overwrite their partners. A category supplies the item type, the relation rows
+// and the writer of one item.
+#pragma once
+
+#include "data/RecordMode.h"
+#include "exchange/Run.h"
+
+#include <string>
+
+namespace exchange
+{
+
+struct PassToOutlook
+{
+    long ItemType;
+    const wchar_t* RelationStatement;
+    automation::OpenOptions RelationOptions;
+    // Writes the host row on which the run's recordset stands into the item, and saves it. Throws when it
+    // cannot; the pass then ends.
+    void (*Write)(Run& run, long mode, const automation::Object& item);
+    // A new item is made before the recordset moves to its row, otherwise after.
+    bool AddsItemFirst = false;
+
+    // Writes the run's pending changes; true when an error ended the pass, with the records written so far in
+    // place.
+    bool operator()(Run& run) const;
+};
+
+} // namespace exchange

@@ -1,0 +1,45 @@
+// One kind of data that can be exchanged: all that a run does differently from kind to kind. Contacts, tasks
+// and calendar entries each define one.
+#pragma once
+
+#include "data/Host.h"
+#include "exchange/ApplyFromOutlook.h"
+#include "exchange/ApplyToOutlook.h"
+#include "exchange/KindName.h"
+#include "exchange/MatchRule.h"
+#include "state/SynParameter.h"
+
+#include <functional>
+#include <string>
+
+namespace exchange
+{
+
+using RowFilter = std::function<bool(const automation::Recordset& rows)>;
+using ItemFilter = std::function<bool(const automation::Object& item)>;
+
+// Which records a direction proposes on the side that it reads from; an empty function keeps all.
+struct Filters
+{
+    RowFilter KeepsRow;
+    ItemFilter KeepsItem;
+};
+
+struct Kind
+{
+    const KindName& Name;
+    const wchar_t* RecordSource; // of the host
+    // The filter of the record source; null for none.
+    std::wstring (*SourceFilter)(const data::Host& host);
+    bool SucceedsWithoutHostRows; // tasks report success when their rows cannot be opened
+    bool AppliesFromOutlookFirst; // in a two-way run
+    unsigned CollectToOutlookTextId;
+    long PermissionKind; // of the host's rights
+    MatchRule Match;
+    // Null keeps all records.
+    Filters (*FiltersOf)(const state::SynParameter& parameter, const data::Host& host);
+    PassToOutlook ToOutlook;
+    PassFromOutlook FromOutlook;
+};
+
+} // namespace exchange

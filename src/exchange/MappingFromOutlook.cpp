@@ -1,0 +1,61 @@
+#include "exchange/MappingFromOutlook.h"
+
+#include "resources/Strings.h"
+
+#include <algorithm>
+
+namespace exchange
+{
+
+using automation::Value;
+
+namespace
+{
+
+bool IsNoColumn(const Value& value)
+{
+    return value.Type() == VT_BSTR && automation::TextOf(value) == kNoColumn;
+}
+
+} // namespace
+
+HostValue ReadAsIs(const SourceProperty& property)
+{
+    return property.Item.ValueOf(property.Name);
+}
+
+HostValue ReadUnlessEmpty(const SourceProperty& property)
+{
+    return property.Item.IsEmpty(property.Name) ? HostValue() : ReadAsIs(property);
+}
+
+HostValue ReadCategories(const SourceProperty& property)
+{
+    return property.Item.IsEmpty(property.Name) ? Value(resources::Choose(L"(未指定)", L"(Unspecified)"))
+                                                : property.Item.ValueOf(property.Name);
+}
+
+bool AddRelatedColumns(RelationTable& relations, std::span<const PropertyFromOutlook> mapping,
+                       const Value& valueOfOthers, ItemProperties& item, data::RowColumns& record)
+{
+    for (const RelationRow& relation : relations.Rows())
+    {
+        record.Column = relation.EnglishName;
+        const auto row = std::ranges::find_if(mapping, [&](const PropertyFromOutlook& candidate) {
+            return relation.OutlookName == candidate.OutlookName;
+        });
+        const HostValue value =
+            row == mapping.end() ? valueOfOthers : row->Read({item, relation.OutlookName, record});
+        if (!value)
+        {
+            return false;
+        }
+        if (!IsNoColumn(*value))
+        {
+            record.Add(relation.EnglishName, *value);
+        }
+    }
+    return true;
+}
+
+} // namespace exchange

@@ -1,0 +1,97 @@
+#include "exchange/MappingToOutlook.h"
+
+#include "automation/Dates.h"
+#include "automation/Readable.h"
+#include "data/Remark.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace exchange
+{
+
+using automation::Object;
+using automation::Value;
+
+namespace
+{
+
+void WriteRow(const RelationRow& relation, std::span<const PropertyToOutlook> mapping, const Run& run,
+              const Object& item)
+{
+    const Value stored = run.HostRows.ValueOf(relation.EnglishName);
+    const Value value = automation::IsEmptyOrNull(stored) ? Value() : stored;
+    const auto row = std::ranges::find_if(mapping, [&](const PropertyToOutlook& candidate) {
+        return relation.OutlookName == candidate.OutlookName;
+    });
+    if (row != mapping.end())
+    {
+        row->Write({run.HostRows, item, row->OutlookName, value});
+    }
+}
+
+// As Outlook rounds it.
+bool IsWithin(const std::optional<double>& number, long highest)
+{
+    return number && std::nearbyint(*number) >= 0 && std::nearbyint(*number) <= highest;
+}
+
+void PutWhere(bool isKnown, const TargetProperty& property, const Value& value)
+{
+    if (automation::IsAbsent(property.HostValue))
+    {
+        property.Put(Value());
+    }
+    else if (isKnown)
+    {
+        property.Put(value);
+    }
+    else
+    {
+        data::Remark(std::wstring(property.Name) + L" has been left as it is: Outlook does not know the value");
+    }
+}
+
+} // namespace
+
+void PutAsIs(const TargetProperty& property)
+{
+    property.Put(property.HostValue);
+}
+
+void PutDate(const TargetProperty& property)
+{
+    property.Put(automation::OutlookDate(property.HostValue).value_or(automation::kOutlookNoDate));
+}
+
+void PutTruth(const TargetProperty& property)
+{
+    PutWhere(automation::ReadableTruth(property.HostValue).has_value(), property, property.HostValue);
+}
+
+void PutNumber(const TargetProperty& property, long highest)
+{
+    const std::optional<double> number = automation::ReadableNumber(property.HostValue);
+    PutWhere(IsWithin(number, highest), property, property.HostValue);
+}
+
+void PutNumber(const TargetProperty& property, const std::optional<double>& number, long highest)
+{
+    PutWhere(IsWithin(number, highest), property, number.value_or(0));
+}
+
+void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping, const Object& item,
+                            Saves saves)
+{
+    for (const RelationRow& relation : run.Relations.Rows())
+    {
+        WriteRow(relation, mapping, run, item);
+        if (saves == Saves::AfterEachRowToo)
+        {
+            item.Call(L"Save");
+        }
+    }
+    item.Call(L"Save");
+}
+
+} // namespace exchange

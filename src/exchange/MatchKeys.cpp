@@ -1,0 +1,44 @@
+#include "exchange/MatchKeys.h"
+
+#include "automation/Dates.h"
+#include "automation/Readable.h"
+#include "automation/Text.h"
+
+namespace exchange
+{
+
+using automation::Date;
+using automation::Recordset;
+using automation::Value;
+
+std::wstring Comparable(const Value& value)
+{
+    return automation::UpperCased(automation::Trimmed(automation::TextOrEmpty(value)));
+}
+
+std::wstring ComparableCategory(const Value& value)
+{
+    const std::wstring text = Comparable(value);
+    return text == L"(UNSPECIFIED)" || text == L"(未指定)" ? std::wstring() : text;
+}
+
+std::wstring JoinedKey(const std::wstring& name, const std::wstring& category, const std::wstring& date)
+{
+    return std::to_wstring(name.size()) + L' ' + std::to_wstring(category.size()) + L' ' + name + category +
+           date;
+}
+
+std::wstring ComparableDate(const Value& value, const wchar_t* pattern)
+{
+    const std::optional<Date> date = automation::OutlookDate(value);
+    const bool isNone =
+        !date || automation::IsEmptyOrNull(automation::WithoutNoDate(automation::DayOf(*date)));
+    return isNone ? std::wstring() : automation::Formatted(*date, pattern);
+}
+
+std::wstring AccountOfRow(const Recordset& rows)
+{
+    return Comparable(rows.ValueOf(L"ACC_SNAME"));
+}
+
+} // namespace exchange

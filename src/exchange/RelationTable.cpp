@@ -1,0 +1,39 @@
+#include "exchange/RelationTable.h"
+
+#include "state/SharedState.h"
+
+namespace exchange
+{
+
+using automation::Recordset;
+using automation::TextOrEmpty;
+
+void RelationTable::Use(std::wstring statement, const automation::OpenOptions& options)
+{
+    mStatement = std::move(statement);
+    mOptions = options;
+    mRows.reset();
+}
+
+const std::vector<RelationRow>& RelationTable::Rows()
+{
+    if (!mRows)
+    {
+        Recordset relations = automation::OpenRecordset(mStatement, state::Shared().gCnnString, mOptions);
+        const automation::ClosesRecordset closes(relations);
+        std::vector<RelationRow> rows;
+        for (; !relations.AtEnd(); relations.MoveNext())
+        {
+            RelationRow row{TextOrEmpty(relations.ValueOf(L"EnglishName")),
+                            TextOrEmpty(relations.ValueOf(L"OutlookName"))};
+            if (!row.EnglishName.empty() && !row.OutlookName.empty())
+            {
+                rows.push_back(std::move(row));
+            }
+        }
+        mRows = std::move(rows);
+    }
+    return *mRows;
+}
+
+} // namespace exchange

@@ -1,0 +1,40 @@
+// Everything that belongs to one run of one category: it lives exactly as long as the run and is passed, not
+// global. The relation rows and the field catalogue are read on first use in an apply pass and kept until the
+// pass ends, since nothing that a pass writes can change them.
+#pragma once
+
+#include "automation/Recordset.h"
+#include "data/ChangeRecords.h"
+#include "data/FieldCatalogue.h"
+#include "exchange/RelationTable.h"
+#include "exchange/RunDisplay.h"
+
+#include <set>
+
+namespace exchange
+{
+
+struct Run
+{
+    RunDisplay& Display;
+    automation::Recordset HostRows{}; // the category's host rows, opened by the run driver
+    automation::Object Folder{};      // the chosen Outlook folder
+    automation::Object Items{};       // its items, fetched once
+    data::Changes Pending{};
+    RelationTable Relations{};        // of the apply pass
+    data::FieldCatalogue Catalogue{}; // of the apply pass
+    automation::InterfaceIds ItemInterfaces{};
+    // Positions of the rows that the pass from Outlook has overwritten. HostRows still shows them as they
+    // were before.
+    std::set<long> OverwrittenRows{};
+};
+
+// An item as an apply pass uses it: with many members, and after others of its class, so that the members are
+// asked for once per class and not once per item. A folder may mix classes.
+inline automation::Object ForPass(Run& run, automation::Object item)
+{
+    item.ShareMembers(run.ItemInterfaces);
+    return item;
+}
+
+} // namespace exchange

@@ -1,0 +1,54 @@
+// What a run shows while it works: three operations of the main dialog, as the collection procedures and the
+// workers need them. The main dialog implements it.
+#pragma once
+
+#include <string>
+
+namespace exchange
+{
+
+class RunDisplay
+{
+  public:
+    virtual ~RunDisplay() = default;
+
+    // The status line.
+    virtual void SetStatus(const std::wstring& text) = 0;
+    // The progress bar, hidden outside a run.
+    virtual void ShowProgress(bool visible) = 0;
+    // The part of the work that is done, from 0 to 1. Cheap when the picture would not change.
+    virtual void SetProgress(double fraction) = 0;
+    // The text of the category row that the run is for.
+    virtual std::wstring CategoryText() const = 0;
+};
+
+// The progress bar is shown from 0 on for the length of a scope.
+class ShowsProgress
+{
+  public:
+    explicit ShowsProgress(RunDisplay& display) : mDisplay(display)
+    {
+        mDisplay.SetProgress(0);
+        mDisplay.ShowProgress(true);
+    }
+    ShowsProgress(const ShowsProgress&) = delete;
+    ShowsProgress& operator=(const ShowsProgress&) = delete;
+    ~ShowsProgress() { mDisplay.ShowProgress(false); }
+
+  private:
+    RunDisplay& mDisplay;
+};
+
+// Calls act for the positions 1 to count; the progress bar advances with each of them, whatever act does.
+template<typename Act>
+void WalkWithProgress(RunDisplay& display, long count, Act&& act)
+{
+    display.SetProgress(0);
+    for (long position = 1; position <= count; ++position)
+    {
+        act(position);
+        display.SetProgress(static_cast<double>(position) / static_cast<double>(count));
+    }
+}
+
+} // namespace exchange

@@ -1,0 +1,43 @@
+// The host accounts that contacts, tasks and calendar entries are linked to: new ones with their information
+// row, and the link of a contact to its company's account and to that account's business address. Called
+// inside the record writer's transaction; everything here throws automation::Error when the host refuses, so
+// that the writer rolls back.
+#pragma once
+
+#include "automation/Object.h"
+#include "data/Host.h"
+#include "data/RowColumns.h"
+
+#include <string>
+
+namespace links
+{
+
+// How the account of a record that fails is undone.
+enum class UndoneBy
+{
+    Transaction, // the record writer's
+    Hand, // appointments have none: later runs would find and use an account without its information row
+};
+
+// Adds an account of this name, which is not empty, with its information row; returns its key. The caller has
+// made sure that the user may add accounts.
+std::wstring CreateAccount(const data::Host& host, data::FieldCatalogue& catalogue,
+                           const std::wstring& companyName, UndoneBy undoneBy);
+
+// The contact that an item overwrites, as the host has it.
+struct PresentContact
+{
+    std::wstring Key;
+    std::wstring Company;
+};
+
+// Adds the columns F_ACCID and F_CNTADDRID to a contact's row by the item's company: the account is found or
+// created, its address overwritten or created from the item's business address. What the user has no right
+// for is left out with a message: the link is NULL in a new contact, and untouched in one that is updated,
+// unless that would leave it with the address of another account. A contact that is updated keeps its account
+// while the two companies are equal by the rule that matches contacts.
+void AddAccountLinks(const data::Host& host, const automation::Object& item, data::RowColumns& contact,
+                     const PresentContact& present = {});
+
+} // namespace links

@@ -1,0 +1,62 @@
+#include "links/ContactLink.h"
+
+#include "automation/OutlookConstants.h"
+#include "state/SharedState.h"
+
+namespace links
+{
+
+using automation::Object;
+using automation::Value;
+
+namespace
+{
+
+// The names go in as they are: Outlook itself refuses one that breaks the search text.
+Object FindContact(const Object& items, const std::wstring& surname, const std::wstring& givenName)
+{
+    const Object contacts = items.GetObject(L"Restrict", L"[MessageClass] = 'IPM.Contact'");
+    return contacts.GetObject(L"Find",
+                              L"[FirstName] = \"" + givenName + L"\" And [LastName] = \"" + surname + L"\"");
+}
+
+Object CreateContact(const Object& items, const std::wstring& surname, const std::wstring& givenName)
+{
+    Object contact = items.GetObject(L"Add", automation::kContactItem);
+    contact.Put(L"FirstName", givenName);
+    contact.Put(L"LastName", surname);
+    contact.Call(L"Save");
+    return contact;
+}
+
+} // namespace
+
+bool IsOfOutlook8(const Object& item)
+{
+    return automation::TextOrEmpty(item.Get(L"OutlookVersion")).starts_with(L'8');
+}
+
+void LinkContact(const Object& item, const Value& surname, const Value& givenName, AcceptsContact accepts)
+{
+    if (automation::IsAbsent(surname) || automation::IsAbsent(givenName))
+    {
+        return;
+    }
+    const std::wstring last = automation::TextOf(surname);
+    const std::wstring first = automation::TextOf(givenName);
+    const Object folder =
+        state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", automation::kContactsFolder);
+    const Object items = folder.GetObject(L"Items");
+    Object contact = FindContact(items, last, first);
+    if (contact && accepts != nullptr && !accepts(contact))
+    {
+        return;
+    }
+    if (!contact)
+    {
+        contact = CreateContact(items, last, first);
+    }
+    item.GetObject(L"Links").Call(L"Add", contact);
+}
+
+} // namespace links

@@ -1,0 +1,23 @@
+// Contacts that tasks and calendar entries are linked to in Outlook: found by name in the default contacts
+// folder, or created there. Called by the writers of tasks and appointments; nothing is kept between calls.
+#pragma once
+
+#include "automation/Object.h"
+
+namespace links
+{
+
+// Whether an item was written by an Outlook whose version begins with "8", the last one before links.
+bool IsOfOutlook8(const automation::Object& item);
+
+// Says whether a contact that was found may be linked.
+using AcceptsContact = bool (*)(const automation::Object& contact);
+
+// Adds a link to the contact of this name to the item, which is then to be saved; further links stay, so that
+// a second call adds a second link. Does nothing when either name is Null, Empty or the empty text, or when
+// accepts (null for no condition) refuses the contact found; a contact that is not found is created. Throws
+// automation::Error when Outlook refuses, as it does for a name with a double quote.
+void LinkContact(const automation::Object& item, const automation::Value& surname,
+                 const automation::Value& givenName, AcceptsContact accepts = nullptr);
+
+} // namespace links

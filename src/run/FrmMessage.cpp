@@ -1,0 +1,139 @@
+#include "run/FrmMessage.h"
+
+#include "resources/Strings.h"
+#include "state/SharedState.h"
+#include "ui/Control.h"
+#include "ui/Dialog.h"
+#include "ui/FitText.h"
+
+namespace run
+{
+
+namespace
+{
+
+class FrmMessage : public ui::Dialog
+{
+  public:
+    FrmMessage(const std::wstring& categoryText, const data::Changes& changes)
+        : Dialog(IDD_MESSAGE), mCategoryText(categoryText), mChanges(changes)
+    {
+    }
+
+  private:
+    // A heading and two lines of counts.
+    struct Section
+    {
+        ConfirmSection Which;
+        ui::Label& Title;
+        ui::Label& New;
+        ui::Label& Modify;
+    };
+
+    void OnInit() override
+    {
+        LblTitle.SetText(resources::String(IDS_CONFIRM_INSTRUCTION));
+        ui::FitLabels(*this, {&LblTitle});
+        SetCaption(ConfirmCaption(mCategoryText));
+        cmdAccept.SetText(resources::Choose(L"接受(&A)", L"&Accept"));
+        cmdCancel.SetText(resources::Choose(L"取消(&C)", L"&Cancel"));
+        WriteLayoutCaptions();
+        ShowSections(state::Shared().gSynParameter.TransType);
+    }
+
+    // What the sections read for a direction that names neither.
+    void WriteLayoutCaptions()
+    {
+        LblSynToOlTitle.SetText(L"Quenlar To Outlook");
+        LblOlToSynTitle.SetText(L"Outlook To Quenlar");
+        for (ui::Label* const line : {&LblSynToOlNew, &LblOlToSynNew})
+        {
+            line->SetText(L"Add New");
+        }
+        for (ui::Label* const line : {&LblSynToOlModify, &LblOlToSynModify})
+        {
+            line->SetText(L"Modify");
+        }
+    }
+
+    void ShowSections(long transType)
+    {
+        const bool toOutlook =
+            Fill({ConfirmSection::QuenlarToOutlook, LblSynToOlTitle, LblSynToOlNew, LblSynToOlModify},
+                 transType, mChanges.NewHostRecords.Count(), mChanges.ChangedHostRecords.Count());
+        const bool toHost =
+            Fill({ConfirmSection::OutlookToQuenlar, LblOlToSynTitle, LblOlToSynNew, LblOlToSynModify},
+                 transType, mChanges.NewOutlookItems.Count(), mChanges.ChangedOutlookItems.Count());
+        if (toOutlook != toHost)
+        {
+            KeepOneSection(toOutlook);
+        }
+    }
+
+    // True when the section is shown for this direction.
+    bool Fill(const Section& section, long transType, long additions, long modifications)
+    {
+        const auto heading = ConfirmHeading(transType, section.Which, mCategoryText);
+        if (!heading)
+        {
+            return false;
+        }
+        section.Title.SetText(*heading);
+        section.New.SetText(AdditionsLine(additions));
+        section.Modify.SetText(ModificationsLine(modifications));
+        return true;
+    }
+
+    // The section that stays takes the first place, and the dialog closes up below it.
+    void KeepOneSection(bool toOutlook)
+    {
+        const int height = LblOlToSynTitle.Place().top - LblSynToOlTitle.Place().top;
+        for (ui::Label* const label : {&LblSynToOlTitle, &LblSynToOlNew, &LblSynToOlModify})
+        {
+            label->Show(toOutlook);
+        }
+        for (ui::Label* const label : {&LblOlToSynTitle, &LblOlToSynNew, &LblOlToSynModify})
+        {
+            label->Show(!toOutlook);
+            label->MoveBy(0, -height);
+        }
+        RECT frame = Picture1.Place();
+        frame.bottom -= height;
+        Picture1.MoveTo(frame);
+        cmdAccept.MoveBy(0, -height);
+        cmdCancel.MoveBy(0, -height);
+        GrowBy(-height);
+    }
+
+    void OnCommand(int id, int /*notification*/) override
+    {
+        if (id == IDOK || id == IDCANCEL)
+        {
+            state::Shared().gChangesAccepted = id == IDOK;
+            Unload(id);
+        }
+    }
+
+    ui::Label LblTitle{*this, IDC_MESSAGE_TITLE};
+    ui::Frame Picture1{*this, IDC_MESSAGE_PICTURE};
+    ui::Label LblSynToOlTitle{*this, IDC_MESSAGE_TO_OL_TITLE};
+    ui::Label LblSynToOlNew{*this, IDC_MESSAGE_TO_OL_NEW};
+    ui::Label LblSynToOlModify{*this, IDC_MESSAGE_TO_OL_MODIFY};
+    ui::Label LblOlToSynTitle{*this, IDC_MESSAGE_TO_SYN_TITLE};
+    ui::Label LblOlToSynNew{*this, IDC_MESSAGE_TO_SYN_NEW};
+    ui::Label LblOlToSynModify{*this, IDC_MESSAGE_TO_SYN_MODIFY};
+    ui::Button cmdAccept{*this, IDOK};
+    ui::Button cmdCancel{*this, IDCANCEL};
+
+    const std::wstring& mCategoryText;
+    const data::Changes& mChanges;
+};
+
+} // namespace
+
+void ShowConfirmation(const std::wstring& categoryText, const data::Changes& changes)
+{
+    FrmMessage(categoryText, changes).ShowModal();
+}
+
+} // namespace run

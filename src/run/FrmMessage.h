@@ -1,0 +1,34 @@
+// The confirmation dialog between collecting a run's changes and writing them: how many records will be added
+// and modified per direction. The user's answer is the shared state's gChangesAccepted.
+#pragma once
+
+#include "data/ChangeRecords.h"
+
+#include <optional>
+#include <string>
+
+namespace run
+{
+
+// Shows the dialog for the direction of the loaded parameters (gSynParameter), even when every count is 0.
+// Accept sets gChangesAccepted, Cancel clears it; closing the dialog any other way leaves it as it was.
+void ShowConfirmation(const std::wstring& categoryText, const data::Changes& changes);
+
+// The two halves of the dialog.
+enum class ConfirmSection
+{
+    QuenlarToOutlook,
+    OutlookToQuenlar,
+};
+
+std::wstring ConfirmCaption(const std::wstring& categoryText);
+
+// A section's heading for a direction (TransType); nothing when the section is not shown for it.
+std::optional<std::wstring> ConfirmHeading(long transType, ConfirmSection section,
+                                           const std::wstring& categoryText);
+
+// "Addtions:" or "be modified:" in the interface language, followed directly by the count.
+std::wstring AdditionsLine(long count);
+std::wstring ModificationsLine(long count);
+
+} // namespace run
