@@ -20,7 +20,7 @@ struct Outcome
 void Apply(const Kind& kind, Direction direction, exchange::Run& run)
 {
     const exchange::Kind& category = kind.Category;
-    if (direction == Direction::ToOutlook ? category.ApplyToOutlook(run) : category.ApplyFromOutlook(run))
+    if (direction == Direction::ToOutlook ? category.ToOutlook(run) : category.FromOutlook(run))
     {
         throw std::runtime_error("the apply pass failed");
     }

@@ -68,7 +68,7 @@ RunSeconds SecondsOfRun(const Kind& kind, size_t count)
     exchange::Run run = sides.NewRun();
     const auto timed = [](auto&& body) { return Measure({}, Purpose::Timed, body).Seconds; };
     const double collection = timed([&] { Collect(kind, Direction::FromOutlook, run); });
-    return {collection, timed([&] { kind.Category.ApplyFromOutlook(run); })};
+    return {collection, timed([&] { kind.Category.FromOutlook(run); })};
 }
 
 } // namespace

@@ -71,11 +71,12 @@ function(telvix_component_headers name scope folder)
   target_include_directories(${name} ${scope} ${view})
 endfunction()
 
-# telvix_library(NAME lib...): a static library of the sources of the folder and its subfolders, except those of
-# modules and programs (dll/, program/, server/); the libraries it builds on follow.
+# telvix_library(NAME lib... [FOLDERS folder...]): a static library of the folder's sources, and of the subfolders
+# named; the libraries it builds on follow.
 function(telvix_library name)
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-  list(FILTER sources EXCLUDE REGEX "/(dll|program|server)/")
+  cmake_parse_arguments(arg "" "" "FOLDERS" ${ARGN})
+  list(TRANSFORM arg_FOLDERS REPLACE "(.+)" "${CMAKE_CURRENT_SOURCE_DIR}/\\1/*.cpp")
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${arg_FOLDERS})
   set(scope PUBLIC)
   if(sources)
     add_library(${name} STATIC ${sources})
@@ -84,7 +85,7 @@ function(telvix_library name)
     set(scope INTERFACE)
     add_library(${name} INTERFACE)
   endif()
-  target_link_libraries(${name} ${scope} ${ARGN} telvix_options)
+  target_link_libraries(${name} ${scope} ${arg_UNPARSED_ARGUMENTS} telvix_options)
   cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/src OUTPUT_VARIABLE folder)
   if(NOT folder MATCHES "^[.][.]")
     telvix_component_headers(${name} ${scope} ${folder})

@@ -11,8 +11,8 @@ namespace contacts
 namespace
 {
 
-using exchange::PutDate;
 using exchange::PutAsIs;
+using exchange::PutDate;
 using exchange::TargetProperty;
 
 // Outside the Chinese interface the host's and Outlook's first and last names are exchanged, deliberately.

@@ -48,7 +48,8 @@ void PutWhere(bool isKnown, const TargetProperty& property, const Value& value)
     }
     else
     {
-        data::Remark(std::wstring(property.Name) + L" has been left as it is: Outlook does not know the value");
+        data::Remark(std::wstring(property.Name) +
+                     L" has been left as it is: Outlook does not know the value");
     }
 }
 

@@ -22,8 +22,8 @@ void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey)
     data::Demand(host.OpenRecordsetByString(system, L"SELECT F_AITID FROM TBLSYSINFO") >= 0,
                  L"OpenRecordsetByString");
     const std::wstring type = automation::TextOf(system.ValueOf(L"F_AITID"));
-    const std::wstring values =
-        data::QuotedText(host.NewGuid()) + L", " + data::QuotedText(type) + L", " + data::QuotedText(accountKey);
+    const std::wstring values = data::QuotedText(host.NewGuid()) + L", " + data::QuotedText(type) + L", " +
+                                data::QuotedText(accountKey);
     data::Demand(host.Insert(L"TBLACCINFO", L"F_AIID, F_AITID, F_ACCID", values) >= 0, L"Insert");
 }
 

@@ -17,10 +17,10 @@ namespace tasks
 namespace
 {
 
+using exchange::PutAsIs;
 using exchange::PutDate;
 using exchange::PutNumber;
 using exchange::PutTruth;
-using exchange::PutAsIs;
 using exchange::TargetProperty;
 
 // By the status that the task has at this moment, and so by the order of the relation rows.

@@ -1,9 +1,30 @@
 #include "tests/automation/ScriptedObject.h"
 
-#include "sandbox/dispatch/TypeInformation.h"
+#include "automation/Error.h"
+
+#include <oleauto.h>
 
 namespace test_support
 {
+
+namespace
+{
+
+// A dispatch interface without members, in a type library in memory.
+Microsoft::WRL::ComPtr<ITypeInfo> MakeTypeInformation(const GUID& interfaceId)
+{
+    wchar_t name[] = L"Scripted";
+    Microsoft::WRL::ComPtr<ICreateTypeLib2> library;
+    automation::Check(CreateTypeLib2(sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32, name, &library), name);
+    Microsoft::WRL::ComPtr<ICreateTypeInfo> type;
+    automation::Check(library->CreateTypeInfo(name, TKIND_DISPATCH, &type), name);
+    automation::Check(type->SetGuid(interfaceId), name);
+    Microsoft::WRL::ComPtr<ITypeInfo> information;
+    automation::Check(type->QueryInterface(__uuidof(ITypeInfo), &information), name);
+    return information;
+}
+
+} // namespace
 
 HRESULT ScriptedObject::QueryInterface(REFIID id, void** result)
 {
@@ -33,7 +54,7 @@ HRESULT ScriptedObject::GetTypeInfo(UINT index, LCID, ITypeInfo** info)
     {
         return HasType ? TypeAnswer : E_NOTIMPL;
     }
-    return sandbox::MakeTypeInformation(mInterfaceId, L"Scripted", {}).CopyTo(info);
+    return MakeTypeInformation(mInterfaceId).CopyTo(info);
 }
 
 HRESULT ScriptedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)

@@ -120,11 +120,11 @@ void ExchangeTest::Exchange(long transType, long conflictOption)
     Collect(run, transType, conflictOption);
     if (transType != state::kOutlookToQuenlar)
     {
-        EXPECT_FALSE(calendar::kCalendar.ApplyToOutlook(run));
+        EXPECT_FALSE(calendar::kCalendar.ToOutlook(run));
     }
     if (transType != state::kQuenlarToOutlook)
     {
-        EXPECT_FALSE(calendar::kCalendar.ApplyFromOutlook(run));
+        EXPECT_FALSE(calendar::kCalendar.FromOutlook(run));
     }
     EXPECT_EQ(L"", mHost.LastRejection());
     automation::CloseRecordset(run.HostRows);

@@ -75,7 +75,7 @@ class ApplyFromOutlook : public testing::Test
         TheRun.Pending.ChangedHostRecords.Add(row, mark);
     }
 
-    bool Apply() { return exchange::ApplyFromOutlook(TheRun, {L"SELECT", {}, WriteRow}); }
+    bool Apply() { return exchange::PassFromOutlook{L"SELECT", {}, WriteRow}(TheRun); }
 
     test_support::RecordingDisplay Display;
     exchange::Run TheRun{Display, {}, {}, {}, {}, {}, {}};

@@ -47,10 +47,7 @@ class ApplyToOutlook : public testing::Test
         TheRun.HostRows = automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"first"}}}));
     }
 
-    bool Apply()
-    {
-        return exchange::ApplyToOutlook(TheRun, {automation::kTaskItem, L"SELECT", {}, WriteMode});
-    }
+    bool Apply() { return exchange::PassToOutlook{automation::kTaskItem, L"SELECT", {}, WriteMode}(TheRun); }
 
     test_support::WithLanguage English{resources::Language::English};
     test_support::RecordingDisplay Display;

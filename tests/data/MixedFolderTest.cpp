@@ -61,7 +61,7 @@ TEST(AFolderOfMixedItems, IsReadByEachItemsOwnMembersAskedForOncePerClass)
     gRead.clear();
     sandbox::CallCounter calls;
     sandbox::CallObserver* const before = sandbox::Observe(&calls);
-    EXPECT_FALSE(exchange::ApplyFromOutlook(run, {L"SELECT", {}, Read}));
+    EXPECT_FALSE((exchange::PassFromOutlook{L"SELECT", {}, Read}(run)));
     sandbox::Observe(before);
     EXPECT_EQ(expected, gRead);
     for (const wchar_t* name : {L"ContactItem", L"TaskItem", L"AppointmentItem", L"MailItem"})

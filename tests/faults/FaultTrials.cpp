@@ -147,7 +147,7 @@ bool FaultTrials::ExchangeInSteps(const Trial& trial)
     {
         startCounting();
     }
-    return trial.what.IsToOutlook() ? category.ApplyToOutlook(run) : category.ApplyFromOutlook(run);
+    return trial.what.IsToOutlook() ? category.ToOutlook(run) : category.FromOutlook(run);
 }
 
 FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)

@@ -67,7 +67,7 @@ class EveryOrigin : public testing::Test
             {
                 run.Pending.NewOutlookItems.Add(L"1", 0);
             }
-            EXPECT_FALSE(category.ApplyFromOutlook(run));
+            EXPECT_FALSE(category.FromOutlook(run));
         }
     }
 

@@ -182,7 +182,7 @@ void HostileFromOutlook::Import(const exchange::Kind& category, const automation
     }
     mBefore = CountRows();
     mStatements.clear();
-    EXPECT_FALSE(category.ApplyFromOutlook(run)); // no record ends the pass
+    EXPECT_FALSE(category.FromOutlook(run)); // no record ends the pass
 }
 
 void HostileFromOutlook::ExpectOneRecordAtMost(const std::wstring& table, bool isNew, bool isAtomic)

@@ -119,7 +119,7 @@ class HostileExport : public testing::Test
         run.Items = run.Folder.GetObject(L"Items");
         (isNew ? run.Pending.NewHostRecords : run.Pending.ChangedHostRecords).Add(1, 1);
         run.Pending.ChangedOutlookItems.Add(L"1", 1);
-        return kind.category.ApplyToOutlook(run);
+        return kind.category.ToOutlook(run);
     }
 
     // The texts of an item that the relation rows lead to.

@@ -227,7 +227,7 @@ class ValuesToOutlook : public testing::Test
             run.Pending.ChangedHostRecords.Add(position, 1);
             run.Pending.ChangedOutlookItems.Add(std::to_wstring(position), 1);
         }
-        EXPECT_FALSE(kind.category.ApplyToOutlook(run)) << "the pass ends";
+        EXPECT_FALSE(kind.category.ToOutlook(run)) << "the pass ends";
     }
 
     std::wstring Shown(const TargetKind& kind, const TargetEntry& entry)

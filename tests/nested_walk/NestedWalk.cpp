@@ -15,7 +15,7 @@ namespace
 bool Matches(const exchange::Kind& category, const automation::Object& item,
              const automation::Recordset& rows)
 {
-    const std::wstring kind = category.Key;
+    const std::wstring kind = category.Name.TransObject;
     return kind == L"Contact" ? IsSameContact(item, rows)
            : kind == L"Task"  ? IsSameTask(item, rows)
                               : IsSameAppointment(item, rows);

@@ -137,7 +137,7 @@ TEST_F(ExchangeRules, ThePageTellsWhatIsProposedForEveryDirectionAndConflictRule
         for (const exchange::Kind* const category : kCategories)
         {
             EXPECT_EQ(Proposed(*category, direction, rule), Cells(cells.begin() + 2, cells.end()))
-                << automation::ToUtf8(category->Key);
+                << automation::ToUtf8(category->Name.TransObject);
         }
         described.emplace(direction, rule);
     }
@@ -160,7 +160,7 @@ TEST_F(ExchangeRules, ThePageTellsTheOrderOfATwoWayRunOfEveryKind)
     for (const exchange::Kind* const category : kCategories)
     {
         EXPECT_EQ(category->AppliesFromOutlookFirst ? fromOutlookFirst : toOutlookFirst,
-                  described[automation::ToUtf8(category->Key)]);
+                  described[automation::ToUtf8(category->Name.TransObject)]);
     }
 }
 

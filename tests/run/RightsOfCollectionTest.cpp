@@ -63,7 +63,7 @@ TEST_F(RightsOfCollection, OfEachKindTheRightsToAddAndToModifyAreAskedForOnceInT
         EXPECT_FALSE(collection.CollectToOutlook());
         EXPECT_EQ(Questions{}, host.Questions()) << "towards Outlook no right is needed";
         EXPECT_FALSE(collection.CollectFromOutlook());
-        EXPECT_EQ(kind.expected, host.Questions()) << automation::ToUtf8(kind.category.Key);
+        EXPECT_EQ(kind.expected, host.Questions()) << automation::ToUtf8(kind.category.Name.TransObject);
     }
 }
 

@@ -71,7 +71,7 @@ class TaskExchange : public testing::Test
     {
         exchange::Run run = NewRun();
         EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectToOutlook());
-        EXPECT_FALSE(tasks::kTasks.ApplyToOutlook(run));
+        EXPECT_FALSE(tasks::kTasks.ToOutlook(run));
         return run.Pending.NewHostRecords.Count() + run.Pending.ChangedHostRecords.Count();
     }
 
@@ -79,7 +79,7 @@ class TaskExchange : public testing::Test
     {
         exchange::Run run = NewRun();
         EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectFromOutlook());
-        EXPECT_FALSE(tasks::kTasks.ApplyFromOutlook(run));
+        EXPECT_FALSE(tasks::kTasks.FromOutlook(run));
         return run.Pending.NewOutlookItems.Count() + run.Pending.ChangedOutlookItems.Count();
     }
 

@@ -207,7 +207,7 @@ TEST_F(TaskExchange, ADoubleQuoteInAContactsNameLeavesNothingOpenOnEitherSide)
     AddHostTask(L"F_ACTNAME", L"'Two'");
     exchange::Run run = NewRun();
     EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectToOutlook());
-    EXPECT_TRUE(tasks::kTasks.ApplyToOutlook(run));
+    EXPECT_TRUE(tasks::kTasks.ToOutlook(run));
     EXPECT_EQ(1, mMailbox->ItemCount(kTasks));
     EXPECT_EQ(0, mMailbox->ItemCount(kContacts));
     EXPECT_FALSE(data::Host().InTransaction());

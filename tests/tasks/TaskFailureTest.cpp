@@ -68,7 +68,7 @@ TEST_F(TaskFailure, FromOutlookEachTaskIsWrittenWholeOrNotAtAllAndTheNextRunConv
         exchange::Run run = NewRun();
         run.Pending.NewOutlookItems.Add(L"1", 0);
         run.Pending.NewOutlookItems.Add(L"2", 0);
-        MessagesDuring([&] { failed = WithFailureAt(k, [&] { tasks::kTasks.ApplyFromOutlook(run); }); });
+        MessagesDuring([&] { failed = WithFailureAt(k, [&] { tasks::kTasks.FromOutlook(run); }); });
         EXPECT_FALSE(mHost.Database().InTransaction());
         EXPECT_EQ(Count(L"TBLACCOUNT"), Count(L"TBLACCINFO"));
         EXPECT_EQ(L"0",
@@ -98,7 +98,7 @@ TEST_F(TaskFailure, TowardsOutlookAPassThatDoesNotReportAFailureHasWrittenEveryt
         run.Pending.NewHostRecords.Add(1L, 0);
         run.Pending.NewHostRecords.Add(2L, 0);
         bool reported = false;
-        failed = WithFailureAt(k, [&] { reported = tasks::kTasks.ApplyToOutlook(run); });
+        failed = WithFailureAt(k, [&] { reported = tasks::kTasks.ToOutlook(run); });
         EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
         if (!reported)
         {
