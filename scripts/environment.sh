@@ -165,9 +165,11 @@ export WINEPREFIX='$WINEPREFIX' DISPLAY='$DISPLAY'
 export TELVIX_FIGURES='Z:${root//\//\\}\\build\\lanes\\figures.$lane'
 LANE
     done
-    for lane in "${lane_prefixes[@]}"; do
+    # Each lane's desktop belongs on its own display: Wine's windows of one prefix share one.
+    for ((lane = 1; lane <= count; ++lane)); do
         (
-            export WINEPREFIX=$lane
+            # shellcheck source=/dev/null
+            . "$root/build/lanes/$lane"
             wineserver -p
             timeout 120 wine wineboot >/dev/null 2>&1 </dev/null
             register_sandbox "$build"

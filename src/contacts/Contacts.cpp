@@ -49,7 +49,7 @@ const exchange::Kind kContacts{
     .CollectToOutlookTextId = IDS_RUN_COLLECTING,
     .PermissionKind = data::kContactRecord,
     .Match = {ContactNameOfItem, CompanyOfContact, ContactNameOfRow, exchange::AccountOfRow},
-    .FiltersOf = nullptr,
+    .FiltersOf = exchange::KeepAll,
     .ToOutlook = SynContactToOutlook,
     .FromOutlook = SynContactFromOutlook,
 };

@@ -25,6 +25,12 @@ struct Filters
     ItemFilter KeepsItem;
 };
 
+// The filters of a kind that proposes every record.
+inline Filters KeepAll(const state::SynParameter& /*parameter*/, const data::Host& /*host*/)
+{
+    return {};
+}
+
 struct Kind
 {
     const KindName& Name;
@@ -36,7 +42,6 @@ struct Kind
     unsigned CollectToOutlookTextId;
     long PermissionKind; // of the host's rights
     MatchRule Match;
-    // Null keeps all records.
     Filters (*FiltersOf)(const state::SynParameter& parameter, const data::Host& host);
     PassToOutlook ToOutlook;
     PassFromOutlook FromOutlook;

@@ -56,8 +56,7 @@ double Fraction(long done, long all)
 ChangeCollection::ChangeCollection(const exchange::Kind& kind, exchange::Run& run)
     : mKind(kind),
       mRun(run),
-      mFilters(kind.FiltersOf == nullptr ? exchange::Filters()
-                                         : kind.FiltersOf(state::Shared().gSynParameter, data::Host())),
+      mFilters(kind.FiltersOf(state::Shared().gSynParameter, data::Host())),
       mItems(kind.Match, run.Items),
       mRows(kind.Match, run.HostRows),
       mItemIndex(mItems),
