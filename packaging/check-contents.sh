@@ -18,7 +18,7 @@ check_contents() {
         diff <(expected_files | sort) <(cd "$unzipped" && find . -type f | sed 's,^\./,,' | sort)
     expect "Every file of the zip has the time of the commit" times_are_the_commits "$unzipped"
     expect "Every link of the guides leads to a page, and their pictures are inside" guides_are_whole "$unzipped/docs"
-    expect "The guides have their tables" grep -q '<table>' "$unzipped/docs/host-guide.html"
+    expect "The guides have their tables" grep -q '<table>' "$unzipped/docs/host-contract.html"
     expect "The notes say what the change log says of this version" grep -q '^### ' "$1/Telvix-$version-notes.md"
     for installer in "$1"/*.msi; do
         expect "${installer##*/} holds the files of the zip" installer_holds "$installer" "$unzipped"

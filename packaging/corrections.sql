@@ -5,7 +5,7 @@ DELETE FROM `MsiFileHash` WHERE `File_`='Telvix.dll'
 -- Short names, and names that are not ASCII.
 UPDATE `File` SET `FileName`='USERGDEN.HTM|user-guide.html' WHERE `File`='user_guide.html'
 UPDATE `File` SET `FileName`='USERGDZH.HTM|user-guide.zh.html' WHERE `File`='user_guide.zh.html'
-UPDATE `File` SET `FileName`='HOSTGDEN.HTM|host-guide.html' WHERE `File`='host_guide.html'
+UPDATE `File` SET `FileName`='HOSTCNTR.HTM|host-contract.html' WHERE `File`='host_contract.html'
 UPDATE `Shortcut` SET `Name`='GUIDEN@BITS@|User guide (@BITS@-bit)' WHERE `Shortcut`='UserGuideMenu'
 UPDATE `Shortcut` SET `Name`='GUIDZH@BITS@|使用说明（@BITS@ 位）' WHERE `Shortcut`='UserGuideZhMenu'
 -- The keys that only Wine needs.

@@ -23,7 +23,7 @@ installer_variables() {
         ClassKey="Software\\Classes\\CLSID\\$clsid" InterfaceKey="Software\\Classes\\Interface\\$iid" \
         LibraryKey="Software\\Classes\\TypeLib\\$libid\\$library_version" \
         Separate="$([ "$1 $2" = "x64 machine" ] && echo yes || echo no)" SharedId="$(uuid_of "component Shared $2")"
-    for component in Module SeparateKeys UserGuide UserGuideZh HostGuide; do
+    for component in Module SeparateKeys UserGuide UserGuideZh HostContract; do
         printf '%sId=%s\n' $component "$(uuid_of "component $component $1 $2")"
     done
 }

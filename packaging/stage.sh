@@ -2,7 +2,7 @@
 # Puts together what the packages contain: both modules with their manifests, the guides as HTML, the examples,
 # the C++ declarations. Sourced after product.sh.
 
-guides=(user-guide.md user-guide.zh.md host-guide.md)
+guides=(user-guide.md user-guide.zh.md host-contract.md)
 
 # guide_page MARKDOWN: the guide as one HTML page, its pictures inside.
 guide_page() {
