@@ -178,7 +178,7 @@ LANE
     for ((; count > 0; --count)); do wait -n -f || fail "a lane could not be prepared"; done
 }
 
-# register_sandbox BUILD: registers the component and the stand-ins of a build in the prefix, as an
+# register_sandbox BUILD: registers the component and the fakes of a build in the prefix, as an
 # installation would.
 register_sandbox() {
     timeout 60 wine regsvr32 /s "$(winepath -w "$1/SandboxAdo.dll")" >/dev/null 2>&1 </dev/null &&

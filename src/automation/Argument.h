@@ -40,7 +40,7 @@ class Argument
 
     // The argument as the call takes it: it points into this object and is valid as long as it lives.
     VARIANT Passed() noexcept;
-    // Hands what the object called has written to the variable given.
+    // Copies the value that the called object has written into the caller's variable.
     void WriteBack();
 
   private:

@@ -1,6 +1,6 @@
 // Calls that a busy server rejects ("call rejected", "retry later") are tried again for a bounded time. On
 // Windows the thread's message filter does that within the call (MessageFilterScope); where the filter is not
-// asked, as under Wine, the rejection comes back to the caller, and this makes up for it.
+// asked, as under Wine, the rejection returns to the caller, and these functions retry the call.
 #pragma once
 
 #include <windows.h>
@@ -16,8 +16,8 @@ inline bool IsRejection(HRESULT result) noexcept
     return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
 }
 
-// Waits for a time in milliseconds. What is left of it when the wait ends early, as one that fails does at
-// once, is slept, so that whoever waits in a loop does not spin.
+// Waits for a time in milliseconds. If the wait ends early (a failed one does at once), sleeps for the rest,
+// so that a waiting loop does not spin.
 template<typename Wait>
 void AtLeast(DWORD time, Wait&& wait)
 {

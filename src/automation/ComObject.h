@@ -49,7 +49,7 @@ class ComObject : public Interfaces...
   protected:
     virtual ~ComObject() = default;
 
-    // The interface with this id, not counted; null for none. The first interface stands for IUnknown.
+    // The interface with this id, not counted; null for none. The first interface answers for IUnknown.
     virtual void* Find(REFIID id) noexcept
     {
         void* found = nullptr;

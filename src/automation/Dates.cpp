@@ -66,7 +66,7 @@ Date DateOf(const Moment& moment)
     {
         throw Error(DISP_E_OVERFLOW, L"date");
     }
-    // The conversion carries over what exceeds a month or a year; what does not come back does not exist.
+    // The conversion carries surplus days and months over. A moment that does not come back does not exist.
     if (MomentOf(date) != moment)
     {
         throw Error(DISP_E_OVERFLOW, L"date");

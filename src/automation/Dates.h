@@ -1,5 +1,5 @@
 // Dates as automation knows them: formatted in fixed patterns whatever the regional settings, reduced by the
-// round trips through text that the contract asks for, and the two dates that stand for "no date".
+// round trips through text that the contract asks for, and the two dates that mean "no date".
 #pragma once
 
 #include "automation/Value.h"
@@ -34,7 +34,7 @@ Moment MomentOf(Date date);
 Date DateOf(const Moment& moment);
 
 // The date written by a pattern of yyyy, mm (the minute after hh, else the month), dd, hh (24 hours) and ss;
-// everything else stands for itself, two digits each: "mm/dd/yyyy hh:mm:00".
+// everything else is copied, two digits each: "mm/dd/yyyy hh:mm:00".
 std::wstring Formatted(Date date, std::wstring_view pattern);
 
 // The date without its time of day ("yyyy/mm/dd" and back).

@@ -1,5 +1,5 @@
 // The one exception type that automation raises: a failed call on an object outside the component, with
-// the member that was called and what the object said about it.
+// the member that was called and the object's description of the error.
 #pragma once
 
 #include <exception>
@@ -13,8 +13,8 @@ namespace automation
 class Error : public std::exception
 {
   public:
-    // member: the name of the member called, or of what was being done; description: the object's own
-    // words, or empty for the system's text of the code.
+    // member: the name of the member called, or of the operation; description: the object's own words, or
+    // empty for the system's text of the code.
     Error(HRESULT code, std::wstring member, std::wstring description = {});
 
     HRESULT Code() const noexcept { return mCode; }

@@ -1,6 +1,6 @@
 // A counted reference to an automation object that is reached by member name (late binding). Copies share
-// the reference and what is known of its members: each member's DISPID is asked for once per object, which
-// saves a cross-process round trip on every later use. Used on the thread (apartment) that obtained it; if it
+// the reference and its known members: each member's DISPID is asked for once per object, which saves a
+// cross-process round trip on every later use. Used on the thread (apartment) that obtained it; if it
 // ends after the thread has left COM, a reference to another process is abandoned instead of released.
 #pragma once
 
@@ -39,10 +39,10 @@ class Object
     // The interface held, without a further reference; null for nothing.
     IDispatch* Dispatch() const noexcept;
 
-    // From now on what is known of the members is shared with the other objects of the same dispinterface:
-    // its DISPIDs never change once it is published (COM), and an object's type information names it. Costs
-    // two calls, so it pays for objects of which many members are used. An object that does not tell its
-    // interface keeps its own knowledge; so does one that cannot be reached, whose next call fails.
+    // Shares the known members with the other objects of the same dispinterface from now on: its DISPIDs
+    // never change once it is published (COM), and an object's type information names it. Costs two calls, so
+    // it pays for objects of which many members are used. An object without type information keeps its own
+    // members; so does an unreachable one, whose next call fails.
     void ShareMembers(InterfaceIds& interfaces) const;
 
     // The member's value or the method's result; arguments in the order in which the object's documentation

@@ -31,7 +31,7 @@ bool ProxyHome::MayRelease() const noexcept
 
 std::optional<ProxyHome::Apartment> ProxyHome::Current() noexcept
 {
-    // By the type as well: a thread outside COM is told the context of the process's other threads.
+    // By the type as well: a thread outside COM gets the context of the process's other threads.
     Apartment current;
     APTTYPEQUALIFIER qualifier = APTTYPEQUALIFIER_NONE;
     const bool isInside = SUCCEEDED(CoGetApartmentType(&current.type, &qualifier)) &&

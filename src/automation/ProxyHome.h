@@ -18,8 +18,8 @@ class ProxyHome
     // Call in the apartment that obtained the reference.
     explicit ProxyHome(IUnknown& reference) noexcept;
 
-    // False for a proxy whose apartment is not the calling thread's: it has to be abandoned. COM has given
-    // the server back what it held, or does so when the apartment ends.
+    // False for a proxy whose apartment is not the calling thread's: abandon it. COM has released the
+    // server's object, or does so when the apartment ends.
     bool MayRelease() const noexcept;
 
   private:

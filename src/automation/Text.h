@@ -8,7 +8,7 @@
 namespace automation
 {
 
-// UTF-16 to UTF-8 and back; what cannot be converted becomes the replacement character.
+// UTF-16 to UTF-8 and back; characters that cannot be converted become the replacement character.
 std::string ToUtf8(std::wstring_view text);
 std::wstring FromUtf8(std::string_view text);
 

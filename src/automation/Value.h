@@ -39,13 +39,13 @@ class Value
     Value(double number) noexcept;
     Value(Date date) noexcept;
     Value(const Object& object) noexcept;
-    // A copy of a VARIANT; one that is by reference is copied with what it refers to.
+    // A copy of a VARIANT; of a by-reference one, a copy of the value that it refers to.
     explicit Value(const VARIANT& variant);
     // A one-dimensional array of bytes.
     explicit Value(const std::vector<BYTE>& bytes);
 
     static Value Null() noexcept;
-    // What an automation client passes for an argument that it leaves out.
+    // The value that an automation client passes for an omitted argument.
     static Value Missing() noexcept;
 
     Value(const Value& other);

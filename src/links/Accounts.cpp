@@ -54,7 +54,7 @@ bool MayChangeAccounts(long operation)
     return data::CheckPermission(data::kAccountRecord, data::kUsualScope, operation);
 }
 
-// The keys come first, before what the fragment builders have listed.
+// The keys come first, before the columns of the fragment builders.
 void InsertRow(const Host& host, const wchar_t* table, const std::wstring& keyFields,
                const std::wstring& keyValues, const RowColumns& row)
 {
@@ -101,7 +101,7 @@ std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue,
     return key;
 }
 
-// An account stands under its company's name as its column holds it: cut as it was when the account was made.
+// Looks an account up by its company's name as the column holds it: cut as it was when the account was made.
 std::wstring AccountFilter(data::FieldCatalogue& catalogue, const std::wstring& companyName)
 {
     return L"F_ACCSNAME=" + QuotedText(data::TextAsHeld(catalogue, L"F_ACCSNAME", companyName));
@@ -145,7 +145,7 @@ Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const Ob
                             : LinksOfFoundAccount(host, catalogue, item, accounts);
 }
 
-// A transaction that is pending all the same is the host's own, and with it what becomes of the account.
+// A transaction that is pending all the same is the host's own, and so is the fate of the account.
 void TakeAccountBack(const Host& host, const std::wstring& key)
 {
     state::Trapped(false, [&] {

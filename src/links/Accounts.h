@@ -33,10 +33,10 @@ struct PresentContact
 };
 
 // Adds the columns F_ACCID and F_CNTADDRID to a contact's row by the item's company: the account is found or
-// created, its address overwritten or created from the item's business address. What the user has no right
-// for is left out with a message: the link is NULL in a new contact, and untouched in one that is updated,
-// unless that would leave it with the address of another account. A contact that is updated keeps its account
-// while the two companies are equal by the rule that matches contacts.
+// created, its address overwritten or created from the item's business address. A link that the
+// user has no right to is left out with a message: it is NULL in a new contact, and untouched in an updated
+// one, unless that would leave it with the address of another account. A contact that is updated keeps its
+// account while the two companies are equal by the rule that matches contacts.
 void AddAccountLinks(const data::Host& host, const automation::Object& item, data::RowColumns& contact,
                      const PresentContact& present = {});
 

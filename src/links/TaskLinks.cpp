@@ -26,7 +26,7 @@ constexpr wchar_t kContactColumn[] = L"F_CNTCTID";
 constexpr wchar_t kAccountColumn[] = L"F_ACCID";
 constexpr wchar_t kNull[] = L"NULL";
 
-// What a builder appends; nothing when the column is to stay as the host has it.
+// The value that a builder appends; nothing when the column stays as the host has it.
 using Link = std::optional<std::wstring>;
 
 // The lookup has failed, and the user has been shown why.
@@ -80,15 +80,15 @@ bool UserMayChangeAccounts(long operation)
     return data::HasPermission(data::kAccountRecord, data::kUsualScope, operation);
 }
 
-// What the account builders work with.
+// The data that the account builders share.
 struct AccountLink
 {
     const wchar_t* Builder;
     data::FieldCatalogue& Catalogue;
     links::UndoneBy UndoneBy;
 
-    // An account is stored under its company's name cut to the column: a longer name is found by what is left
-    // of it.
+    // An account is stored under its company's name cut to the column: a longer name is looked up in its cut
+    // form.
     std::wstring KeyOf(const std::wstring& company) const
     {
         const std::wstring name = data::TextAsHeld(Catalogue, L"F_ACCSNAME", company);

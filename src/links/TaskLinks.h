@@ -1,5 +1,5 @@
 // The links of a task or calendar entry to a host contact and a host account, as fragments of the lists of an
-// insert or of an update: what a link becomes depends on the user's rights and on what the host knows. Called
+// insert or of an update: a link's value depends on the user's rights and on the host's records. Called
 // by the record writers. Each returns 0, or -1 when the host has failed to look a key up; a message box
 // titled by the routine has then shown why. Any other failure throws automation::Error, for the writer to
 // report.

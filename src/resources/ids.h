@@ -75,7 +75,7 @@
 #define IDS_CONFIRM_ADDITIONS 1090
 #define IDS_CONFIRM_MODIFICATIONS 1091
 
-// Strings of the component's own, which the contract does not know.
+// Strings of the component's own, beside those of the contract.
 #define IDS_NOT_LOADED 4000
 #define IDS_PICKER_CAPTION_CONTACTS 4001
 #define IDS_PICKER_CAPTION_TASKS 4002

@@ -1,5 +1,5 @@
 // "Procedures trap their own errors": the one way in which a routine of the component turns a trapped error
-// into its failure value, and the diagnostic sink that hears of it.
+// into its failure value, and the diagnostic sink that records it.
 #pragma once
 
 #include <exception>
@@ -15,7 +15,7 @@ void WriteLog(std::wstring_view text) noexcept;
 // Passes "Error" in the interface language to WriteLog.
 void LogError() noexcept;
 
-// Runs the body and returns its result; on any exception tells WriteLog and returns failure.
+// Runs the body and returns its result; on any exception calls WriteLog and returns failure.
 template<typename Result, typename Body>
 Result Trapped(Result failure, Body&& body)
 {

@@ -48,7 +48,7 @@ class Registry
     {
         auto* state = static_cast<SharedState*>(TlsGetValue(mSlot));
         TlsSetValue(mSlot, nullptr);
-        // Freed after the lock is given back: what it releases is foreign code.
+        // Freed after the lock is released, because its releases run foreign code.
         const std::unique_ptr<SharedState> taken = Take(state);
     }
 

@@ -1,6 +1,6 @@
-// What all instances of the component's class and all its dialogs share on one thread (apartment): the host's
-// and Outlook's objects while the dialog is open, the display and calendar values, the loaded parameters.
-// It outlives the instances and ends with its thread, or with the module.
+// The state that all instances of the component's class and all its dialogs share on one thread (apartment):
+// the host's and Outlook's objects while the dialog is open, the display and calendar values, the loaded
+// parameters. It outlives the instances and ends with its thread, or with the module.
 #pragma once
 
 #include "automation/Object.h"
@@ -38,7 +38,7 @@ SharedState& Shared();
 // The record that the thread's configuration dialogs edit.
 SynParameter& EditedParameter();
 
-// For the module's entry point: the thread ends, the module goes.
+// For the module's entry point: the thread ends, the module is unloaded.
 void FreeStateOfThread() noexcept;
 void FreeStateOfAllThreads() noexcept;
 

@@ -18,7 +18,7 @@ constexpr wchar_t kDefaultName[] = L"MS Shell Dlg";
 constexpr long kDefaultSize = 8;
 constexpr long kLargestSize = 72; // beyond it no dialog fits on a screen
 
-// What DIALOGEX templates start with; the SDK documents this structure without declaring it.
+// The start of a DIALOGEX template; the SDK documents this structure without declaring it.
 #pragma pack(push, 1)
 struct TemplateHeader
 {

@@ -17,7 +17,7 @@ struct FormFont
     long Size = 0; // points
 };
 
-// The font of the shared state; the platform's dialog font in place of a name or a size that is not usable.
+// The font of the shared state; the platform's dialog font where its name or size is unusable.
 FormFont FontOfForms();
 
 // A copy of an extended dialog template (DIALOGEX with a font) that is laid out in this font. Throws

@@ -34,7 +34,7 @@ LRESULT CALLBACK DropInput(int code, WPARAM removal, LPARAM parameter)
     return CallNextHookEx(nullptr, code, removal, parameter);
 }
 
-// Handles what is waiting; the hook has dropped the busy dialog's input from it.
+// Handles waiting messages; the hook has dropped the busy dialog's input from them.
 void HandleWaitingMessages()
 {
     const ULONGLONG end = GetTickCount64() + kPaintAtMost;
@@ -77,7 +77,7 @@ Busy::Busy(Dialog& dialog)
 
 Busy::~Busy()
 {
-    // What was clicked and typed during the work must not take effect after it.
+    // Clicks and keys from the time of the work must not take effect after it.
     HandleWaitingMessages();
     RemoveWaiting(WM_KEYFIRST, WM_KEYLAST);
     RemoveWaiting(WM_MOUSEFIRST, WM_MOUSELAST);

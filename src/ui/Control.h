@@ -27,7 +27,7 @@ class Control
     void Enable(bool enabled);
     void Show(bool visible);
     void Focus();
-    // Paints now what is still to be painted.
+    // Paints at once any part that waits for painting.
     void Repaint();
 
     // The place in the dialog's client area, in pixels.

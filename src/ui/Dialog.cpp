@@ -258,8 +258,8 @@ INT_PTR Dialog::HandleSetCursor(WORD hitTest) const
     return TRUE;
 }
 
-// The monitor that the user is looking at is that of the window he comes from; with none, the template's
-// own centring stands.
+// The user looks at the monitor of the window that was active before. Without one, the template's own
+// centring applies.
 void Dialog::CenterOverActiveBefore()
 {
     const HWND before = GetActiveWindow();

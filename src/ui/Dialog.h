@@ -1,6 +1,6 @@
 // The base of every dialog: one class per dialog, a template by number, messages as virtual functions. An
-// object is made, shown modally and thrown away; its window exists only while it is shown. An exception that
-// a handler lets through ends the dialog and comes out of the call that showed it.
+// object is made, shown modally and thrown away; its window exists only while it is shown. An exception in a
+// handler ends the dialog, and the function that showed the dialog throws it again.
 #pragma once
 
 #include "ui/ModalScope.h"
@@ -43,7 +43,7 @@ class Dialog
     // Makes the dialog higher, or lower for a negative number of pixels; it stays on the screen.
     void GrowBy(int pixels);
 
-    // During a run: paints what has changed, lets the user move the dialog. Free when called often.
+    // During a run: paints changed parts, lets the user move the dialog. Free when called often.
     void KeepPainted();
 
   protected:
@@ -55,7 +55,7 @@ class Dialog
     virtual LRESULT OnNotify(const NMHDR& notification);
     // The close button or the system menu.
     virtual void OnClose() { Unload(); }
-    // The window goes.
+    // The window closes.
     virtual void OnUnload() {}
     // The control that has the focus at first; 0 for the first one in tab order.
     virtual int FirstFocus() const { return 0; }

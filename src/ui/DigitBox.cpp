@@ -91,7 +91,7 @@ bool DigitBox::HandleCharacter(WPARAM character) const
     return IsDigit(character) ? !Takes({static_cast<wchar_t>(character)}) : !IsEditingKey(character);
 }
 
-// Whether the box may hold these digits in place of the selected ones.
+// Whether these digits may replace the selected ones.
 bool DigitBox::Takes(const std::wstring& digits) const
 {
     DWORD begin = 0;

@@ -1,6 +1,5 @@
-// A text box that takes digits only, as long as they stand for a number that is not too large: every other
-// character typed is dropped, Backspace and the keys of the clipboard excepted. Pasting takes the digits of
-// the text.
+// A text box that takes digits only, up to a largest number. It drops every other character typed, except
+// Backspace and the keys of the clipboard. Pasting takes the digits of the text.
 #pragma once
 
 #include "ui/Control.h"

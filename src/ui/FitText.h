@@ -1,4 +1,4 @@
-// Gives a control the height that its text needs: what lies below it moves, what surrounds it and the dialog
+// Gives a control the height that its text needs: controls below it move, controls around it and the dialog
 // itself become lower or higher by the difference. Call once the texts are written.
 #pragma once
 

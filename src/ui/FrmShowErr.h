@@ -13,8 +13,8 @@ class FrmShowErr : public Dialog
   public:
     FrmShowErr(std::wstring title, long code, std::wstring message);
 
-    // What a further error does to the dialog on the screen: the caption and the first line become its own,
-    // the description grows by a line.
+    // Shows a further error in the dialog on the screen: replaces the caption and the first line, adds a line
+    // to the description.
     void Add(const std::wstring& title, long code, const std::wstring& message);
 
   private:

@@ -13,7 +13,7 @@ class FrmShowInfor : public Dialog
   public:
     FrmShowInfor(std::wstring title, std::wstring message);
 
-    // What a further message does to the dialog on the screen.
+    // Shows a further message in the dialog on the screen.
     void Add(const std::wstring& title, const std::wstring& message);
 
   private:

@@ -16,7 +16,7 @@ class ListView : public Control
 
     // Selects whole rows, and has the looks of the system's own lists. Call once, before the rows are added.
     void Prepare();
-    // Adds a column of a width in pixels; the last one takes what is left when FillWidth is called.
+    // Adds a column of a width in pixels; FillWidth gives the last one the remaining width.
     void AddColumn(const std::wstring& header, int width = 0);
     void FillWidth();
 

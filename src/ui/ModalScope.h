@@ -1,5 +1,5 @@
-// What makes a dialog without an owner modal: while it is shown, the thread's other windows do not take
-// input; afterwards they do again, and the window that was active before is active again.
+// Makes a dialog without an owner modal: while it is shown, the thread's other windows take no input.
+// Afterwards they do again, and the window that was active before is active again.
 #pragma once
 
 #include <vector>

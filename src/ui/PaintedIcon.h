@@ -41,7 +41,7 @@ class PaintedIcon
     // size: width and height in pixels.
     explicit PaintedIcon(int size);
 
-    // Paints over what is there.
+    // Paints over the shapes painted before.
     void Fill(const Shape& shape, COLORREF color);
 
     // The colour of a pixel as 0xAARRGGBB, not multiplied by its opacity.

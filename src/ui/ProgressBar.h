@@ -1,4 +1,4 @@
-// A progress bar that is told fractions and is touched only when its picture changes.
+// A progress bar that takes fractions and is redrawn only when its picture changes.
 #pragma once
 
 #include "ui/Control.h"

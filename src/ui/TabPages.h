@@ -1,5 +1,5 @@
-// A tabbed frame that shows, of the controls that lie on it, those of the chosen tab. The controls stand on
-// the frame's own ground, which differs from the dialog's where visual styles are on.
+// A tabbed frame that shows the controls of the chosen tab. The controls are drawn on the frame's own ground,
+// which differs from the dialog's where visual styles are on.
 #pragma once
 
 #include "ui/TabFrame.h"

@@ -15,7 +15,7 @@ namespace
 
 constexpr UINT kRangeCaptions[] = {IDS_CALENDAR_ALL, IDS_CALENDAR_FUTURE, IDS_CALENDAR_RANGE};
 constexpr int kCalendarRangeCount = static_cast<int>(std::size(kRangeCaptions));
-constexpr long kMostDays = std::numeric_limits<short>::max(); // what the columns hold
+constexpr long kMostDays = std::numeric_limits<short>::max(); // the most that the columns hold
 
 short DaysOf(Code days)
 {

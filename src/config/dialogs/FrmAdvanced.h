@@ -1,4 +1,4 @@
-// What the three advanced option dialogs have in common: a tabbed frame whose first tab is the conflict rule
+// The base of the three advanced option dialogs: a tabbed frame whose first tab is the conflict rule
 // of one kind of data. Each dialog loads its row of the user's parameters as it opens, keeps the codes that
 // are clicked, and writes them on OK to the host's table and into the configuration record: those that were
 // loaded or clicked, and nothing at all when the row could not be loaded. Opened by the

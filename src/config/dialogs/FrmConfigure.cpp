@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr int kArrowColumn = 1;
-constexpr int kArrowColumnWidth = 10; // dialog units; the column then takes what is left
+constexpr int kArrowColumnWidth = 10; // dialog units; the column then takes the rest
 
 // The row's own picture, or that of its kind where the row names none that there is.
 int PictureOfKind(const Translation& row)
@@ -94,11 +94,11 @@ void FrmConfigure::SelectKindOfRecord()
     }
 }
 
-// The stored values, with what has been edited here and is not stored yet.
+// The stored values, with the changes that are not stored yet.
 void FrmConfigure::DescribeSelected(int row)
 {
     const Translation& translation = mRows.at(static_cast<size_t>(row));
-    // What cannot be loaded stays as it is in the record, and a folder of another kind must not be shown.
+    // A value that cannot be loaded keeps its content, and a folder of another kind must not be shown.
     state::EditedParameter().CurrentFolder.clear();
     state::EditedParameter().DefaultFolder.clear();
     SetSynParamenter(state::EditedParameter(), translation.TransObject);

@@ -50,7 +50,7 @@ void FrmSynContent::OnInit()
     EnableButtons();
 }
 
-// False for failure, of which the user is told.
+// False for failure, after a message to the user.
 bool FrmSynContent::LoadChosen()
 {
     const auto stored = LoadChosenFolders(*mKind);

@@ -1,6 +1,6 @@
-// The folder picker: the tree of the current profile's folders, reduced to what suits one kind of data, and
-// the folders chosen from it, one of them the default. Opened by FrmSynChoose as its owner; on OK it replaces
-// the user's stored folders of the kind and tells the record given which one is current.
+// The folder picker: the tree of the current profile's folders, reduced to those that suit one kind of data,
+// and the folders chosen from it, one of them the default. Opened by FrmSynChoose as its owner; on OK it
+// replaces the user's stored folders of the kind and enters the current one into the record.
 #pragma once
 
 #include "config/dialogs/Pictures.h"
@@ -52,7 +52,7 @@ class FrmSynContent : public ui::Dialog
     ui::Button cmdCancel;
 
     state::SynParameter& mRecord;
-    const exchange::KindName* mKind; // null for a kind that there is not: nothing is shown or written
+    const exchange::KindName* mKind; // null for an unknown kind: nothing is shown or written
     Pictures mPictures;
     std::vector<FolderNode> mNodes; // by the number that the tree's nodes carry
     ChosenFolders mChosen;

@@ -1,5 +1,5 @@
-// What the configuration dialogs do when the host does not give them what is stored: they say so and write
-// nothing, since OK would otherwise overwrite what they could not read.
+// The answer of the configuration dialogs to settings that they cannot load: they say so and write nothing,
+// since OK would otherwise overwrite settings that they have not read.
 #pragma once
 
 namespace config

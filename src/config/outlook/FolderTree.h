@@ -1,4 +1,4 @@
-// The tree of Outlook's folders, reduced to what can be chosen for one kind of data: containers, and folders
+// The tree of Outlook's folders, reduced to those that suit one kind of data: containers, and folders
 // that hold the kind's items. A level is read when it is opened, since every question to Outlook crosses
 // processes. A folder that cannot be read (a store that is not at hand, a folder without rights) is left out;
 // the others are shown. Used by the folder picker.
@@ -20,7 +20,7 @@ struct FolderNode
     bool IsContainer = false;  // it has sub-folders
 };
 
-// The node above all: it stands for the MAPI namespace.
+// The node above all: the MAPI namespace.
 FolderNode RootNode(const automation::Object& mapiNamespace);
 
 // The nodes directly below a container. Throws automation::Error when the container itself cannot be asked.

@@ -55,7 +55,7 @@ int GetOSVersionCode()
     version.dwOSVersionInfoSize = sizeof version;
     static_assert(sizeof version == 148);
 #ifdef _MSC_VER
-    // The contract classifies by this very call; what it says of newer systems (6.2 without a manifest entry)
+    // The contract classifies by this very call; its answer for newer systems (6.2 without a manifest entry)
     // makes no difference to the code.
 #pragma warning(suppress : 4996)
 #endif

@@ -1,5 +1,5 @@
-// What kind of Windows this is, as a small code, and where that kind keeps Outlook's mail profiles. Called by
-// the profile check and the profile dialog.
+// The kind of Windows, as a small code, and the place where that kind keeps Outlook's mail profiles. Called
+// by the profile check and the profile dialog.
 #pragma once
 
 #include <windows.h>

@@ -75,7 +75,7 @@ std::vector<std::wstring> NewerProfileKeys()
     return paths;
 }
 
-// What was listed before a failure counts.
+// Names that were listed before a failure count.
 bool HasProfile(TSysReg& registry)
 {
     std::vector<std::wstring> profiles;

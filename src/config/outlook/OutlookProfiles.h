@@ -17,7 +17,7 @@ long OpenProfileKey(TSysReg& registry);
 // profile key of Office the one above; 0 or -2 as TSysReg.
 long MoveToDefaultProfile(TSysReg& registry);
 
-// False when at least one Outlook profile exists. True otherwise; the user has then been told.
+// False when at least one Outlook profile exists. True otherwise, after a message to the user.
 bool CheckOutlookProfiles();
 
 // Tells the user about a failed registry call: the text, which ends in "code ", followed by the call's code.

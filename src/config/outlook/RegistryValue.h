@@ -1,4 +1,4 @@
-// How values stand in the registry: the bytes of each value type, both ways. Called by TSysReg, and free of
+// The registry's form of values: the bytes of each value type, both ways. Called by TSysReg, and free of
 // the registry itself.
 #pragma once
 
@@ -25,7 +25,7 @@ bool IsKnownValueType(DWORD type);
 // The bytes to write for a value. Throw automation::Error for an unknown type, and for a value that cannot
 // be read as the type asks.
 std::vector<BYTE> RegistryBytes(DWORD type, const automation::Value& value);
-// The value that the bytes stand for. Texts lose their terminating zeros.
+// The value of the bytes. Texts lose their terminating zeros.
 automation::Value ValueOfRegistryBytes(DWORD type, std::vector<BYTE> bytes);
 
 } // namespace config

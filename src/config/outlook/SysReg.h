@@ -1,6 +1,6 @@
-// One open registry key, known by its root and the path below it: walks down and up the path, lists what the
-// key holds, and reads and writes values of the common types. Made and used by the profile selection for the
-// length of one operation or one dialog; an open key is closed with the object.
+// One open registry key, known by its root and the path below it: walks down and up the path, lists the
+// key's contents, and reads and writes values of the common types. Made and used by the profile selection for
+// the length of one operation or one dialog; an open key is closed with the object.
 //
 // Nothing but an unknown value type raises. Every other operation returns 0 for success, -2 when no key is
 // open, a key cannot be opened or a value does not fit its type, and -1 when any other registry call failed;

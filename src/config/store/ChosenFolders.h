@@ -1,5 +1,5 @@
-// The folders chosen for one kind of data, one of them the default: what the folder picker's list holds and
-// how it is stored in T_POutlookSyncFolder.
+// The folders chosen for one kind of data, one of them the default: the contents of the folder picker's list
+// and their rows in T_POutlookSyncFolder.
 #pragma once
 
 #include "exchange/KindName.h"
@@ -31,8 +31,8 @@ bool IsListed(const ChosenFolders& folders, const std::wstring& path);
 // where there is none.
 bool AddFolder(ChosenFolders& folders, const std::wstring& path);
 
-// Takes a folder, by its index, out. If it was the default, the one that takes its place (else the last one)
-// is, so that a run finds a folder.
+// Removes a folder, by its index. If it was the default, the folder that moves to its index (else the last
+// one) becomes the default, so that a run finds a folder.
 void RemoveFolder(ChosenFolders& folders, size_t index);
 
 // Makes one folder, by its index, the only default.
@@ -47,7 +47,7 @@ std::wstring FolderValueList(const exchange::KindName& kind, const ChosenFolder&
 // Replaces the current user's folder rows of the kind. True for failure: the old rows could not be deleted.
 bool StoreChosenFolders(const exchange::KindName& kind, const ChosenFolders& folders);
 
-// What the record says of the folders after OK: the only folder, else the selected one, is the current one;
+// Enters the folders into the record after OK: the only folder, else the selected one, is the current one;
 // without any folder there is no default either.
 void TakeCurrentFolder(state::SynParameter& record, const ChosenFolders& folders,
                        std::optional<size_t> selected);

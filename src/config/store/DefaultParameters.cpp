@@ -38,7 +38,7 @@ struct CopiedColumn
     std::wstring (*literal)(const Value& value);
 };
 
-// What is copied from a template, in this order, after the owner.
+// The columns that are copied from a template, in this order, after the owner.
 constexpr CopiedColumn kCopied[] = {
     {L"TransObjectID", &Bare},       {L"TransObject", &Quoted},      {L"TransObjectPic", &Quoted},
     {L"TransType", &Bare},           {L"TransTypePic", &Quoted},     {L"TransConflictOption", &Bare},

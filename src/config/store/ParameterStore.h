@@ -1,7 +1,7 @@
 // The parameter store (module MdlConfigProcess): loads a kind's stored settings into a parameter record and
 // creates a user's rows from the templates on first use. Called by the run driver at each run and by the
-// configuration dialogs as they open. Every routine traps its own errors; what was already read or written
-// stays.
+// configuration dialogs as they open. Every routine traps its own errors; values that it has read or written
+// stay.
 #pragma once
 
 #include "automation/Recordset.h"

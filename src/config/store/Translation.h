@@ -1,5 +1,6 @@
-// Whether, with what and in which direction a kind of data is exchanged, as the translator dialogs know it:
-// one Translation per row of their list, read from T_POutlookSyncParam, edited in memory and written on OK.
+// Whether, with which program and in which direction a kind of data is exchanged, as the translator dialogs
+// show it: one Translation per row of their list, read from T_POutlookSyncParam, edited in memory and written
+// on OK.
 #pragma once
 
 #include "automation/Recordset.h"
@@ -55,7 +56,7 @@ void SetChecked(Translation& row, bool checked);
 void ApplyTo(state::SynParameter& record, const Translation& row);
 void TakeFrom(Translation& row, const state::SynParameter& record);
 
-// What OK writes for the row; nothing of a direction that was neither loaded nor chosen.
+// The columns that OK writes for the row; without a direction that was neither loaded nor chosen.
 std::wstring TranslationSetClause(const Translation& row);
 
 } // namespace config

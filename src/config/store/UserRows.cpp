@@ -36,7 +36,7 @@ bool UpdateUserRows(const std::wstring& setClause, const std::wstring& tableName
 {
     return state::Trapped(true, [&] {
         const data::Host host;
-        // Without a condition of its own the statement names P_UID, which is what the host has always seen.
+        // Without a condition of its own the statement names P_UID, as the host expects.
         const std::wstring where = whereClause.empty() ? L"P_UID=" + host.UserIdLiteral()
                                                        : whereClause + L" And F_UID=" + host.UserIdLiteral();
         RequireAccepted(host.Update(tableName, setClause, where), L"Update");
