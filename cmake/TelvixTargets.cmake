@@ -1,4 +1,4 @@
-# What every target of the project has in common, and the three shapes a folder can take:
+# Options that every target of the project shares, and the three shapes a folder can take:
 # a library, a program, and a program of tests.
 
 set(CMAKE_CXX_STANDARD 20)

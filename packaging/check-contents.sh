@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What the packages contain, without Wine. Sourced by check.sh.
+# The contents of the packages, without Wine. Sourced by check.sh.
 
 # The zip's files, below its one folder.
 expected_files() {

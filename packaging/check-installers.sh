@@ -144,7 +144,7 @@ check_repair() {
     rm "$(installed_folder x64 machine)/Telvix.dll"
     timeout 60 wine reg delete "HKLM\\Software\\Classes\\CLSID\\$clsid" /f >/dev/null 2>&1 </dev/null
     expect "Without its module and key the class cannot be created" fails run_examples "$2"
-    # This is what msiexec /f stands for; Wine's own /f does nothing and fails.
+    # msiexec /f does the same on Windows; Wine's own /f does nothing and fails.
     expect "The product can be repaired" msi /i "$(winepath -w "$1" 2>/dev/null)" REINSTALL=ALL REINSTALLMODE=omus
     expect "The repair has put the files back" files_are_installed x64 machine "$2"
     expect "The repair has put the registry back" table_is_written "$1" x64 machine

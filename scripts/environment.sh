@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# What ./demo and ./test share: the Debian packages, a virtual display and a Wine prefix of their own, all
-# set up when missing and stopped when the script ends. Sourced, with $root naming the checkout.
+# Shared by ./demo, ./test, ./bench and ./package: the Debian packages, a virtual display and a Wine prefix of
+# their own, all set up when missing and stopped when the script ends. Sourced, with $root naming the checkout.
 
 root=${root:?}
 prefix=${TELVIX_PREFIX:-$root/build/wine}
