@@ -1,6 +1,7 @@
 // Calls that a busy server rejects ("call rejected", "retry later") are tried again for a bounded time. On
 // Windows the thread's message filter does that within the call (MessageFilterScope); where the filter is not
-// asked, as under Wine, the rejection returns to the caller, and these functions retry the call.
+// asked, as under Wine, the rejection returns to the caller, and these functions retry the call. When the
+// time is over the user decides, here and not in the filter, inside which no calls can be made.
 #pragma once
 
 #include <windows.h>
@@ -8,7 +9,7 @@
 namespace automation
 {
 
-// How long one call is retried altogether, in milliseconds.
+// How long one call is retried before the user is asked, in milliseconds.
 inline constexpr DWORD kBusyPatience = 30000;
 
 inline bool IsRejection(HRESULT result) noexcept
@@ -30,19 +31,46 @@ void AtLeast(DWORD time, Wait&& wait)
     }
 }
 
-// Waits a moment while the thread's windows stay alive; false when the patience since start (a tick count) is
-// used up.
-bool WaitForBusyServer(ULONGLONG start) noexcept;
+// The user's answer, when a server has been busy for longer than kBusyPatience: true to try for as long
+// again.
+using BusyQuestion = bool (*)();
+
+// Installs the question for the whole process; null, as at first, for none: the call fails then.
+void AskWhenBusy(BusyQuestion question) noexcept;
+
+// The attempts at one call.
+class BusyWait
+{
+  public:
+    // start: a tick count.
+    explicit BusyWait(ULONGLONG start = GetTickCount64()) noexcept : mStart(start) {}
+
+    // Waits a moment while the thread's windows stay alive. False when the patience is used up and the user
+    // gives up, and at once for the calls that follow closely, until one is taken.
+    bool MayTryAgain();
+
+    // A call has not been rejected.
+    static void CallTaken() noexcept;
+
+  private:
+    bool HasPatience();
+
+    ULONGLONG mStart;
+};
 
 // The result of a call, which is made again as long as it is rejected.
 template<typename Call>
 HRESULT RetriedWhileBusy(Call&& call)
 {
-    const ULONGLONG start = GetTickCount64();
+    BusyWait wait;
     HRESULT result = call();
-    while (IsRejection(result) && WaitForBusyServer(start))
+    while (IsRejection(result) && wait.MayTryAgain())
     {
         result = call();
+    }
+    if (!IsRejection(result))
+    {
+        BusyWait::CallTaken();
     }
     return result;
 }

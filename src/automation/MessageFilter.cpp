@@ -19,8 +19,15 @@ constexpr DWORD kRetryDelay = 250; // milliseconds; COM waits so long before the
 class RetryingFilter : public ComObject<IMessageFilter>
 {
   public:
-    STDMETHODIMP_(DWORD) HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) override
+    explicit RetryingFilter(IMessageFilter* host) noexcept : mHost(host) {}
+
+    STDMETHODIMP_(DWORD)
+    HandleInComingCall(DWORD type, HTASK caller, DWORD elapsed, LPINTERFACEINFO call) override
     {
+        if (mHost != nullptr)
+        {
+            return mHost->HandleInComingCall(type, caller, elapsed, call);
+        }
         return SERVERCALL_ISHANDLED;
     }
 
@@ -29,14 +36,27 @@ class RetryingFilter : public ComObject<IMessageFilter>
         return elapsed < kBusyPatience ? kRetryDelay : kCancelCall;
     }
 
-    STDMETHODIMP_(DWORD) MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }
+    STDMETHODIMP_(DWORD) MessagePending(HTASK server, DWORD elapsed, DWORD type) override
+    {
+        if (mHost != nullptr)
+        {
+            return mHost->MessagePending(server, elapsed, type);
+        }
+        return PENDINGMSG_WAITDEFPROCESS;
+    }
+
+  private:
+    Microsoft::WRL::ComPtr<IMessageFilter> mHost;
 };
 
 } // namespace
 
-MessageFilterScope::MessageFilterScope() : mFilter(new RetryingFilter)
+MessageFilterScope::MessageFilterScope()
 {
-    CoRegisterMessageFilter(mFilter.Get(), &mPrevious);
+    // The registration hands out the one that was there before only against another.
+    CoRegisterMessageFilter(nullptr, &mPrevious);
+    mFilter = new RetryingFilter(mPrevious.Get());
+    CoRegisterMessageFilter(mFilter.Get(), nullptr);
 }
 
 MessageFilterScope::~MessageFilterScope()

@@ -1,6 +1,7 @@
 // For the duration of a scope, calls that a busy server rejects ("call rejected", "retry later") are tried
 // again for a bounded time instead of failing, as the COM documentation asks of clients of Office. Installed
-// per thread; the filter that was there before is put back.
+// per thread. The host's own filter keeps its say about calls that come in and messages that arrive during a
+// call, and is put back afterwards.
 #pragma once
 
 #include <windows.h>

@@ -1,9 +1,11 @@
 #include "entry/SynLoad.h"
 
+#include "automation/BusyServer.h"
 #include "automation/MessageFilter.h"
 #include "run/FrmSynchronizeItem.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
+#include "ui/AskWhetherToWait.h"
 
 namespace entry
 {
@@ -42,6 +44,7 @@ bool SynLoad(const Object& dtc, const std::wstring& connection)
             return false;
         }
         const Loading loading(shared);
+        automation::AskWhenBusy(&ui::AskWhetherToWait);
         const automation::MessageFilterScope busyOutlookIsAskedAgain;
         shared.gDTC = dtc;
         shared.gOlApplication = Object::Create(L"Outlook.Application");

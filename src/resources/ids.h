@@ -80,6 +80,7 @@
 #define IDS_PICKER_CAPTION_CONTACTS 4001
 #define IDS_PICKER_CAPTION_TASKS 4002
 #define IDS_PICKER_CAPTION_CALENDAR 4003
+#define IDS_OUTLOOK_BUSY 4004
 
 // Dialogs. The OK and Cancel roles are IDOK and IDCANCEL, so that Enter and Escape reach them.
 #define IDD_SYNCHRONIZEITEM 2000 // FrmSynchronizeItem

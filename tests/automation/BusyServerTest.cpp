@@ -1,5 +1,6 @@
 #include "automation/BusyServer.h"
 
+#include "automation/ComObject.h"
 #include "automation/MessageFilter.h"
 #include "automation/Object.h"
 #include "tests/automation/ScriptedObject.h"
@@ -53,6 +54,42 @@ TEST(MessageFilterScope, TheFilterThatWasThereBeforeIsPutBack)
     EXPECT_EQ(before.Get(), CurrentFilter().Get());
 }
 
+// The filter of a host that is busy itself.
+class HostFilter : public ComObject<IMessageFilter>
+{
+  public:
+    STDMETHODIMP_(DWORD) HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) override
+    {
+        return SERVERCALL_RETRYLATER;
+    }
+    STDMETHODIMP_(DWORD) RetryRejectedCall(HTASK, DWORD, DWORD) override { return static_cast<DWORD>(-1); }
+    STDMETHODIMP_(DWORD) MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_CANCELCALL; }
+};
+
+TEST(MessageFilterScope, TheHostsFilterKeepsItsSayAboutIncomingCallsAndPendingMessages)
+{
+    const ComPtr<IMessageFilter> host(new HostFilter);
+    ComPtr<IMessageFilter> before;
+    CoRegisterMessageFilter(host.Get(), &before);
+    {
+        const MessageFilterScope scope;
+        const ComPtr<IMessageFilter> filter = CurrentFilter();
+        EXPECT_EQ(SERVERCALL_RETRYLATER, filter->HandleInComingCall(CALLTYPE_TOPLEVEL, nullptr, 0, nullptr));
+        EXPECT_EQ(PENDINGMSG_CANCELCALL, filter->MessagePending(nullptr, 0, PENDINGTYPE_TOPLEVEL));
+        EXPECT_NE(static_cast<DWORD>(-1), filter->RetryRejectedCall(nullptr, 0, SERVERCALL_RETRYLATER));
+    }
+    EXPECT_EQ(host.Get(), CurrentFilter().Get());
+    CoRegisterMessageFilter(before.Get(), nullptr);
+}
+
+TEST(MessageFilterScope, WithoutAFilterOfTheHostCallsAreTakenAndMessagesWait)
+{
+    const MessageFilterScope scope;
+    const ComPtr<IMessageFilter> filter = CurrentFilter();
+    EXPECT_EQ(SERVERCALL_ISHANDLED, filter->HandleInComingCall(CALLTYPE_TOPLEVEL, nullptr, 0, nullptr));
+    EXPECT_EQ(PENDINGMSG_WAITDEFPROCESS, filter->MessagePending(nullptr, 0, PENDINGTYPE_TOPLEVEL));
+}
+
 TEST(BusyServer, ARejectedCallIsMadeAgainUntilItIsTaken)
 {
     for (const HRESULT rejection : {RPC_E_CALL_REJECTED, RPC_E_SERVERCALL_RETRYLATER})
@@ -94,8 +131,56 @@ TEST(BusyServer, AWaitThatFailsAtOnceLastsItsTimeAllTheSame)
 TEST(BusyServer, PatienceEnds)
 {
     const ULONGLONG now = GetTickCount64();
-    EXPECT_TRUE(WaitForBusyServer(now));
-    EXPECT_FALSE(WaitForBusyServer(now - kBusyPatience));
+    EXPECT_TRUE(BusyWait(now).MayTryAgain());
+    EXPECT_FALSE(BusyWait(now - kBusyPatience).MayTryAgain());
+}
+
+// A user who is asked whether to try again.
+class PatientUser : public testing::Test
+{
+  protected:
+    PatientUser()
+    {
+        gTimesAsked = 0;
+        AskWhenBusy([] {
+            ++gTimesAsked;
+            return gGoesOn;
+        });
+    }
+    ~PatientUser() override
+    {
+        AskWhenBusy(nullptr);
+        BusyWait::CallTaken();
+    }
+
+    static BusyWait LongWait() { return BusyWait(GetTickCount64() - kBusyPatience); }
+
+    static inline int gTimesAsked = 0;
+    static inline bool gGoesOn = true;
+};
+
+TEST_F(PatientUser, IsAskedWhenThePatienceIsUsedUpAndHasItAnewAfterwards)
+{
+    gGoesOn = true;
+    BusyWait wait = LongWait();
+    EXPECT_TRUE(wait.MayTryAgain());
+    EXPECT_TRUE(wait.MayTryAgain());
+    EXPECT_EQ(1, gTimesAsked);
+    EXPECT_TRUE(BusyWait().MayTryAgain());
+    EXPECT_EQ(1, gTimesAsked);
+}
+
+TEST_F(PatientUser, WhoGivesUpIsNotAskedForTheCallsThatFollowUntilOneIsTaken)
+{
+    gGoesOn = false;
+    EXPECT_FALSE(LongWait().MayTryAgain());
+    EXPECT_FALSE(LongWait().MayTryAgain());
+    EXPECT_FALSE(BusyWait().MayTryAgain());
+    EXPECT_EQ(1, gTimesAsked);
+    EXPECT_EQ(S_OK, RetriedWhileBusy([] { return S_OK; }));
+    EXPECT_TRUE(BusyWait().MayTryAgain());
+    EXPECT_FALSE(LongWait().MayTryAgain());
+    EXPECT_EQ(2, gTimesAsked);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "resources/Strings.h"
 #include "sandbox/outlook/Registration.h"
 #include "tests/boundary/Server.h"
 #include "tests/support/Thoroughness.h"
@@ -51,7 +52,7 @@ std::vector<Busy> Tried()
 class OutlookIsBusy : public testing::Test
 {
   protected:
-    static Seen RunWhile(Site& site, const Busy& busy, long milliseconds)
+    static Seen RunWhile(Site& site, const Busy& busy, long milliseconds, int boxAnswer = IDOK)
     {
         site.Prepare(busy.task.direction);
         Server server(site);
@@ -65,6 +66,7 @@ class OutlookIsBusy : public testing::Test
         disturb(kCreating);
         site.SynLoad([&](Robot& robot) {
             User user(robot);
+            user.AnswerBoxesBy(boxAnswer);
             disturb(kCollecting);
             seen = user.Run(busy.task.kind, [&] { disturb(kWriting); });
             user.Leave();
@@ -92,14 +94,29 @@ TEST_F(OutlookIsBusy, SynLoadAndTheRunWaitForItAndTheRunIsComplete)
                                " milliseconds each: " + std::to_string(Tried().size()));
 }
 
-TEST_F(OutlookIsBusy, ForLongerThanAnybodyWaitsTheRunFailsAndTheNextOneCompletesIt)
+TEST_F(OutlookIsBusy, ForLongerThanAnybodyWaitsTheUserIsAskedAndARetryCompletesTheRun)
 {
     if (!test_support::IsLongRun())
     {
         GTEST_SKIP() << "takes a minute; run with --long";
     }
     const Task task{L"contact", kImport};
-    EXPECT_EQ(FailureStatus(), RunWhile(mSite, {task, kCollecting}, kBeyondPatience).status);
+    const Seen seen = RunWhile(mSite, {task, kCollecting}, kBeyondPatience, IDRETRY);
+    EXPECT_EQ(SuccessStatus(), seen.status);
+    EXPECT_EQ(std::vector{resources::String(IDS_OUTLOOK_BUSY)}, seen.messages);
+    ExpectReached(mSite.Look(), UndisturbedCourse(task).after);
+}
+
+TEST_F(OutlookIsBusy, WhenTheUserGivesUpTheRunFailsAndTheNextOneCompletesIt)
+{
+    if (!test_support::IsLongRun())
+    {
+        GTEST_SKIP() << "takes a minute; run with --long";
+    }
+    const Task task{L"contact", kImport};
+    const Seen seen = RunWhile(mSite, {task, kCollecting}, kBeyondPatience, IDCANCEL);
+    EXPECT_EQ(FailureStatus(), seen.status);
+    EXPECT_EQ(std::vector{resources::String(IDS_OUTLOOK_BUSY)}, seen.messages);
     ExpectWhole(mSite.Look(), UndisturbedCourse(task).before, UndisturbedCourse(task).after);
     const Server next(mSite);
     EXPECT_EQ(SuccessStatus(), mSite.Run(task).status);

@@ -98,7 +98,8 @@ void User::Answer(const ShownDialog& dialog, Seen& seen, const std::function<voi
         const int description =
             Has(dialog, IDC_SHOWINFOR_DESCRIPTION) ? IDC_SHOWINFOR_DESCRIPTION : IDC_SHOWERR_DESCRIPTION;
         seen.messages.push_back(dialog.IsMessageBox() ? dialog.Message() : dialog.Text(description));
-        dialog.Click(dialog.IsMessageBox() ? dialog.Buttons().front() : IDOK);
+        dialog.Click(dialog.IsMessageBox() && !Has(dialog, mBoxAnswer) ? dialog.Buttons().front()
+                                                                       : mBoxAnswer);
     }
     mRobot.WaitUntilClosed(dialog);
 }

@@ -36,6 +36,8 @@ class User
     // kind: "contact", "task" or "calendar". The function runs while the confirmation is open, which is
     // accepted afterwards.
     Seen Run(const std::wstring& kind, const std::function<void()>& atConfirmation = {});
+    // The button that is pressed in a message box which has it; the first one of any other box.
+    void AnswerBoxesBy(int button) { mBoxAnswer = button; }
     // Chooses a kind's row, which enables the buttons.
     void ChooseKind(const std::wstring& kind) const;
     // Presses Escape until the dialog has gone.
@@ -52,6 +54,7 @@ class User
 
     Robot& mRobot;
     ShownDialog mMain;
+    int mBoxAnswer = IDOK;
 };
 
 } // namespace boundary_tests

@@ -74,7 +74,7 @@ constexpr Row kFixedTexts[] = {
 };
 
 // Texts whose wording is ours, and those that are ours altogether.
-constexpr UINT kFreeTexts[] = {101, 103, 104, 1000, 1021, 1030, 1043, 4000, 4001, 4002, 4003};
+constexpr UINT kFreeTexts[] = {101, 103, 104, 1000, 1021, 1030, 1043, 4000, 4001, 4002, 4003, 4004};
 
 std::set<UINT> PresentIds(Language language)
 {
