@@ -5,8 +5,10 @@
 #include "ui/ApplyFormFont.h"
 #include "ui/Busy.h"
 #include "ui/RowPainting.h"
+#include "ui/SentMessage.h"
 #include "ui/VisualStyles.h"
 
+#include <cstring>
 #include <span>
 #include <stdexcept>
 #include <utility>
@@ -44,6 +46,18 @@ HICON IconOfSize(int width, int height)
 {
     return static_cast<HICON>(
         LoadImageW(resources::Module(), MAKEINTRESOURCEW(IDI_TELVIX), IMAGE_ICON, width, height, LR_SHARED));
+}
+
+// Controls report keys in packed structures of one layout, which can be at any address.
+struct alignas(NMHDR) KeyNotification
+{
+    std::byte bytes[sizeof(NMLVKEYDOWN)];
+};
+static_assert(sizeof(NMTVKEYDOWN) == sizeof(NMLVKEYDOWN) && sizeof(NMTCKEYDOWN) == sizeof(NMLVKEYDOWN));
+
+bool IsAligned(LPARAM notification)
+{
+    return static_cast<ULONG_PTR>(notification) % alignof(NMHDR) == 0;
 }
 
 struct Search
@@ -187,19 +201,9 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     {
     case WM_INITDIALOG: return HandleInit();
     case WM_COMMAND:
-        if (mBusy == nullptr)
-        {
-            OnCommand(LOWORD(wParam), HIWORD(wParam));
-        }
-        return TRUE;
-    case WM_NOTIFY: return HandleNotify(*reinterpret_cast<const NMHDR*>(lParam));
+    case WM_CLOSE: return HandleOrder(message, wParam, lParam);
+    case WM_NOTIFY: return HandleNotify(lParam);
     case WM_SETCURSOR: return HandleSetCursor(LOWORD(lParam));
-    case WM_CLOSE:
-        if (mBusy == nullptr)
-        {
-            OnClose();
-        }
-        return TRUE;
     case WM_DESTROY:
         RemovePropW(mWindow, kDialogProperty);
         mWindow = nullptr;
@@ -230,6 +234,40 @@ void Dialog::SetIcons()
     };
     set(ICON_SMALL, GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON));
     set(ICON_BIG, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON));
+}
+
+INT_PTR Dialog::HandleOrder(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (mBusy != nullptr)
+    {
+        return TRUE;
+    }
+    // A control that reports on itself by a command is told at once.
+    const bool mayCallOut = message == WM_CLOSE || HIWORD(wParam) == BN_CLICKED;
+    if (mayCallOut && IsSenderWaiting())
+    {
+        PostMessageW(mWindow, message, wParam, lParam);
+    }
+    else if (message == WM_COMMAND)
+    {
+        OnCommand(LOWORD(wParam), HIWORD(wParam));
+    }
+    else
+    {
+        OnClose();
+    }
+    return TRUE;
+}
+
+INT_PTR Dialog::HandleNotify(LPARAM parameter)
+{
+    if (IsAligned(parameter))
+    {
+        return HandleNotify(*reinterpret_cast<const NMHDR*>(parameter));
+    }
+    KeyNotification aligned;
+    std::memcpy(&aligned, reinterpret_cast<const void*>(parameter), sizeof(NMLVKEYDOWN));
+    return HandleNotify(reinterpret_cast<const NMHDR&>(aligned));
 }
 
 INT_PTR Dialog::HandleNotify(const NMHDR& notification)

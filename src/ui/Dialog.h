@@ -68,6 +68,8 @@ class Dialog
     INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR HandleInit();
     void SetIcons();
+    INT_PTR HandleOrder(UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR HandleNotify(LPARAM parameter);
     INT_PTR HandleNotify(const NMHDR& notification);
     INT_PTR HandleSetCursor(WORD hitTest) const;
     void CenterOverActiveBefore();

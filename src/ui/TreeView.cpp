@@ -42,6 +42,11 @@ void TreeView::Open(HTREEITEM node)
     SendPointer(TVM_EXPAND, TVE_EXPAND, node);
 }
 
+void TreeView::OpenLater(HTREEITEM node)
+{
+    PostMessageW(Handle(), TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(node));
+}
+
 void TreeView::Select(HTREEITEM node)
 {
     SendPointer(TVM_SELECTITEM, TVGN_CARET, node);

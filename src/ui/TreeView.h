@@ -28,6 +28,8 @@ class TreeView : public Control
     // Takes the mark that it can be opened from a node without children.
     void SetWithoutChildren(HTREEITEM node);
     void Open(HTREEITEM node);
+    // When the thread is back in its loop of messages.
+    void OpenLater(HTREEITEM node);
     void Select(HTREEITEM node);
 
     std::optional<HTREEITEM> Selected() const;

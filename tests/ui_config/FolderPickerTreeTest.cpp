@@ -1,7 +1,9 @@
 // The folder picker: its tree of Outlook's folders.
 #include "automation/Error.h"
+#include "automation/Text.h"
 #include "sandbox/dispatch/DispatchObject.h"
 #include "tests/ui_config/FolderPicker.h"
+#include "ui/SentMessage.h"
 
 #include <atomic>
 #include <chrono>
@@ -14,6 +16,15 @@ using sandbox::ItemKind;
 
 class FolderPickerTree : public FolderPicker
 {
+  protected:
+    static bool MayBeOpened(const ShownDialog& dialog, HTREEITEM node)
+    {
+        TVITEMW item = {};
+        item.mask = TVIF_CHILDREN;
+        item.hItem = node;
+        dialog.Ask(dialog.Control(kTree), TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        return item.cChildren != 0;
+    }
 };
 
 INSTANTIATE_TEST_SUITE_P(, FolderPickerTree, testing::ValuesIn(ui_tests::kLanguages));
@@ -48,13 +59,44 @@ TEST_P(FolderPickerTree, TheTreeShowsContainersAndFoldersOfTheKind)
         EXPECT_EQ((Texts{L"Contacts", L"Projects"}), NodesBelow(dialog, kTree, store));
         const HTREEITEM projects = FindNode(dialog, kTree, store, L"Projects");
         dialog.Ask(dialog.Control(kTree), TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(projects));
-        EXPECT_TRUE(NodesBelow(dialog, kTree, projects).empty()); // only mail in it
+        robot.WaitUntil("the lack of children", [&] { return !MayBeOpened(dialog, projects); }); // only mail
+        robot.WaitUntil("the dialog at rest", [&] { return dialog.IsAtRest(); });
         const HTREEITEM contacts = FindNode(dialog, kTree, store, L"Contacts");
         SelectNode(dialog, kTree, contacts);
         dialog.Ask(dialog.Handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(dialog.Control(kTree)), TRUE);
         dialog.Press(VK_RIGHT); // opens it
         robot.WaitUntil("an open node", [&] { return !NodesBelow(dialog, kTree, contacts).empty(); });
         EXPECT_EQ(Texts{L"Friends"}, NodesBelow(dialog, kTree, contacts));
+        dialog.Close();
+    });
+}
+
+// Outlook is asked for nothing while another thread waits for the answer to its message.
+class NoSenderWaits : public sandbox::CallObserver
+{
+  public:
+    NoSenderWaits() : mBefore(sandbox::Observe(this)) {}
+    ~NoSenderWaits() override { sandbox::Observe(mBefore); }
+    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
+    {
+        EXPECT_FALSE(ui::IsSenderWaiting()) << automation::ToUtf8(member);
+    }
+
+  private:
+    sandbox::CallObserver* mBefore;
+};
+
+TEST_P(FolderPickerTree, ANodeThatAnotherThreadOpensBySendingOpensWhenTheSenderHasItsAnswer)
+{
+    mGround.Mailbox->AddFolder(kStore + L"\\Contacts\\Friends", ItemKind::Contact);
+    const NoSenderWaits outlook;
+    Show([&](Robot& robot, const ShownDialog& dialog) {
+        const HTREEITEM contacts =
+            FindNode(dialog, kTree, FindNode(dialog, kTree, nullptr, kStore), L"Contacts");
+        dialog.Ask(dialog.Control(kTree), TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(contacts));
+        robot.WaitUntil("an open node", [&] { return !NodesBelow(dialog, kTree, contacts).empty(); });
+        EXPECT_EQ(Texts{L"Friends"}, NodesBelow(dialog, kTree, contacts));
+        robot.WaitUntil("the dialog at rest", [&] { return dialog.IsAtRest(); });
         dialog.Close();
     });
 }

@@ -6,6 +6,7 @@
 #include "state/SharedState.h"
 #include "ui/Busy.h"
 #include "ui/FitText.h"
+#include "ui/SentMessage.h"
 
 #include <algorithm>
 
@@ -181,7 +182,13 @@ void FrmSynContent::EnableButtons()
 LRESULT FrmSynContent::OnNotify(const NMHDR& notification)
 {
     return state::Trapped(LRESULT{0}, [&] {
-        if (const auto opening = tvOlFolder.FirstOpening(notification))
+        const auto opening = tvOlFolder.FirstOpening(notification);
+        if (opening && ui::IsSenderWaiting())
+        {
+            tvOlFolder.OpenLater(*opening);
+            return LRESULT{TRUE}; // not now
+        }
+        if (opening)
         {
             const ui::Busy busy(*this);
             OpenNode(*opening);
