@@ -2,6 +2,8 @@
 // Afterwards they do again, and the window that was active before is active again.
 #pragma once
 
+#include "ui/FrontKeeper.h"
+
 #include <vector>
 
 #include <windows.h>
@@ -20,6 +22,7 @@ class ModalScope
   private:
     HWND mActiveBefore;
     std::vector<HWND> mDisabled;
+    FrontKeeper mFrontKeeper;
 };
 
 } // namespace ui

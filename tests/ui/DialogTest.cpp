@@ -4,13 +4,19 @@
 #include "tests/support/Drive.h"
 #include "tests/ui/Interface.h"
 #include "ui/ApplyFormFont.h"
+#include "ui/AskWhetherToWait.h"
 #include "ui/Control.h"
 #include "ui/ProgressBar.h"
+#include "ui/SentMessage.h"
 #include "ui/ShowMessageBox.h"
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <cstring>
 #include <stdexcept>
+
+#include <commctrl.h>
 
 namespace
 {
@@ -30,6 +36,8 @@ class Probe : public ui::Dialog
     {
     }
     std::function<void()> Init;
+    std::function<void(const NMHDR&)> Notify;
+    std::function<void()> Close;
     int Unloaded = 0;
 
   private:
@@ -47,6 +55,22 @@ class Probe : public ui::Dialog
             mOnCommand();
         }
         Dialog::OnCommand(id, notification);
+    }
+    LRESULT OnNotify(const NMHDR& notification) override
+    {
+        if (Notify)
+        {
+            Notify(notification);
+        }
+        return 0;
+    }
+    void OnClose() override
+    {
+        if (Close)
+        {
+            Close();
+        }
+        Dialog::OnClose();
     }
     void OnUnload() override { ++Unloaded; }
 
@@ -157,6 +181,70 @@ TEST(Dialog, AnExceptionOfTheLoadStepComesOutBeforeAnythingIsShown)
     EXPECT_THROW(probe.ShowModal(), std::runtime_error);
 }
 
+// List views and tree views report keys so, in 32-bit code.
+TEST(Dialog, ANotificationAtAnOddAddressIsRead)
+{
+    UINT code = 0;
+    WORD key = 0;
+    Probe probe;
+    probe.Notify = [&](const NMHDR& notification) {
+        code = notification.code;
+        std::memcpy(&key, &reinterpret_cast<const NMLVKEYDOWN&>(notification).wVKey, sizeof key);
+    };
+    probe.Init = [&] {
+        NMLVKEYDOWN sent = {};
+        sent.hdr.code = static_cast<UINT>(LVN_KEYDOWN);
+        sent.wVKey = VK_SPACE;
+        alignas(NMHDR) char room[sizeof sent + 1];
+        std::memcpy(room + 1, &sent, sizeof sent);
+        SendMessageW(probe.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(room + 1));
+    };
+    Drive([](Robot& robot) { robot.WaitForDialog().Close(); }, [&] { probe.ShowModal(); });
+    EXPECT_EQ(static_cast<UINT>(LVN_KEYDOWN), code);
+    EXPECT_EQ(VK_SPACE, key);
+}
+
+// While the sender waits, COM would refuse every call to Outlook.
+TEST(Dialog, AButtonThatAnotherThreadPressesBySendingIsHandledWhenTheSenderHasItsAnswer)
+{
+    std::atomic<bool> isAnswered{false};
+    std::atomic<int> pressed{0};
+    Probe probe([&] {
+        EXPECT_FALSE(ui::IsSenderWaiting());
+        ui::ShowMessageBox(L"What the command shows", MB_OK);
+        EXPECT_TRUE(isAnswered);
+        ++pressed;
+    });
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog();
+            dialog.Ask(dialog.Control(IDOK), BM_CLICK);
+            isAnswered = true;
+            robot.WaitForDialogAfter(dialog).Click(IDOK);
+            robot.WaitUntil("the command", [&] { return pressed == 1; });
+            robot.WaitUntil("the dialog below", [&] { return dialog.TakesInput(); });
+            dialog.Close();
+        },
+        [&] { probe.ShowModal(); });
+}
+
+TEST(Dialog, ACloseThatAnotherThreadSendsIsHandledWhenTheSenderHasItsAnswer)
+{
+    Probe probe;
+    int closed = 0;
+    probe.Close = [&] {
+        EXPECT_FALSE(ui::IsSenderWaiting());
+        ++closed;
+    };
+    Drive(
+        [](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog();
+            dialog.Ask(dialog.Handle(), WM_CLOSE);
+        },
+        [&] { probe.ShowModal(); });
+    EXPECT_EQ(1, closed);
+}
+
 TEST(Dialog, TheSameDialogCannotBeShownTwiceAtATime)
 {
     const MainThread main;
@@ -180,6 +268,78 @@ TEST(Dialog, CanBeShownAgainAfterItHasClosed)
         EXPECT_EQ(i, probe.Unloaded);
         EXPECT_EQ(nullptr, probe.Handle());
     }
+}
+
+// A window of the host, with what becomes of it.
+class HostWindow
+{
+  public:
+    HostWindow()
+        : mWindow(CreateWindowW(L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                                nullptr, nullptr, nullptr))
+    {
+        SetWindowSubclass(mWindow, Count, 0, reinterpret_cast<DWORD_PTR>(this));
+    }
+    HostWindow(const HostWindow&) = delete;
+    HostWindow& operator=(const HostWindow&) = delete;
+    ~HostWindow() { DestroyWindow(mWindow); }
+
+    // As the task bar and Alt+Tab do, which know nothing of dialogs without an owner. Of any thread.
+    void Activate() const { SetForegroundWindow(mWindow); }
+    int TimesActivated() const { return mActivated; }
+
+  private:
+    static LRESULT CALLBACK Count(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                  DWORD_PTR host)
+    {
+        if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE)
+        {
+            ++reinterpret_cast<HostWindow*>(host)->mActivated;
+        }
+        return DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    HWND mWindow;
+    std::atomic<int> mActivated{0};
+};
+
+void ExpectInFrontWhenHostIsActivated(Robot& robot, const HostWindow& host, const ShownDialog& dialog)
+{
+    robot.WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Handle(); });
+    const int before = host.TimesActivated();
+    host.Activate();
+    robot.WaitUntil("the host to be activated", [&] { return host.TimesActivated() > before; });
+    robot.WaitUntil("the dialog in front again", [&] { return GetForegroundWindow() == dialog.Handle(); });
+}
+
+TEST(Dialog, ComesToTheFrontWhenTheHostIsActivated)
+{
+    const HostWindow host;
+    Probe probe;
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog();
+            ExpectInFrontWhenHostIsActivated(robot, host, dialog);
+            dialog.Close();
+        },
+        [&] { probe.ShowModal(); });
+}
+
+TEST(Dialog, AMessageBoxOverItComesToTheFrontWhenTheHostIsActivated)
+{
+    const HostWindow host;
+    Probe probe([] { ui::ShowMessageBox(L"Over the dialog", MB_OK); });
+    Drive(
+        [&](Robot& robot) {
+            const ShownDialog dialog = robot.WaitForDialog();
+            dialog.Click(IDOK);
+            const ShownDialog box = robot.WaitForDialogAfter(dialog);
+            ExpectInFrontWhenHostIsActivated(robot, host, box);
+            box.Click(IDOK);
+            robot.WaitUntil("the dialog below", [&] { return dialog.TakesInput(); });
+            dialog.Close();
+        },
+        [&] { probe.ShowModal(); });
 }
 
 TEST(Dialog, WithAnOwnerTheOwnerTakesNoInputMeanwhile)
@@ -222,6 +382,34 @@ TEST(ShowMessageBox, HasTheApplicationsTitleAndTheIconAndButtonsAsked)
         },
         [&] { answer = ui::ShowMessageBox(L"Go on?", MB_YESNO | MB_ICONQUESTION); });
     EXPECT_EQ(IDNO, answer);
+}
+
+TEST(AskWhetherToWait, AsksInTheInterfacesLanguageWhetherToTryAgain)
+{
+    for (const Language language : kLanguages)
+    {
+        const Interface with(language);
+        for (const int button : {IDRETRY, IDCANCEL})
+        {
+            bool waits = false;
+            Drive(
+                [&](Robot& robot) {
+                    const ShownDialog box = robot.WaitForDialog(L"Telvix");
+                    EXPECT_EQ(
+                        In(language,
+                           L"Outlook is busy. A dialog box may be open in Outlook: close it, then choose "
+                           L"Retry. Cancel ends what is under way.",
+                           L"Outlook 正忙。Outlook 中可能有打开的对话框：请将其关闭，然后选择“重试”。"
+                           L"“取消”将结束正在进行的操作。"),
+                        box.Message());
+                    EXPECT_TRUE(box.ShowsIcon(IDI_WARNING));
+                    EXPECT_EQ((std::vector<int>{IDRETRY, IDCANCEL}), box.Buttons());
+                    box.Click(button);
+                },
+                [&] { waits = ui::AskWhetherToWait(); });
+            EXPECT_EQ(button == IDRETRY, waits);
+        }
+    }
 }
 
 TEST(ProgressBar, AFractionBecomesAStepAndWhatIsNoFractionTheNearerEnd)
