@@ -5,7 +5,8 @@
 root=${root:?}
 prefix=${TELVIX_PREFIX:-$root/build/wine}
 # No debugger: after a crash it ends the program with the exit code 0 as often as not, which counts as success.
-export WINEPREFIX=$prefix WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe=" WINEARCH=win64
+export WINEPREFIX=$prefix WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe="
+export WINEARCH=${TELVIX_WINEARCH:-win64}
 
 packages=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
     wine wine64 fonts-wine xvfb xauth imagemagick xdotool unixodbc libsqliteodbc sqlite3
@@ -16,19 +17,31 @@ fail() {
     exit 1
 }
 
+# missing_packages NAME...: prints those that are not installed.
+missing_packages() {
+    local name
+    for name in "$@"; do
+        dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || printf '%s\n' "$name"
+    done
+}
+
+# apt_install [OPTION...] NAME...: apt-get install without questions, and without what is only recommended.
+apt_install() {
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo -n "$@"; fi
+}
+
 # install_packages NAME...: installs those that are missing; one clear line when that does not work.
 install_packages() {
-    local missing=() name as_root=()
-    for name in "$@"; do
-        dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
-    done
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
     [ ${#missing[@]} -eq 0 ] && return
-    [ "$(id -u)" -eq 0 ] || as_root=(sudo -n)
     mkdir -p "$root/build"
     printf 'Installing %s\n' "${missing[*]}"
-    { "${as_root[@]}" apt-get update &&
-        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"; } \
-        >"$root/build/packages.log" 2>&1 </dev/null ||
+    { as_root apt-get update && apt_install "${missing[@]}"; } >"$root/build/packages.log" 2>&1 </dev/null ||
         fail "these packages could not be installed: ${missing[*]} (see build/packages.log)"
 }
 

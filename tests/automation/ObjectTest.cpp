@@ -233,14 +233,18 @@ TEST(Object, AnErrorTellsTheObjectsOwnCodeAndWords)
     EXPECT_STREQ("Member: 0x80070005: The item is read-only.", error.what());
 }
 
+// A function of the system's calling convention, which a lambda has not.
+HRESULT STDAPICALLTYPE FillInLater(EXCEPINFO* later)
+{
+    later->scode = E_INVALIDARG;
+    later->bstrDescription = SysAllocString(L"Told later");
+    return S_OK;
+}
+
 TEST(Object, AnErrorThatIsFilledInLaterIsFilledIn)
 {
     const Error error = ErrorOf([](EXCEPINFO& exception) {
-        exception.pfnDeferredFillIn = [](EXCEPINFO* later) -> HRESULT {
-            later->scode = E_INVALIDARG;
-            later->bstrDescription = SysAllocString(L"Told later");
-            return S_OK;
-        };
+        exception.pfnDeferredFillIn = &FillInLater;
         return DISP_E_EXCEPTION;
     });
     EXPECT_EQ(E_INVALIDARG, error.Code());
