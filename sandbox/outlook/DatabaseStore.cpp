@@ -164,6 +164,11 @@ void DatabaseStore::AddFolder(const std::wstring& path, ItemKind type)
                         {path, static_cast<long>(type)});
 }
 
+void DatabaseStore::DeleteFolder(const std::wstring& path)
+{
+    mConnection.Execute(L"DELETE FROM Folder WHERE Path = ?", {path});
+}
+
 std::map<long, ItemRows> DatabaseStore::ReadItems(const std::wstring& path)
 {
     std::map<long, ItemRows> items;

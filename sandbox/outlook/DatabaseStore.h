@@ -23,6 +23,7 @@ class DatabaseStore : public MailboxStore
     std::vector<std::pair<std::wstring, Value>> ReadSwitches() override;
     std::vector<std::pair<std::wstring, ItemKind>> ReadFolders() override;
     void AddFolder(const std::wstring& path, ItemKind type) override;
+    void DeleteFolder(const std::wstring& path) override;
     std::map<long, ItemRows> ReadItems(const std::wstring& path) override;
     void WriteItem(const std::wstring& path, long index, const PropertyRows& properties,
                    const std::vector<std::wstring>* links) override;

@@ -113,6 +113,7 @@ const MemberTable& FolderObject::Members() const
                            {L"Folders", Reads(&FolderObject::Folders), nullptr},
                            {L"Items", Reads(&FolderObject::Items), nullptr},
                            {L"GetTable", Reads(&FolderObject::GetTable), nullptr},
+                           {L"Delete", Reads(&FolderObject::Delete), nullptr},
                            {L"Parent", Reads(&FolderObject::Parent), nullptr},
                            {L"FolderPath", Reads(&FolderObject::FolderPath), nullptr},
                            {L"EntryID", Reads(&FolderObject::EntryId), nullptr},
@@ -175,6 +176,16 @@ Value FolderObject::EntryId(const Call&)
 Value FolderObject::StoreId(const Call&)
 {
     return mFolder.Path().substr(0, mFolder.Path().find(L'\\'));
+}
+
+Value FolderObject::Delete(const Call&)
+{
+    if (mFolder.Parent() == nullptr)
+    {
+        FailInvalid(L"Delete", L"A store cannot be deleted.");
+    }
+    Box()->DeleteFolder(mFolder);
+    return {};
 }
 
 automation::Object ObjectOfFolder(const MailboxRef& mailbox, MailFolder& folder)

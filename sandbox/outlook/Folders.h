@@ -54,6 +54,7 @@ class FolderObject : public OutlookObject
     Value StoreId(const Call&);
     Value EntryId(const Call&);
     Value GetTable(const Call& call);
+    Value Delete(const Call&);
 
     MailFolder& mFolder;
 };

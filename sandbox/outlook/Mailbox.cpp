@@ -271,4 +271,24 @@ void Mailbox::Delete(const StoredItemRef& item)
     ++mDeletions;
 }
 
+void Mailbox::DeleteFolder(MailFolder& folder)
+{
+    for (MailFolder* child : std::vector(folder.mChildren))
+    {
+        DeleteFolder(*child);
+    }
+    for (const StoredItemRef& item : std::vector(Items(folder)))
+    {
+        Delete(item);
+    }
+    if (mStore)
+    {
+        mStore->DeleteFolder(folder.Path());
+    }
+    std::erase(folder.Parent()->mChildren, &folder);
+    const auto known = mFolders.find(folder.Path());
+    mDeletedFolders.push_back(std::move(known->second));
+    mFolders.erase(known);
+}
+
 } // namespace sandbox::outlook

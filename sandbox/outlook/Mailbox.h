@@ -117,6 +117,8 @@ class Mailbox
     StoredItemRef Save(MailFolder& folder, StoredItemRef item, ItemKind kind, const PropertyBag& properties,
                        const std::vector<std::wstring>* links);
     void Delete(const StoredItemRef& item);
+    // With everything in it. Not for a store.
+    void DeleteFolder(MailFolder& folder);
 
     // How many items have been deleted so far: tells a collection whether to look for those that it lost.
     long Deletions() const noexcept { return mDeletions; }
@@ -146,6 +148,7 @@ class Mailbox
     std::unique_ptr<MailboxStore> mStore;
     std::unordered_map<std::wstring, std::unique_ptr<MailFolder>> mFolders;
     std::vector<MailFolder*> mStores;
+    std::vector<std::unique_ptr<MailFolder>> mDeletedFolders; // which clients may still refer to
     long mDeletions = 0;
     Awkward mAwkward;
     unsigned mSaves = 0;

@@ -32,6 +32,8 @@ class MailboxStore
     // Path and default item type of every folder, in the order in which they were added.
     virtual std::vector<std::pair<std::wstring, ItemKind>> ReadFolders() = 0;
     virtual void AddFolder(const std::wstring& path, ItemKind type) = 0;
+    // The folder has no items (any more).
+    virtual void DeleteFolder(const std::wstring& path) = 0;
     // The items of a folder by their index.
     virtual std::map<long, ItemRows> ReadItems(const std::wstring& path) = 0;
     // Writes these properties of an item (nothing for a text: the property goes), leaving its others; links

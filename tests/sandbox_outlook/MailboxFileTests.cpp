@@ -42,6 +42,20 @@ TEST_F(MailboxFile, AnotherSessionReadsWhatWasSaved)
     EXPECT_EQ(L"王小明", Text(task, L"ContactNames"));
 }
 
+TEST_F(MailboxFile, AFolderIsDeletedWithEverythingInItAndAStoreIsNot)
+{
+    const auto outlook = MakeOutlook(OpenMailbox(mPath));
+    const auto contacts = Folder(outlook, 10);
+    const auto friends = contacts.GetObject(L"Folders").GetObject(L"Add", L"Friends");
+    friends.GetObject(L"Folders").Call(L"Add", L"Near");
+    const auto contact = friends.GetObject(L"Items").GetObject(L"Add");
+    contact.Call(L"Save");
+    friends.Call(L"Delete");
+    EXPECT_EQ(0, Number(contacts.GetObject(L"Folders"), L"Count"));
+    EXPECT_EQ(0, Number(Folder(MakeOutlook(OpenMailbox(mPath)), 10).GetObject(L"Folders"), L"Count"));
+    EXPECT_THROW(contacts.GetObject(L"Parent").Call(L"Delete"), automation::Error);
+}
+
 TEST_F(MailboxFile, RowsAddedByHandAreItemsWithDefaultsForWhatTheyLeaveOut)
 {
     AddRow(L"邮箱\\Tasks", 7, L"Subject", L"Call 李雷");
