@@ -35,6 +35,25 @@ Error::Error(HRESULT code, std::wstring member, std::wstring description)
     mWhat = ToUtf8(mMember) + ": " + number + ": " + ToUtf8(mDescription);
 }
 
+bool IsMissingMember(const Error& error) noexcept
+{
+    return error.Code() == DISP_E_UNKNOWNNAME || error.Code() == DISP_E_MEMBERNOTFOUND;
+}
+
+bool IsRefusal(const Error& error) noexcept
+{
+    return error.Code() == E_ABORT || error.Code() == E_ACCESSDENIED || error.Code() == E_NOTIMPL ||
+           IsMissingMember(error);
+}
+
+bool IsGone(const Error& error) noexcept
+{
+    constexpr HRESULT kInvalidEntryId = static_cast<HRESULT>(0x80040107); // MAPI_E_INVALID_ENTRYID
+    constexpr HRESULT kObjectDeleted = static_cast<HRESULT>(0x8004010A);  // MAPI_E_OBJECT_DELETED
+    return error.Code() == kItemNotFound || error.Code() == kInvalidEntryId ||
+           error.Code() == kObjectDeleted || error.Code() == kRowDeleted;
+}
+
 void Check(HRESULT code, const wchar_t* member)
 {
     if (FAILED(code))

@@ -31,6 +31,17 @@ class Error : public std::exception
     std::string mWhat;
 };
 
+// Whether the object has no member of this name: it is of another kind than its caller took it for.
+bool IsMissingMember(const Error& error) noexcept;
+
+// Whether the call has been denied, by the object model guard or since the member is no longer supported.
+bool IsRefusal(const Error& error) noexcept;
+
+// What Outlook and ADO answer for an item or a row that has been deleted meanwhile.
+inline constexpr HRESULT kItemNotFound = static_cast<HRESULT>(0x8004010F); // MAPI_E_NOT_FOUND
+inline constexpr HRESULT kRowDeleted = static_cast<HRESULT>(0x80040E23);   // DB_E_DELETEDROW
+bool IsGone(const Error& error) noexcept;
+
 // Throws an Error when code is a failure.
 void Check(HRESULT code, const wchar_t* member);
 

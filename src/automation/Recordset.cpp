@@ -40,6 +40,11 @@ void Recordset::MoveTo(long position) const
     mObject.Call(L"Move", 0L, static_cast<double>(position));
 }
 
+void Recordset::GoTo(long position) const
+{
+    mObject.Put(L"AbsolutePosition", position);
+}
+
 long Recordset::RecordCount() const
 {
     return LongOf(mObject.Get(L"RecordCount"));

@@ -41,6 +41,8 @@ class Recordset
     // Back to a row by the position it had: Move with 0 records from that position as bookmark, the form that
     // client cursors give their bookmarks.
     void MoveTo(long position) const;
+    // To the row at a position by AbsolutePosition, which counts in the present order.
+    void GoTo(long position) const;
     long RecordCount() const;
     // The value of a column of the current row; the name in any letter case.
     Value ValueOf(const std::wstring& column) const;

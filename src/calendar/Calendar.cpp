@@ -73,6 +73,7 @@ std::wstring EntriesOfUser(const data::Host& host)
 const exchange::Kind kCalendar{
     .Name = exchange::kCalendarName,
     .RecordSource = L"Calendar",
+    .KeyColumn = L"F_ACTID",
     .SourceFilter = EntriesOfUser,
     .SucceedsWithoutHostRows = false,
     .AppliesFromOutlookFirst = false,

@@ -141,12 +141,28 @@ Value AsItIs(Date date)
     return date;
 }
 
-void PutWhereGiven(const Object& pattern, const wchar_t* member, const std::optional<Date>& date,
-                   Value (*converted)(Date date))
+struct PatternDate
 {
-    if (date)
+    Value (*Converted)(Date date);
+    Date (*Compared)(Date date); // what of it makes a difference
+};
+
+constexpr PatternDate kTimeAsText{StartTimeText, automation::MinuteOfDay};
+constexpr PatternDate kTimeAsDate{TimeToTheMinute, automation::MinuteOfDay};
+constexpr PatternDate kDayOfPattern{AsItIs, automation::DayOf};
+
+void PutWhereGiven(const Object& pattern, const wchar_t* member, const std::optional<Date>& date,
+                   const PatternDate& kind, Puts puts)
+{
+    if (!date)
     {
-        pattern.Put(member, converted(*date));
+        return;
+    }
+    const std::optional<Date> present =
+        puts == Puts::Changes ? ReadableDate(pattern.Get(member)) : std::nullopt;
+    if (!present || !(kind.Compared(*present) == kind.Compared(*date)))
+    {
+        pattern.Put(member, kind.Converted(*date));
     }
 }
 
@@ -160,13 +176,18 @@ void PutRecurrence(const TargetProperty& property)
     }
     const automation::Recordset& rows = property.HostRows;
     const Value firstDay = rows.ValueOf(L"F_ACTESDATE");
+    const Puts puts = IsTrue(property.Item.Get(L"IsRecurring")) ? Puts::Changes : Puts::Everything;
     const Object pattern = property.Item.GetObject(L"GetRecurrencePattern");
-    PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), StartTimeText);
-    PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), TimeToTheMinute);
-    PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), AsItIs);
-    SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay);
-    pattern.Put(L"NoEndDate", false);
-    PutWhereGiven(pattern, L"PatternEndDate", OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE")), AsItIs);
+    PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), kTimeAsText, puts);
+    PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), kTimeAsDate, puts);
+    PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), kDayOfPattern, puts);
+    SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay, puts);
+    if (puts == Puts::Everything || IsTrue(pattern.Get(L"NoEndDate")))
+    {
+        pattern.Put(L"NoEndDate", false);
+    }
+    PutWhereGiven(pattern, L"PatternEndDate", OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE")), kDayOfPattern,
+                  puts);
 }
 
 constexpr exchange::PropertyToOutlook kEntryToAppointment[] = {

@@ -15,20 +15,35 @@ using automation::Value;
 namespace
 {
 
-void PutWeekday(const Object& pattern, Date reference)
+// A pattern and how it is written.
+struct Target
 {
-    pattern.Put(L"DayOfWeekMask", WeekdayToDayMask(static_cast<short>(automation::WeekdayOf(reference))));
+    const Object& Pattern;
+    Puts How;
+
+    void Put(const wchar_t* member, long number) const
+    {
+        if (How == Puts::Everything || automation::LongOf(Pattern.Get(member)) != number)
+        {
+            Pattern.Put(member, number);
+        }
+    }
+};
+
+void PutWeekday(const Target& target, Date reference)
+{
+    target.Put(L"DayOfWeekMask", WeekdayToDayMask(static_cast<short>(automation::WeekdayOf(reference))));
 }
 
-void PutDay(const Object& pattern, Date reference)
+void PutDay(const Target& target, Date reference)
 {
-    pattern.Put(L"DayOfMonth", automation::MomentOf(reference).day);
+    target.Put(L"DayOfMonth", automation::MomentOf(reference).day);
 }
 
-void PutMonthAndDay(const Object& pattern, Date reference)
+void PutMonthAndDay(const Target& target, Date reference)
 {
-    pattern.Put(L"MonthOfYear", automation::MomentOf(reference).month);
-    PutDay(pattern, reference);
+    target.Put(L"MonthOfYear", automation::MomentOf(reference).month);
+    PutDay(target, reference);
 }
 
 constexpr long kNoInterval = 0;
@@ -37,8 +52,8 @@ struct RepeatRule
 {
     const wchar_t* Name; // the host's own text, in both interface languages
     long RecurrenceType;
-    long Interval;                                             // not set when kNoInterval
-    void (*PutFurther)(const Object& pattern, Date reference); // null for none
+    long Interval;                                            // not set when kNoInterval
+    void (*PutFurther)(const Target& target, Date reference); // null for none
 };
 
 // Outlook knows neither quarters nor half-years: they are months with an interval.
@@ -71,21 +86,22 @@ bool NeedsReferenceDate(const std::wstring& name)
     return rule != nullptr && rule->PutFurther != nullptr;
 }
 
-long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const Value& reference)
+long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const Value& reference, Puts puts)
 {
     const RepeatRule* const rule = FindRule(name);
     if (rule == nullptr)
     {
         return 0;
     }
-    pattern.Put(L"RecurrenceType", rule->RecurrenceType);
+    const Target target{pattern, puts};
+    target.Put(L"RecurrenceType", rule->RecurrenceType);
     if (rule->Interval != kNoInterval)
     {
-        pattern.Put(L"Interval", rule->Interval);
+        target.Put(L"Interval", rule->Interval);
     }
     if (rule->PutFurther != nullptr)
     {
-        rule->PutFurther(pattern, automation::DateOf(reference));
+        rule->PutFurther(target, automation::DateOf(reference));
     }
     return 0;
 }

@@ -21,10 +21,18 @@ short WeekdayToDayMask(short weekday);
 // Whether the repeat rule of this name takes a weekday, a day or a month from a reference date.
 bool NeedsReferenceDate(const std::wstring& name);
 
+// How a pattern is written. Outlook cancels the exceptions that the user has made of a series whenever its
+// pattern is written, so a series that exists gets what changes only.
+enum class Puts
+{
+    Everything,
+    Changes,
+};
+
 // Makes the pattern that of the host's repeat rule of this name; what the rule leaves open (the weekday, the
 // day, the month) is the reference date's. A name that is no rule leaves the pattern as it is. Always 0;
 // throws automation::Error when Outlook refuses, or the rule needs a reference date and there is none.
 long SetRecurrenceByName(const automation::Object& pattern, const std::wstring& name,
-                         const automation::Value& reference);
+                         const automation::Value& reference, Puts puts = Puts::Everything);
 
 } // namespace calendar

@@ -43,6 +43,7 @@ std::wstring CompanyOfContact(const Object& item)
 const exchange::Kind kContacts{
     .Name = exchange::kContactName,
     .RecordSource = L"ContactMyContact",
+    .KeyColumn = L"F_CNTCTID",
     .SourceFilter = nullptr,
     .SucceedsWithoutHostRows = false,
     .AppliesFromOutlookFirst = false,

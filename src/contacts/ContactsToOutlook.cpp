@@ -1,6 +1,8 @@
 #include "contacts/ContactsToOutlook.h"
 #include "automation/OutlookConstants.h"
 
+#include "automation/Dates.h"
+#include "automation/Readable.h"
 #include "exchange/ApplyToOutlook.h"
 #include "exchange/MappingToOutlook.h"
 #include "resources/Strings.h"
@@ -12,7 +14,6 @@ namespace
 {
 
 using exchange::PutAsIs;
-using exchange::PutDate;
 using exchange::TargetProperty;
 
 // Outside the Chinese interface the host's and Outlook's first and last names are exchanged, deliberately.
@@ -48,13 +49,25 @@ void PutCompany(const TargetProperty& property)
     property.Item.Put(L"Companies", property.HostValue);
 }
 
+// Outlook makes a calendar entry of the date whenever it is written.
+void PutDayWhenOther(const TargetProperty& property)
+{
+    const automation::Date day =
+        automation::OutlookDate(property.HostValue).value_or(automation::kOutlookNoDate);
+    const auto present = automation::ReadableDate(property.Item.Get(property.Name));
+    if (!present || !(automation::DayOf(*present) == automation::DayOf(day)))
+    {
+        property.Put(day);
+    }
+}
+
 constexpr exchange::PropertyToOutlook kContactToItem[] = {
     {L"FirstName", PutFirstName},
     {L"LastName", PutLastName},
     {L"Suffix", PutInChinese},
     {L"Title", PutInEnglish},
-    {L"Birthday", PutDate},
-    {L"Anniversary", PutDate},
+    {L"Birthday", PutDayWhenOther},
+    {L"Anniversary", PutDayWhenOther},
     {L"CompanyName", PutCompany},
     {L"NickName", PutAsIs},
     {L"Spouse", PutAsIs},

@@ -1,7 +1,8 @@
 // The pending changes of a run, between collecting the differences and applying them. A record copies no
 // data: it points back at the Outlook item (by its position in the folder's items) or at the host row (by its
-// position in the host recordset). The apply routines walk the collections by index, and pair a modification
-// in one collection with the record of the same index in the other.
+// position in the host recordset), and says which record that was, since positions change. The apply routines
+// walk the collections by index, and pair a modification in one collection with the record of the same index
+// in the other.
 #pragma once
 
 #include <string>
@@ -15,6 +16,8 @@ struct ClsOlRecord
 {
     std::wstring ItemIndex; // position of the item in the folder's Items as decimal text; empty means no item
     long RecordState = 0;   // of a modification: written to the host when 0
+    std::wstring EntryId{}; // tells the item from all others; empty where its store gives none
+    std::wstring FirstKey{}; // its first match key, where there is no EntryId
 
     ClsOlRecord(std::wstring itemIndex, long recordState)
         : ItemIndex(std::move(itemIndex)), RecordState(recordState)
@@ -26,6 +29,7 @@ struct ClsSalesRecord
 {
     long RecordBookmark = 0; // position of the row, used with ADO's Move
     long RecordState = 0;    // of a modification: written to Outlook when 1
+    std::wstring Key{};      // the row's key column; empty where it is not known
 
     ClsSalesRecord(long recordBookmark, long recordState)
         : RecordBookmark(recordBookmark), RecordState(recordState)

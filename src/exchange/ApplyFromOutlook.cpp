@@ -1,6 +1,6 @@
 #include "exchange/ApplyFromOutlook.h"
 
-#include "automation/Text.h"
+#include "exchange/Identity.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 
@@ -15,33 +15,45 @@ namespace
 // A changed Outlook item is written to the host when it carries this mark.
 constexpr long kMarkToHost = 0;
 
-Object ItemOf(Run& run, const data::ClsOlRecord& record)
-{
-    const double index = automation::LeadingNumber(record.ItemIndex);
-    return ForPass(run, run.Items.GetObject(L"Item", static_cast<long>(index)));
-}
-
 void Insert(Run& run, const PassFromOutlook& pass, long position)
 {
     const data::ClsOlRecord& record = run.Pending.NewOutlookItems.Item(position);
-    if (!record.ItemIndex.empty())
+    if (record.ItemIndex.empty())
     {
-        pass.Write(run, data::kNewRecord, ItemOf(run, record));
+        return;
     }
+    if (const Object item = ProposedItem(run, record))
+    {
+        pass.Write(run, data::kNewRecord, item);
+    }
+    else
+    {
+        Skip(run);
+    }
+}
+
+// An item that this run has written may have other keys by Outlook's own rules.
+bool IsPairOf(const Run& run, const data::ClsOlRecord& record, const Object& item)
+{
+    return run.OverwrittenItems.contains(record.ItemIndex) || AreStillAPair(run, item);
 }
 
 void Update(Run& run, const PassFromOutlook& pass, long position)
 {
     const data::ClsOlRecord& record = run.Pending.ChangedOutlookItems.Item(position);
-    if (record.RecordState == kMarkToHost && !record.ItemIndex.empty())
+    if (record.RecordState != kMarkToHost || record.ItemIndex.empty())
     {
-        const Object item = ItemOf(run, record);
-        const long row = run.Pending.ChangedHostRecords.Item(position).RecordBookmark;
-        run.HostRows.MoveTo(row);
-        if (pass.Write(run, data::kExistingRecord, item) == 0)
-        {
-            run.OverwrittenRows.insert(row);
-        }
+        return;
+    }
+    const Object item = ProposedItem(run, record);
+    const data::ClsSalesRecord& row = run.Pending.ChangedHostRecords.Item(position);
+    if (!item || !MoveToProposedRow(run, row) || !IsPairOf(run, record, item))
+    {
+        Skip(run);
+    }
+    else if (pass.Write(run, data::kExistingRecord, item) == 0)
+    {
+        run.OverwrittenRows.insert(row.RecordBookmark);
     }
 }
 

@@ -1,11 +1,13 @@
 #include "exchange/ApplyToOutlook.h"
 
-#include "automation/Text.h"
+#include "exchange/Identity.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 
 namespace exchange
 {
+
+using automation::Object;
 
 namespace
 {
@@ -15,17 +17,18 @@ constexpr long kMarkToOutlook = 1;
 
 void WriteNewRecord(Run& run, const PassToOutlook& pass, long i)
 {
-    const long row = run.Pending.NewHostRecords.Item(i).RecordBookmark;
-    if (!pass.AddsItemFirst)
+    const data::ClsSalesRecord& row = run.Pending.NewHostRecords.Item(i);
+    const bool isThere = pass.AddsItemFirst || MoveToProposedRow(run, row);
+    const Object item = isThere ? ForPass(run, run.Items.GetObject(L"Add", pass.ItemType)) : Object();
+    // An item that is not saved leaves nothing behind.
+    if (isThere && (!pass.AddsItemFirst || MoveToProposedRow(run, row)))
     {
-        run.HostRows.MoveTo(row);
+        pass.Write(run, data::kNewRecord, item);
     }
-    const automation::Object item = ForPass(run, run.Items.GetObject(L"Add", pass.ItemType));
-    if (pass.AddsItemFirst)
+    else
     {
-        run.HostRows.MoveTo(row);
+        Skip(run);
     }
-    pass.Write(run, data::kNewRecord, item);
 }
 
 void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
@@ -36,10 +39,17 @@ void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
     {
         return;
     }
-    run.HostRows.MoveTo(record.RecordBookmark);
-    const double index = automation::LeadingNumber(run.Pending.ChangedOutlookItems.Item(i).ItemIndex);
-    pass.Write(run, data::kExistingRecord,
-               ForPass(run, run.Items.GetObject(L"Item", static_cast<long>(index))));
+    const data::ClsOlRecord& partner = run.Pending.ChangedOutlookItems.Item(i);
+    const Object item = MoveToProposedRow(run, record) ? ProposedItem(run, partner) : Object();
+    if (item && AreStillAPair(run, item))
+    {
+        pass.Write(run, data::kExistingRecord, item);
+        run.OverwrittenItems.insert(partner.ItemIndex);
+    }
+    else
+    {
+        Skip(run);
+    }
 }
 
 } // namespace

@@ -35,6 +35,7 @@ struct Kind
 {
     const KindName& Name;
     const wchar_t* RecordSource; // of the host
+    const wchar_t* KeyColumn;    // of its rows
     // The filter of the record source; null for none.
     std::wstring (*SourceFilter)(const data::Host& host);
     bool SucceedsWithoutHostRows; // tasks report success when their rows cannot be opened

@@ -1,5 +1,7 @@
 #include "exchange/MappingFromOutlook.h"
 
+#include "automation/Error.h"
+#include "data/Remark.h"
 #include "resources/Strings.h"
 
 #include <algorithm>
@@ -15,6 +17,24 @@ namespace
 bool IsNoColumn(const Value& value)
 {
     return value.Type() == VT_BSTR && automation::TextOf(value) == kNoColumn;
+}
+
+// What the object model guard protects costs the column, not the record.
+HostValue ReadUnlessRefused(const PropertyFromOutlook& row, const SourceProperty& property)
+{
+    try
+    {
+        return row.Read(property);
+    }
+    catch (const automation::Error& error)
+    {
+        if (!automation::IsRefusal(error))
+        {
+            throw;
+        }
+        data::Remark(property.Name + L" has been left out: Outlook refuses to tell it");
+        return Value(kNoColumn);
+    }
 }
 
 } // namespace
@@ -44,8 +64,9 @@ bool AddRelatedColumns(RelationTable& relations, std::span<const PropertyFromOut
         const auto row = std::ranges::find_if(mapping, [&](const PropertyFromOutlook& candidate) {
             return relation.OutlookName == candidate.OutlookName;
         });
-        const HostValue value =
-            row == mapping.end() ? valueOfOthers : row->Read({item, relation.OutlookName, record});
+        const HostValue value = row == mapping.end()
+                                    ? valueOfOthers
+                                    : ReadUnlessRefused(*row, {item, relation.OutlookName, record});
         if (!value)
         {
             return false;

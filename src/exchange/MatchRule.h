@@ -19,6 +19,13 @@ struct MatchRule
     // Of the row on which the recordset stands.
     std::wstring (*FirstKeyOfRow)(const automation::Recordset& rows);
     std::wstring (*SecondKeyOfRow)(const automation::Recordset& rows);
+
+    // Whether the item and the row on which the recordset stands are the same record.
+    bool Matches(const automation::Object& item, const automation::Recordset& rows) const
+    {
+        return FirstKeyOfItem(item) == FirstKeyOfRow(rows) &&
+               (SecondKeyOfItem == nullptr || SecondKeyOfItem(item) == SecondKeyOfRow(rows));
+    }
 };
 
 } // namespace exchange

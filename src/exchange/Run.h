@@ -9,10 +9,21 @@
 #include "exchange/RelationTable.h"
 #include "exchange/RunDisplay.h"
 
+#include <functional>
 #include <set>
 
 namespace exchange
 {
+
+// How the category tells its records apart, for the confirmation of positions before anything is written. The
+// collection sets it; without it positions are taken as they are.
+struct Identification
+{
+    std::wstring KeyColumn{}; // of the host's rows
+    // The first match key of an item, and whether an item and the current row are the same record.
+    std::function<std::wstring(const automation::Object& item)> FirstKeyOf{};
+    std::function<bool(const automation::Object& item, const automation::Recordset& rows)> Matches{};
+};
 
 struct Run
 {
@@ -27,6 +38,10 @@ struct Run
     // Positions of the rows that the pass from Outlook has overwritten. HostRows still shows them as they
     // were before.
     std::set<long> OverwrittenRows{};
+    // Positions of the items that the pass towards Outlook has overwritten.
+    std::set<std::wstring> OverwrittenItems{};
+    Identification Identity{};
+    long Skipped = 0; // accepted records that were gone, or another pair, when it came to writing them
 };
 
 // An item as an apply pass uses it: with many members, and after others of its class, so that the members are

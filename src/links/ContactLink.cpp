@@ -1,6 +1,8 @@
 #include "links/ContactLink.h"
 
+#include "automation/Error.h"
 #include "automation/OutlookConstants.h"
+#include "data/Remark.h"
 #include "state/SharedState.h"
 
 namespace links
@@ -27,6 +29,23 @@ Object CreateContact(const Object& items, const std::wstring& surname, const std
     contact.Put(L"LastName", surname);
     contact.Call(L"Save");
     return contact;
+}
+
+// Links are deprecated: an Outlook that refuses them costs the link, not the record.
+void AddLink(const Object& item, const Object& contact)
+{
+    try
+    {
+        item.GetObject(L"Links").Call(L"Add", contact);
+    }
+    catch (const automation::Error& error)
+    {
+        if (!automation::IsRefusal(error))
+        {
+            throw;
+        }
+        data::Remark(L"A contact has not been linked: Outlook refuses links");
+    }
 }
 
 } // namespace
@@ -56,7 +75,7 @@ void LinkContact(const Object& item, const Value& surname, const Value& givenNam
     {
         contact = CreateContact(items, last, first);
     }
-    item.GetObject(L"Links").Call(L"Add", contact);
+    AddLink(item, contact);
 }
 
 } // namespace links

@@ -15,8 +15,9 @@ using AcceptsContact = bool (*)(const automation::Object& contact);
 
 // Adds a link to the contact of this name to the item, which is then to be saved; further links stay, so that
 // a second call adds a second link. Does nothing when either name is Null, Empty or the empty text, or when
-// accepts (null for no condition) refuses the contact found; a contact that is not found is created. Throws
-// automation::Error when Outlook refuses, as it does for a name with a double quote.
+// accepts (null for no condition) refuses the contact found; a contact that is not found is created. An
+// Outlook without links costs the link, with a remark. Throws automation::Error when Outlook refuses anything
+// else, as it does for a name with a double quote.
 void LinkContact(const automation::Object& item, const automation::Value& surname,
                  const automation::Value& givenName, AcceptsContact accepts = nullptr);
 

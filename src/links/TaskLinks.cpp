@@ -6,6 +6,7 @@
 #include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
+#include "data/Remark.h"
 #include "data/SqlFragments.h"
 #include "links/ContactLink.h"
 #include "state/Failures.h"
@@ -62,17 +63,37 @@ std::wstring LiteralOfKey(const std::wstring& key)
     return key.empty() ? kNull : data::QuotedText(key);
 }
 
-std::wstring LiteralOfContact(const wchar_t* builder, const Object& item)
+// Nothing where the object model guard refuses them.
+std::optional<std::wstring> ContactNamesOf(const Object& item)
+{
+    try
+    {
+        return TextOrEmpty(item.Get(L"ContactNames"));
+    }
+    catch (const automation::Error& error)
+    {
+        if (!automation::IsRefusal(error))
+        {
+            throw;
+        }
+        data::Remark(L"The contact has been left as it is: Outlook refuses to tell it");
+        return std::nullopt;
+    }
+}
+
+Link LiteralOfContact(const wchar_t* builder, const Object& item)
 {
     if (!data::HasPermission(data::kContactRecord, data::kUsualScope, data::kModifyOperation) ||
         IsOfOutlook8(item))
     {
         return kNull;
     }
-    const std::wstring names = TextOrEmpty(item.Get(L"ContactNames"));
-    return names.empty() ? kNull
-                         : LiteralOfKey(FindKey(builder, L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", names,
-                                                kContactColumn));
+    const auto names = ContactNamesOf(item);
+    if (!names || names->empty())
+    {
+        return names ? Link(kNull) : Link();
+    }
+    return LiteralOfKey(FindKey(builder, L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", *names, kContactColumn));
 }
 
 bool UserMayChangeAccounts(long operation)
@@ -140,14 +161,21 @@ long WithoutFailedLookup(Build&& build)
 long ChangeNewTaskContact(const Object& item, std::wstring& fields, std::wstring& values)
 {
     return WithoutFailedLookup([&] {
-        AppendInsert(fields, values, kContactColumn, LiteralOfContact(L"ChangeNewTaskContact", item));
+        if (const auto literal = LiteralOfContact(L"ChangeNewTaskContact", item))
+        {
+            AppendInsert(fields, values, kContactColumn, *literal);
+        }
     });
 }
 
 long ChangeEditTaskContact(const Object& item, std::wstring& setList)
 {
-    return WithoutFailedLookup(
-        [&] { AppendUpdate(setList, kContactColumn, LiteralOfContact(L"ChangeEditTaskContact", item)); });
+    return WithoutFailedLookup([&] {
+        if (const auto literal = LiteralOfContact(L"ChangeEditTaskContact", item))
+        {
+            AppendUpdate(setList, kContactColumn, *literal);
+        }
+    });
 }
 
 long ChangeAddTaskAccount(data::FieldCatalogue& catalogue, const Object& item, std::wstring& fields,

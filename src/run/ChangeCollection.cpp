@@ -53,17 +53,28 @@ double Fraction(long done, long all)
 
 } // namespace
 
+ChangeCollection::Reading::Reading(const exchange::Kind& kind, const exchange::Run& run)
+    : Items(kind.Match, run.Items, state::Shared().gSynParameter.TransType != state::kQuenlarToOutlook),
+      Rows(kind.Match, run.HostRows, kind.KeyColumn),
+      ItemIndex(Items),
+      RowIndex(Rows)
+{
+    // An item is fetched from another process; a row is at hand.
+    ItemIndex.LookAheadIn(RowIndex);
+}
+
 ChangeCollection::ChangeCollection(const exchange::Kind& kind, exchange::Run& run)
     : mKind(kind),
       mRun(run),
       mFilters(kind.FiltersOf(state::Shared().gSynParameter, data::Host())),
-      mItems(kind.Match, run.Items),
-      mRows(kind.Match, run.HostRows),
-      mItemIndex(mItems),
-      mRowIndex(mRows)
+      mReading(std::make_unique<Reading>(kind, run))
 {
-    // An item is fetched from another process; a row is at hand.
-    mItemIndex.LookAheadIn(mRowIndex);
+    const exchange::MatchRule& rule = kind.Match;
+    run.Identity = {
+        .KeyColumn = kind.KeyColumn,
+        .FirstKeyOf = rule.FirstKeyOfItem,
+        .Matches = [&rule](const auto& item, const auto& rows) { return rule.Matches(item, rows); },
+    };
 }
 
 bool ChangeCollection::CollectToOutlook()
@@ -71,39 +82,71 @@ bool ChangeCollection::CollectToOutlook()
     return state::Trapped(true, [&] {
         mRun.Display.SetStatus(resources::String(mKind.CollectToOutlookTextId));
         const exchange::ShowsProgress showsProgress(mRun.Display);
-        mItems.CountItems();
-        const long all = mRun.HostRows.RecordCount();
-        for (long row = 1; mRows.Exists(row); ++row)
-        {
-            if (KeepsRow(row))
-            {
-                ProposeRow(row, mItemIndex.Find(mRows, row));
-            }
-            mRun.Display.SetProgress(Fraction(row, all));
-        }
+        Walk([&] { WalkRows(); });
         return false;
     });
 }
 
+// Where items or rows have come, gone or changed places during the walk, it has passed some by or met them
+// twice: it starts again. A side that never rests is taken as it is then; the apply passes write to no record
+// that they have not found again.
+void ChangeCollection::Walk(const std::function<void()>& walk)
+{
+    constexpr int kMostWalks = 3;
+    const data::Changes before = mRun.Pending;
+    for (int walks = 1;; ++walks)
+    {
+        const long known = mReading->Items.Count();
+        if (mReading->Items.CountItems() != known && known != 0)
+        {
+            mReading = std::make_unique<Reading>(mKind, mRun);
+            mReading->Items.CountItems();
+        }
+        walk();
+        if (walks == kMostWalks || !(mReading->Items.HasMoved() || mReading->Rows.HasMoved()))
+        {
+            return;
+        }
+        mReading = std::make_unique<Reading>(mKind, mRun);
+        mRun.Pending = before;
+    }
+}
+
+void ChangeCollection::WalkRows()
+{
+    RowKeys& rows = mReading->Rows;
+    const long all = mRun.HostRows.RecordCount();
+    for (long row = 1; rows.Exists(row); ++row)
+    {
+        if (KeepsRow(row))
+        {
+            ProposeRow(row, mReading->ItemIndex.Find(rows, row));
+        }
+        mRun.Display.SetProgress(Fraction(row, all));
+    }
+}
+
 bool ChangeCollection::KeepsRow(long row)
 {
-    if (!mFilters.KeepsRow)
-    {
-        return true;
-    }
-    mRows.Reach(row);
-    return mFilters.KeepsRow(mRun.HostRows);
+    RowKeys& rows = mReading->Rows;
+    return !mFilters.KeepsRow || rows.ReadRecord(row, false, [&] {
+        rows.Reach(row);
+        return mFilters.KeepsRow(mRun.HostRows);
+    });
 }
 
 // An item is fetched even where there is no row to compare it with: one that cannot be fetched ends the walk.
 bool ChangeCollection::KeepsItem(long item)
 {
-    if (!mFilters.KeepsItem && mItems.IsRead(item))
+    ItemKeys& items = mReading->Items;
+    if (!mFilters.KeepsItem && items.IsRead(item))
     {
         return true;
     }
-    mItems.Reach(item);
-    return !mFilters.KeepsItem || mFilters.KeepsItem(mItems.Current());
+    return items.ReadRecord(item, false, [&] {
+        items.Reach(item);
+        return !mFilters.KeepsItem || mFilters.KeepsItem(items.Current());
+    });
 }
 
 // A row's AbsolutePosition is its place in the walk, which counts from 1 like the recordset.
@@ -111,15 +154,34 @@ void ChangeCollection::ProposeRow(long row, long partner)
 {
     const Proposal proposal =
         partner == 0 ? Proposal::New : ToOutlookByRule(state::Shared().gSynParameter.TransConflictOption);
+    if (proposal == Proposal::Nothing || !mReading->Rows.IsRecord(row))
+    {
+        return;
+    }
     if (proposal == Proposal::New)
     {
-        mRun.Pending.NewHostRecords.Add(row, kMarkNew);
+        mRun.Pending.NewHostRecords.Add(row, kMarkNew).Key = mReading->Rows.Key(row);
     }
-    else if (proposal == Proposal::Changed)
+    else
     {
-        mRun.Pending.ChangedHostRecords.Add(row, kMarkToOutlook);
-        mRun.Pending.ChangedOutlookItems.Add(std::to_wstring(partner), kMarkToOutlook);
+        AddPair(partner, row, kMarkToOutlook);
     }
+}
+
+void ChangeCollection::AddPair(long item, long row, long mark)
+{
+    if (const auto entryId = EntryIdOf(item))
+    {
+        mRun.Pending.ChangedHostRecords.Add(row, mark).Key = mReading->Rows.Key(row);
+        mRun.Pending.ChangedOutlookItems.Add(std::to_wstring(item), mark).EntryId = *entryId;
+    }
+}
+
+std::optional<std::wstring> ChangeCollection::EntryIdOf(long item)
+{
+    ItemKeys& items = mReading->Items;
+    return items.ReadRecord(item, std::optional<std::wstring>(),
+                            [&] { return std::optional(items.EntryId(item)); });
 }
 
 bool ChangeCollection::CollectFromOutlook()
@@ -131,31 +193,54 @@ bool ChangeCollection::CollectFromOutlook()
             data::CheckPermission(mKind.PermissionKind, data::kUsualScope, data::kAddOperation);
         const bool mayModify =
             data::CheckPermission(mKind.PermissionKind, data::kUsualScope, data::kModifyOperation);
-        const long all = mItems.CountItems();
-        for (long item = 1; item <= all; ++item)
-        {
-            if (KeepsItem(item))
-            {
-                ProposeItem(item, mRowIndex.Find(mItems, item), mayAdd, mayModify);
-            }
-            mRun.Display.SetProgress(Fraction(item, all));
-        }
+        Walk([&] { WalkItems(mayAdd, mayModify); });
         return false;
     });
+}
+
+void ChangeCollection::WalkItems(bool mayAdd, bool mayModify)
+{
+    ItemKeys& items = mReading->Items;
+    const long all = items.Count();
+    for (long item = 1; item <= all; ++item)
+    {
+        if (KeepsItem(item))
+        {
+            ProposeItem(item, mReading->RowIndex.Find(items, item), mayAdd, mayModify);
+        }
+        mRun.Display.SetProgress(Fraction(item, all));
+    }
 }
 
 void ChangeCollection::ProposeItem(long item, long partner, bool mayAdd, bool mayModify)
 {
     const Proposal proposal =
         partner == 0 ? Proposal::New : FromOutlookByRule(state::Shared().gSynParameter.TransConflictOption);
+    if (!mReading->Items.IsRecord(item))
+    {
+        return;
+    }
     if (proposal == Proposal::New && mayAdd)
     {
-        mRun.Pending.NewOutlookItems.Add(std::to_wstring(item), kMarkNew);
+        AddItem(item);
     }
     else if (proposal == Proposal::Changed && mayModify)
     {
-        mRun.Pending.ChangedHostRecords.Add(partner, kMarkFromOutlook);
-        mRun.Pending.ChangedOutlookItems.Add(std::to_wstring(item), kMarkFromOutlook);
+        AddPair(item, partner, kMarkFromOutlook);
+    }
+}
+
+void ChangeCollection::AddItem(long item)
+{
+    if (const auto entryId = EntryIdOf(item))
+    {
+        data::ClsOlRecord& record = mRun.Pending.NewOutlookItems.Add(std::to_wstring(item), kMarkNew);
+        record.EntryId = *entryId;
+        if (entryId->empty())
+        {
+            // A key that cannot be read tells nothing.
+            record.FirstKey = state::Trapped(std::wstring(), [&] { return mReading->Items.First(item); });
+        }
     }
 }
 

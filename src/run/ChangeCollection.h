@@ -5,6 +5,11 @@
 #include "exchange/Kind.h"
 #include "run/LazyIndex.h"
 
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
 namespace run
 {
 
@@ -22,18 +27,33 @@ class ChangeCollection
     bool CollectFromOutlook();
 
   private:
+    // What has been read of both sides.
+    struct Reading
+    {
+        Reading(const exchange::Kind& kind, const exchange::Run& run);
+
+        ItemKeys Items;
+        RowKeys Rows;
+        LazyIndex ItemIndex;
+        LazyIndex RowIndex;
+    };
+
+    void Walk(const std::function<void()>& walk);
+    void WalkRows();
+    void WalkItems(bool mayAdd, bool mayModify);
     bool KeepsRow(long row);
     bool KeepsItem(long item);
     void ProposeRow(long row, long partner);
     void ProposeItem(long item, long partner, bool mayAdd, bool mayModify);
+    void AddPair(long item, long row, long mark);
+    void AddItem(long item);
+    // Nothing for an item that is gone.
+    std::optional<std::wstring> EntryIdOf(long item);
 
     const exchange::Kind& mKind;
     exchange::Run& mRun;
     exchange::Filters mFilters;
-    ItemKeys mItems;
-    RowKeys mRows;
-    LazyIndex mItemIndex;
-    LazyIndex mRowIndex;
+    std::unique_ptr<Reading> mReading;
 };
 
 } // namespace run

@@ -3,11 +3,16 @@
 namespace run
 {
 
+void KeyTable::Pass()
+{
+    mLast.push_back(Count() + 1);
+    mNext.push_back(0);
+}
+
 void KeyTable::Add()
 {
     const long position = Count() + 1;
-    mNext.push_back(0);
-    mLast.push_back(position);
+    Pass();
     const auto [first, isNew] = mFirsts.insert(position);
     if (!isNew)
     {

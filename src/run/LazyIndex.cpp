@@ -27,9 +27,15 @@ long LazyIndex::Find(RecordKeys& others, long position)
     const bool isFirstSearch = mTable.Count() == 0;
     if (isFirstSearch && !ReadOne())
     {
+        // Still it must be known whether there is a record to propose.
+        ReadEarly([&] { others.First(position); });
         return 0;
     }
     const std::wstring& key = others.First(position);
+    if (!others.IsRecord(position))
+    {
+        return 0;
+    }
     const long known = FindAmongRead(others, position, key);
     if (known != 0)
     {
@@ -43,6 +49,7 @@ long LazyIndex::Find(RecordKeys& others, long position)
     {
         if (mRecords.First(mTable.Count()) == key && SecondKeysAgree(others, position, mTable.Count()))
         {
+            mRecords.Keep(mTable.Count());
             return mTable.Count();
         }
         PassBy();
@@ -52,22 +59,34 @@ long LazyIndex::Find(RecordKeys& others, long position)
 
 bool LazyIndex::ReadOne()
 {
-    const long position = mTable.Count() + 1;
-    if (!mRecords.Exists(position))
+    while (mRecords.Exists(mTable.Count() + 1))
     {
-        return false;
+        const long position = mTable.Count() + 1;
+        mRecords.First(position);
+        if (mRecords.IsRecord(position))
+        {
+            mTable.Add();
+            return true;
+        }
+        mTable.Pass();
     }
-    mRecords.First(position);
-    mTable.Add();
-    return true;
+    return false;
 }
 
 // The record that was read last is not the one looked for.
 void LazyIndex::PassBy()
 {
-    if (mOthers != nullptr && mRecords.HasSecond() && mOthers->Has(mRecords.First(mTable.Count())))
+    const long position = mTable.Count();
+    const bool readsMore = mRecords.HasSecond() || mRecords.KeepsLikelyOnes();
+    if (mOthers != nullptr && readsMore && mOthers->Has(mRecords.First(position)))
     {
-        ReadEarly([&] { mRecords.Second(mTable.Count()); });
+        ReadEarly([&] {
+            mRecords.Keep(position);
+            if (mRecords.HasSecond())
+            {
+                mRecords.Second(position);
+            }
+        });
     }
 }
 
@@ -97,7 +116,8 @@ long LazyIndex::FindAmongRead(RecordKeys& others, long position, std::wstring_vi
 
 bool LazyIndex::SecondKeysAgree(RecordKeys& others, long position, long candidate)
 {
-    return !mRecords.HasSecond() || mRecords.Second(candidate) == others.Second(position);
+    const bool agree = !mRecords.HasSecond() || mRecords.Second(candidate) == others.Second(position);
+    return agree && mRecords.IsRecord(candidate) && others.IsRecord(position);
 }
 
 } // namespace run

@@ -16,8 +16,8 @@ class LazyIndex
     explicit LazyIndex(RecordKeys& records) : mRecords(records), mTable(records) {}
 
     // From now on, a record that the search passes by while a record of the other side has its first key is
-    // not left before its second key has been read as well, so that it need not be fetched again. For a side
-    // whose records are costly to fetch; the other one is read to its end then.
+    // not left before its second key and its identity have been read as well, so that it need not be fetched
+    // again. For a side whose records are costly to fetch; the other one is read to its end then.
     void LookAheadIn(LazyIndex& others) noexcept { mOthers = &others; }
 
     // The position of the first record that matches the other side's record at this position; 0 for none.

@@ -1,5 +1,7 @@
 #include "run/RecordKeys.h"
 
+#include "exchange/Identity.h"
+
 namespace run
 {
 
@@ -34,21 +36,34 @@ bool RecordKeys::IsRead(long position) const noexcept
 const std::wstring& RecordKeys::First(long position)
 {
     return ReadOnce(mFirst, position, [&] {
-        Reach(position);
-        return ReadFirst();
+        return ReadRecord(position, std::wstring(), [&] {
+            Reach(position);
+            return ReadFirst();
+        });
     });
 }
 
 const std::wstring& RecordKeys::Second(long position)
 {
     return ReadOnce(mSecond, position, [&] {
-        Reach(position);
-        return ReadSecond();
+        return ReadRecord(position, std::wstring(), [&] {
+            Reach(position);
+            return ReadSecond();
+        });
     });
 }
 
-ItemKeys::ItemKeys(const exchange::MatchRule& rule, const automation::Object& items)
-    : RecordKeys(rule.SecondKeyOfItem != nullptr), mRule(rule), mItems(items)
+void RecordKeys::Remember(long position, const std::wstring& identity)
+{
+    if (!identity.empty() && !mIdentities.insert(identity).second)
+    {
+        mHasMetOneTwice = true;
+        mNone.insert(position);
+    }
+}
+
+ItemKeys::ItemKeys(const exchange::MatchRule& rule, const automation::Object& items, bool keepsAll)
+    : RecordKeys(rule.SecondKeyOfItem != nullptr), mRule(rule), mItems(items), mKeepsAll(keepsAll)
 {
 }
 
@@ -58,18 +73,56 @@ long ItemKeys::CountItems()
     return mCount;
 }
 
+bool ItemKeys::HasMoved() const
+{
+    return HasMetOneTwice() || automation::LongOf(mItems.Get(L"Count")) != mCount;
+}
+
 void ItemKeys::Reach(long position)
 {
-    if (position != mCurrentPosition)
+    if (position == mCurrentPosition)
     {
-        mCurrentPosition = 0;
-        mCurrent = mItems.GetObject(L"Item", position);
-        mCurrentPosition = position;
+        return;
+    }
+    mCurrentPosition = 0;
+    mCurrent = exchange::ItemAt(mItems, position);
+    if (!mCurrent)
+    {
+        throw automation::Error(automation::kItemNotFound, L"Item");
+    }
+    mCurrentPosition = position;
+}
+
+void ItemKeys::Keep(long position)
+{
+    if (position == mCurrentPosition && !mEntryIds.contains(position))
+    {
+        Remember(position, mEntryIds.emplace(position, exchange::EntryIdOf(mCurrent)).first->second);
     }
 }
 
-RowKeys::RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows)
-    : RecordKeys(rule.SecondKeyOfRow != nullptr), mRule(rule), mRows(rows)
+const std::wstring& ItemKeys::EntryId(long position)
+{
+    if (!mEntryIds.contains(position))
+    {
+        Reach(position);
+        Keep(position);
+    }
+    return mEntryIds.at(position);
+}
+
+std::wstring ItemKeys::ReadFirst()
+{
+    std::wstring key = mRule.FirstKeyOfItem(mCurrent);
+    if (mKeepsAll)
+    {
+        Keep(mCurrentPosition);
+    }
+    return key;
+}
+
+RowKeys::RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows, std::wstring keyColumn)
+    : RecordKeys(rule.SecondKeyOfRow != nullptr), mRule(rule), mRows(rows), mKeyColumn(std::move(keyColumn))
 {
 }
 
@@ -98,11 +151,38 @@ bool RowKeys::Exists(long position)
 
 void RowKeys::Reach(long position)
 {
-    if (position != mCurrentPosition)
+    if (position == mCurrentPosition)
     {
-        mRows.MoveTo(position);
-        mCurrentPosition = position;
+        return;
     }
+    mCurrentPosition = 0;
+    if (!exchange::GoToRow(mRows, mKeyColumn, position, KnownKey(position)))
+    {
+        throw automation::Error(automation::kRowDeleted, L"Move");
+    }
+    mCurrentPosition = position;
+}
+
+std::wstring RowKeys::KnownKey(long position) const
+{
+    const auto key = mRowKeys.find(position);
+    return key == mRowKeys.end() ? std::wstring() : key->second;
+}
+
+const std::wstring& RowKeys::Key(long position)
+{
+    if (!mRowKeys.contains(position))
+    {
+        Reach(position);
+        Remember(position, mRowKeys.emplace(position, exchange::KeyOfRow(mRows, mKeyColumn)).first->second);
+    }
+    return mRowKeys.at(position);
+}
+
+std::wstring RowKeys::ReadFirst()
+{
+    Key(mCurrentPosition);
+    return mRule.FirstKeyOfRow(mRows);
 }
 
 } // namespace run

@@ -1,12 +1,16 @@
 // The match keys of one side of a run (the folder's items or the host's rows), each read once, in order, and
-// only as far as the search needs. Records are counted from 1. Both directions of a two-way run share them.
+// only as far as the search needs, with what tells the records apart for good. Records are counted from 1.
+// Both directions of a two-way run share them.
 #pragma once
 
+#include "automation/Error.h"
 #include "exchange/MatchRule.h"
 
 #include <deque>
 #include <optional>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace run
@@ -21,9 +25,15 @@ class RecordKeys
     virtual bool Exists(long position) = 0;
     // Makes the record, which exists, the current one. Throws automation::Error when it cannot be fetched.
     virtual void Reach(long position) = 0;
+    // The record is the current one, and likely to be proposed: its identity is read while it is at hand.
+    virtual void Keep(long /*position*/) {}
+    virtual bool KeepsLikelyOnes() const noexcept { return false; }
 
     // Whether the record's first key has been read.
     bool IsRead(long position) const noexcept;
+    // False for what has turned out to be no record of the kind: an item of another kind, a record that is
+    // gone, one that has been met before at another position. It has no keys then.
+    bool IsRecord(long position) const { return !mNone.contains(position); }
 
     // Whether records whose first keys agree are compared by a second one.
     bool HasSecond() const noexcept { return mHasSecond; }
@@ -32,56 +42,113 @@ class RecordKeys
     const std::wstring& First(long position);
     const std::wstring& Second(long position);
 
+    // The read's result; otherwise where it shows that there is no record of the kind.
+    template<typename Result, typename Read>
+    Result ReadRecord(long position, Result otherwise, Read&& read);
+
   protected:
     explicit RecordKeys(bool hasSecond) noexcept : mHasSecond(hasSecond) {}
+
+    // Remembers the record by what tells it from all others; one that was met before is none.
+    void Remember(long position, const std::wstring& identity);
+    bool HasMetOneTwice() const noexcept { return mHasMetOneTwice; }
 
   private:
     virtual std::wstring ReadFirst() = 0;
     virtual std::wstring ReadSecond() = 0;
+    virtual bool TellsOfNone(const automation::Error& /*error*/) const noexcept { return false; }
 
     bool mHasSecond;
 
     // A deque keeps its elements in place while it grows, so that an index can refer to the keys.
     std::deque<std::optional<std::wstring>> mFirst;
     std::deque<std::optional<std::wstring>> mSecond;
+    std::unordered_set<long> mNone;
+    std::unordered_set<std::wstring> mIdentities;
+    bool mHasMetOneTwice = false;
 };
+
+template<typename Result, typename Read>
+Result RecordKeys::ReadRecord(long position, Result otherwise, Read&& read)
+{
+    try
+    {
+        return read();
+    }
+    catch (const automation::Error& error)
+    {
+        if (!TellsOfNone(error))
+        {
+            throw;
+        }
+        mNone.insert(position);
+        return otherwise;
+    }
+}
 
 class ItemKeys : public RecordKeys
 {
   public:
-    ItemKeys(const exchange::MatchRule& rule, const automation::Object& items);
+    // keepsAll: every item is likely to be proposed.
+    ItemKeys(const exchange::MatchRule& rule, const automation::Object& items, bool keepsAll);
 
     // Items.Count, asked once at the start of each collection procedure, since a walk goes by it.
     long CountItems();
+    long Count() const noexcept { return mCount; }
+    // Whether other programs have changed the folder since its items were counted.
+    bool HasMoved() const;
+
     bool Exists(long position) override { return position <= mCount; }
     void Reach(long position) override;
+    void Keep(long position) override;
+    bool KeepsLikelyOnes() const noexcept override { return !mKeepsAll; }
     const automation::Object& Current() const noexcept { return mCurrent; }
+    // Empty where the item's store gives none.
+    const std::wstring& EntryId(long position);
 
   private:
-    std::wstring ReadFirst() override { return mRule.FirstKeyOfItem(mCurrent); }
+    std::wstring ReadFirst() override;
     std::wstring ReadSecond() override { return mRule.SecondKeyOfItem(mCurrent); }
+    bool TellsOfNone(const automation::Error& error) const noexcept override
+    {
+        return automation::IsMissingMember(error) || automation::IsGone(error);
+    }
 
     const exchange::MatchRule& mRule;
     automation::Object mItems;
+    bool mKeepsAll;
     automation::Object mCurrent;
     long mCurrentPosition = 0;
     long mCount = 0;
+    std::unordered_map<long, std::wstring> mEntryIds;
 };
 
 class RowKeys : public RecordKeys
 {
   public:
-    RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows);
+    RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows, std::wstring keyColumn);
+
+    // Whether the host has sorted or filtered its rows while they were read.
+    bool HasMoved() const noexcept { return HasMetOneTwice(); }
 
     bool Exists(long position) override;
     void Reach(long position) override;
+    // What the row has in its key column.
+    const std::wstring& Key(long position);
 
   private:
-    std::wstring ReadFirst() override { return mRule.FirstKeyOfRow(mRows); }
+    std::wstring ReadFirst() override;
     std::wstring ReadSecond() override { return mRule.SecondKeyOfRow(mRows); }
+    bool TellsOfNone(const automation::Error& error) const noexcept override
+    {
+        return automation::IsGone(error);
+    }
+    std::wstring KnownKey(long position) const;
 
     const exchange::MatchRule& mRule;
     const automation::Recordset& mRows;
+    std::wstring mKeyColumn;
+    std::unordered_map<long, std::wstring> mRowKeys;
     long mCurrentPosition = 0; // 0 before the first row has been reached
     long mKnown = 0;           // rows that are known to exist
     bool mIsComplete = false;  // the end has been seen: there are no others

@@ -58,6 +58,7 @@ exchange::Filters PendingOnly(const state::SynParameter& parameter, const data::
 const exchange::Kind kTasks{
     .Name = exchange::kTaskName,
     .RecordSource = L"ActivityMyActivity",
+    .KeyColumn = L"F_ACTID",
     .SourceFilter = nullptr,
     .SucceedsWithoutHostRows = true,
     .AppliesFromOutlookFirst = true,

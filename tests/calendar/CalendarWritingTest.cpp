@@ -305,11 +305,12 @@ TEST_F(CalendarWriting, ThePassGoesOnAfterARefusedAppointment)
     EXPECT_EQ(2u, CallsOf(L"Insert").size());
 }
 
-TEST_F(CalendarWriting, AnItemThatIsGoneEndsThePass)
+TEST_F(CalendarWriting, AnItemThatIsGoneIsSkippedAndCounted)
 {
     exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
-    EXPECT_TRUE(calendar::SynCalendarFromOutlook(run));
+    EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
+    EXPECT_EQ(1, run.Skipped);
     EXPECT_FALSE(mDisplay.IsShown);
 }
 

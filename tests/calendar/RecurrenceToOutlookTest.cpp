@@ -145,6 +145,18 @@ TEST_F(RecurrenceToOutlook, TheStepsAreTakenInTheirOrder)
     EXPECT_EQ(expected, calls.Members);
 }
 
+TEST_F(RecurrenceToOutlook, APatternThatWouldNotChangeIsReadAndNotRewritten)
+{
+    AddRepeatingEntry(L"每年", {{L"F_ACTREPTEDATE", L"'2010-12-31 00:00:00'"}});
+    WriteNewAppointment();
+    const RecordsPatternCalls calls;
+    WriteExistingAppointment();
+    const std::vector<std::wstring> once{L"StartTime",      L"EndTime",       L"PatternStartDate",
+                                         L"RecurrenceType", L"MonthOfYear",   L"DayOfMonth",
+                                         L"NoEndDate",      L"PatternEndDate"};
+    EXPECT_EQ(once, calls.Members);
+}
+
 TEST_F(RecurrenceToOutlook, WhatTheEntryLacksIsLeftToOutlook)
 {
     AddRepeatingEntry(L"", {{L"F_ACTESTIME", L"NULL"}, {L"F_ACTEETIME", L"NULL"}});

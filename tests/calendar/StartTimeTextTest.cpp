@@ -30,7 +30,9 @@ class KeepsAssignments : public sandbox::DispatchObject
         for (const wchar_t* name : {L"Subject", L"Categories", L"ReminderSet", L"StartTime", L"EndTime",
                                     L"PatternStartDate", L"RecurrenceType", L"Interval", L"NoEndDate"})
         {
-            table.push_back({name, nullptr, [name](DispatchObject& self, const sandbox::Call& call) {
+            // True is no value that is about to be assigned.
+            table.push_back({name, [](DispatchObject&, const sandbox::Call&) -> Value { return true; },
+                             [name](DispatchObject& self, const sandbox::Call& call) {
                                  static_cast<KeepsAssignments&>(self).mAssigned[name] = call.Assigned();
                              }});
         }

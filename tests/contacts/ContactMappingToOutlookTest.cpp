@@ -1,5 +1,6 @@
 // How each relation row of contacts reaches an Outlook item: the whole table, in both interface languages.
 #include "tests/contacts/ContactsFixture.h"
+#include "tests/support/CallCounter.h"
 
 #include <algorithm>
 #include <span>
@@ -195,6 +196,18 @@ TEST_F(ContactMappingToOutlook, ABirthdayAndAnAnniversaryArriveAsTheirDays)
         {AddRow({{L"F_BIRTHDAY", L"'1980-02-29 00:00:00'"}, {L"F_ANNIVERSARY", L"'1899-12-29 00:00:00'"}})}));
     EXPECT_EQ(DateIn(1, L"Birthday"), Day(1980, 2, 29));
     EXPECT_EQ(DateIn(1, L"Anniversary"), Day(1899, 12, 29));
+}
+
+TEST_F(ContactMappingToOutlook, ABirthdayAndAnAnniversaryAreWrittenOnlyWhenTheyDiffer)
+{
+    const long item = AddItem({{L"Birthday", Day(1980, 1, 2)}, {L"Anniversary", Day(2003, 5, 6)}});
+    const long row =
+        AddRow({{L"F_BIRTHDAY", L"'1980-01-02 00:00:00'"}, {L"F_ANNIVERSARY", L"'2003-05-07 00:00:00'"}});
+    const test_support::CallCounter calls;
+    EXPECT_FALSE(OverwriteItems({{row, item}}));
+    EXPECT_EQ(1, calls.Of(L"ContactItem.Birthday")) << "read, not written";
+    EXPECT_EQ(2, calls.Of(L"ContactItem.Anniversary"));
+    EXPECT_EQ(DateIn(item, L"Anniversary"), Day(2003, 5, 7));
 }
 
 TEST_F(ContactMappingToOutlook, ANullBirthdayIsWrittenAsOutlooksNoDateAndNeverLeftUnchanged)

@@ -221,12 +221,12 @@ TEST_F(ContactsToOutlook, AnErrorInTheAdditionsKeepsTheModificationsFromStarting
     EXPECT_EQ(NickNames(), L"old");
 }
 
-TEST_F(ContactsToOutlook, ARowOrAnItemThatIsNotThereFails)
+TEST_F(ContactsToOutlook, ARowOrAPositionThatIsNoneFailsAndAnItemThatIsGoneIsLeftOut)
 {
     AddThreeRows();
     AddThreeItems();
     EXPECT_TRUE(Export({4}));
-    EXPECT_TRUE(OverwriteItems({{1, 4}}));
+    EXPECT_FALSE(OverwriteItems({{1, 4}}));
     EXPECT_TRUE(OverwriteItems({{1, 0}}));
     EXPECT_EQ(NickNames(), L"old old old");
 }

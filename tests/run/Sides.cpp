@@ -122,7 +122,13 @@ class FakeField : public DispatchObject
     }
 
   private:
-    Value Get(const Call&) { return Read(mCursor->Current(), mName); }
+    Value Get(const Call&)
+    {
+        // A record without a key of its own has its place as key.
+        const Record& record = mCursor->Current();
+        const bool isKey = mName == L"F_CNTCTID" || mName == L"F_ACTID";
+        return isKey && !record.contains(mName) ? Value(std::to_wstring(mCursor->at)) : Read(record, mName);
+    }
 
     const wchar_t* ClassName() const override { return L"Field"; }
     const MemberTable& Members() const override

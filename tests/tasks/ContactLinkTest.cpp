@@ -63,6 +63,17 @@ TEST_F(ContactLink, TheContactOfTheNameIsLinked)
               TextOf(task.GetObject(L"Links").GetObject(L"Item", 1L).GetObject(L"Item").Get(L"FirstName")));
 }
 
+TEST_F(ContactLink, AnOutlookWithoutLinksCostsTheLinkAndNotTheTask)
+{
+    mMailbox->Switch(L"LinksRaise", true);
+    AddContact(L"Wei", L"Zhang");
+    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    WriteNewTask();
+    ASSERT_EQ(1, CountTasks());
+    EXPECT_EQ(L"Call", TextOf(mMailbox->ItemProperty(kTasks, 1, L"Subject")));
+    EXPECT_TRUE(Links(1).empty());
+}
+
 TEST_F(ContactLink, AContactThatIsNotFoundIsCreatedWithJustItsNameAndLinked)
 {
     AddContact(L"Zhang", L"Wei"); // the other way round is another person

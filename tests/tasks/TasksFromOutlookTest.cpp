@@ -205,14 +205,15 @@ TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
               mDisplay.Events);
 }
 
-TEST_F(TasksFromOutlook, AnItemThatIsGoneEndsThePass)
+TEST_F(TasksFromOutlook, AnItemThatIsGoneIsSkippedAndTheOthersAreWritten)
 {
     AddOutlookTask({{L"Subject", L"One"}});
     exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"7", 0);
     run.Pending.NewOutlookItems.Add(L"1", 0);
-    EXPECT_TRUE(tasks::SynTaskFromOutlook(run));
-    EXPECT_TRUE(Host().Calls.empty());
+    EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
+    EXPECT_FALSE(Host().Calls.empty());
+    EXPECT_EQ(1, run.Skipped);
     EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
 }
 

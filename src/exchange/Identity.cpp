@@ -1,0 +1,167 @@
+#include "exchange/Identity.h"
+
+#include "automation/Error.h"
+#include "automation/Text.h"
+#include "data/Remark.h"
+#include "state/Failures.h"
+#include "state/SharedState.h"
+
+namespace exchange
+{
+
+using automation::Error;
+using automation::Object;
+using automation::Recordset;
+
+namespace
+{
+
+bool HasKey(const Recordset& rows, const std::wstring& keyColumn, const std::wstring& key)
+{
+    try
+    {
+        return KeyOfRow(rows, keyColumn) == key;
+    }
+    catch (const Error& error)
+    {
+        if (!automation::IsGone(error))
+        {
+            throw;
+        }
+        return false;
+    }
+}
+
+bool FindRow(const Recordset& rows, const std::wstring& keyColumn, const std::wstring& key)
+{
+    if (rows.HasNoRows())
+    {
+        return false;
+    }
+    for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext())
+    {
+        if (HasKey(rows, keyColumn, key))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+// An item that was deleted may be found in the folder of deleted items.
+bool IsInFolder(const Run& run, const Object& item)
+{
+    return automation::TextOrEmpty(item.GetObject(L"Parent").Get(L"EntryID")) ==
+           automation::TextOrEmpty(run.Folder.Get(L"EntryID"));
+}
+
+Object ItemById(const Run& run, const std::wstring& entryId)
+{
+    try
+    {
+        const Object item =
+            state::Shared().gOlNamespace.GetObject(L"GetItemFromID", entryId, run.Folder.Get(L"StoreID"));
+        return IsInFolder(run, item) ? item : Object();
+    }
+    catch (const Error& error)
+    {
+        if (!automation::IsGone(error))
+        {
+            throw;
+        }
+        return {};
+    }
+}
+
+// An item whose store gives no EntryID is told by its match key alone.
+bool HasFirstKey(const Run& run, const Object& item, const std::wstring& key)
+{
+    return item && (key.empty() || !run.Identity.FirstKeyOf || run.Identity.FirstKeyOf(item) == key);
+}
+
+} // namespace
+
+std::wstring EntryIdOf(const Object& item)
+{
+    try
+    {
+        return automation::TextOrEmpty(item.Get(L"EntryID"));
+    }
+    catch (const Error& error)
+    {
+        if (!automation::IsMissingMember(error))
+        {
+            throw;
+        }
+        return {};
+    }
+}
+
+std::wstring KeyOfRow(const Recordset& rows, const std::wstring& keyColumn)
+{
+    return automation::TextOrEmpty(rows.ValueOf(keyColumn));
+}
+
+bool GoToRow(const Recordset& rows, const std::wstring& keyColumn, long position, const std::wstring& key)
+{
+    if (keyColumn.empty() || key.empty())
+    {
+        rows.MoveTo(position);
+        return true;
+    }
+    // A bookmark that is no position is refused, or leads elsewhere.
+    const auto isThere = [&](auto move) {
+        return state::Trapped(false, [&] {
+            (rows.*move)(position);
+            return KeyOfRow(rows, keyColumn) == key;
+        });
+    };
+    return isThere(&Recordset::MoveTo) || isThere(&Recordset::GoTo) || FindRow(rows, keyColumn, key);
+}
+
+Object ItemAt(const Object& items, long position)
+{
+    try
+    {
+        return items.GetObject(L"Item", position);
+    }
+    catch (const Error&)
+    {
+        if (position <= automation::LongOf(items.Get(L"Count")))
+        {
+            throw;
+        }
+        return {};
+    }
+}
+
+Object ProposedItem(Run& run, const data::ClsOlRecord& record)
+{
+    const long position = static_cast<long>(automation::LeadingNumber(record.ItemIndex));
+    if (record.EntryId.empty())
+    {
+        const Object item = ForPass(run, ItemAt(run.Items, position));
+        return HasFirstKey(run, item, record.FirstKey) ? item : Object();
+    }
+    // What cannot be opened at the position may be another item by now.
+    const Object item = state::Trapped(Object(), [&] { return ForPass(run, ItemAt(run.Items, position)); });
+    return item && EntryIdOf(item) == record.EntryId ? item : ForPass(run, ItemById(run, record.EntryId));
+}
+
+bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record)
+{
+    return GoToRow(run.HostRows, run.Identity.KeyColumn, record.RecordBookmark, record.Key);
+}
+
+bool AreStillAPair(const Run& run, const Object& item)
+{
+    return !run.Identity.Matches || run.Identity.Matches(item, run.HostRows);
+}
+
+void Skip(Run& run)
+{
+    ++run.Skipped;
+    data::Remark(L"A record has been left out: it is gone, or no longer what was proposed");
+}
+
+} // namespace exchange

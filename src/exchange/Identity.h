@@ -1,0 +1,37 @@
+// Confirms that a recorded position still leads to the record that was proposed: other programs and the
+// server change folders, and hosts their rows, while a run works. Called by the collection and the apply
+// passes.
+#pragma once
+
+#include "exchange/Run.h"
+
+#include <string>
+
+namespace exchange
+{
+
+// The item's EntryID; the empty text where its store gives none. Throws automation::Error.
+std::wstring EntryIdOf(const automation::Object& item);
+
+// What a row has in its key column; the empty text for nothing.
+std::wstring KeyOfRow(const automation::Recordset& rows, const std::wstring& keyColumn);
+
+// Moves to the row that was at the position: where another one is there by now, to where it is. False when it
+// is gone. Without a key to tell it by, the position is taken as it is.
+bool GoToRow(const automation::Recordset& rows, const std::wstring& keyColumn, long position,
+             const std::wstring& key);
+
+// The item at a position of the folder's items; nothing behind the last one.
+automation::Object ItemAt(const automation::Object& items, long position);
+
+// The item that was proposed, made ready for a pass; nothing when it is gone.
+automation::Object ProposedItem(Run& run, const data::ClsOlRecord& record);
+// Moves the host's rows to the row that was proposed; false when it is gone.
+bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record);
+// Whether the two are the same record still.
+bool AreStillAPair(const Run& run, const automation::Object& item);
+
+// A record that the user has accepted is not written.
+void Skip(Run& run);
+
+} // namespace exchange

@@ -1,0 +1,148 @@
+// A position is confirmed before anything is written: items and rows change places while a run works.
+#include "exchange/Identity.h"
+
+#include "automation/OutlookConstants.h"
+#include "automation/Text.h"
+#include "exchange/ApplyFromOutlook.h"
+#include "exchange/ApplyToOutlook.h"
+#include "sandbox/ado/Recordset.h"
+#include "sandbox/outlook/Outlook.h"
+#include "state/SharedState.h"
+#include "tests/support/RecordingDisplay.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using automation::Object;
+using automation::TextOf;
+
+constexpr const wchar_t* kFolder = L"Personal Folders\\Contacts";
+
+std::vector<std::wstring> gPairs; // item and row
+
+void Note(exchange::Run& run, long mode, const Object& item)
+{
+    const std::wstring row = mode == data::kNewRecord ? L"" : L" " + TextOf(run.HostRows.ValueOf(L"Id"));
+    gPairs.push_back(TextOf(item.Get(L"LastName")) + row);
+}
+
+long NoteRow(exchange::Run& run, long mode, const Object& item)
+{
+    Note(run, mode, item);
+    return 0;
+}
+
+class IdentityOfRecords : public testing::Test
+{
+  protected:
+    IdentityOfRecords()
+    {
+        gPairs.clear();
+        for (const wchar_t* name : {L"a", L"b", L"c"})
+        {
+            Mailbox->AddItem(kFolder, {{L"LastName", name}});
+        }
+        state::Shared().gOlApplication = sandbox::MakeOutlook(Mailbox);
+        state::Shared().gOlNamespace = state::Shared().gOlApplication.GetObject(L"GetNamespace", L"MAPI");
+        TheRun.Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 10L);
+        TheRun.Items = TheRun.Folder.GetObject(L"Items");
+        TheRun.HostRows =
+            automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"a"}, {L"b"}, {L"c"}}}));
+        TheRun.Identity.KeyColumn = L"Id";
+        TheRun.Identity.Matches = [](const Object& item, const automation::Recordset& rows) {
+            return TextOf(item.Get(L"LastName")) == TextOf(rows.ValueOf(L"Id"));
+        };
+    }
+    ~IdentityOfRecords() override { state::Shared() = {}; }
+
+    std::wstring IdOf(long position)
+    {
+        return exchange::EntryIdOf(TheRun.Items.GetObject(L"Item", position));
+    }
+
+    // The item and the row that were there when they were proposed, at positions that may be others by now.
+    void Propose(long item, const std::wstring& entryId, long row, const std::wstring& key, long mark)
+    {
+        TheRun.Pending.ChangedOutlookItems.Add(std::to_wstring(item), mark).EntryId = entryId;
+        TheRun.Pending.ChangedHostRecords.Add(row, mark).Key = key;
+    }
+
+    bool Import() { return exchange::PassFromOutlook{L"SELECT", {}, NoteRow}(TheRun); }
+    bool Export() { return exchange::PassToOutlook{automation::kContactItem, L"SELECT", {}, Note}(TheRun); }
+
+    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
+    test_support::RecordingDisplay Display;
+    exchange::Run TheRun{.Display = Display};
+};
+
+using Pairs = std::vector<std::wstring>;
+
+} // namespace
+
+TEST_F(IdentityOfRecords, AnItemAndARowThatHaveMovedAreFoundAgainInBothDirections)
+{
+    Propose(1, IdOf(3), 1, L"c", 0);
+    EXPECT_FALSE(Import());
+    EXPECT_EQ((Pairs{L"c c"}), gPairs);
+    TheRun.Pending = {};
+    TheRun.OverwrittenRows.clear();
+    Propose(9, IdOf(2), 9, L"b", 1);
+    EXPECT_FALSE(Export());
+    EXPECT_EQ((Pairs{L"c c", L"b b"}), gPairs);
+    EXPECT_EQ(0, TheRun.Skipped);
+}
+
+TEST_F(IdentityOfRecords, ANewItemThatHasMovedIsFoundAgain)
+{
+    TheRun.Pending.NewOutlookItems.Add(L"2", 0).EntryId = IdOf(1);
+    EXPECT_FALSE(Import());
+    EXPECT_EQ((Pairs{L"a"}), gPairs);
+}
+
+TEST_F(IdentityOfRecords, WhatIsGoneIsSkippedAndCounted)
+{
+    const std::wstring gone = IdOf(1);
+    Mailbox->RemoveItem(kFolder, 1);
+    TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId = gone;
+    Propose(1, gone, 1, L"a", 0);
+    Propose(1, IdOf(1), 1, L"x", 0);
+    EXPECT_FALSE(Import());
+    TheRun.Pending.NewHostRecords.Add(1, 0).Key = L"x";
+    EXPECT_FALSE(Export());
+    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(4, TheRun.Skipped);
+}
+
+TEST_F(IdentityOfRecords, APairThatIsOneNoLongerIsNotWritten)
+{
+    Propose(1, IdOf(1), 2, L"b", 0);
+    EXPECT_FALSE(Import());
+    TheRun.Pending = {};
+    Propose(1, IdOf(1), 2, L"b", 1);
+    EXPECT_FALSE(Export());
+    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(2, TheRun.Skipped);
+}
+
+TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsToldByItsKeyAlone)
+{
+    TheRun.Identity.FirstKeyOf = [](const Object& item) { return TextOf(item.Get(L"LastName")); };
+    TheRun.Pending.NewOutlookItems.Add(L"1", 0).FirstKey = L"a";
+    TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = L"a";
+    EXPECT_FALSE(Import());
+    EXPECT_EQ((Pairs{L"a"}), gPairs);
+    EXPECT_EQ(1, TheRun.Skipped);
+}
+
+TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
+{
+    Mailbox->AddItem(L"Personal Folders\\Tasks", {{L"Subject", L"elsewhere"}});
+    const Object tasks = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
+    TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId =
+        exchange::EntryIdOf(tasks.GetObject(L"Items").GetObject(L"Item", 1L));
+    EXPECT_FALSE(Import());
+    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(1, TheRun.Skipped);
+}
