@@ -16,7 +16,7 @@ namespace sandbox::outlook
 [[noreturn]] void FailTypeMismatch(const wchar_t* member);
 // A value of the right type that the member does not take, or a call that does not fit the object's state.
 [[noreturn]] void FailInvalid(const wchar_t* member, const std::wstring& description);
-// A member that the object model guard protects, when nobody answers its prompt with yes.
+// A member that the object model guard protects, if the user does not allow it at the prompt.
 [[noreturn]] void FailGuarded(const wchar_t* member);
 // A store that is not connected.
 [[noreturn]] void FailOffline(const wchar_t* member);

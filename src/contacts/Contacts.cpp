@@ -17,7 +17,7 @@ using automation::Value;
 
 std::wstring ContactNameOfItem(const Object& item)
 {
-    // Joined without a separator, as the contract has it: Li Ming and Lim Ing are one name.
+    // The contract joins the names without a separator: Li Ming and Lim Ing are one name.
     const std::wstring lastName = exchange::Comparable(item.Get(L"LastName"));
     return lastName + exchange::Comparable(item.Get(L"FirstName"));
 }

@@ -73,7 +73,7 @@ Object ItemById(const Run& run, const std::wstring& entryId)
     }
 }
 
-// An item whose store gives no EntryID is told by its match key alone.
+// An item whose store gives no EntryID is recognised by its match key alone.
 bool HasFirstKey(const Run& run, const Object& item, const std::wstring& key)
 {
     return item && (key.empty() || !run.Identity.FirstKeyOf || run.Identity.FirstKeyOf(item) == key);

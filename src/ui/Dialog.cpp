@@ -242,7 +242,7 @@ INT_PTR Dialog::HandleOrder(UINT message, WPARAM wParam, LPARAM lParam)
     {
         return TRUE;
     }
-    // A control that reports on itself by a command is told at once.
+    // A control that reports on itself by a command gets its command at once.
     const bool mayCallOut = message == WM_CLOSE || HIWORD(wParam) == BN_CLICKED;
     if (mayCallOut && IsSenderWaiting())
     {
