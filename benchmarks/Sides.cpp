@@ -51,7 +51,7 @@ void AddAll(sandbox::Mailbox& mailbox, const wchar_t* folder, const std::vector<
 // The items that the mailbox file of this size has, in memory.
 sandbox::MailboxRef MailboxInMemory(size_t count)
 {
-    const sandbox::SampleRecords records = sandbox::NumberedRecords(count / 2, count);
+    const tools::SampleRecords records = tools::NumberedRecords(count / 2, count);
     sandbox::MailboxRef mailbox = sandbox::MakeMailbox();
     AddAll(*mailbox, L"Personal Folders\\Contacts", records.contacts);
     AddAll(*mailbox, L"Personal Folders\\Tasks", records.tasks);
@@ -63,7 +63,7 @@ sandbox::MailboxRef MailboxInMemory(size_t count)
 
 DataFiles::DataFiles(size_t count) : mCount(count), mHost(sandbox::TemporaryDatabasePath())
 {
-    sandbox::WriteNumberedHost(mHost, sandbox::Edition::English, count);
+    tools::WriteNumberedHost(mHost, sandbox::Edition::English, count);
 }
 
 const std::wstring& DataFiles::Mailbox() const
@@ -71,7 +71,7 @@ const std::wstring& DataFiles::Mailbox() const
     if (mMailbox.empty())
     {
         mMailbox = sandbox::TemporaryDatabasePath();
-        sandbox::WriteNumberedMailbox(mMailbox, mCount);
+        tools::WriteNumberedMailbox(mMailbox, mCount);
     }
     return mMailbox;
 }
@@ -138,7 +138,7 @@ exchange::Run Sides::AnotherRun()
 {
     const Object folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", mKind.DefaultFolder);
     exchange::Run run{.Display = mDisplay, .Folder = folder, .Items = folder.GetObject(L"Items")};
-    run.Items.Get(L"Count"); // the stand-in reads the folder's items when they are first asked for
+    run.Items.Get(L"Count"); // the fake reads the folder's items when they are first asked for
     if (!mRows)
     {
         const data::Host host;

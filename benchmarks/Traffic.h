@@ -1,5 +1,5 @@
 // What a piece of work costs in automation: calls and lookups of members by name, by target and member, to
-// stand-ins of this process and, through its control object, to the Outlook server.
+// fakes of this process and, through its control object, to the Outlook server.
 #pragma once
 
 #include "automation/Object.h"

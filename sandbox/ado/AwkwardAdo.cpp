@@ -1,35 +1,12 @@
 #include "sandbox/ado/AwkwardAdo.h"
 
-#include "automation/Error.h"
-
 #include <algorithm>
-#include <cwchar>
 
 namespace sandbox
 {
 
 namespace
 {
-
-using automation::Value;
-
-template<auto member>
-void SetMember(AwkwardAdo& awkward, const Value& value)
-{
-    using Type = std::remove_reference_t<decltype(awkward.*member)>;
-    if constexpr (std::is_same_v<Type, std::wstring>)
-    {
-        awkward.*member = automation::TextOrEmpty(value);
-    }
-    else if constexpr (std::is_same_v<Type, bool>)
-    {
-        awkward.*member = automation::TruthOf(value);
-    }
-    else
-    {
-        awkward.*member = static_cast<Type>(automation::LongOf(value));
-    }
-}
 
 constexpr const wchar_t* kDataTypes = L"DataTypeEnum (ADO)";
 
@@ -52,16 +29,9 @@ const std::vector<AwkwardAdoSwitch>& AwkwardAdoSwitches()
     return switches;
 }
 
-void SetSwitch(AwkwardAdo& awkward, const std::wstring& name, const Value& value)
+void SetSwitch(AwkwardAdo& awkward, const std::wstring& name, const automation::Value& value)
 {
-    const auto& switches = AwkwardAdoSwitches();
-    const auto found = std::ranges::find_if(
-        switches, [&](const AwkwardAdoSwitch& one) { return _wcsicmp(one.name, name.c_str()) == 0; });
-    if (found == switches.end())
-    {
-        throw automation::Error(E_INVALIDARG, L"Switch", L"There is no switch \"" + name + L"\".");
-    }
-    found->set(awkward, value);
+    SetSwitch(AwkwardAdoSwitches(), awkward, name, value);
 }
 
 void SetSwitches(AwkwardAdo& awkward, const std::wstring& text)

@@ -4,7 +4,7 @@
 // "Software\TelvixSandbox": "Name=Value;Name=Value".
 #pragma once
 
-#include "automation/Value.h"
+#include "sandbox/dispatch/Switches.h"
 
 #include <string>
 #include <vector>
@@ -42,12 +42,7 @@ struct AwkwardAdo
     long charWidth = 0; // texts are padded with blanks to a multiple of this
 };
 
-struct AwkwardAdoSwitch
-{
-    const wchar_t* name;
-    const wchar_t* source; // the documentation that describes the behaviour
-    void (*set)(AwkwardAdo& awkward, const automation::Value& value);
-};
+using AwkwardAdoSwitch = Switch<AwkwardAdo>;
 
 // All switches, for those who want to go through them.
 const std::vector<AwkwardAdoSwitch>& AwkwardAdoSwitches();

@@ -1,4 +1,4 @@
-// The stand-in for ADO's Recordset with a client-side cursor: its rows are fetched whole when it is opened,
+// The fake for ADO's Recordset with a client-side cursor: its rows are fetched whole when it is opened,
 // then walked; the switches (AwkwardAdo.h) make it one of the other documented kinds. Members and errors are
 // those that ADO publishes, as far as the component and its host use them.
 #pragma once

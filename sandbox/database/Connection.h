@@ -1,4 +1,4 @@
-// A database over ODBC, as the stand-ins use it: statements with parameters, rows fetched whole, values typed
+// A database over ODBC, as the fakes use it: statements with parameters, rows fetched whole, values typed
 // by the declared types of their columns. Errors are automation::Error with the driver's own words.
 #pragma once
 

@@ -5,7 +5,7 @@
 #include "sandbox/database/Connection.h"
 
 // Text goes through the narrow entry points, as UTF-8: the driver has no wide ones, and on the way to a wide
-// call's stand-in the driver manager would squeeze everything into Latin-1. Bound values are not affected.
+// call's fake the driver manager would squeeze everything into Latin-1. Bound values are not affected.
 #define SQL_NOUNICODEMAP
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// Class objects of the stand-ins: what COM asks for a new object of a registered class, in this process or
+// Class objects of the fakes: what COM asks for a new object of a registered class, in this process or
 // for others, and the registry entries by which clients find a class under its programmatic identifier.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The base of every automation object of the stand-ins: late binding by a table of members per class, errors
+// The base of every automation object of the fakes: late binding by a table of members per class, errors
 // with descriptions, a count of the objects alive, and a place where a test can watch or fail every call.
 #pragma once
 
@@ -59,7 +59,7 @@ struct Member
 
 using MemberTable = std::vector<Member>;
 
-// Watches the calls that reach stand-in objects of this process. OnCall runs before the call and may throw
+// Watches the calls that reach fake objects of this process. OnCall runs before the call and may throw
 // automation::Error, which the caller then sees as the member's own failure.
 class CallObserver
 {
@@ -76,7 +76,7 @@ class CallObserver
 // Sets the observer of this process (null for none) and returns the one before.
 CallObserver* Observe(CallObserver* observer) noexcept;
 
-// Stand-in objects alive in this process.
+// Fake objects alive in this process.
 long LiveObjects() noexcept;
 
 // Called whenever the last of them has gone, on the thread that released it: a server program ends then. Null
@@ -123,7 +123,7 @@ class DispatchObject : public IDispatch
     std::atomic<ULONG> mReferences{0};
 };
 
-// A new stand-in object as its clients see it.
+// A new fake object as its clients see it.
 template<typename T, typename... Arguments>
 automation::Object MakeObject(Arguments&&... arguments)
 {

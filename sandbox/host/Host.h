@@ -1,4 +1,4 @@
-// The host application's stand-in for the demo and the tests: a database of the host, and the data-access
+// The fake host for the demo and the tests: a database of the host, and the data-access
 // object over it that the component is given. Objects handed out may outlive the Host.
 #pragma once
 

@@ -1,35 +1,12 @@
 #include "sandbox/outlook/Awkward.h"
 
-#include "sandbox/outlook/Failures.h"
-
 #include <algorithm>
-#include <cwchar>
 
 namespace sandbox::outlook
 {
 
 namespace
 {
-
-using automation::Value;
-
-template<auto member>
-void SetMember(Awkward& awkward, const Value& value)
-{
-    using Type = std::remove_reference_t<decltype(awkward.*member)>;
-    if constexpr (std::is_same_v<Type, std::wstring>)
-    {
-        awkward.*member = automation::TextOrEmpty(value);
-    }
-    else if constexpr (std::is_same_v<Type, bool>)
-    {
-        awkward.*member = automation::TruthOf(value);
-    }
-    else
-    {
-        awkward.*member = static_cast<Type>(automation::LongOf(value));
-    }
-}
 
 constexpr const wchar_t* kItems = L"Items object (Outlook)";
 constexpr const wchar_t* kItemEvents = L"Items.ItemAdd event, Items.ItemRemove event (Outlook)";
@@ -106,16 +83,9 @@ const std::vector<AwkwardSwitch>& AwkwardSwitches()
     return switches;
 }
 
-void SetSwitch(Awkward& awkward, const std::wstring& name, const Value& value)
+void SetSwitch(Awkward& awkward, const std::wstring& name, const automation::Value& value)
 {
-    const auto& switches = AwkwardSwitches();
-    const auto found = std::ranges::find_if(
-        switches, [&](const AwkwardSwitch& one) { return _wcsicmp(one.name, name.c_str()) == 0; });
-    if (found == switches.end())
-    {
-        FailInvalid(L"Switch", L"There is no switch \"" + name + L"\".");
-    }
-    found->set(awkward, value);
+    sandbox::SetSwitch(AwkwardSwitches(), awkward, name, value);
 }
 
 bool IsGuarded(std::wstring_view interfaceName, std::wstring_view member)

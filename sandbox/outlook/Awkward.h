@@ -4,7 +4,7 @@
 // runs through the control object's member Switch. The names are those of the members, in any case.
 #pragma once
 
-#include "automation/Value.h"
+#include "sandbox/dispatch/Switches.h"
 
 #include <string>
 #include <vector>
@@ -60,12 +60,7 @@ struct Awkward
     std::wstring tableRefuses;    // a column that is refused although the documentation lists it as supported
 };
 
-struct AwkwardSwitch
-{
-    const wchar_t* name;
-    const wchar_t* source; // the documentation that describes the behaviour
-    void (*set)(Awkward& awkward, const automation::Value& value);
-};
+using AwkwardSwitch = Switch<Awkward>;
 
 // All switches, for those who want to go through them.
 const std::vector<AwkwardSwitch>& AwkwardSwitches();

@@ -1,4 +1,4 @@
-// Counts the calls that reach stand-in objects of this process, by class and member, and can disturb them:
+// Counts the calls that reach fake objects of this process, by class and member, and can disturb them:
 // what a benchmark reads, and how a test makes Outlook fail at a chosen call.
 #pragma once
 

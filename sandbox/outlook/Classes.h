@@ -1,4 +1,4 @@
-// The classes of Outlook's stand-in.
+// The classes of the fake Outlook.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// The failures that Outlook's stand-in reports: codes and descriptions as a client of Outlook meets them.
+// The failures that the fake Outlook reports: codes and descriptions as a client of Outlook meets them.
 #pragma once
 
 #include "automation/Error.h"

@@ -1,5 +1,5 @@
-// The mailbox behind Outlook's stand-in: folders of items, each item a bag of typed properties and a list of
-// links. It lives as long as an object of the stand-in (or a test) refers to it. Its lock is held during
+// The mailbox behind the fake Outlook: folders of items, each item a bag of typed properties and a list of
+// links. It lives as long as an object of the fake (or a test) refers to it. Its lock is held during
 // every call that a client makes, so that clients on several threads may share a mailbox.
 #pragma once
 
@@ -94,7 +94,7 @@ class Mailbox
     // True when the mailbox file is no longer what this mailbox has read and written.
     bool HasChangedElsewhere();
 
-    // --- For the objects of the stand-in.
+    // --- For the objects of the fake.
 
     const std::vector<MailFolder*>& Stores() const noexcept { return mStores; }
     // Null where there is none.

@@ -1,4 +1,4 @@
-// Outlook's stand-in for programs of the sandbox and tests: its application object over a mailbox, served in
+// The fake Outlook for programs of the sandbox and tests: its application object over a mailbox, served in
 // this process where it is wanted, and the mailbox files. The server program serves the same objects to
 // other processes.
 #pragma once
@@ -28,7 +28,7 @@ MailboxRef CreateMailbox(const std::wstring& path);
 // The application object over a mailbox.
 automation::Object MakeOutlook(const MailboxRef& mailbox);
 
-// As long as this lives, "Outlook.Application" is the stand-in in this process, for objects created on this
+// As long as this lives, "Outlook.Application" is the fake in this process, for objects created on this
 // thread: each creation gives a new application object over the one mailbox. COM must have been initialised
 // on the thread. Throws automation::Error.
 class OutlookInProcess

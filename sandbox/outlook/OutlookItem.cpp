@@ -14,7 +14,7 @@ namespace sandbox::outlook
 namespace
 {
 
-// Answered by the stand-in's own items only, to tell them from what a client may put before them.
+// Answered by the fake's own items only, to tell them from what a client may put before them.
 constexpr GUID kOutlookItemId = {
     0x5a1e0f7c, 0x3b52, 0x4f0e, {0x9d, 0x3c, 0x62, 0x1b, 0x0e, 0x8f, 0x47, 0xa1}};
 

@@ -1,4 +1,4 @@
-// The base of the objects that clients of the stand-in hold: each belongs to a mailbox and keeps it alive,
+// The base of the objects that clients of the fake hold: each belongs to a mailbox and keeps it alive,
 // and every call holds the mailbox's lock. Its members are those of a published interface, or some of them.
 #pragma once
 

@@ -13,7 +13,7 @@ namespace sandbox::outlook
 
 using automation::Value;
 
-// OlItemType, as far as the stand-in keeps such items.
+// OlItemType, as far as the fake keeps such items.
 enum class ItemKind
 {
     Mail = 0,

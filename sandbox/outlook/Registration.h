@@ -1,4 +1,4 @@
-// The stand-in's entries in the registry: programmatic identifiers, the server program, and which mailbox it
+// The fake's entries in the registry: programmatic identifiers, the server program, and which mailbox it
 // serves. They belong to the sandbox's own prefix.
 #pragma once
 
@@ -9,7 +9,7 @@
 namespace sandbox::outlook
 {
 
-// Registers the program at this path as the server of the stand-in's classes, and takes that back; the
+// Registers the program at this path as the server of the fake's classes, and takes that back; the
 // programmatic identifiers stay, for processes that serve the class themselves. Throw automation::Error.
 void RegisterServer(const std::wstring& program);
 void UnregisterServer();

@@ -33,7 +33,7 @@ ProfileKeys::ProfileKeys(const std::vector<std::wstring>& profiles)
 ProfileKeys::~ProfileKeys()
 {
     Remove();
-    sandbox::demo::InstallOutlookProfile(sandbox::demo::Profiles::Classic);
+    tools::demo::InstallOutlookProfile(tools::demo::Profiles::Classic);
 }
 
 std::wstring ProfileKeys::Default() const
@@ -54,7 +54,7 @@ std::wstring ProfileKeys::Default() const
 
 void ProfileKeys::Remove() const
 {
-    sandbox::demo::RemoveOutlookProfiles();
+    tools::demo::RemoveOutlookProfiles();
 }
 
 } // namespace boundary_tests

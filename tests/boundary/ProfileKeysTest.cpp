@@ -53,7 +53,7 @@ TEST_F(OutlooksProfileKeys, DeniedOnesStopARunWithTheirCodeAndAllowedAgainTheyDo
 
 TEST_F(OutlooksProfileKeys, MissingOnesDoNotStopARunWhereOfficeHasAProfileOfItsOwn)
 {
-    sandbox::demo::InstallOutlookProfile(sandbox::demo::Profiles::Modern);
+    tools::demo::InstallOutlookProfile(tools::demo::Profiles::Modern);
     EXPECT_EQ(SuccessStatus(), mSite.Run({L"contact", kBoth}).status);
 }
 

@@ -38,8 +38,8 @@ class Pattern
   public:
     Pattern()
     {
-        sandbox::WriteNumberedHost(mHost, sandbox::Edition::English, kRecords);
-        sandbox::WriteNumberedMailbox(mMailbox, kRecords);
+        tools::WriteNumberedHost(mHost, sandbox::Edition::English, kRecords);
+        tools::WriteNumberedMailbox(mMailbox, kRecords);
     }
     ~Pattern()
     {
@@ -129,7 +129,7 @@ Site::Site()
     pattern.CopyTo(mHostFile, mMailboxFile);
     OpenHost();
     mMailbox = std::make_unique<sandbox::Connection>(sandbox::ConnectionStringOf(mMailboxFile));
-    sandbox::demo::InstallOutlookProfile(sandbox::demo::Profiles::Classic);
+    tools::demo::InstallOutlookProfile(tools::demo::Profiles::Classic);
 }
 
 Site::~Site()
@@ -143,10 +143,10 @@ Site::~Site()
 
 void Site::Prepare(long direction)
 {
-    sandbox::demo::Options options;
+    tools::demo::Options options;
     options.TransType = direction;
     options.ConflictOption = RuleOf(direction);
-    sandbox::demo::StoreSettings(mHost->Database(), std::to_wstring(mHost->UserId()), options);
+    tools::demo::StoreSettings(mHost->Database(), std::to_wstring(mHost->UserId()), options);
 }
 
 bool Site::SynLoad(Robot::Script user, const Object& dtc)

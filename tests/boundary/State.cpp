@@ -47,7 +47,7 @@ std::wstring WithoutKeys(const std::wstring& text)
     return result;
 }
 
-void Add(Records& records, const wchar_t* kind, const sandbox::demo::Entries& entries)
+void Add(Records& records, const wchar_t* kind, const tools::demo::Entries& entries)
 {
     for (const auto& [key, entry] : entries)
     {
@@ -82,7 +82,7 @@ std::string Shown(const Records& records)
 
 State LookAt(sandbox::Connection& host, sandbox::Connection& mailbox)
 {
-    const sandbox::demo::Snapshot snapshot = sandbox::demo::TakeSnapshot(host, mailbox);
+    const tools::demo::Snapshot snapshot = tools::demo::TakeSnapshot(host, mailbox);
     State state;
     Add(state.hostRows, L"contact ", snapshot.hostContacts);
     Add(state.hostRows, L"account ", snapshot.hostAccounts);

@@ -11,8 +11,8 @@
 namespace boundary_tests
 {
 
-using sandbox::Robot;
-using sandbox::ShownDialog;
+using tools::Robot;
+using tools::ShownDialog;
 
 // What the user has seen of one run.
 struct Seen

@@ -1,4 +1,4 @@
-// Appointments in the mailbox of Outlook's stand-in, for the tests of the calendar.
+// Appointments in the mailbox of the fake Outlook, for the tests of the calendar.
 #pragma once
 
 #include "tests/sandbox_outlook/OutlookTest.h"

@@ -18,7 +18,7 @@ std::wstring BoundsOf(const Object& appointment)
     return At(appointment.Get(L"Start")) + L" - " + At(appointment.Get(L"End"));
 }
 
-// Counts the calls of one member of the stand-ins for the length of a scope.
+// Counts the calls of one member of the fakes for the length of a scope.
 class CountsCalls : public sandbox::CallObserver
 {
   public:

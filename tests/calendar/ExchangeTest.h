@@ -1,4 +1,4 @@
-// Calendars that are exchanged for real: the host's stand-in over its database, Outlook's stand-in, and the
+// Calendars that are exchanged for real: the fake host over its database, the fake Outlook, and the
 // component's own collection and workers between them; only the dialogs are left out.
 #pragma once
 

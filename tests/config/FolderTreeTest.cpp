@@ -2,7 +2,7 @@
 
 #include "automation/Error.h"
 #include "sandbox/outlook/Outlook.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 
 #include <gtest/gtest.h>
 

@@ -27,7 +27,7 @@ void ExpectAProfile()
     bool isRefused = true;
     int shown = 0;
     test_support::AnswerDialogsDuring([&] { isRefused = CheckOutlookProfiles(); },
-                                      [&](const sandbox::ShownDialog& dialog) {
+                                      [&](const tools::ShownDialog& dialog) {
                                           ++shown;
                                           dialog.Close();
                                       });
@@ -57,8 +57,8 @@ TEST(CheckOutlookProfiles, AMissingKeyIsReportedWithItsCodeInEnglishInBothLangua
     {
         const test_support::WithLanguage withLanguage(language);
         test_support::Drive(
-            [](sandbox::Robot& robot) {
-                const sandbox::ShownDialog box = robot.WaitForDialog();
+            [](tools::Robot& robot) {
+                const tools::ShownDialog box = robot.WaitForDialog();
                 EXPECT_TRUE(box.IsMessageBox());
                 EXPECT_EQ(L"Open key error, code 2", box.Message());
                 EXPECT_EQ(std::vector<int>{IDOK}, box.Buttons());

@@ -3,7 +3,7 @@
 #include "config/store/UserRows.h"
 #include "tests/config_host/HostTest.h"
 #include "tests/support/Drive.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 #include "tools/robot/Robot.h"
 
 #include <gtest/gtest.h>
@@ -291,8 +291,8 @@ TEST_F(ParameterStoreTest, ARowOfAnUnknownKindShowsTheErrorBoxWithAbortRetryAndI
         L"0, 0, 0, 0, 'Notes', '便笺', 1)");
     SynParameter record;
     test_support::Drive(
-        [](sandbox::Robot& robot) {
-            const sandbox::ShownDialog box = robot.WaitForDialog(L"SetSynParamenter");
+        [](tools::Robot& robot) {
+            const tools::ShownDialog box = robot.WaitForDialog(L"SetSynParamenter");
             EXPECT_EQ(L"错误", box.Message());
             EXPECT_EQ((std::vector<int>{IDABORT, IDRETRY, IDIGNORE}), box.Buttons());
             box.Click(IDIGNORE);

@@ -19,8 +19,8 @@ inline void ExpectTellsUser(resources::Language language, const std::wstring& ca
 {
     const test_support::WithLanguage withLanguage(language);
     test_support::Drive(
-        [&](sandbox::Robot& robot) {
-            const sandbox::ShownDialog dialog = robot.WaitForDialog(caption);
+        [&](tools::Robot& robot) {
+            const tools::ShownDialog dialog = robot.WaitForDialog(caption);
             EXPECT_EQ(text, dialog.Text(IDC_SHOWINFOR_DESCRIPTION));
             dialog.Click(IDOK);
         },

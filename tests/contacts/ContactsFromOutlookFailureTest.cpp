@@ -31,7 +31,7 @@ class ContactsFromOutlookFailure : public test_support::ContactsFixture
         }
     }
 
-    // The two items, into an empty host, while the k-th call that reaches a stand-in fails; false when there
+    // The two items, into an empty host, while the k-th call that reaches a fake fails; false when there
     // were not so many calls.
     bool ImportWithFailureAt(long k)
     {

@@ -1,1 +1,1 @@
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"

@@ -13,7 +13,8 @@ using automation::ByRef;
 using automation::LongOf;
 using automation::Object;
 using namespace sandbox;
-using namespace sandbox::demo;
+using namespace tools;
+using namespace tools::demo;
 
 namespace
 {

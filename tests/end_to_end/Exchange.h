@@ -24,9 +24,9 @@ class Exchange : public testing::Test
     ~Exchange() override;
 
     // One run of a kind: direction 1 to 3, conflict rule 1 to 5. The outcome is what the user has seen.
-    sandbox::demo::Outcome Run(const std::wstring& category, long direction, long rule, bool decline = false);
+    tools::demo::Outcome Run(const std::wstring& category, long direction, long rule, bool decline = false);
 
-    sandbox::demo::Snapshot Look() { return sandbox::demo::TakeSnapshot(mHost->Database(), *mMailbox); }
+    tools::demo::Snapshot Look() { return tools::demo::TakeSnapshot(mHost->Database(), *mMailbox); }
     long Count(const std::wstring& sqlOfHost);
     long CountItems(const std::wstring& sqlOfMailbox);
 

@@ -3,12 +3,12 @@
 #include "automation/Text.h"
 #include "resources/Strings.h"
 
-using sandbox::demo::Compare;
-using sandbox::demo::Difference;
-using sandbox::demo::Outcome;
-using sandbox::demo::Snapshot;
 using test_support::Exchange;
 using test_support::kRecords;
+using tools::demo::Compare;
+using tools::demo::Difference;
+using tools::demo::Outcome;
+using tools::demo::Snapshot;
 
 namespace
 {

@@ -2,7 +2,7 @@
 #include "tests/endurance/Office.h"
 #include "tests/endurance/ProcessLanguage.h"
 #include "tests/endurance/StaticTexts.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 #include "tests/support/Thoroughness.h"
 
 #include <gtest/gtest.h>

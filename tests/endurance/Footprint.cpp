@@ -147,7 +147,7 @@ constexpr int kSeries = 4; // at most
 
 constexpr long Footprint::*kFigures[] = {&Footprint::heapBytes,     &Footprint::residentBytes,
                                          &Footprint::gdiObjects,    &Footprint::userObjects,
-                                         &Footprint::kernelHandles, &Footprint::standIns};
+                                         &Footprint::kernelHandles, &Footprint::fakes};
 
 } // namespace
 
@@ -175,7 +175,7 @@ Footprint Footprint::Now()
     now.gdiObjects = GdiObjects();
     now.userObjects = UserObjects();
     now.kernelHandles = KernelHandles();
-    now.standIns = sandbox::LiveObjects();
+    now.fakes = sandbox::LiveObjects();
     now.residentBytes = ResidentBytes();
     now.heapBytes = BytesInHeaps();
     return now;
@@ -222,7 +222,7 @@ std::string TextOf(const Footprint& footprint)
     return "heap " + std::to_string(footprint.heapBytes) + " bytes, resident " +
            std::to_string(footprint.residentBytes) + " bytes, GDI " + std::to_string(footprint.gdiObjects) +
            ", USER " + std::to_string(footprint.userObjects) + ", handles " +
-           std::to_string(footprint.kernelHandles) + ", stand-ins " + std::to_string(footprint.standIns);
+           std::to_string(footprint.kernelHandles) + ", fakes " + std::to_string(footprint.fakes);
 }
 
 } // namespace test_support

@@ -16,7 +16,7 @@ struct Footprint
     long gdiObjects = 0;
     long userObjects = 0; // windows of this process, children and message windows included, and menus
     long kernelHandles = 0;
-    long standIns = 0; // objects of the host, Outlook and ADO
+    long fakes = 0; // objects of the host, Outlook and ADO
 
     static Footprint Now();
     Footprint operator-(const Footprint& other) const;
@@ -33,7 +33,7 @@ Footprint Smaller(const Footprint& one, const Footprint& other);
 // of a few. A cache of the system fills at a moment of its own and shows in one series, a leak in each.
 Footprint GrowthOfLevelSeries(const Footprint& tolerance, const std::function<Footprint()>& growthOfSeries);
 
-// "heap 1234 bytes, resident ..., GDI 5, USER 6, handles 7, stand-ins 0".
+// "heap 1234 bytes, resident ..., GDI 5, USER 6, handles 7, fakes 0".
 std::string TextOf(const Footprint& footprint);
 
 } // namespace test_support

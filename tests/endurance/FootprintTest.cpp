@@ -123,10 +123,10 @@ TEST(AFootprint, NoticesALeakedKernelHandle)
         [&] { CloseHandle(event); });
 }
 
-TEST(AFootprint, NoticesALeakedObjectOfAStandIn)
+TEST(AFootprint, NoticesALeakedFakeObject)
 {
     automation::Object outlook;
     ExpectNoticed(
-        &Footprint::standIns, 1, [&] { outlook = sandbox::MakeOutlook(sandbox::MakeMailbox()); },
+        &Footprint::fakes, 1, [&] { outlook = sandbox::MakeOutlook(sandbox::MakeMailbox()); },
         [&] { outlook = {}; });
 }

@@ -35,7 +35,7 @@ class Module
 // Whether the component takes the object as its font.
 bool TakesFont(const automation::Object& component, const automation::Object& font);
 
-// Gives the component a font object of the host's, counted among the stand-ins: it is kept by what the
+// Gives the component a font object of the host's, counted among the fakes: it is kept by what the
 // component shares among all its objects of the thread, and outlives them.
 void LendFont(const automation::Object& component);
 

@@ -13,7 +13,8 @@ namespace test_support
 using automation::LongOf;
 using automation::Object;
 using namespace sandbox;
-using namespace sandbox::demo;
+using namespace tools;
+using namespace tools::demo;
 
 namespace
 {

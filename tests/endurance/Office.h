@@ -54,7 +54,7 @@ class Office
     std::string Check(const Use& use, const automation::Object& component);
 
     // Called on the robot's thread while the main dialog is shown.
-    std::function<void(const sandbox::ShownDialog& main)> WhileShown;
+    std::function<void(const tools::ShownDialog& main)> WhileShown;
 
     // How often SynLoad has been called so far.
     long Runs() const noexcept { return mRuns; }
@@ -69,8 +69,8 @@ class Office
 
     Counts CountsOf(const Kind& kind);
     void LoseOne(const Use& use);
-    sandbox::demo::Outcome Run(const Use& use, const automation::Object& component);
-    std::string Fault(const Use& use, const sandbox::demo::Outcome& outcome);
+    tools::demo::Outcome Run(const Use& use, const automation::Object& component);
+    std::string Fault(const Use& use, const tools::demo::Outcome& outcome);
 
     std::wstring mHostFile;
     std::wstring mMailboxFile;

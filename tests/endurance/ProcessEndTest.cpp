@@ -2,18 +2,18 @@
 #include "tests/endurance/Apartment.h"
 #include "tests/endurance/Module.h"
 #include "tests/endurance/Office.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <cstdlib>
 
-using sandbox::ShownDialog;
 using test_support::ApartmentThread;
 using test_support::Module;
 using test_support::Office;
 using testing::ExitedWithCode;
+using tools::ShownDialog;
 
 namespace
 {

@@ -3,7 +3,7 @@
 #include "tests/endurance/Apartment.h"
 #include "tests/endurance/Office.h"
 #include "tests/endurance/ProcessLanguage.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 #include "tests/support/Thoroughness.h"
 
 #include "automation/Dates.h"
@@ -22,11 +22,11 @@ using automation::Object;
 using automation::TextOf;
 using resources::Language;
 using sandbox::Edition;
-using sandbox::ShownDialog;
 using test_support::ApartmentThread;
 using test_support::Office;
 using test_support::ProcessLanguage;
 using test_support::Use;
+using tools::ShownDialog;
 
 namespace
 {

@@ -4,7 +4,7 @@
 #include "tests/endurance/Module.h"
 #include "tests/endurance/Office.h"
 #include "tests/endurance/StaticTexts.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 #include "tests/support/Thoroughness.h"
 
 #include <gtest/gtest.h>
@@ -137,8 +137,8 @@ void UseThisThread()
     ComPtr<IMessageFilter> filter;
     CoRegisterMessageFilter(nullptr, &filter);
     EXPECT_EQ(nullptr, filter.Get());
-    sandbox::Robot user([](sandbox::Robot& running) {
-        const sandbox::ShownDialog box = running.WaitForDialog();
+    tools::Robot user([](tools::Robot& running) {
+        const tools::ShownDialog box = running.WaitForDialog();
         box.Click(IDOK);
         running.WaitUntilClosed(box);
     });

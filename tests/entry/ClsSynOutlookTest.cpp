@@ -3,8 +3,8 @@
 #include "automation/Dates.h"
 #include "automation/Object.h"
 #include "state/SharedState.h"
+#include "tests/support/Fakes.h"
 #include "tests/support/HostFont.h"
-#include "tests/support/StandIns.h"
 #include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>

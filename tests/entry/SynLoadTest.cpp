@@ -5,8 +5,8 @@
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
 #include "tests/support/Drive.h"
+#include "tests/support/Fakes.h"
 #include "tests/support/MessageBoxes.h"
-#include "tests/support/StandIns.h"
 #include "tools/robot/Robot.h"
 
 #include <gtest/gtest.h>
@@ -46,8 +46,8 @@ class SynLoadCall : public testing::Test
     void ExpectShownAndClosed(const std::function<Value()>& call)
     {
         bool heldWhileShown = false;
-        sandbox::Robot robot([&](sandbox::Robot& user) {
-            const sandbox::ShownDialog dialog = user.WaitForDialog(L"Synchronization");
+        tools::Robot robot([&](tools::Robot& user) {
+            const tools::ShownDialog dialog = user.WaitForDialog(L"Synchronization");
             heldWhileShown = true;
             dialog.Click(IDCANCEL);
         });
@@ -131,8 +131,8 @@ TEST_F(SynLoadWithOutlook, ServesAnEarlyBoundCallerThroughTheInterface)
 TEST_F(SynLoadWithOutlook, WhileTheDialogIsShownASecondCallReturnsFalseAndStoresNothing)
 {
     const test_support::MainThread mainThread;
-    sandbox::Robot robot([&](sandbox::Robot& user) {
-        const sandbox::ShownDialog dialog = user.WaitForDialog(L"Synchronization");
+    tools::Robot robot([&](tools::Robot& user) {
+        const tools::ShownDialog dialog = user.WaitForDialog(L"Synchronization");
         mainThread.Invoke([&] {
             EXPECT_EQ(Dtc.Dispatch(), Shared().gDTC.Dispatch());
             ExpectSecondCallRefused();
@@ -158,7 +158,7 @@ TEST_F(SynLoadCall, WhileOutlookStartsASecondCallReturnsFalseAndStoresNothing)
     int shown = 0;
     test_support::AnswerDialogsDuring(
         [&] { EXPECT_FALSE(TruthOf(Instance.Call(L"SynLoad", ByRef(Dtc), L"Driver=x"))); },
-        [&](const sandbox::ShownDialog& dialog) {
+        [&](const tools::ShownDialog& dialog) {
             ++shown;
             dialog.Click(IDCANCEL);
         });

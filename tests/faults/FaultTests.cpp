@@ -27,7 +27,7 @@ class EveryKind : public FaultTrials, public testing::WithParamInterface<Exchang
     {
         long struck = 0;
         AnswerDialogsDuring([&] { struck = StrikeEveryCall(GetParam(), phase, step); },
-                            [](const sandbox::ShownDialog& dialog) { dialog.Click(IDOK); });
+                            [](const tools::ShownDialog& dialog) { dialog.Click(IDOK); });
         EXPECT_LT(10, struck);
         ReportFigure(std::string("faults tried, ") + what + " of " + GetParam().kind.name +
                      (GetParam().IsToOutlook() ? " to Outlook: " : " from Outlook: ") +

@@ -21,7 +21,7 @@ using Microsoft::WRL::ComPtr;
 
 std::atomic<long> gLiveWrappers{0};
 
-// By it a wrapper gives the object inside, which the stand-ins must get where they expect one of their own.
+// By it a wrapper gives the object inside, which the fakes must get where they expect one of their own.
 constexpr IID kInside = {0x0c0b7a38, 0x93d2, 0x4d5e, {0x9a, 0x51, 0x3e, 0x07, 0x8b, 0x62, 0x11, 0xd4}};
 
 // Members of the host whose result is a status.

@@ -1,4 +1,4 @@
-// Writes down the calls of a few members of the stand-ins in their order, for the length of a scope, and
+// Writes down the calls of a few members of the fakes in their order, for the length of a scope, and
 // makes one member fail where a test asks for it. Observers around it still see every call.
 #pragma once
 

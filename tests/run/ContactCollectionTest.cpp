@@ -74,8 +74,8 @@ TEST_F(ContactCollection, WithoutTheRightToAddMatchedPairsAreStillProposed)
     *Rows = {ContactRow(L"Li", L"Ming", L"Harbour")};
     const auto collectAndReadTheRefusal = [&](long rule, const std::string& expected) {
         std::wstring refusal;
-        sandbox::Robot robot([&](sandbox::Robot& user) {
-            const sandbox::ShownDialog box = user.WaitForDialog();
+        tools::Robot robot([&](tools::Robot& user) {
+            const tools::ShownDialog box = user.WaitForDialog();
             refusal = box.Message();
             box.Click(IDOK);
         });

@@ -9,7 +9,7 @@ namespace test_support
 {
 
 using automation::Moment;
-using sandbox::ShownDialog;
+using tools::ShownDialog;
 
 namespace
 {

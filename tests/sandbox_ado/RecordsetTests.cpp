@@ -5,7 +5,7 @@
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
 #include "tests/sandbox_host/DatabaseFile.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 
 #include <gtest/gtest.h>
 

@@ -14,7 +14,7 @@ using namespace test_support;
 using automation::Error;
 using sandbox::Host;
 
-const LeakCheck kObjects("stand-in objects", sandbox::LiveObjects);
+const LeakCheck kObjects("fake objects", sandbox::LiveObjects);
 
 class HostObject : public HostTest
 {

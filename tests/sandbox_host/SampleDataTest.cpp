@@ -46,8 +46,8 @@ class SampleDataTest : public testing::Test
     static void SetUpTestSuite()
     {
         sFiles = std::make_unique<Files>();
-        sandbox::WriteSampleHost(sFiles->host.Path(), Edition::English);
-        sandbox::WriteSampleMailbox(sFiles->mailbox.Path());
+        tools::WriteSampleHost(sFiles->host.Path(), Edition::English);
+        tools::WriteSampleMailbox(sFiles->mailbox.Path());
     }
     static void TearDownTestSuite() { sFiles.reset(); }
 
@@ -179,18 +179,18 @@ TEST_F(SampleDataTest, NoTwoRecordsOfASideAreTheSameInWhatTheyAreMatchedBy)
                                      {L"F_ACTNAME", L"F_ACTTYPE", L"F_ACTPSTIME", L"ACC_SNAME"})));
     EXPECT_TRUE(
         AreUnique(KeysOfRows(Calendar(), {L"F_ACTNAME", L"F_ACTTYPE", L"F_ACTESDATE", L"F_ACTESTIME"})));
-    EXPECT_TRUE(AreUnique(KeysOfItems(mMailbox, sandbox::kContactsFolder, {L"LastName", L"FirstName"})));
-    EXPECT_TRUE(AreUnique(KeysOfItems(mMailbox, sandbox::kTasksFolder,
+    EXPECT_TRUE(AreUnique(KeysOfItems(mMailbox, tools::kContactsFolder, {L"LastName", L"FirstName"})));
+    EXPECT_TRUE(AreUnique(KeysOfItems(mMailbox, tools::kTasksFolder,
                                       {L"Subject", L"Categories", L"StartDate", L"Companies"})));
     EXPECT_TRUE(
-        AreUnique(KeysOfItems(mMailbox, sandbox::kCalendarFolder, {L"Subject", L"Categories", L"Start"})));
+        AreUnique(KeysOfItems(mMailbox, tools::kCalendarFolder, {L"Subject", L"Categories", L"Start"})));
 }
 
 TEST_F(SampleDataTest, AThirdOfTheContactsIsInOutlookAsWellWhichHasOthersBesides)
 {
     const Keys rows = KeysOfRows(Source(L"ContactMyContact"), {L"F_SURNAME", L"F_GIVENNAME", L"ACC_SNAME"});
     const Keys items =
-        KeysOfItems(mMailbox, sandbox::kContactsFolder, {L"LastName", L"FirstName", L"CompanyName"});
+        KeysOfItems(mMailbox, tools::kContactsFolder, {L"LastName", L"FirstName", L"CompanyName"});
     EXPECT_EQ(74u, CommonTo(rows, items));
     EXPECT_EQ(110u, items.size());
 }
@@ -200,7 +200,7 @@ TEST_F(SampleDataTest, AThirdOfTheTasksIsInOutlookAsWellWhichHasOthersBesides)
     ResultSet rows = mHost.Query(L"SELECT F_ACTNAME, F_ACTTYPE, ifnull(date(F_ACTPSTIME)||' 00:00:00','') AS "
                                  L"StartDay, ACC_SNAME FROM VW_ACTIVITY WHERE F_ACTORID=1");
     const Keys items =
-        KeysOfItems(mMailbox, sandbox::kTasksFolder, {L"Subject", L"Categories", L"StartDate", L"Companies"});
+        KeysOfItems(mMailbox, tools::kTasksFolder, {L"Subject", L"Categories", L"StartDate", L"Companies"});
     EXPECT_EQ(50u,
               CommonTo(KeysOfRows(rows, {L"F_ACTNAME", L"F_ACTTYPE", L"StartDay", L"ACC_SNAME"}), items));
     EXPECT_EQ(80u, items.size());
@@ -210,7 +210,7 @@ TEST_F(SampleDataTest, AThirdOfTheCalendarIsInOutlookAsWellWhichHasOthersBesides
 {
     ResultSet rows = mHost.Query(L"SELECT F_ACTNAME, F_ACTTYPE, date(F_ACTESDATE)||' '||time(F_ACTESTIME) AS "
                                  L"Start FROM VW_CALENDAR WHERE F_ACTORID=1");
-    const Keys items = KeysOfItems(mMailbox, sandbox::kCalendarFolder, {L"Subject", L"Categories", L"Start"});
+    const Keys items = KeysOfItems(mMailbox, tools::kCalendarFolder, {L"Subject", L"Categories", L"Start"});
     EXPECT_EQ(40u, CommonTo(KeysOfRows(rows, {L"F_ACTNAME", L"F_ACTTYPE", L"Start"}), items));
     EXPECT_EQ(65u, items.size());
 }
@@ -260,18 +260,18 @@ TEST_F(SampleDataTest, OutlooksStandInReadsTheMailbox)
 {
     namespace outlook = sandbox::outlook;
     outlook::Mailbox mailbox(std::make_unique<outlook::DatabaseStore>(sFiles->mailbox.Path()));
-    EXPECT_EQ(110, mailbox.ItemCount(sandbox::kContactsFolder));
-    EXPECT_EQ(80, mailbox.ItemCount(sandbox::kTasksFolder));
-    EXPECT_EQ(65, mailbox.ItemCount(sandbox::kCalendarFolder));
-    const automation::Value last = mailbox.ItemProperty(sandbox::kCalendarFolder, 65, L"Start");
+    EXPECT_EQ(110, mailbox.ItemCount(tools::kContactsFolder));
+    EXPECT_EQ(80, mailbox.ItemCount(tools::kTasksFolder));
+    EXPECT_EQ(65, mailbox.ItemCount(tools::kCalendarFolder));
+    const automation::Value last = mailbox.ItemProperty(tools::kCalendarFolder, 65, L"Start");
     EXPECT_EQ(VT_DATE, last.Type());
-    EXPECT_EQ(sandbox::kSampleToday.days + 1, automation::DayOf(automation::DateOf(last)).days);
+    EXPECT_EQ(tools::kSampleToday.days + 1, automation::DayOf(automation::DateOf(last)).days);
 }
 
 TEST_F(SampleDataTest, ItIsTheSameEachTime)
 {
     const NewFile again;
-    sandbox::WriteSampleMailbox(again.Path());
+    tools::WriteSampleMailbox(again.Path());
     Connection other(again.ConnectionString());
     const wchar_t* all = L"SELECT group_concat(FolderPath||ItemIndex||Name||Value, ';') FROM ItemProperty";
     EXPECT_EQ(TextOrEmpty(mMailbox.QueryValue(all)), TextOrEmpty(other.QueryValue(all)));
@@ -280,7 +280,7 @@ TEST_F(SampleDataTest, ItIsTheSameEachTime)
 TEST(SampleHost, FollowsItsEdition)
 {
     const NewFile file;
-    sandbox::WriteSampleHost(file.Path(), Edition::Chinese);
+    tools::WriteSampleHost(file.Path(), Edition::Chinese);
     Connection host(file.ConnectionString());
     EXPECT_EQ(L"LastName", TextOrEmpty(host.QueryValue(
                                L"SELECT OutlookName FROM SynRelation WHERE EnglishName='F_SURNAME'")));
@@ -289,8 +289,8 @@ TEST(SampleHost, FollowsItsEdition)
 TEST(SampleHost, ThatCannotBeWrittenIsAnErrorAndLeavesNothing)
 {
     const std::wstring path = L"C:\\no such folder\\host.db";
-    EXPECT_THROW(sandbox::WriteSampleHost(path, Edition::English), automation::Error);
-    EXPECT_THROW(sandbox::WriteSampleMailbox(path), automation::Error);
+    EXPECT_THROW(tools::WriteSampleHost(path, Edition::English), automation::Error);
+    EXPECT_THROW(tools::WriteSampleMailbox(path), automation::Error);
     EXPECT_FALSE(sandbox::FileExists(path));
     EXPECT_FALSE(sandbox::FileExists(L"C:\\no such folder"));
 }
@@ -299,19 +299,19 @@ TEST(NumberedData, HasSoManyRecordsOnEachSideHalfOfThemTheSame)
 {
     const NewFile hostFile;
     const NewFile mailboxFile;
-    sandbox::WriteNumberedHost(hostFile.Path(), Edition::English, 30);
-    sandbox::WriteNumberedMailbox(mailboxFile.Path(), 30);
+    tools::WriteNumberedHost(hostFile.Path(), Edition::English, 30);
+    tools::WriteNumberedMailbox(mailboxFile.Path(), 30);
     Connection host(hostFile.ConnectionString());
     Connection mailbox(mailboxFile.ConnectionString());
     const Keys rows = KeysOfRows(sandbox::OpenSource(host, 1, L"ContactMyContact", {}),
                                  {L"F_SURNAME", L"F_GIVENNAME", L"ACC_SNAME"});
     const Keys items =
-        KeysOfItems(mailbox, sandbox::kContactsFolder, {L"LastName", L"FirstName", L"CompanyName"});
+        KeysOfItems(mailbox, tools::kContactsFolder, {L"LastName", L"FirstName", L"CompanyName"});
     EXPECT_EQ(30u, rows.size());
     EXPECT_EQ(30u, items.size());
     EXPECT_EQ(15u, CommonTo(rows, items));
     const Keys tasks = KeysOfRows(sandbox::OpenSource(host, 1, L"ActivityMyActivity", {}), {L"F_ACTNAME"});
-    EXPECT_EQ(15u, CommonTo(tasks, KeysOfItems(mailbox, sandbox::kTasksFolder, {L"Subject"})));
+    EXPECT_EQ(15u, CommonTo(tasks, KeysOfItems(mailbox, tools::kTasksFolder, {L"Subject"})));
     EXPECT_EQ(30u, sandbox::OpenSource(host, 1, L"Calendar", L"F_ACTORID=1").rows.size());
 }
 

@@ -1,6 +1,6 @@
 #include "tests/sandbox_outlook/OutlookTest.h"
 
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 
 namespace sandbox
 {

@@ -1,5 +1,5 @@
-// Counts the calls that reach this process's stand-ins, by "Class.Member", for the length of a scope. Header
-// only; for programs of tests that link stand-ins.
+// Counts the calls that reach the fakes of this process, by "Class.Member", for the length of a scope. Header
+// only; for programs of tests that link fakes.
 #pragma once
 
 #include "sandbox/dispatch/DispatchObject.h"

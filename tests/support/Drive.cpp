@@ -49,7 +49,7 @@ void Photograph(const ShownDialog& dialog, const std::string& name)
 {
     if (const char* const directory = std::getenv("TELVIX_PICTURES"); directory != nullptr)
     {
-        sandbox::SavePicture(dialog, automation::FromUtf8(directory + ("\\" + name) + ".png"));
+        tools::SavePicture(dialog, automation::FromUtf8(directory + ("\\" + name) + ".png"));
     }
 }
 

@@ -9,8 +9,8 @@
 namespace test_support
 {
 
-using sandbox::Robot;
-using sandbox::ShownDialog;
+using tools::Robot;
+using tools::ShownDialog;
 
 // Runs action on this thread while the script uses the dialogs that it shows; throws what the script threw.
 void Drive(Robot::Script script, const std::function<void()>& action);

@@ -11,7 +11,7 @@ namespace test_support
 class LeakCheck
 {
   public:
-    // what: what is counted, in the plural, for example "stand-in objects".
+    // what: what is counted, in the plural, for example "fake objects".
     LeakCheck(std::string what, std::function<long()> count);
 };
 

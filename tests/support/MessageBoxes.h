@@ -1,6 +1,6 @@
 // What message boxes say during a piece of work that is not expected to be stopped by them: each is recorded
 // and answered; or every dialog is answered in a way of the test's own. For programs of tests that link
-// sandbox_robot.
+// tools_robot.
 #pragma once
 
 #include "tools/robot/Robot.h"
@@ -23,7 +23,7 @@ struct ShownMessage
     bool operator==(const ShownMessage&) const = default;
 };
 
-inline ShownMessage Seen(const sandbox::ShownDialog& box)
+inline ShownMessage Seen(const tools::ShownDialog& box)
 {
     ShownMessage seen{box.Message(), box.Caption()};
     for (const wchar_t* icon : {IDI_ERROR, IDI_EXCLAMATION, IDI_INFORMATION, IDI_QUESTION})
@@ -38,10 +38,10 @@ template<typename Work, typename Answer>
 void AnswerDialogsDuring(Work&& work, Answer&& answer)
 {
     std::atomic<bool> done{false};
-    sandbox::Robot robot([&](sandbox::Robot& self) {
+    tools::Robot robot([&](tools::Robot& self) {
         while (!done)
         {
-            for (const sandbox::ShownDialog& dialog : self.Dialogs())
+            for (const tools::ShownDialog& dialog : self.Dialogs())
             {
                 answer(dialog);
                 self.WaitUntilClosed(dialog);
@@ -59,7 +59,7 @@ template<typename Work>
 std::vector<ShownMessage> MessagesDuring(Work&& work)
 {
     std::vector<ShownMessage> seen;
-    AnswerDialogsDuring(std::forward<Work>(work), [&](const sandbox::ShownDialog& box) {
+    AnswerDialogsDuring(std::forward<Work>(work), [&](const tools::ShownDialog& box) {
         seen.push_back(Seen(box));
         box.Click(box.Buttons().at(0));
     });

@@ -1,5 +1,5 @@
 // Keeps how each recordset of the component's own is opened, for the length of a scope: the arguments of
-// every Open of ADO's stand-in but the connection, with the cursor location before them. Header only.
+// every Open of the fake ADO but the connection, with the cursor location before them. Header only.
 #pragma once
 
 #include "sandbox/dispatch/DispatchObject.h"

@@ -1,4 +1,4 @@
-// Tasks between the host's stand-in and Outlook's, collected and applied as in a run.
+// Tasks between the fake host and Outlook's, collected and applied as in a run.
 #pragma once
 
 #include "data/Host.h"

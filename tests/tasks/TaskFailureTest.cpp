@@ -12,7 +12,7 @@ namespace
 using test_support::Day;
 using test_support::MessagesDuring;
 
-// Makes the n-th call that reaches a stand-in fail. Questions of rights do not count: one that fails is a
+// Makes the n-th call that reaches a fake fail. Questions of rights do not count: one that fails is a
 // right that is missing, and the task is then written without its link.
 class FailsCall : public sandbox::CallObserver
 {

@@ -1,6 +1,6 @@
 // How the main dialog looks, how it is chosen from and left.
 #include "sandbox/dispatch/DispatchObject.h"
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 #include "tests/ui/MainDialog.h"
 
 namespace

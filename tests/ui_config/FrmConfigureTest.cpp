@@ -1,7 +1,7 @@
 // The list of kinds: what it shows, and how its rows are chosen.
 #include "tests/ui_config/KindList.h"
 
-#include "tests/support/StandIns.h"
+#include "tests/support/Fakes.h"
 
 namespace
 {

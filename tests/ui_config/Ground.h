@@ -1,5 +1,5 @@
-// What a test of the configuration dialogs stands on: the host's stand-in with known parameters of its first
-// user, Outlook's stand-in with a mailbox, a profile in the registry, and the interface of one language.
+// What a test of the configuration dialogs stands on: the fake host with known parameters of its first
+// user, the fake Outlook with a mailbox, a profile in the registry, and the interface of one language.
 #pragma once
 
 #include "sandbox/host/Host.h"

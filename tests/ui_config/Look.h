@@ -13,7 +13,7 @@
 namespace ui_config_tests
 {
 
-using sandbox::ShownDialog;
+using tools::ShownDialog;
 
 // List views: the check box before a row; the picture's index in a cell, -1 for none.
 bool IsChecked(const ShownDialog& dialog, int list, int row);

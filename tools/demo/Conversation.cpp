@@ -8,7 +8,7 @@
 #include <iterator>
 #include <stdexcept>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 namespace
@@ -131,4 +131,4 @@ void Conversation::CloseMainDialog()
     Leave(mMain);
 }
 
-} // namespace sandbox::demo
+} // namespace tools::demo

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 // What the user has seen of one run.
@@ -50,4 +50,4 @@ class Conversation
     int mMessages = 0;
 };
 
-} // namespace sandbox::demo
+} // namespace tools::demo

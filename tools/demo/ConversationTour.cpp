@@ -5,7 +5,7 @@
 
 #include <commctrl.h>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 namespace
@@ -67,4 +67,4 @@ void Conversation::Leave(const ShownDialog& dialog)
     mRobot.WaitUntilClosed(dialog);
 }
 
-} // namespace sandbox::demo
+} // namespace tools::demo

@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 namespace
@@ -73,7 +73,7 @@ void RemoveOutlookProfiles()
     }
 }
 
-void StoreSettings(Connection& host, const std::wstring& userId, const Options& options)
+void StoreSettings(sandbox::Connection& host, const std::wstring& userId, const Options& options)
 {
     constexpr const wchar_t* kOwn = L" FROM T_POutlookSyncParam AS Own WHERE Own.F_UID=?";
     host.Execute(
@@ -98,4 +98,4 @@ void StoreSettings(Connection& host, const std::wstring& userId, const Options& 
     }
 }
 
-} // namespace sandbox::demo
+} // namespace tools::demo

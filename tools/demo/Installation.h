@@ -5,7 +5,7 @@
 #include "sandbox/database/Connection.h"
 #include "tools/demo/Options.h"
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 // Where Outlook keeps its profiles.
@@ -23,6 +23,6 @@ void RemoveOutlookProfiles();
 
 // Stores the direction and the conflict rule, where they are given, for every kind of the user, whose rows
 // are made from the host's templates first where there are none.
-void StoreSettings(Connection& host, const std::wstring& userId, const Options& options);
+void StoreSettings(sandbox::Connection& host, const std::wstring& userId, const Options& options);
 
-} // namespace sandbox::demo
+} // namespace tools::demo

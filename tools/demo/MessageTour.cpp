@@ -9,7 +9,7 @@
 
 #include <functional>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 namespace
@@ -45,4 +45,4 @@ void TourMessages(const Options& options)
     });
 }
 
-} // namespace sandbox::demo
+} // namespace tools::demo

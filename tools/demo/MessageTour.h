@@ -3,11 +3,11 @@
 
 #include "tools/demo/Options.h"
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 // Lets the component tell the user that no folder is chosen, and that a right is missing; the robot takes
 // pictures of both messages and closes them. Throws what the robot's script threw.
 void TourMessages(const Options& options);
 
-} // namespace sandbox::demo
+} // namespace tools::demo

@@ -6,7 +6,7 @@
 #include <map>
 #include <stdexcept>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 Options ParseOptions(const std::vector<std::wstring>& arguments)
@@ -46,4 +46,4 @@ Options ParseOptions(const std::vector<std::wstring>& arguments)
     return options;
 }
 
-} // namespace sandbox::demo
+} // namespace tools::demo

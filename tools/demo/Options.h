@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 struct Options
@@ -25,4 +25,4 @@ struct Options
 // Throws std::invalid_argument for arguments that the program does not know.
 Options ParseOptions(const std::vector<std::wstring>& arguments);
 
-} // namespace sandbox::demo
+} // namespace tools::demo

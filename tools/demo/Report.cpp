@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 namespace
@@ -72,4 +72,4 @@ void PrintRun(const std::wstring& category, const Outcome& outcome, const Snapsh
     std::fflush(stdout);
 }
 
-} // namespace sandbox::demo
+} // namespace tools::demo

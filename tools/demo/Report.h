@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 // outlookCalls: the calls that Outlook received during the run.
@@ -16,4 +16,4 @@ void PrintRun(const std::wstring& category, const Outcome& outcome, const Snapsh
 // What has changed on both sides, without a conversation.
 void PrintChanges(const Snapshot& before, const Snapshot& after);
 
-} // namespace sandbox::demo
+} // namespace tools::demo

@@ -1,12 +1,15 @@
 #include "tools/demo/Snapshot.h"
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 namespace
 {
 
 using automation::TextOrEmpty;
+using automation::Value;
+using sandbox::Connection;
+using sandbox::Row;
 
 constexpr const wchar_t* kContacts = L"SELECT F_CNTCTID, COALESCE(F_SURNAME,'')||', "
                                      L"'||COALESCE(F_GIVENNAME,'') AS Label, TBLCONTACT.* FROM TBLCONTACT";
@@ -97,4 +100,4 @@ Difference Compare(const Entries& before, const Entries& after)
     return difference;
 }
 
-} // namespace sandbox::demo
+} // namespace tools::demo

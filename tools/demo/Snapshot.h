@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace sandbox::demo
+namespace tools::demo
 {
 
 struct Entry
@@ -34,8 +34,8 @@ struct Difference
 };
 
 // Reads both databases. Throws automation::Error.
-Snapshot TakeSnapshot(Connection& host, Connection& mailbox);
+Snapshot TakeSnapshot(sandbox::Connection& host, sandbox::Connection& mailbox);
 
 Difference Compare(const Entries& before, const Entries& after);
 
-} // namespace sandbox::demo
+} // namespace tools::demo

@@ -11,7 +11,7 @@
 
 #include <gdiplus.h>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -111,4 +111,4 @@ void SavePicture(const ShownDialog& dialog, const std::wstring& path)
     }
 }
 
-} // namespace sandbox
+} // namespace tools

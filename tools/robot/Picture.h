@@ -5,10 +5,10 @@
 
 #include <string>
 
-namespace sandbox
+namespace tools
 {
 
 // Saves the dialog with its caption bar as a PNG file (a Windows path). Throws automation::Error on failure.
 void SavePicture(const ShownDialog& dialog, const std::wstring& path);
 
-} // namespace sandbox
+} // namespace tools

@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -160,4 +160,4 @@ void Robot::WaitUntilClosed(const ShownDialog& dialog)
     WaitUntil("the dialog to close", [&] { return !dialog.IsOpen(); });
 }
 
-} // namespace sandbox
+} // namespace tools

@@ -12,7 +12,7 @@
 #include <string>
 #include <thread>
 
-namespace sandbox
+namespace tools
 {
 
 class Robot
@@ -56,4 +56,4 @@ class Robot
     std::thread mThread;
 };
 
-} // namespace sandbox
+} // namespace tools

@@ -8,7 +8,7 @@
 #include <commctrl.h>
 #include <dlgs.h>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -228,4 +228,4 @@ std::vector<int> ShownDialog::Buttons() const
     return ids;
 }
 
-} // namespace sandbox
+} // namespace tools

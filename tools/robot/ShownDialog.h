@@ -8,7 +8,7 @@
 
 #include <windows.h>
 
-namespace sandbox
+namespace tools
 {
 
 class ShownDialog
@@ -64,4 +64,4 @@ class ShownDialog
     HWND mWindow;
 };
 
-} // namespace sandbox
+} // namespace tools

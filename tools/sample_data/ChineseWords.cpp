@@ -1,6 +1,6 @@
 #include "tools/sample_data/Words.h"
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -74,4 +74,4 @@ const Words& ChineseWords()
     return words;
 }
 
-} // namespace sandbox
+} // namespace tools

@@ -1,6 +1,6 @@
 #include "tools/sample_data/Words.h"
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -110,4 +110,4 @@ const Words& EnglishWords()
     return words;
 }
 
-} // namespace sandbox
+} // namespace tools

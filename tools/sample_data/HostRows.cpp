@@ -6,11 +6,15 @@
 #include <cwchar>
 #include <map>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
 {
+
+using automation::Value;
+using sandbox::Connection;
+using sandbox::Row;
 
 constexpr long kChineseCurrency = 1;
 constexpr long kOtherCurrency = 2;
@@ -231,4 +235,4 @@ void AddHostRows(Connection& database, const SampleRecords& records, long userId
     writer.AddEntries();
 }
 
-} // namespace sandbox
+} // namespace tools

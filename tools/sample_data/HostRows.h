@@ -4,10 +4,10 @@
 #include "sandbox/database/Connection.h"
 #include "tools/sample_data/Records.h"
 
-namespace sandbox
+namespace tools
 {
 
 // Adds the records as created and done by a user. Throws automation::Error.
-void AddHostRows(Connection& database, const SampleRecords& records, long userId);
+void AddHostRows(sandbox::Connection& database, const SampleRecords& records, long userId);
 
-} // namespace sandbox
+} // namespace tools

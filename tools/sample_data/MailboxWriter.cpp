@@ -5,13 +5,15 @@
 
 #include <iterator>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
 {
 
 using automation::Date;
+using sandbox::Connection;
+using sandbox::Row;
 
 constexpr long kReminderMinutes = 20;
 
@@ -181,10 +183,10 @@ ItemProperties PropertiesOf(const SampleEntry& entry)
 
 MailboxWriter::MailboxWriter(Connection& database) : mDatabase(database)
 {
-    outlook::DatabaseStore::CreateTables(database);
+    sandbox::outlook::DatabaseStore::CreateTables(database);
 }
 
-void MailboxWriter::AddFolder(const std::wstring& path, outlook::ItemKind type)
+void MailboxWriter::AddFolder(const std::wstring& path, sandbox::outlook::ItemKind type)
 {
     mDatabase.Execute(L"INSERT INTO Folder(Path,DefaultItemType) VALUES (?,?)",
                       {path, static_cast<long>(type)});
@@ -211,4 +213,4 @@ void MailboxWriter::Link(const std::wstring& path, long index, const std::wstrin
                       {path, index, contactPath + L"\\" + std::to_wstring(contactIndex)});
 }
 
-} // namespace sandbox
+} // namespace tools

@@ -10,11 +10,11 @@
 #include <utility>
 #include <vector>
 
-namespace sandbox
+namespace tools
 {
 
 // Names and values of an item's properties; what Outlook takes for granted is left out.
-using ItemProperties = std::vector<std::pair<std::wstring, Value>>;
+using ItemProperties = std::vector<std::pair<std::wstring, automation::Value>>;
 
 ItemProperties PropertiesOf(const SampleContact& contact);
 ItemProperties PropertiesOf(const SampleTask& task);
@@ -24,17 +24,17 @@ class MailboxWriter
 {
   public:
     // Makes the tables of a mailbox in an empty database. Throws automation::Error, as all members do.
-    explicit MailboxWriter(Connection& database);
+    explicit MailboxWriter(sandbox::Connection& database);
 
-    void AddFolder(const std::wstring& path, outlook::ItemKind type);
+    void AddFolder(const std::wstring& path, sandbox::outlook::ItemKind type);
     // Adds an item at the end of a folder; its index, from 1.
     long Add(const std::wstring& path, const ItemProperties& properties);
     // Links an item to a contact.
     void Link(const std::wstring& path, long index, const std::wstring& contactPath, long contactIndex);
 
   private:
-    Connection& mDatabase;
+    sandbox::Connection& mDatabase;
     std::map<std::wstring, long> mCounts;
 };
 
-} // namespace sandbox
+} // namespace tools

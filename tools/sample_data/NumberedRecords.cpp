@@ -4,7 +4,7 @@
 
 #include <cwchar>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -84,4 +84,4 @@ SampleRecords NumberedRecords(size_t first, size_t count)
     return records;
 }
 
-} // namespace sandbox
+} // namespace tools

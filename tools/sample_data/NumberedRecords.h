@@ -3,10 +3,10 @@
 
 #include "tools/sample_data/Records.h"
 
-namespace sandbox
+namespace tools
 {
 
 // Contacts, tasks and entries, as many of each as count, from a number on.
 SampleRecords NumberedRecords(size_t first, size_t count);
 
-} // namespace sandbox
+} // namespace tools

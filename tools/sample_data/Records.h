@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace sandbox
+namespace tools
 {
 
 using OptionalDate = std::optional<automation::Date>;
@@ -105,4 +105,4 @@ struct SampleRecords
     std::vector<SampleEntry> entries;
 };
 
-} // namespace sandbox
+} // namespace tools

@@ -9,13 +9,18 @@
 
 #include <map>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
 {
 
-using outlook::ItemKind;
+using automation::Value;
+using sandbox::Connection;
+using sandbox::Edition;
+using sandbox::kFirstUser;
+using sandbox::kSecondUser;
+using sandbox::outlook::ItemKind;
 
 struct FolderRow
 {
@@ -60,8 +65,8 @@ constexpr ChosenFolder kChosenFolders[] = {
 
 void WriteHost(const std::wstring& path, Edition edition, const std::function<void(Connection&)>& addRecords)
 {
-    WriteDatabaseFile(path, [&](Connection& database) {
-        CreateHostSchema(database);
+    sandbox::WriteDatabaseFile(path, [&](Connection& database) {
+        sandbox::CreateHostSchema(database);
         FillHostCatalogue(database, edition);
         addRecords(database);
         for (const ChosenFolder& folder : kChosenFolders)
@@ -74,7 +79,7 @@ void WriteHost(const std::wstring& path, Edition edition, const std::function<vo
 
 void WriteMailbox(const std::wstring& path, const std::function<void(MailboxWriter&)>& addItems)
 {
-    WriteDatabaseFile(path, [&](Connection& database) {
+    sandbox::WriteDatabaseFile(path, [&](Connection& database) {
         MailboxWriter writer(database);
         for (const FolderRow& folder : kFolders)
         {
@@ -205,4 +210,4 @@ void WriteNumberedMailbox(const std::wstring& path, size_t count)
     });
 }
 
-} // namespace sandbox
+} // namespace tools

@@ -8,7 +8,7 @@
 
 #include <string>
 
-namespace sandbox
+namespace tools
 {
 
 // The folders that the sample host's first user has chosen, by kind of data.
@@ -16,11 +16,11 @@ inline constexpr const wchar_t* kContactsFolder = L"Mailbox\\Contacts";
 inline constexpr const wchar_t* kTasksFolder = L"Mailbox\\Tasks";
 inline constexpr const wchar_t* kCalendarFolder = L"Mailbox\\Calendar";
 
-void WriteSampleHost(const std::wstring& path, Edition edition);
+void WriteSampleHost(const std::wstring& path, sandbox::Edition edition);
 void WriteSampleMailbox(const std::wstring& path);
 
 // So many contacts, tasks and entries on each side, half of them the same on both.
-void WriteNumberedHost(const std::wstring& path, Edition edition, size_t count);
+void WriteNumberedHost(const std::wstring& path, sandbox::Edition edition, size_t count);
 void WriteNumberedMailbox(const std::wstring& path, size_t count);
 
-} // namespace sandbox
+} // namespace tools

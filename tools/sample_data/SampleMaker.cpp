@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -278,4 +278,4 @@ SampleEntry SampleMaker::Entry(const SampleRecords& records, long repeat)
     return entry;
 }
 
-} // namespace sandbox
+} // namespace tools

@@ -8,7 +8,7 @@
 #include <random>
 #include <set>
 
-namespace sandbox
+namespace tools
 {
 
 // The day that the sample data lies around: 6 May 2003, a Tuesday.
@@ -57,4 +57,4 @@ class SampleMaker
     std::set<std::wstring> mKeys;
 };
 
-} // namespace sandbox
+} // namespace tools

@@ -1,6 +1,6 @@
 #include "tools/sample_data/SampleSets.h"
 
-namespace sandbox
+namespace tools
 {
 
 namespace
@@ -167,4 +167,4 @@ SampleEntry AsInOutlook(SampleEntry entry, size_t index)
     return entry;
 }
 
-} // namespace sandbox
+} // namespace tools

@@ -3,7 +3,7 @@
 
 #include "tools/sample_data/SampleMaker.h"
 
-namespace sandbox
+namespace tools
 {
 
 struct SampleSets
@@ -26,4 +26,4 @@ SampleContact AsInOutlook(SampleContact contact, size_t index);
 SampleTask AsInOutlook(SampleTask task, size_t index);
 SampleEntry AsInOutlook(SampleEntry entry, size_t index);
 
-} // namespace sandbox
+} // namespace tools

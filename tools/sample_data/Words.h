@@ -3,7 +3,7 @@
 
 #include <span>
 
-namespace sandbox
+namespace tools
 {
 
 struct Place
@@ -53,4 +53,4 @@ struct Words
 const Words& EnglishWords();
 const Words& ChineseWords();
 
-} // namespace sandbox
+} // namespace tools

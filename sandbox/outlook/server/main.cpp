@@ -1,4 +1,4 @@
-// Outlook's stand-in as a program: "OutlookServer /register" and "/unregister" enter it in the registry and
+// The fake Outlook as a program: "OutlookServer /register" and "/unregister" enter it in the registry and
 // take it out again; started by COM (or by hand) it serves "Outlook.Application" to other processes.
 #include "automation/Error.h"
 #include "sandbox/outlook/Registration.h"

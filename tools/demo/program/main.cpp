@@ -21,7 +21,8 @@
 #include <shellapi.h>
 
 using namespace sandbox;
-using namespace sandbox::demo;
+using namespace tools;
+using namespace tools::demo;
 using automation::ByRef;
 using automation::Object;
 
