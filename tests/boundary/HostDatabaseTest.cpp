@@ -180,7 +180,8 @@ class HostDatabase : public testing::Test
 TEST_F(HostDatabase, InTroubleLosesNothingAndTheNextRunCompletesIt)
 {
     size_t tried = 0;
-    for (size_t i = 0; i < std::size(kTroubles); ++i)
+    const size_t step = test_support::IsBriefRun() ? 3 : 1;
+    for (size_t i = 0; i < std::size(kTroubles); i += step)
     {
         for (const Task& task : TasksFor(i))
         {

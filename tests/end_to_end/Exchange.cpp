@@ -3,6 +3,7 @@
 #include "automation/Object.h"
 #include "resources/Strings.h"
 #include "sandbox/outlook/Registration.h"
+#include "tests/support/Thoroughness.h"
 #include "tools/demo/Installation.h"
 #include "tools/sample_data/SampleData.h"
 
@@ -34,12 +35,18 @@ std::wstring NewFolder()
 
 } // namespace
 
+long Records()
+{
+    return ByThoroughness(12, 40, 40);
+}
+
 Exchange::Exchange() : mFolder(NewFolder())
 {
     const std::wstring hostFile = mFolder + L"\\host.db";
     const std::wstring mailboxFile = mFolder + L"\\outlook.db";
-    WriteNumberedHost(hostFile, resources::IsChinese() ? Edition::Chinese : Edition::English, kRecords);
-    WriteNumberedMailbox(mailboxFile, kRecords);
+    WriteNumberedHost(hostFile, resources::IsChinese() ? Edition::Chinese : Edition::English,
+                      static_cast<size_t>(Records()));
+    WriteNumberedMailbox(mailboxFile, static_cast<size_t>(Records()));
     mHost = std::make_unique<Host>(hostFile);
     mMailbox = std::make_unique<Connection>(ConnectionStringOf(mailboxFile));
     InstallOutlookProfile(Profiles::Modern);

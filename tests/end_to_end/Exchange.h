@@ -15,7 +15,7 @@ namespace test_support
 {
 
 // Records of each kind on either side; half of them are the same on both.
-inline constexpr long kRecords = 40;
+long Records();
 
 class Exchange : public testing::Test
 {

@@ -4,7 +4,7 @@
 #include "resources/Strings.h"
 
 using test_support::Exchange;
-using test_support::kRecords;
+using test_support::Records;
 using tools::demo::Compare;
 using tools::demo::Difference;
 using tools::demo::Outcome;
@@ -46,7 +46,7 @@ TEST_P(EveryKind, GoesToOutlookWholeAndASecondRunProposesNothingNew)
     ASSERT_EQ(4u, first.confirmation.size());
     const Snapshot after = Look();
     const Difference inOutlook = Compare(before.outlookItems, after.outlookItems);
-    EXPECT_EQ(kRecords / 2, NumberOf(first.confirmation[2]));
+    EXPECT_EQ(Records() / 2, NumberOf(first.confirmation[2]));
     EXPECT_GE(inOutlook.added.size(), static_cast<size_t>(NumberOf(first.confirmation[2])));
     EXPECT_TRUE(Compare(before.hostContacts, after.hostContacts).added.empty());
     EXPECT_TRUE(Compare(before.hostActivities, after.hostActivities).added.empty());
@@ -68,8 +68,8 @@ TEST_P(EveryKind, ComesFromOutlookAndASecondRunProposesNothingNew)
         std::wstring(GetParam()) == L"contact" ? before.hostContacts : before.hostActivities;
     const auto& entriesAfter =
         std::wstring(GetParam()) == L"contact" ? after.hostContacts : after.hostActivities;
-    EXPECT_EQ(kRecords / 2, NumberOf(first.confirmation[2]));
-    EXPECT_EQ(static_cast<size_t>(kRecords / 2), Compare(entriesBefore, entriesAfter).added.size());
+    EXPECT_EQ(Records() / 2, NumberOf(first.confirmation[2]));
+    EXPECT_EQ(static_cast<size_t>(Records() / 2), Compare(entriesBefore, entriesAfter).added.size());
     EXPECT_TRUE(Compare(before.outlookItems, after.outlookItems).changed.empty());
 
     EXPECT_EQ(L"", HostSide().LastRejection());
@@ -100,7 +100,7 @@ TEST_F(ContactExchange, TheSideThatWinsOverwritesTheOther)
     Snapshot before = Look();
     ASSERT_TRUE(Run(L"contact", kBoth, kHostWins).succeeded);
     EXPECT_GT(Compare(before.outlookItems, Look().outlookItems).changed.size(),
-              static_cast<size_t>(kRecords - 1));
+              static_cast<size_t>(Records() - 1));
 
     before = Look();
     const Outcome outcome = Run(L"contact", kBoth, kOutlookWins);

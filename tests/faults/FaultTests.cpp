@@ -37,17 +37,17 @@ class EveryKind : public FaultTrials, public testing::WithParamInterface<Exchang
 
 TEST_P(EveryKind, WhicheverCallOfTheCollectionFailsNothingIsWrittenAndTheNextRunPutsThingsRight)
 {
-    Strike("collection", Phase::Collection, 1);
+    Strike("collection", Phase::Collection, ByThoroughness(6, 1, 1));
 }
 
 TEST_P(EveryKind, WhicheverCallOfTheApplyPassFailsRecordsAreWholeAndTheNextRunPutsThingsRight)
 {
-    Strike("apply pass", Phase::Apply, IsLongRun() ? 1 : 4);
+    Strike("apply pass", Phase::Apply, ByThoroughness(16, 4, 1));
 }
 
 TEST_P(EveryKind, WhicheverCallOfAWholeRunFailsRecordsAreWholeAndTheNextRunPutsThingsRight)
 {
-    Strike("whole run", Phase::Whole, IsLongRun() ? 1 : 41);
+    Strike("whole run", Phase::Whole, ByThoroughness(41, 41, 1));
 }
 
 std::string NameOf(const testing::TestParamInfo<Exchanged>& exchanged)

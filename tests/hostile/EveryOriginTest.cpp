@@ -19,6 +19,7 @@
 #include "tests/hostile/StatementShape.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/RecordingHost.h"
+#include "tests/support/Thoroughness.h"
 #include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>

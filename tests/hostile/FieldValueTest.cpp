@@ -8,6 +8,7 @@
 #include "tests/hostile/HostileValues.h"
 #include "tests/hostile/NoMessageBoxes.h"
 #include "tests/hostile/Oracle.h"
+#include "tests/support/Thoroughness.h"
 
 #include "automation/Text.h"
 

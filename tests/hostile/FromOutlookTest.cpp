@@ -10,6 +10,7 @@
 #include "sandbox/host/RelationRows.h"
 #include "tests/hostile/HostileRecords.h"
 #include "tests/hostile/Oracle.h"
+#include "tests/support/Thoroughness.h"
 
 #include "automation/Text.h"
 

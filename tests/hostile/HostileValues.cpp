@@ -172,9 +172,4 @@ Value HostileValues::Any(size_t size)
     }
 }
 
-long Times(long bounded)
-{
-    return IsLongRun() ? 10 * bounded : bounded;
-}
-
 } // namespace test_support

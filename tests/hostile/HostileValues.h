@@ -55,7 +55,4 @@ class HostileValues
     std::string mReport;
 };
 
-// How much a level of these tests tries: the bounded number, ten times as much in a long run.
-long Times(long bounded);
-
 } // namespace test_support

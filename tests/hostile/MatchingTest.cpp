@@ -6,6 +6,7 @@
 #include "tasks/Tasks.h"
 #include "tests/hostile/HostileValues.h"
 #include "tests/run/CollectionTest.h"
+#include "tests/support/Thoroughness.h"
 
 #include <algorithm>
 #include <iterator>

@@ -9,6 +9,7 @@
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
 #include "tests/hostile/HostileValues.h"
+#include "tests/support/Thoroughness.h"
 
 #include <gtest/gtest.h>
 

@@ -15,6 +15,7 @@
 #include "tasks/Tasks.h"
 #include "tests/hostile/HostileRecords.h"
 #include "tests/support/RecordingDisplay.h"
+#include "tests/support/Thoroughness.h"
 #include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>

@@ -7,6 +7,7 @@
 #include "state/SharedState.h"
 #include "tests/support/CallCounter.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/Thoroughness.h"
 
 namespace
 {
@@ -204,9 +205,11 @@ TEST_F(CalendarCollection, EqualsThePlainNestedWalkOverRandomDataAndRanges)
         parameter.CalendarPrior = static_cast<short>(random.Number(3));
         parameter.CalendarAfter = static_cast<short>(random.Number(3));
     };
-    EXPECT_GT(CompareWithTheNestedWalk(
-                  {.rounds = 300, .item = RandomAppointment, .row = RandomEntry, .parameters = choose}),
-              3000);
+    EXPECT_GT(CompareWithTheNestedWalk({.rounds = test_support::Times(300),
+                                        .item = RandomAppointment,
+                                        .row = RandomEntry,
+                                        .parameters = choose}),
+              test_support::Times(3000));
 }
 
 } // namespace

@@ -89,7 +89,7 @@ long CollectionTest::CompareWithTheNestedWalk(const Rounds& rounds)
 {
     RandomData random;
     long proposed = 0;
-    for (int round = 0; round < rounds.rounds && !HasFailure(); ++round)
+    for (long round = 0; round < rounds.rounds && !HasFailure(); ++round)
     {
         SCOPED_TRACE(round);
         Fill(*Items, random, rounds.item);

@@ -42,7 +42,7 @@ class CollectionTest : public testing::Test
 
     struct Rounds
     {
-        int rounds;
+        long rounds;
         std::function<Record(RandomData&)> item;
         std::function<Record(RandomData&)> row;
         std::function<void(RandomData&)> parameters = {}; // sets the run's parameters, once a round

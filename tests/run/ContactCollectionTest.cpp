@@ -2,6 +2,7 @@
 #include "tests/run/CollectionTest.h"
 
 #include "tests/support/CallCounter.h"
+#include "tests/support/Thoroughness.h"
 #include "tools/robot/Robot.h"
 
 using namespace test_support;
@@ -213,5 +214,6 @@ TEST_F(ContactCollection, EqualsThePlainNestedWalkOverRandomData)
         }
         return record;
     };
-    EXPECT_GT(CompareWithTheNestedWalk({.rounds = 400, .item = item, .row = row}), 4000);
+    EXPECT_GT(CompareWithTheNestedWalk({.rounds = test_support::Times(400), .item = item, .row = row}),
+              test_support::Times(4000));
 }

@@ -5,6 +5,7 @@
 #include "state/SharedState.h"
 #include "tests/support/CallCounter.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/Thoroughness.h"
 
 namespace
 {
@@ -156,9 +157,11 @@ TEST_F(TaskCollection, EqualsThePlainNestedWalkOverRandomDataWithAndWithoutTheCo
     const auto choose = [](RandomData& random) {
         Shared().gSynParameter.TaskTransItem = static_cast<long>(random.Number(2));
     };
-    EXPECT_GT(CompareWithTheNestedWalk(
-                  {.rounds = 300, .item = RandomTask, .row = RandomTaskRow, .parameters = choose}),
-              3000);
+    EXPECT_GT(CompareWithTheNestedWalk({.rounds = test_support::Times(300),
+                                        .item = RandomTask,
+                                        .row = RandomTaskRow,
+                                        .parameters = choose}),
+              test_support::Times(3000));
 }
 
 } // namespace

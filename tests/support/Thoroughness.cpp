@@ -1,5 +1,6 @@
 #include "tests/support/Thoroughness.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -24,6 +25,16 @@ std::wstring Variable(const wchar_t* name)
 bool IsLongRun()
 {
     return !Variable(L"TELVIX_LONG").empty();
+}
+
+bool IsBriefRun()
+{
+    return !IsLongRun() && !Variable(L"TELVIX_BRIEF").empty();
+}
+
+long Times(long usual)
+{
+    return std::max(1L, ByThoroughness(usual / 8, usual, usual * 10));
 }
 
 void ReportFigure(const std::string& text)

@@ -38,27 +38,43 @@ struct Direction
 };
 constexpr std::array<Direction, 3> kDirections{{{1, L"left"}, {2, L"right"}, {3, L"each"}}};
 
+void Remove(const ProfileKey& key)
+{
+    RegDeleteTreeW(HKEY_CURRENT_USER, key.profiles);
+    RegDeleteKeyW(HKEY_CURRENT_USER, key.profiles); // some systems leave the emptied key itself
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, key.keyOfDefault, kDefaultProfile);
+}
+
 void CheckStatus(LSTATUS status, const wchar_t* key)
 {
     automation::Check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)), key);
+}
+
+// Writes over a profile that is there: another thread may be reading it.
+void Install(const ProfileKey& key)
+{
+    const std::wstring profile = std::wstring(key.profiles) + L"\\" + kProfile;
+    CheckStatus(
+        RegSetKeyValueW(HKEY_CURRENT_USER, profile.c_str(), L"Name", REG_SZ, kProfile, sizeof kProfile),
+        key.profiles);
+    CheckStatus(RegSetKeyValueW(HKEY_CURRENT_USER, key.keyOfDefault, kDefaultProfile, REG_SZ, kProfile,
+                                sizeof kProfile),
+                key.keyOfDefault);
 }
 
 } // namespace
 
 void InstallOutlookProfile(Profiles where)
 {
-    RemoveOutlookProfiles();
     for (const ProfileKey& key : kProfileKeys)
     {
         if (key.where == where)
         {
-            const std::wstring profile = std::wstring(key.profiles) + L"\\" + kProfile;
-            CheckStatus(RegSetKeyValueW(HKEY_CURRENT_USER, profile.c_str(), L"Name", REG_SZ, kProfile,
-                                        sizeof kProfile),
-                        key.profiles);
-            CheckStatus(RegSetKeyValueW(HKEY_CURRENT_USER, key.keyOfDefault, kDefaultProfile, REG_SZ,
-                                        kProfile, sizeof kProfile),
-                        key.keyOfDefault);
+            Install(key);
+        }
+        else
+        {
+            Remove(key);
         }
     }
 }
@@ -67,9 +83,7 @@ void RemoveOutlookProfiles()
 {
     for (const ProfileKey& key : kProfileKeys)
     {
-        RegDeleteTreeW(HKEY_CURRENT_USER, key.profiles);
-        RegDeleteKeyW(HKEY_CURRENT_USER, key.profiles); // some systems leave the emptied key itself
-        RegDeleteKeyValueW(HKEY_CURRENT_USER, key.keyOfDefault, kDefaultProfile);
+        Remove(key);
     }
 }
 
