@@ -1,6 +1,7 @@
 #include "calendar/Recurrence.h"
 
 #include "automation/Dates.h"
+#include "automation/Readable.h"
 
 #include <algorithm>
 #include <iterator>
@@ -9,7 +10,10 @@ namespace calendar
 {
 
 using automation::Date;
+using automation::IsTrue;
 using automation::Object;
+using automation::OutlookDate;
+using automation::ReadableDate;
 using automation::Value;
 
 namespace
@@ -73,6 +77,47 @@ const RepeatRule* FindRule(const std::wstring& name)
     return rule == std::end(kRules) ? nullptr : rule;
 }
 
+// As text, with the blank that the host's pattern begins with.
+Value StartTimeText(Date time)
+{
+    return automation::Formatted(time, L" hh:mm:00");
+}
+
+Value TimeToTheMinute(Date time)
+{
+    return automation::MinuteOfDay(time);
+}
+
+Value AsItIs(Date date)
+{
+    return date;
+}
+
+struct PatternDate
+{
+    Value (*Converted)(Date date);
+    Date (*Compared)(Date date); // what of it makes a difference
+};
+
+constexpr PatternDate kTimeAsText{StartTimeText, automation::MinuteOfDay};
+constexpr PatternDate kTimeAsDate{TimeToTheMinute, automation::MinuteOfDay};
+constexpr PatternDate kDayOfPattern{AsItIs, automation::DayOf};
+
+void PutWhereGiven(const Object& pattern, const wchar_t* member, const std::optional<Date>& date,
+                   const PatternDate& kind, Puts puts)
+{
+    if (!date)
+    {
+        return;
+    }
+    const std::optional<Date> present =
+        puts == Puts::Changes ? ReadableDate(pattern.Get(member)) : std::nullopt;
+    if (!present || !(kind.Compared(*present) == kind.Compared(*date)))
+    {
+        pattern.Put(member, kind.Converted(*date));
+    }
+}
+
 } // namespace
 
 short WeekdayToDayMask(short weekday)
@@ -104,6 +149,23 @@ long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const 
         rule->PutFurther(target, automation::DateOf(reference));
     }
     return 0;
+}
+
+void WritePattern(const Object& appointment, const automation::Recordset& rows)
+{
+    const Value firstDay = rows.ValueOf(L"F_ACTESDATE");
+    const Puts puts = IsTrue(appointment.Get(L"IsRecurring")) ? Puts::Changes : Puts::Everything;
+    const Object pattern = appointment.GetObject(L"GetRecurrencePattern");
+    PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), kTimeAsText, puts);
+    PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), kTimeAsDate, puts);
+    PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), kDayOfPattern, puts);
+    SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay, puts);
+    if (puts == Puts::Everything || IsTrue(pattern.Get(L"NoEndDate")))
+    {
+        pattern.Put(L"NoEndDate", false);
+    }
+    PutWhereGiven(pattern, L"PatternEndDate", OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE")), kDayOfPattern,
+                  puts);
 }
 
 } // namespace calendar

@@ -2,7 +2,7 @@
 // both directions.
 #pragma once
 
-#include "automation/Object.h"
+#include "automation/Recordset.h"
 
 #include <string>
 
@@ -34,5 +34,10 @@ enum class Puts
 // throws automation::Error when Outlook refuses, or the rule needs a reference date and there is none.
 long SetRecurrenceByName(const automation::Object& pattern, const std::wstring& name,
                          const automation::Value& reference, Puts puts = Puts::Everything);
+
+// Makes the appointment repeat as the host row says on which the recordset stands. The order of the members
+// is part of the host contract: Outlook ties them together, so that another order gives another pattern.
+// Throws automation::Error when Outlook refuses.
+void WritePattern(const automation::Object& appointment, const automation::Recordset& rows);
 
 } // namespace calendar

@@ -1,9 +1,14 @@
 #include "contacts/Contacts.h"
 
-#include "contacts/ContactsFromOutlook.h"
-#include "contacts/ContactsToOutlook.h"
+#include "automation/Dates.h"
+#include "automation/Readable.h"
+#include "data/Literals.h"
 #include "data/Permissions.h"
 #include "exchange/MatchKeys.h"
+#include "links/Accounts.h"
+#include "resources/Strings.h"
+#include "state/Failures.h"
+#include "ui/ShowMessageBox.h"
 
 namespace contacts
 {
@@ -14,6 +19,16 @@ namespace
 using automation::Object;
 using automation::Recordset;
 using automation::Value;
+using data::Host;
+using data::QuotedText;
+using data::RowColumns;
+using exchange::HostValue;
+using exchange::PutAsIs;
+using exchange::ReadAsIs;
+using exchange::SourceProperty;
+using exchange::TargetProperty;
+
+// Match keys
 
 std::wstring ContactNameOfItem(const Object& item)
 {
@@ -38,9 +53,214 @@ std::wstring CompanyOfContact(const Object& item)
     return exchange::Comparable(item.Get(L"CompanyName"));
 }
 
+// Towards Outlook
+
+// Outside the Chinese interface the host's and Outlook's first and last names are exchanged, deliberately;
+// both directions do it.
+const wchar_t* ExchangedName(std::wstring_view name)
+{
+    const bool isLastName = name == L"LastName";
+    return isLastName == resources::IsChinese() ? L"LastName" : L"FirstName";
+}
+
+void PutName(const TargetProperty& property)
+{
+    property.Item.Put(ExchangedName(property.Name), property.HostValue);
+}
+
+void PutInChinese(const TargetProperty& property)
+{
+    if (resources::IsChinese())
+    {
+        PutAsIs(property);
+    }
+}
+
+void PutInEnglish(const TargetProperty& property)
+{
+    if (resources::IsEnglish())
+    {
+        PutAsIs(property);
+    }
+}
+
+void PutCompany(const TargetProperty& property)
+{
+    property.Item.Put(L"CompanyName", property.HostValue);
+    property.Item.Put(L"Companies", property.HostValue);
+}
+
+// Outlook makes a calendar entry of the date whenever it is written.
+void PutDayWhenOther(const TargetProperty& property)
+{
+    const automation::Date day =
+        automation::OutlookDate(property.HostValue).value_or(automation::kOutlookNoDate);
+    const auto present = automation::ReadableDate(property.Item.Get(property.Name));
+    if (!present || !(automation::DayOf(*present) == automation::DayOf(day)))
+    {
+        property.Put(day);
+    }
+}
+
+constexpr exchange::PropertyToOutlook kContactToItem[] = {
+    {L"FirstName", PutName},
+    {L"LastName", PutName},
+    {L"Suffix", PutInChinese},
+    {L"Title", PutInEnglish},
+    {L"Birthday", PutDayWhenOther},
+    {L"Anniversary", PutDayWhenOther},
+    {L"CompanyName", PutCompany},
+    {L"NickName", PutAsIs},
+    {L"Spouse", PutAsIs},
+    {L"HomeTelephoneNumber", PutAsIs},
+    {L"MobileTelephoneNumber", PutAsIs},
+    {L"HomeAddressCity", PutAsIs},
+    {L"HomeAddressCountry", PutAsIs},
+    {L"HomeAddressState", PutAsIs},
+    {L"HomeAddressStreet", PutAsIs},
+    {L"HomeAddressPostalCode", PutAsIs},
+    {L"JobTitle", PutAsIs},
+    {L"Department", PutAsIs},
+    {L"Email1Address", PutAsIs},
+    {L"AssistantName", PutAsIs},
+    {L"AssistantTelephoneNumber", PutAsIs},
+    {L"BusinessTelephoneNumber", PutAsIs},
+    {L"BusinessFaxNumber", PutAsIs},
+    {L"BusinessAddressCity", PutAsIs},
+    {L"BusinessAddressCountry", PutAsIs},
+    {L"BusinessAddressPostalCode", PutAsIs},
+    {L"BusinessAddressState", PutAsIs},
+    {L"BusinessAddressStreet", PutAsIs},
+};
+
+// From Outlook
+
+HostValue ReadName(const SourceProperty& property)
+{
+    return property.Item.IsEmpty(property.Name) ? HostValue()
+                                                : property.Item.ValueOf(ExchangedName(property.Name));
+}
+
+HostValue ReadWhenFilled(bool inThisLanguage, const SourceProperty& property)
+{
+    return inThisLanguage && !property.Item.IsEmpty(property.Name) ? property.Item.ValueOf(property.Name)
+                                                                   : Value(exchange::kNoColumn);
+}
+
+HostValue ReadInChineseWhenFilled(const SourceProperty& property)
+{
+    return ReadWhenFilled(resources::IsChinese(), property);
+}
+
+HostValue ReadInEnglishWhenFilled(const SourceProperty& property)
+{
+    return ReadWhenFilled(resources::IsEnglish(), property);
+}
+
+HostValue ReadDate(const SourceProperty& property)
+{
+    return property.Item.DateOrNull(property.Name);
+}
+
+// Company and business address are not here: they reach the host through the account and address links.
+constexpr exchange::PropertyFromOutlook kItemToContact[] = {
+    {L"LastName", ReadName},
+    {L"FirstName", ReadName},
+    {L"Suffix", ReadInChineseWhenFilled},
+    {L"Title", ReadInEnglishWhenFilled},
+    {L"Birthday", ReadDate},
+    {L"Anniversary", ReadDate},
+    {L"NickName", ReadAsIs},
+    {L"Spouse", ReadAsIs},
+    {L"HomeAddressCountry", ReadAsIs},
+    {L"HomeAddressState", ReadAsIs},
+    {L"HomeAddressCity", ReadAsIs},
+    {L"HomeAddressStreet", ReadAsIs},
+    {L"HomeAddressPostalCode", ReadAsIs},
+    {L"JobTitle", ReadAsIs},
+    {L"Department", ReadAsIs},
+    {L"AssistantName", ReadAsIs},
+    {L"BusinessTelephoneNumber", ReadAsIs},
+    {L"BusinessFaxNumber", ReadAsIs},
+    {L"MobileTelephoneNumber", ReadAsIs},
+    {L"HomeTelephoneNumber", ReadAsIs},
+    {L"AssistantTelephoneNumber", ReadAsIs},
+    {L"Email1Address", ReadAsIs},
+};
+
+void Insert(const Host& host, const Object& item, RowColumns& contact)
+{
+    links::AddAccountLinks(host, item, contact);
+    const std::wstring key = QuotedText(host.NewGuid());
+    const std::wstring keys = key + L"," + QuotedText(host.UserId()) + L",";
+    data::Demand(
+        host.Insert(L"TBLCONTACT", L"F_CNTCTID,F_CREATORID," + contact.Fields, keys + contact.Values) >= 0,
+        L"Insert");
+}
+
+void Update(const Host& host, const Recordset& rows, const Object& item, RowColumns& contact)
+{
+    const std::wstring id = automation::TextOf(rows.ValueOf(L"F_CNTCTID"));
+    links::AddAccountLinks(host, item, contact, {id, automation::TextOrEmpty(rows.ValueOf(L"ACC_SNAME"))});
+    if (!contact.SetList.empty())
+    {
+        data::Demand(host.Update(L"TBLCONTACT", contact.SetList, L"F_CNTCTID=" + QuotedText(id)) == 0,
+                     L"Update");
+    }
+}
+
+void Write(const Host& host, const exchange::Run& run, const Object& item, RowColumns& contact)
+{
+    switch (contact.Mode())
+    {
+    case data::kNewRecord: Insert(host, item, contact); break;
+    case data::kExistingRecord: Update(host, run.HostRows, item, contact); break;
+    default:
+        ui::ShowMessageBox(L"Error: Invalid Operation", MB_ICONERROR, L"SynOlContactToSynContact");
+        break;
+    }
+}
+
 } // namespace
 
-const exchange::Kind kContacts{
+void SynSynContactToOlContact(exchange::Run& run, data::RecordMode /*mode*/, const Object& item)
+{
+    exchange::WriteRelatedProperties(run, kContactToItem, item, exchange::Saves::OnceAtTheEnd);
+}
+
+long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const Object& item)
+{
+    return state::Trapped(-1L, [&] {
+        RowColumns contact(run.Catalogue, mode);
+        exchange::ItemProperties properties(item);
+        if (exchange::AddRelatedColumns(run.Relations, kItemToContact, exchange::Unmapped::LeftOut,
+                                        properties, contact))
+        {
+            const Host host;
+            data::Transaction transaction(host);
+            Write(host, run, item, contact);
+            transaction.Commit();
+        }
+        return 0L;
+    });
+}
+
+constexpr exchange::PassToOutlook SynContactToOutlook{
+    .ItemType = exchange::kContactName.OutlookItemType,
+    .RelationStatement = L"Select * From SynRelation Where QuenlarTblName='TBLCONTACT'",
+    .RelationOptions = {},
+    .Mapping = kContactToItem,
+    .Write = SynSynContactToOlContact,
+};
+
+constexpr exchange::PassFromOutlook SynContactFromOutlook{
+    .RelationStatement = L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'",
+    .RelationOptions = {automation::kCursorKeyset, automation::kLockReadOnly, automation::kCommandText},
+    .Mapping = kItemToContact,
+    .Write = SynOlContactToSynContact,
+};
+
+constexpr exchange::Kind kContacts{
     .Name = exchange::kContactName,
     .RecordSource = L"ContactMyContact",
     .KeyColumn = L"F_CNTCTID",

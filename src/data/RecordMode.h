@@ -1,10 +1,14 @@
-// What a record writer does with its record, in both directions.
+// Whether a record writer makes a new record or overwrites an existing one, in both directions. The numbers
+// are those of the host contract.
 #pragma once
 
 namespace data
 {
 
-inline constexpr long kNewRecord = 1;
-inline constexpr long kExistingRecord = 2;
+enum RecordMode : long
+{
+    kNewRecord = 1,
+    kExistingRecord = 2,
+};
 
 } // namespace data

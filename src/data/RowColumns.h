@@ -13,14 +13,14 @@ namespace data
 class RowColumns
 {
   public:
-    RowColumns(FieldCatalogue& catalogue, long mode) : mCatalogue(catalogue), mMode(mode) {}
+    RowColumns(FieldCatalogue& catalogue, RecordMode mode) : mCatalogue(catalogue), mMode(mode) {}
 
     // Adds a column by the mode's fragment builder. Throws automation::Error when the value cannot be
     // formatted for its column.
     void Add(const std::wstring& column, const automation::Value& value);
 
     FieldCatalogue& Catalogue() const noexcept { return mCatalogue; }
-    long Mode() const noexcept { return mMode; }
+    RecordMode Mode() const noexcept { return mMode; }
 
     // The host column of the relation row being worked on, for messages; stays at the last one.
     std::wstring Column;
@@ -31,7 +31,7 @@ class RowColumns
 
   private:
     FieldCatalogue& mCatalogue;
-    long mMode;
+    RecordMode mMode;
 };
 
 } // namespace data

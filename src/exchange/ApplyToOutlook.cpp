@@ -1,5 +1,6 @@
 #include "exchange/ApplyToOutlook.h"
 
+#include "data/Remark.h"
 #include "exchange/Identity.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
@@ -15,6 +16,20 @@ namespace
 // A changed host record is written to Outlook when it carries this mark.
 constexpr long kMarkToOutlook = 1;
 
+// A row that cannot become an item is skipped before anything of it is written.
+void Write(Run& run, const PassToOutlook& pass, data::RecordMode mode, const Object& item)
+{
+    const wchar_t* const obstacle = pass.Obstacle == nullptr ? nullptr : pass.Obstacle(run);
+    if (obstacle != nullptr)
+    {
+        data::Remark(obstacle);
+    }
+    else
+    {
+        pass.Write(run, mode, item);
+    }
+}
+
 void WriteNewRecord(Run& run, const PassToOutlook& pass, long i)
 {
     const data::ClsSalesRecord& row = run.Pending.NewHostRecords.Item(i);
@@ -23,7 +38,7 @@ void WriteNewRecord(Run& run, const PassToOutlook& pass, long i)
     // An item that is not saved leaves nothing behind.
     if (isThere && (!pass.AddsItemFirst || MoveToProposedRow(run, row)))
     {
-        pass.Write(run, data::kNewRecord, item);
+        Write(run, pass, data::kNewRecord, item);
     }
     else
     {
@@ -43,7 +58,7 @@ void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
     const Object item = MoveToProposedRow(run, record) ? ProposedItem(run, partner) : Object();
     if (item && AreStillAPair(run, item))
     {
-        pass.Write(run, data::kExistingRecord, item);
+        Write(run, pass, data::kExistingRecord, item);
         run.OverwrittenItems.insert(partner.ItemIndex);
     }
     else

@@ -1,12 +1,10 @@
 // The apply pass towards Outlook, the same for all kinds of data: new host records become new items of the
-// folder, changed host records overwrite their partners. A category supplies the item type, the relation rows
-// and the writer of one item.
+// folder, changed host records overwrite their partners. A kind supplies the item type, the relation rows,
+// the mapping and the writer of one item.
 #pragma once
 
 #include "data/RecordMode.h"
-#include "exchange/Run.h"
-
-#include <string>
+#include "exchange/MappingToOutlook.h"
 
 namespace exchange
 {
@@ -15,10 +13,14 @@ struct PassToOutlook
 {
     long ItemType;
     const wchar_t* RelationStatement;
-    automation::OpenOptions RelationOptions;
+    automation::OpenOptions RelationOptions{};
+    std::span<const PropertyToOutlook> Mapping{};
+    // Why the host row on which the recordset stands cannot become an item; null for no reason. Null for a
+    // kind whose rows all can.
+    const wchar_t* (*Obstacle)(Run& run) = nullptr;
     // Writes the host row on which the run's recordset stands into the item, and saves it. Throws when it
     // cannot; the pass then ends.
-    void (*Write)(Run& run, long mode, const automation::Object& item);
+    void (*Write)(Run& run, data::RecordMode mode, const automation::Object& item);
     // A new item is made before the recordset moves to its row, otherwise after.
     bool AddsItemFirst = false;
 

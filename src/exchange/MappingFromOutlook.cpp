@@ -56,8 +56,9 @@ HostValue ReadCategories(const SourceProperty& property)
 }
 
 bool AddRelatedColumns(RelationTable& relations, std::span<const PropertyFromOutlook> mapping,
-                       const Value& valueOfOthers, ItemProperties& item, data::RowColumns& record)
+                       Unmapped others, ItemProperties& item, data::RowColumns& record)
 {
+    const Value valueOfOthers = others == Unmapped::LeftOut ? Value(kNoColumn) : Value();
     for (const RelationRow& relation : relations.Rows())
     {
         record.Column = relation.EnglishName;

@@ -16,19 +16,24 @@ using automation::Value;
 namespace
 {
 
-void WriteRow(const RelationRow& relation, std::span<const PropertyToOutlook> mapping, const Run& run,
-              const Object& item)
+// Writes the item itself.
+class OutlookItem : public ItemWriter
 {
-    const Value stored = run.HostRows.ValueOf(relation.EnglishName);
-    const Value value = automation::IsEmptyOrNull(stored) ? Value() : stored;
-    const auto row = std::ranges::find_if(mapping, [&](const PropertyToOutlook& candidate) {
-        return relation.OutlookName == candidate.OutlookName;
-    });
-    if (row != mapping.end())
+  public:
+    explicit OutlookItem(const Object& item) : mItem(item) {}
+
+    Value Get(const wchar_t* name) const override { return mItem.Get(name); }
+    void Put(const wchar_t* name, const Value& value) override { mItem.Put(name, value); }
+    void Change(const wchar_t* /*name*/, const Value& /*after*/,
+                const std::function<void(const Object& item)>& change) override
     {
-        row->Write({run.HostRows, item, row->OutlookName, value});
+        change(mItem);
     }
-}
+    void Save() override { mItem.Call(L"Save"); }
+
+  private:
+    const Object& mItem;
+};
 
 // As Outlook rounds it.
 bool IsWithin(const std::optional<double>& number, long highest)
@@ -81,18 +86,33 @@ void PutNumber(const TargetProperty& property, const std::optional<double>& numb
     PutWhere(IsWithin(number, highest), property, number.value_or(0));
 }
 
+void WriteRelatedProperty(const RelationRow& relation, std::span<const PropertyToOutlook> mapping,
+                          const automation::Recordset& hostRows, ItemWriter& item)
+{
+    const Value stored = hostRows.ValueOf(relation.EnglishName);
+    const Value value = automation::IsEmptyOrNull(stored) ? Value() : stored;
+    const auto row = std::ranges::find_if(mapping, [&](const PropertyToOutlook& candidate) {
+        return relation.OutlookName == candidate.OutlookName;
+    });
+    if (row != mapping.end())
+    {
+        row->Write({hostRows, item, row->OutlookName, value});
+    }
+}
+
 void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping, const Object& item,
                             Saves saves)
 {
+    OutlookItem writer(item);
     for (const RelationRow& relation : run.Relations.Rows())
     {
-        WriteRow(relation, mapping, run, item);
+        WriteRelatedProperty(relation, mapping, run.HostRows, writer);
         if (saves == Saves::AfterEachRowToo)
         {
-            item.Call(L"Save");
+            writer.Save();
         }
     }
-    item.Call(L"Save");
+    writer.Save();
 }
 
 } // namespace exchange

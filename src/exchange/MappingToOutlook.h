@@ -1,21 +1,39 @@
 // The walk over the relation rows towards Outlook, once for all kinds of data: each row's host value goes to
-// the Outlook property that the row names, in the way that the category's mapping table says. Called by the
-// writers of one item.
+// the Outlook property that the row names, in the way that the kind's mapping table says. Called by the
+// writers of one item; with an ItemWriter of its own, a preview walks the same tables and writes nothing.
 #pragma once
 
 #include "exchange/Run.h"
 
+#include <functional>
 #include <optional>
 #include <span>
+#include <string>
 
 namespace exchange
 {
 
-// What the handling of one property works with; valid for the call only.
+// Takes what a mapping writes: the Outlook item itself, or a list of what would be written.
+class ItemWriter
+{
+  public:
+    virtual ~ItemWriter() = default;
+
+    // The property's value after everything that has been written so far. All throw automation::Error when
+    // Outlook refuses.
+    virtual automation::Value Get(const wchar_t* name) const = 0;
+    virtual void Put(const wchar_t* name, const automation::Value& value) = 0;
+    // For more than a value of one property: a link, a recurrence pattern. after: the property's value then.
+    virtual void Change(const wchar_t* name, const automation::Value& after,
+                        const std::function<void(const automation::Object& item)>& change) = 0;
+    virtual void Save() = 0;
+};
+
+// The data for one property; valid for the call only.
 struct TargetProperty
 {
     const automation::Recordset& HostRows; // on the row being written
-    const automation::Object& Item;
+    ItemWriter& Item;
     const wchar_t* Name;
     const automation::Value& HostValue; // Empty where the host has Null
 
@@ -25,10 +43,11 @@ struct TargetProperty
 struct PropertyToOutlook
 {
     const wchar_t* OutlookName; // compared with regard to letter case
+    // Converts the host's value and writes it.
     void (*Write)(const TargetProperty& property);
 };
 
-// Handlings that several categories share.
+// Conversions that several kinds share.
 void PutAsIs(const TargetProperty& property);
 // A date; Outlook's date for "none" where the host has no date that Outlook can hold.
 void PutDate(const TargetProperty& property);
@@ -39,15 +58,20 @@ void PutNumber(const TargetProperty& property, long highest);
 // The same for a number that has been worked out from the host's value.
 void PutNumber(const TargetProperty& property, const std::optional<double>& number, long highest);
 
+// Converts the relation row's column of the host row and writes it, by the mapping; a row that names no
+// property of the mapping writes nothing. Throws automation::Error when the column cannot be read, or Outlook
+// refuses the value.
+void WriteRelatedProperty(const RelationRow& relation, std::span<const PropertyToOutlook> mapping,
+                          const automation::Recordset& hostRows, ItemWriter& item);
+
 enum class Saves
 {
     OnceAtTheEnd,
     AfterEachRowToo,
 };
 
-// Writes the host row on which the run's recordset stands into the item and saves it. Relation rows that name
-// no property of the mapping write nothing. Throws automation::Error when a row or a column cannot be read,
-// or Outlook refuses a value.
+// Writes the host row on which the run's recordset stands into the item and saves it. Throws
+// automation::Error as WriteRelatedProperty, and when the relation rows cannot be read.
 void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping,
                             const automation::Object& item, Saves saves);
 

@@ -1,10 +1,18 @@
 #include "tasks/Tasks.h"
 
+#include "automation/Dates.h"
 #include "automation/Readable.h"
+#include "data/Literals.h"
 #include "data/Permissions.h"
+#include "data/SqlFragments.h"
 #include "exchange/MatchKeys.h"
-#include "tasks/TasksFromOutlook.h"
-#include "tasks/TasksToOutlook.h"
+#include "links/ContactLink.h"
+#include "links/TaskLinks.h"
+#include "state/Failures.h"
+#include "state/SharedState.h"
+#include "ui/ShowMessageBox.h"
+
+#include <limits>
 
 namespace tasks
 {
@@ -15,6 +23,23 @@ namespace
 using automation::IsTrue;
 using automation::Object;
 using automation::Recordset;
+using automation::Value;
+using data::Host;
+using data::RowColumns;
+using exchange::HostValue;
+using exchange::PutAsIs;
+using exchange::PutDate;
+using exchange::PutNumber;
+using exchange::PutTruth;
+using exchange::ReadAsIs;
+using exchange::SourceProperty;
+using exchange::TargetProperty;
+
+// Outlook's OlTaskStatus, as far as used.
+constexpr long kTaskComplete = 2;
+constexpr long kTaskDeferred = 4; // the last one
+
+// Match keys and filters
 
 std::wstring KeyOfTaskItem(const Object& item)
 {
@@ -53,9 +78,255 @@ exchange::Filters PendingOnly(const state::SynParameter& parameter, const data::
                                                            : exchange::Filters{};
 }
 
+// Towards Outlook
+
+// By the status that the task has at this moment, and so by the order of the relation rows.
+bool IsComplete(const TargetProperty& property)
+{
+    return automation::LongOf(property.Item.Get(L"Status")) == kTaskComplete;
+}
+
+void PutDateWhenComplete(const TargetProperty& property)
+{
+    if (IsComplete(property))
+    {
+        PutDate(property);
+    }
+}
+
+void PutWhenComplete(const TargetProperty& property)
+{
+    if (IsComplete(property))
+    {
+        PutTruth(property);
+    }
+}
+
+// The host stores a fraction from 0 to 1.
+void PutPercentage(const TargetProperty& property)
+{
+    constexpr long kAllPercent = 100;
+    const std::optional<double> fraction = automation::ReadableNumber(property.HostValue);
+    PutNumber(property, fraction ? std::optional(*fraction * kAllPercent) : std::nullopt, kAllPercent);
+}
+
+// Saved at once, so that the rows which ask for the status find what Outlook has made of it.
+void PutStatus(const TargetProperty& property)
+{
+    PutNumber(property, kTaskDeferred);
+    property.Item.Save();
+}
+
+// The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high. A task without one keeps the
+// importance that it has in Outlook.
+void PutImportance(const TargetProperty& property)
+{
+    constexpr long kHigh = 2;
+    if (!automation::IsAbsent(property.HostValue))
+    {
+        const std::optional<double> level = automation::ReadableNumber(property.HostValue);
+        PutNumber(property, level ? std::optional(*level - 1) : std::nullopt, kHigh);
+    }
+}
+
+void PutWork(const TargetProperty& property)
+{
+    PutNumber(property, std::numeric_limits<long>::max());
+}
+
+void LinkToContact(const TargetProperty& property)
+{
+    const Value givenName = property.HostRows.ValueOf(L"CONTACT_GIVENNAME");
+    property.Item.Change(property.Name, property.HostValue, [&](const Object& task) {
+        links::LinkContact(task, property.HostValue, givenName);
+    });
+}
+
+// Not written where the lead time takes it beyond the dates that Outlook can hold.
+void PutReminderTime(exchange::ItemWriter& task, automation::Date start)
+{
+    const long long lead = state::Shared().gCalendarPreviewAlarmTime;
+    if (const auto reminder = automation::OutlookDate(automation::PlusMinutes(start, -lead)))
+    {
+        task.Put(L"ReminderTime", *reminder);
+    }
+}
+
+void PutReminder(const TargetProperty& property)
+{
+    PutTruth(property);
+    if (!IsTrue(property.HostValue))
+    {
+        return;
+    }
+    const auto start = automation::OutlookDate(property.HostRows.ValueOf(L"F_ACTPSTIME"));
+    if (start)
+    {
+        PutReminderTime(property.Item, automation::ToTheMinute(*start));
+    }
+}
+
+constexpr exchange::PropertyToOutlook kActivityToTask[] = {
+    {L"Subject", PutAsIs},
+    {L"StartDate", PutDate},
+    {L"DueDate", PutDate},
+    {L"DateCompleted", PutDateWhenComplete},
+    {L"Categories", PutAsIs},
+    {L"Complete", PutWhenComplete},
+    {L"PercentComplete", PutPercentage},
+    {L"Status", PutStatus},
+    {L"Importance", PutImportance},
+    {L"ContactNames", LinkToContact},
+    {L"ReminderSet", PutReminder},
+    {L"TotalWork", PutWork},
+    {L"ActualWork", PutWork},
+    {L"Companies", PutAsIs},
+};
+
+// From Outlook
+
+Value DayOrNull(const Value& date)
+{
+    return automation::IsEmptyOrNull(date) ? date : Value(automation::DayOf(automation::DateOf(date)));
+}
+
+HostValue ReadDay(const SourceProperty& property)
+{
+    return DayOrNull(property.Item.DateOrNull(property.Name));
+}
+
+HostValue ReadDayWhenComplete(const SourceProperty& property)
+{
+    const bool isComplete = automation::LongOf(property.Item.ValueOf(L"Status")) == kTaskComplete;
+    return isComplete ? ReadDay(property) : Value::Null();
+}
+
+HostValue ReadDateAndTime(const SourceProperty& property)
+{
+    return property.Item.DateOrNull(property.Name);
+}
+
+// The host stores a fraction from 0 to 1.
+HostValue ReadPercentage(const SourceProperty& property)
+{
+    return Value(automation::DoubleOf(property.Item.ValueOf(property.Name)) / 100);
+}
+
+// The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high.
+HostValue ReadImportance(const SourceProperty& property)
+{
+    return Value(automation::DoubleOf(property.Item.ValueOf(property.Name)) + 1);
+}
+
+// The host's flag is kept as the status number itself, deliberately.
+HostValue ReadStatus(const SourceProperty& property)
+{
+    return property.Item.ValueOf(L"Status");
+}
+
+// The host reminds by the start: without one there is nothing to be reminded of.
+HostValue ReadReminder(const SourceProperty& property)
+{
+    return automation::IsEmptyOrNull(property.Item.DateOrNull(L"StartDate"))
+               ? Value(false)
+               : property.Item.ValueOf(property.Name);
+}
+
+// Contact and company are not here: they reach the host through the links.
+constexpr exchange::PropertyFromOutlook kTaskToActivity[] = {
+    {L"Subject", exchange::ReadUnlessEmpty},
+    {L"StartDate", ReadDay},
+    {L"DueDate", ReadDay},
+    {L"DateCompleted", ReadDayWhenComplete},
+    {L"CreationTime", ReadDateAndTime},
+    {L"PercentComplete", ReadPercentage},
+    {L"Categories", exchange::ReadCategories},
+    {L"Importance", ReadImportance},
+    {L"Status", ReadAsIs},
+    {L"Complete", ReadStatus},
+    {L"ReminderSet", ReadReminder},
+    {L"TotalWork", ReadAsIs},
+    {L"ActualWork", ReadAsIs},
+};
+
+void Insert(const Host& host, const Object& item, RowColumns& task)
+{
+    data::Demand(links::ChangeNewTaskContact(item, task.Fields, task.Values) == 0, L"ChangeNewTaskContact");
+    data::Demand(links::ChangeAddTaskAccount(task.Catalogue(), item, task.Fields, task.Values) == 0,
+                 L"ChangeAddTaskAccount");
+    const std::wstring id = host.NewGuid();
+    const std::wstring user = host.UserIdLiteral();
+    data::AppendEntry(task.Fields, L"F_ACTORID ,F_CREATORID,F_ACTID"); // with its space, as the host has it
+    data::AppendEntry(task.Values, user + L"," + user + L"," + data::QuotedText(id));
+    data::Demand(host.Insert(L"TBLACTIVITY", task.Fields, task.Values, id) >= 0, L"Insert");
+}
+
+void Update(const Host& host, const automation::Recordset& rows, const Object& item, RowColumns& task)
+{
+    data::Demand(links::ChangeEditTaskContact(item, task.SetList) == 0, L"ChangeEditTaskContact");
+    data::Demand(links::ChangeEditTaskAccount(task.Catalogue(), item, task.SetList) == 0,
+                 L"ChangeEditTaskAccount");
+    const std::wstring id = automation::TextOf(rows.ValueOf(L"F_ACTID"));
+    data::Demand(host.Update(L"TBLACTIVITY", task.SetList, L"F_ACTID=" + data::QuotedText(id)) == 0,
+                 L"Update");
+}
+
+void Write(const Host& host, const exchange::Run& run, const Object& item, RowColumns& task)
+{
+    switch (task.Mode())
+    {
+    case data::kNewRecord: Insert(host, item, task); break;
+    case data::kExistingRecord: Update(host, run.HostRows, item, task); break;
+    default: ui::ShowMessageBox(L"Error:Don't this Item.", MB_OK); break; // in both languages
+    }
+}
+
 } // namespace
 
-const exchange::Kind kTasks{
+void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const Object& item)
+{
+    if (mode == data::kNewRecord || mode == data::kExistingRecord)
+    {
+        exchange::WriteRelatedProperties(run, kActivityToTask, item, exchange::Saves::AfterEachRowToo);
+    }
+}
+
+long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const Object& item)
+{
+    return state::Trapped(-1L, [&] {
+        RowColumns task(run.Catalogue, mode);
+        exchange::ItemProperties properties(item);
+        data::Demand(exchange::AddRelatedColumns(run.Relations, kTaskToActivity,
+                                                 exchange::Unmapped::WrittenAsNull, properties, task),
+                     L"Subject");
+        const Host host;
+        data::Transaction transaction(host);
+        Write(host, run, item, task);
+        transaction.Commit();
+        return 0L;
+    });
+}
+
+constexpr wchar_t kRelationStatement[] = L"Select * From SynRelation Where QuenlarTblName='TBLACTIVITY'";
+
+constexpr exchange::PassToOutlook SynTaskToOutlook{
+    .ItemType = exchange::kTaskName.OutlookItemType,
+    .RelationStatement = kRelationStatement,
+    .RelationOptions = exchange::kOnTheClient,
+    .Mapping = kActivityToTask,
+    .Write = SynSynTaskToOlTask,
+    .AddsItemFirst = true,
+};
+
+constexpr exchange::PassFromOutlook SynTaskFromOutlook{
+    .RelationStatement = kRelationStatement,
+    .RelationOptions = exchange::kOnTheClient,
+    .Mapping = kTaskToActivity,
+    .Others = exchange::Unmapped::WrittenAsNull,
+    .Write = SynOlTaskToSynTask,
+};
+
+constexpr exchange::Kind kTasks{
     .Name = exchange::kTaskName,
     .RecordSource = L"ActivityMyActivity",
     .KeyColumn = L"F_ACTID",

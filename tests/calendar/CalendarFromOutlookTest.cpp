@@ -1,4 +1,4 @@
-#include "calendar/CalendarFromOutlook.h"
+#include "calendar/Calendar.h"
 
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"

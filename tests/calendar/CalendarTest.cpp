@@ -1,7 +1,6 @@
 #include "tests/calendar/CalendarTest.h"
 
-#include "calendar/CalendarFromOutlook.h"
-#include "calendar/CalendarToOutlook.h"
+#include "calendar/Calendar.h"
 #include "tests/support/InsertStatement.h"
 
 #include <algorithm>

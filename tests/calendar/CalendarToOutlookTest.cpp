@@ -1,5 +1,4 @@
-#include "calendar/CalendarToOutlook.h"
-#include "calendar/CalendarRelations.h"
+#include "calendar/Calendar.h"
 
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"
@@ -215,7 +214,7 @@ TEST_F(CalendarToOutlook, AModeOtherThanNewAndExistingTouchesNothing)
     const Object appointment = AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
     exchange::Run run = NewRun();
     const CountsCalls saves(L"AppointmentItem.Save");
-    for (const long mode : {0, 3, -1})
+    for (const auto mode : {data::RecordMode{0}, data::RecordMode{3}, data::RecordMode{-1}})
     {
         EXPECT_FALSE(calendar::SynSynCalendarToOlCalendar(run, mode, appointment));
     }
@@ -249,8 +248,9 @@ TEST_F(CalendarToOutlook, TheWriterAloneFailsForAnEntryWithoutADate)
     AddEntry({{L"F_ACTESDATE", L"NULL"}});
     const Object appointment = AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
     exchange::Run run = NewRun();
-    run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
-    EXPECT_TRUE(calendar::SynSynCalendarToOlCalendar(run, 2, appointment));
+    run.Relations.Use(calendar::SynCalendarFromOutlook.RelationStatement,
+                      calendar::SynCalendarFromOutlook.RelationOptions);
+    EXPECT_TRUE(calendar::SynSynCalendarToOlCalendar(run, data::kExistingRecord, appointment));
     EXPECT_EQ(L"2003-01-01 08:00 - 2003-01-01 09:00", BoundsOf(AppointmentAt(1)));
 }
 

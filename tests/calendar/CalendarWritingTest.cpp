@@ -1,6 +1,5 @@
-#include "calendar/CalendarFromOutlook.h"
+#include "calendar/Calendar.h"
 
-#include "calendar/CalendarRelations.h"
 #include "data/RecordMode.h"
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"
@@ -27,8 +26,9 @@ class CalendarWriting : public CalendarTest
     long Write(long mode)
     {
         exchange::Run run = NewRun();
-        run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
-        return calendar::SynOlCalendarToSynCalendar(run, mode, AppointmentAt(1));
+        run.Relations.Use(calendar::SynCalendarFromOutlook.RelationStatement,
+                          calendar::SynCalendarFromOutlook.RelationOptions);
+        return calendar::SynOlCalendarToSynCalendar(run, data::RecordMode{mode}, AppointmentAt(1));
     }
 
     // The messages during the writing of appointment 1, whose result must be this.

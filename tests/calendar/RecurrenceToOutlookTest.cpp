@@ -1,4 +1,4 @@
-#include "calendar/CalendarToOutlook.h"
+#include "calendar/Calendar.h"
 #include "calendar/Recurrence.h"
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"

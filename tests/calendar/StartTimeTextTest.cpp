@@ -1,7 +1,6 @@
 // What a recurrence pattern is given for its start time, as it is given. Outlook makes a time of it, so that
 // only a pattern that keeps what it is assigned tells.
-#include "calendar/CalendarRelations.h"
-#include "calendar/CalendarToOutlook.h"
+#include "calendar/Calendar.h"
 #include "tests/calendar/CalendarTest.h"
 
 namespace test_support
@@ -60,10 +59,11 @@ TEST_F(StartTimeText, IsATextThatBeginsWithABlankAndEndsInNoSeconds)
     AddEntry({{L"F_ACTREPEATS", L"1"}, {L"FR_NAME", L"'每天'"}, {L"F_ACTESTIME", L"'1899-12-30 09:05:59'"}});
     std::map<std::wstring, Value> assigned;
     exchange::Run run = NewRun();
-    run.Relations.Use(calendar::kRelationStatement, calendar::kRelationOptions);
+    run.Relations.Use(calendar::SynCalendarFromOutlook.RelationStatement,
+                      calendar::SynCalendarFromOutlook.RelationOptions);
     run.HostRows.MoveFirst();
-    EXPECT_FALSE(
-        calendar::SynSynCalendarToOlCalendar(run, 2, sandbox::MakeObject<KeepsAssignments>(assigned)));
+    EXPECT_FALSE(calendar::SynSynCalendarToOlCalendar(run, data::kExistingRecord,
+                                                      sandbox::MakeObject<KeepsAssignments>(assigned)));
     EXPECT_EQ(VT_BSTR, assigned[L"StartTime"].Type());
     EXPECT_EQ(L" 09:05:00", automation::TextOf(assigned[L"StartTime"]));
     EXPECT_EQ(VT_DATE, assigned[L"EndTime"].Type());

@@ -74,7 +74,8 @@ long ContactsFixture::Write(long mode, long position)
 {
     exchange::Run run = NewRun();
     run.Relations.Use(L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'", {});
-    return contacts::SynOlContactToSynContact(run, mode, run.Items.GetObject(L"Item", position));
+    return contacts::SynOlContactToSynContact(run, data::RecordMode{mode},
+                                              run.Items.GetObject(L"Item", position));
 }
 
 long ContactsFixture::AddRow(const std::vector<std::pair<std::wstring, std::wstring>>& columns)

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "automation/Dates.h"
-#include "contacts/ContactsFromOutlook.h"
-#include "contacts/ContactsToOutlook.h"
+#include "contacts/Contacts.h"
 #include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"

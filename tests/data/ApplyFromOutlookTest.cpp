@@ -50,7 +50,7 @@ class Items : public sandbox::DispatchObject
 std::vector<std::wstring> gWrittenRows;
 
 // Writes down mode, item and host row, and fails for every second item.
-long WriteRow(Run& run, long mode, const Object& item)
+long WriteRow(Run& run, data::RecordMode mode, const Object& item)
 {
     const long position = LongOf(item.Get(L"Position"));
     gWrittenRows.push_back((mode == data::kNewRecord ? L"new " : L"row ") + std::to_wstring(position) +
@@ -75,7 +75,10 @@ class ApplyFromOutlook : public testing::Test
         TheRun.Pending.ChangedHostRecords.Add(row, mark);
     }
 
-    bool Apply() { return exchange::PassFromOutlook{L"SELECT", {}, WriteRow}(TheRun); }
+    bool Apply()
+    {
+        return exchange::PassFromOutlook{.RelationStatement = L"SELECT", .Write = WriteRow}(TheRun);
+    }
 
     test_support::RecordingDisplay Display;
     exchange::Run TheRun{Display, {}, {}, {}, {}, {}, {}};

@@ -32,7 +32,7 @@ class FolderItems : public sandbox::DispatchObject
 
 std::vector<long> gWrittenModes; // modes
 
-void WriteMode(Run& /*run*/, long mode, const Object& /*item*/)
+void WriteMode(Run& /*run*/, data::RecordMode mode, const Object& /*item*/)
 {
     gWrittenModes.push_back(mode);
 }
@@ -47,7 +47,11 @@ class ApplyToOutlook : public testing::Test
         TheRun.HostRows = automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"first"}}}));
     }
 
-    bool Apply() { return exchange::PassToOutlook{automation::kTaskItem, L"SELECT", {}, WriteMode}(TheRun); }
+    bool Apply()
+    {
+        return exchange::PassToOutlook{
+            .ItemType = automation::kTaskItem, .RelationStatement = L"SELECT", .Write = WriteMode}(TheRun);
+    }
 
     test_support::WithLanguage English{resources::Language::English};
     test_support::RecordingDisplay Display;

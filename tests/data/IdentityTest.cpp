@@ -22,13 +22,13 @@ constexpr const wchar_t* kFolder = L"Personal Folders\\Contacts";
 
 std::vector<std::wstring> gPairs; // item and row
 
-void Note(exchange::Run& run, long mode, const Object& item)
+void Note(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
     const std::wstring row = mode == data::kNewRecord ? L"" : L" " + TextOf(run.HostRows.ValueOf(L"Id"));
     gPairs.push_back(TextOf(item.Get(L"LastName")) + row);
 }
 
-long NoteRow(exchange::Run& run, long mode, const Object& item)
+long NoteRow(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
     Note(run, mode, item);
     return 0;
@@ -69,8 +69,15 @@ class IdentityOfRecords : public testing::Test
         TheRun.Pending.ChangedHostRecords.Add(row, mark).Key = key;
     }
 
-    bool Import() { return exchange::PassFromOutlook{L"SELECT", {}, NoteRow}(TheRun); }
-    bool Export() { return exchange::PassToOutlook{automation::kContactItem, L"SELECT", {}, Note}(TheRun); }
+    bool Import()
+    {
+        return exchange::PassFromOutlook{.RelationStatement = L"SELECT", .Write = NoteRow}(TheRun);
+    }
+    bool Export()
+    {
+        return exchange::PassToOutlook{
+            .ItemType = automation::kContactItem, .RelationStatement = L"SELECT", .Write = Note}(TheRun);
+    }
 
     sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
     test_support::RecordingDisplay Display;

@@ -21,7 +21,7 @@ constexpr long kRounds = 3;
 
 std::vector<std::wstring> gRead;
 
-long Read(exchange::Run& /*run*/, long /*mode*/, const Object& item)
+long Read(exchange::Run& /*run*/, data::RecordMode /*mode*/, const Object& item)
 {
     gRead.push_back(automation::TextOf(item.Get(L"Subject")) + L" " +
                     std::to_wstring(automation::LongOf(item.Get(L"Class"))));
@@ -61,7 +61,7 @@ TEST(AFolderOfMixedItems, IsReadByEachItemsOwnMembersAskedForOncePerClass)
     gRead.clear();
     sandbox::CallCounter calls;
     sandbox::CallObserver* const before = sandbox::Observe(&calls);
-    EXPECT_FALSE((exchange::PassFromOutlook{L"SELECT", {}, Read}(run)));
+    EXPECT_FALSE((exchange::PassFromOutlook{.RelationStatement = L"SELECT", .Write = Read}(run)));
     sandbox::Observe(before);
     EXPECT_EQ(expected, gRead);
     for (const wchar_t* name : {L"ContactItem", L"TaskItem", L"AppointmentItem", L"MailItem"})

@@ -2,7 +2,7 @@
 
 #include "automation/Error.h"
 #include "state/SharedState.h"
-#include "tasks/TasksToOutlook.h"
+#include "tasks/Tasks.h"
 #include "tests/support/CallCounter.h"
 #include "tests/tasks/TaskTest.h"
 

@@ -1,7 +1,6 @@
 // What each property of an Outlook task becomes in the host.
 #include "data/RecordMode.h"
-#include "tasks/TaskRelations.h"
-#include "tasks/TasksFromOutlook.h"
+#include "tasks/Tasks.h"
 #include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskTest.h"
 
@@ -80,7 +79,7 @@ TEST_F(TaskFieldsFromOutlook, StartDueAndCompletionDatesAreStoredWithoutATimeOfD
 {
     Relate({{L"F_ACTPSTIME", L"StartDate"}, {L"F_ACTMADE", L"DueDate"}, {L"F_ACTMADE", L"DateCompleted"}});
     exchange::Run run = NewRun();
-    run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
+    run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     EXPECT_EQ(
         0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, sandbox::MakeObject<CompletedTaskWithTimes>()));
     EXPECT_EQ(L"Insert TBLACTIVITY|F_ACTPSTIME,F_ACTMADE,F_ACTMADE,F_CNTCTID,F_ACCID,F_ACTORID "

@@ -1,6 +1,6 @@
 #include "links/TaskLinks.h"
 
-#include "tasks/TasksFromOutlook.h"
+#include "tasks/Tasks.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskTest.h"

@@ -1,5 +1,5 @@
 // Numbers of the host that Outlook does not have.
-#include "tasks/TasksToOutlook.h"
+#include "tasks/Tasks.h"
 #include "tests/tasks/TaskTest.h"
 
 namespace

@@ -2,8 +2,7 @@
 
 #include "data/RecordMode.h"
 #include "state/SharedState.h"
-#include "tasks/TasksFromOutlook.h"
-#include "tasks/TasksToOutlook.h"
+#include "tasks/Tasks.h"
 #include "tests/support/InsertStatement.h"
 
 #include <array>

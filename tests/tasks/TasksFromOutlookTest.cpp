@@ -1,7 +1,6 @@
-#include "tasks/TasksFromOutlook.h"
+#include "tasks/Tasks.h"
 
 #include "data/RecordMode.h"
-#include "tasks/TaskRelations.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/OpenedRecordsets.h"
 #include "tests/support/WithLanguage.h"
@@ -160,7 +159,7 @@ TEST_F(TasksFromOutlook, TheWriterSaysWhetherTheTaskWasWritten)
     AddOutlookTask({{L"Subject", L"Call"}});
     AddOutlookTask({});
     exchange::Run run = NewRun();
-    run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
+    run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     EXPECT_EQ(0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
     EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(2)));
     Host().Results[L"TBLACTIVITY"] = -1;
@@ -172,11 +171,12 @@ TEST_F(TasksFromOutlook, AnyOtherModeSaysSoInEnglishInBothLanguagesAndWritesNoth
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddOutlookTask({{L"Subject", L"Call"}});
     exchange::Run run = NewRun();
-    run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
+    run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     for (const Language language : {Language::English, Language::Chinese})
     {
         const WithLanguage withLanguage(language);
-        const auto messages = MessagesDuring([&] { tasks::SynOlTaskToSynTask(run, 3, TaskAt(1)); });
+        const auto messages =
+            MessagesDuring([&] { tasks::SynOlTaskToSynTask(run, data::RecordMode{3}, TaskAt(1)); });
         ASSERT_EQ(1u, messages.size());
         EXPECT_EQ(L"Error:Don't this Item.", messages[0].text);
         EXPECT_EQ(nullptr, messages[0].icon);

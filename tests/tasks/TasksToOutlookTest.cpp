@@ -1,10 +1,9 @@
-#include "tasks/TasksToOutlook.h"
+#include "tasks/Tasks.h"
 
 #include "sandbox/ado/Recordset.h"
 
 #include "automation/Error.h"
 #include "state/SharedState.h"
-#include "tasks/TaskRelations.h"
 #include "tests/support/CallCounter.h"
 #include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskTest.h"
@@ -264,15 +263,15 @@ TEST_F(TasksToOutlook, AnyModeButNewAndExistingTouchesNothing)
     AddHostTask({{L"F_ACTNAME", L"'Call'"}});
     AddOutlookTask({{L"Subject", L"As it was"}});
     exchange::Run run = NewRun();
-    run.Relations.Use(tasks::kRelationStatement, tasks::kRelationOptions);
+    run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     const Object task = TaskAt(1);
     const CallCounter calls;
-    for (const long mode : {-1, 0, 3})
+    for (const auto mode : {data::RecordMode{-1}, data::RecordMode{0}, data::RecordMode{3}})
     {
         tasks::SynSynTaskToOlTask(run, mode, task);
     }
     EXPECT_EQ(0, calls.Total());
-    tasks::SynSynTaskToOlTask(run, 2, task);
+    tasks::SynSynTaskToOlTask(run, data::kExistingRecord, task);
     EXPECT_EQ(L"Call", TextOf(TaskProperty(1, L"Subject")));
 }
 

@@ -1,8 +1,7 @@
-#include "calendar/CalendarFieldsFromOutlook.h"
+#include "calendar/AppointmentTimes.h"
 
 #include "automation/Dates.h"
 #include "calendar/Recurrence.h"
-#include "exchange/MappingFromOutlook.h"
 #include "state/SharedState.h"
 
 namespace calendar
@@ -63,12 +62,6 @@ Value StartTimeOf(ItemProperties& item)
                                 MinuteOfDay(DateIn(pattern, L"StartTime")));
 }
 
-HostValue ReadStart(const SourceProperty& property)
-{
-    property.Record.Add(L"F_ACTESTIME", StartTimeOf(property.Item));
-    return Value(automation::DayOf(DateOf(property.Item.ValueOf(property.Name))));
-}
-
 void AddEnd(RowColumns& entry, const Value& day, const Value& time)
 {
     entry.Add(L"F_ACTEEDATE", day);
@@ -105,6 +98,14 @@ void AddRecurringEnd(ItemProperties& item, RowColumns& entry)
     }
 }
 
+} // namespace
+
+HostValue ReadStart(const SourceProperty& property)
+{
+    property.Record.Add(L"F_ACTESTIME", StartTimeOf(property.Item));
+    return Value(automation::DayOf(DateOf(property.Item.ValueOf(property.Name))));
+}
+
 HostValue ReadIsRecurring(const SourceProperty& property)
 {
     if (IsAllDay(property.Item))
@@ -120,20 +121,6 @@ HostValue ReadIsRecurring(const SourceProperty& property)
         AddSingleEnd(property.Item, property.Record);
     }
     return exchange::ReadAsIs(property);
-}
-
-constexpr exchange::PropertyFromOutlook kAppointmentToColumns[] = {
-    {L"Subject", exchange::ReadUnlessEmpty}, {L"Categories", exchange::ReadCategories}, {L"Start", ReadStart},
-    {L"ReminderSet", exchange::ReadAsIs},    {L"IsRecurring", ReadIsRecurring},
-};
-
-} // namespace
-
-bool AddCalendarColumns(exchange::RelationTable& relations, const Object& item, RowColumns& entry)
-{
-    ItemProperties properties(item);
-    return exchange::AddRelatedColumns(relations, kAppointmentToColumns, exchange::kNoColumn, properties,
-                                       entry);
 }
 
 } // namespace calendar
