@@ -29,6 +29,7 @@ class NoDisplay : public exchange::RunDisplay
     void ShowProgress(bool) override {}
     void SetProgress(double) override {}
     std::wstring CategoryText() const override { return {}; }
+    void Confirm(exchange::Run&) override {}
 };
 
 // The files of one size, in the folder for temporary files; gone with the object.

@@ -157,19 +157,15 @@ bool MayBeLinked(const Object& contact)
 // Despite its key this adds a link; the appointment's recipients are never touched.
 void LinkToContact(const TargetProperty& property)
 {
-    const Value givenName = property.HostRows.ValueOf(L"CONTACT_GIVENNAME");
-    property.Item.Change(property.Name, property.HostValue, [&](const Object& appointment) {
-        links::LinkContact(appointment, property.HostValue, givenName, MayBeLinked);
-    });
+    links::LinkContact(property.Item, property.HostValue, property.HostRows.ValueOf(L"CONTACT_GIVENNAME"),
+                       MayBeLinked);
 }
 
 void PutRecurrence(const TargetProperty& property)
 {
     if (IsTrue(property.HostValue))
     {
-        property.Item.Change(property.Name, property.HostValue, [&](const Object& appointment) {
-            WritePattern(appointment, property.HostRows);
-        });
+        WritePattern(property.Item, property.HostRows);
     }
 }
 

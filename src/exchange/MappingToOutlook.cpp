@@ -16,25 +16,6 @@ using automation::Value;
 namespace
 {
 
-// Writes the item itself.
-class OutlookItem : public ItemWriter
-{
-  public:
-    explicit OutlookItem(const Object& item) : mItem(item) {}
-
-    Value Get(const wchar_t* name) const override { return mItem.Get(name); }
-    void Put(const wchar_t* name, const Value& value) override { mItem.Put(name, value); }
-    void Change(const wchar_t* /*name*/, const Value& /*after*/,
-                const std::function<void(const Object& item)>& change) override
-    {
-        change(mItem);
-    }
-    void Save() override { mItem.Call(L"Save"); }
-
-  private:
-    const Object& mItem;
-};
-
 // As Outlook rounds it.
 bool IsWithin(const std::optional<double>& number, long highest)
 {
@@ -87,7 +68,7 @@ void PutNumber(const TargetProperty& property, const std::optional<double>& numb
 }
 
 void WriteRelatedProperty(const RelationRow& relation, std::span<const PropertyToOutlook> mapping,
-                          const automation::Recordset& hostRows, ItemWriter& item)
+                          const automation::Recordset& hostRows, const Object& item)
 {
     const Value stored = hostRows.ValueOf(relation.EnglishName);
     const Value value = automation::IsEmptyOrNull(stored) ? Value() : stored;
@@ -103,16 +84,15 @@ void WriteRelatedProperty(const RelationRow& relation, std::span<const PropertyT
 void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping, const Object& item,
                             Saves saves)
 {
-    OutlookItem writer(item);
     for (const RelationRow& relation : run.Relations.Rows())
     {
-        WriteRelatedProperty(relation, mapping, run.HostRows, writer);
+        WriteRelatedProperty(relation, mapping, run.HostRows, item);
         if (saves == Saves::AfterEachRowToo)
         {
-            writer.Save();
+            item.Call(L"Save");
         }
     }
-    writer.Save();
+    item.Call(L"Save");
 }
 
 } // namespace exchange

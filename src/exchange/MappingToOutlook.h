@@ -5,35 +5,17 @@
 
 #include "exchange/Run.h"
 
-#include <functional>
 #include <optional>
 #include <span>
-#include <string>
 
 namespace exchange
 {
-
-// Takes what a mapping writes: the Outlook item itself, or a list of what would be written.
-class ItemWriter
-{
-  public:
-    virtual ~ItemWriter() = default;
-
-    // The property's value after everything that has been written so far. All throw automation::Error when
-    // Outlook refuses.
-    virtual automation::Value Get(const wchar_t* name) const = 0;
-    virtual void Put(const wchar_t* name, const automation::Value& value) = 0;
-    // For more than a value of one property: a link, a recurrence pattern. after: the property's value then.
-    virtual void Change(const wchar_t* name, const automation::Value& after,
-                        const std::function<void(const automation::Object& item)>& change) = 0;
-    virtual void Save() = 0;
-};
 
 // The data for one property; valid for the call only.
 struct TargetProperty
 {
     const automation::Recordset& HostRows; // on the row being written
-    ItemWriter& Item;
+    const automation::Object& Item;
     const wchar_t* Name;
     const automation::Value& HostValue; // Empty where the host has Null
 
@@ -62,7 +44,7 @@ void PutNumber(const TargetProperty& property, const std::optional<double>& numb
 // property of the mapping writes nothing. Throws automation::Error when the column cannot be read, or Outlook
 // refuses the value.
 void WriteRelatedProperty(const RelationRow& relation, std::span<const PropertyToOutlook> mapping,
-                          const automation::Recordset& hostRows, ItemWriter& item);
+                          const automation::Recordset& hostRows, const automation::Object& item);
 
 enum class Saves
 {

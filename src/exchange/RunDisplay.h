@@ -1,11 +1,13 @@
-// What a run shows while it works: three operations of the main dialog, as the collection procedures and the
-// workers need them. The main dialog implements it.
+// The user as a run sees them: the status line and progress bar of the main dialog, and the confirmation. The
+// main dialog implements it.
 #pragma once
 
 #include <string>
 
 namespace exchange
 {
+
+struct Run;
 
 class RunDisplay
 {
@@ -20,6 +22,9 @@ class RunDisplay
     virtual void SetProgress(double fraction) = 0;
     // The text of the category row that the run is for.
     virtual std::wstring CategoryText() const = 0;
+    // Asks whether the run's pending changes are to be written; the answer is the shared state's
+    // gChangesAccepted, and stays as it is when the user closes the question.
+    virtual void Confirm(Run& run) = 0;
 };
 
 // The progress bar is shown from 0 on for the length of a scope.

@@ -1,7 +1,9 @@
 #include "run/FrmSynchronizeItem.h"
 
 #include "exchange/KindName.h"
+#include "exchange/Run.h"
 #include "resources/Strings.h"
+#include "run/FrmMessage.h"
 #include "run/SynchronizeTexts.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
@@ -208,6 +210,8 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
     }
 
     std::wstring CategoryText() const override { return lvCategory.TextOf(*mCurrentCategory); }
+
+    void Confirm(exchange::Run& run) override { ShowConfirmation(CategoryText(), run.Pending); }
 
     ui::TabFrame SstbOption{*this, IDC_SYNC_OPTION};
     ui::ListView lvCategory{*this, IDC_SYNC_CATEGORY};

@@ -4,7 +4,6 @@
 #include "config/store/ParameterStore.h"
 #include "contacts/Contacts.h"
 #include "run/ChangeCollection.h"
-#include "run/FrmMessage.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
@@ -41,12 +40,12 @@ long CountChanges(const data::Changes& changes, long transType)
     return count;
 }
 
-bool UserAccepts(const exchange::Run& run)
+bool UserAccepts(exchange::Run& run)
 {
     // A dialog that is closed by neither button leaves the flag alone; an answer to an earlier run is no
     // consent to this one.
     Shared().gChangesAccepted = false;
-    run::ShowConfirmation(run.Display.CategoryText(), run.Pending);
+    run.Display.Confirm(run);
     return Shared().gChangesAccepted;
 }
 

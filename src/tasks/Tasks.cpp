@@ -114,7 +114,7 @@ void PutPercentage(const TargetProperty& property)
 void PutStatus(const TargetProperty& property)
 {
     PutNumber(property, kTaskDeferred);
-    property.Item.Save();
+    property.Item.Call(L"Save");
 }
 
 // The host's levels are one higher than Outlook's 0 low, 1 normal, 2 high. A task without one keeps the
@@ -136,14 +136,11 @@ void PutWork(const TargetProperty& property)
 
 void LinkToContact(const TargetProperty& property)
 {
-    const Value givenName = property.HostRows.ValueOf(L"CONTACT_GIVENNAME");
-    property.Item.Change(property.Name, property.HostValue, [&](const Object& task) {
-        links::LinkContact(task, property.HostValue, givenName);
-    });
+    links::LinkContact(property.Item, property.HostValue, property.HostRows.ValueOf(L"CONTACT_GIVENNAME"));
 }
 
 // Not written where the lead time takes it beyond the dates that Outlook can hold.
-void PutReminderTime(exchange::ItemWriter& task, automation::Date start)
+void PutReminderTime(const Object& task, automation::Date start)
 {
     const long long lead = state::Shared().gCalendarPreviewAlarmTime;
     if (const auto reminder = automation::OutlookDate(automation::PlusMinutes(start, -lead)))

@@ -7,6 +7,7 @@
 #include "automation/Text.h"
 #include "config/store/ParameterStore.h"
 #include "run/ChangeCollection.h"
+#include "run/FrmMessage.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
 #include "state/SharedState.h"
@@ -181,6 +182,7 @@ FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
     if (trial.phase == Phase::Whole)
     {
         *mFaults = {trial.fault, trial.at, 0, {}};
+        mDisplay.Ask = run::ShowConfirmation;
         outcome.reportedFailure = trial.what.kind.run(mDisplay);
     }
     else

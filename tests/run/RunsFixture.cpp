@@ -1,5 +1,6 @@
 #include "tests/run/RunsFixture.h"
 
+#include "run/FrmMessage.h"
 #include "state/SharedState.h"
 #include "tests/support/MessageBoxes.h"
 
@@ -84,6 +85,7 @@ RunsFixture::RunsFixture()
     shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
     shared.gFontName = L"Arial";
     shared.gFontSize = 8;
+    Display.Ask = run::ShowConfirmation;
 }
 
 RunsFixture::~RunsFixture()

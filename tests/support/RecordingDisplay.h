@@ -1,8 +1,9 @@
 // A run's display that keeps what it was told.
 #pragma once
 
-#include "exchange/RunDisplay.h"
+#include "exchange/Run.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,10 @@ class RecordingDisplay : public exchange::RunDisplay
         Events.push_back(std::to_wstring(static_cast<int>(fraction * 100)) + L"%");
     }
     std::wstring CategoryText() const override { return L"Contact"; }
+    void Confirm(exchange::Run& run) override { Ask(CategoryText(), run.Pending); }
+
+    // How the user is asked; run::ShowConfirmation is the component's own way.
+    std::function<void(const std::wstring& categoryText, const data::Changes& changes)> Ask;
 };
 
 } // namespace test_support
