@@ -145,7 +145,8 @@ exchange::Run Sides::AnotherRun()
         const exchange::Kind& category = mKind.Category;
         const std::wstring filter =
             category.SourceFilter == nullptr ? std::wstring() : category.SourceFilter(host);
-        data::Demand(host.OpenRecordset(run.HostRows, category.RecordSource, filter) >= 0, L"OpenRecordset");
+        data::ThrowUnless(host.OpenRecordset(run.HostRows, category.RecordSource, filter) >= 0,
+                          L"OpenRecordset");
         mRows = run.HostRows.AsObject();
     }
     run.HostRows = automation::Recordset(mRows);

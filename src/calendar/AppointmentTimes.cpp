@@ -12,7 +12,7 @@ using automation::DateOf;
 using automation::MinuteOfDay;
 using automation::Object;
 using automation::Value;
-using data::RowColumns;
+using data::HostRow;
 using exchange::HostValue;
 using exchange::ItemProperties;
 using exchange::SourceProperty;
@@ -62,14 +62,14 @@ Value StartTimeOf(ItemProperties& item)
                                 MinuteOfDay(DateIn(pattern, L"StartTime")));
 }
 
-void AddEnd(RowColumns& entry, const Value& day, const Value& time)
+void AddEnd(HostRow& entry, const Value& day, const Value& time)
 {
     entry.Add(L"F_ACTEEDATE", day);
     entry.Add(L"F_ACTEETIME", time);
 }
 
 // An entry of the host ends on its first day, whatever the appointment does.
-void AddSingleEnd(ItemProperties& item, RowColumns& entry)
+void AddSingleEnd(ItemProperties& item, HostRow& entry)
 {
     const Value& start = item.ValueOf(L"Start");
     const Value& end = item.ValueOf(L"End");
@@ -78,7 +78,7 @@ void AddSingleEnd(ItemProperties& item, RowColumns& entry)
 }
 
 // The times are compared as times of day: a pattern over midnight starts later than it ends.
-void AddRecurringEnd(ItemProperties& item, RowColumns& entry)
+void AddRecurringEnd(ItemProperties& item, HostRow& entry)
 {
     const Object pattern = PatternOf(item);
     const Value firstDay = pattern.Get(L"PatternStartDate");

@@ -8,13 +8,12 @@
 #include "calendar/Recurrence.h"
 #include "data/Literals.h"
 #include "data/Permissions.h"
-#include "data/SqlFragments.h"
 #include "exchange/MatchKeys.h"
 #include "links/ContactLink.h"
 #include "links/TaskLinks.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
-#include "ui/ShowMessageBox.h"
+#include "ui/ShowError.h"
 
 namespace calendar
 {
@@ -29,9 +28,8 @@ using automation::OutlookDate;
 using automation::ReadableDate;
 using automation::Recordset;
 using automation::Value;
-using data::Demand;
 using data::Host;
-using data::RowColumns;
+using data::ThrowUnless;
 using exchange::PutAsIs;
 using exchange::TargetProperty;
 
@@ -199,103 +197,104 @@ constexpr exchange::PropertyFromOutlook kAppointmentToEntry[] = {
     {L"ReminderSet", exchange::ReadAsIs},    {L"IsRecurring", ReadIsRecurring},
 };
 
-// Runs a step of the writer; an error is shown with the host column that was being processed, and gives
-// failure.
-template<typename Result, typename Step>
-Result Reported(const RowColumns& entry, Result failure, Step&& step)
+// The host column that was being processed: that of the conversion, else the last one.
+std::wstring ColumnOf(const automation::Error& error, const exchange::Run& run)
 {
-    return state::Trapped(failure, [&] {
+    const auto* const inColumn = dynamic_cast<const exchange::ColumnError*>(&error);
+    return inColumn != nullptr ? inColumn->Column() : run.Relations.LastColumn();
+}
+
+// Runs a step of the writer; shows an error with the host column. True for failure.
+template<typename Step>
+bool Reported(const exchange::Run& run, Step&& step)
+{
+    return state::Failed([&] {
         try
         {
-            return step();
+            step();
         }
         catch (const automation::Error& error)
         {
-            ui::ShowMessageBox(entry.Column + L":" + error.Description(), MB_OK);
-            throw;
+            ui::ShowAndThrow(error, ColumnOf(error, run), MB_OK);
         }
     });
 }
 
-// False when the lookup of the account has failed; the builder has shown why.
-bool AddAccount(const Object& item, RowColumns& entry)
+void AddAccount(const Object& item, data::InsertRow& entry)
 {
-    using links::UndoneBy;
-    return entry.Mode() == data::kNewRecord
-               ? links::ChangeAddTaskAccount(entry.Catalogue(), item, entry.Fields, entry.Values,
-                                             UndoneBy::Hand) == 0
-               : links::ChangeEditTaskAccount(entry.Catalogue(), item, entry.SetList, UndoneBy::Hand) == 0;
+    links::ChangeAddTaskAccount(item, entry, links::UndoneBy::Hand);
 }
 
-// False when the appointment is not to be written.
-bool Complete(exchange::Run& run, const Object& item, RowColumns& entry)
+void AddAccount(const Object& item, data::UpdateRow& entry)
 {
-    exchange::ItemProperties properties(item);
-    return exchange::AddRelatedColumns(run.Relations, kAppointmentToEntry, exchange::Unmapped::LeftOut,
-                                       properties, entry) &&
-           AddAccount(item, entry);
+    links::ChangeEditTaskAccount(item, entry, links::UndoneBy::Hand);
 }
 
-void Insert(const Host& host, RowColumns& entry)
-{
-    const std::wstring id = host.NewGuid();
-    const std::wstring user = host.UserIdLiteral();
-    data::AppendEntry(entry.Fields, L"F_ACTORID,F_CREATORID,F_ACTID");
-    data::AppendEntry(entry.Values, user + L"," + user + L"," + data::QuotedText(id));
-    Demand(host.Insert(L"TBLACTIVITY", entry.Fields, entry.Values, id) >= 0, L"Insert");
-}
-
-void Update(const Host& host, const automation::Recordset& rows, const RowColumns& entry)
-{
-    if (!entry.SetList.empty())
-    {
-        const std::wstring id = automation::TextOf(rows.ValueOf(L"F_ACTID"));
-        Demand(host.Update(L"TBLACTIVITY", entry.SetList, L"F_ACTID=" + data::QuotedText(id)) == 0,
-               L"Update");
-    }
-}
-
-void Save(const exchange::Run& run, RowColumns& entry)
+void Save(const exchange::Run& /*run*/, data::InsertRow& entry)
 {
     const Host host;
-    if (entry.Mode() == data::kNewRecord)
+    const std::wstring id = host.NewGuid();
+    const std::wstring user = host.UserIdLiteral();
+    entry.AddLiteral(L"F_ACTORID,F_CREATORID,F_ACTID", user + L"," + user + L"," + data::QuotedText(id));
+    entry.Insert(host, L"TBLACTIVITY", id);
+}
+
+void Save(const exchange::Run& run, const data::UpdateRow& entry)
+{
+    if (!entry.SetList().empty())
     {
-        Insert(host, entry);
+        entry.Update(Host(), L"TBLACTIVITY", L"F_ACTID",
+                     automation::TextOf(run.HostRows.ValueOf(L"F_ACTID")));
     }
-    else
+}
+
+// Row: data::InsertRow or data::UpdateRow. Returns -1 when the host has refused the row.
+template<typename Row>
+long WriteEntry(exchange::Run& run, const Object& item)
+{
+    Row entry(run.Catalogue);
+    bool hasSubject = false;
+    const bool failed = Reported(run, [&] {
+        exchange::ItemProperties properties(item);
+        hasSubject = exchange::AddRelatedColumns(run.Relations, kAppointmentToEntry,
+                                                 exchange::Unmapped::LeftOut, properties, entry);
+        if (hasSubject)
+        {
+            AddAccount(item, entry);
+        }
+    });
+    if (failed || !hasSubject)
     {
-        Update(host, run.HostRows, entry);
+        return 0;
+    }
+    if (Reported(run, [&] { Save(run, entry); }))
+    {
+        return -1;
     }
     state::WriteLog(L"A calendar entry has been written");
+    return 0;
 }
 
 } // namespace
 
 bool SynSynCalendarToOlCalendar(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         if (mode == data::kNewRecord || mode == data::kExistingRecord)
         {
             exchange::WriteRelatedProperties(run, kEntryToAppointment, item, exchange::Saves::OnceAtTheEnd);
         }
-        return false;
     });
 }
 
 long SynOlCalendarToSynCalendar(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
-    if (mode != data::kNewRecord && mode != data::kExistingRecord)
+    switch (mode)
     {
-        return 0;
+    case data::kNewRecord: return WriteEntry<data::InsertRow>(run, item);
+    case data::kExistingRecord: return WriteEntry<data::UpdateRow>(run, item);
+    default: return 0;
     }
-    RowColumns entry(run.Catalogue, mode);
-    const bool isComplete = Reported(entry, false, [&] { return Complete(run, item, entry); });
-    return isComplete ? Reported(entry, -1L,
-                                 [&] {
-                                     Save(run, entry);
-                                     return 0L;
-                                 })
-                      : 0L;
 }
 
 constexpr wchar_t kRelationStatement[] = L"Select * From SynRelation Where QuenlarTblName='VW_CALENDAR'";

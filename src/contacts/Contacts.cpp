@@ -21,7 +21,6 @@ using automation::Recordset;
 using automation::Value;
 using data::Host;
 using data::QuotedText;
-using data::RowColumns;
 using exchange::HostValue;
 using exchange::PutAsIs;
 using exchange::ReadAsIs;
@@ -188,37 +187,54 @@ constexpr exchange::PropertyFromOutlook kItemToContact[] = {
     {L"Email1Address", ReadAsIs},
 };
 
-void Insert(const Host& host, const Object& item, RowColumns& contact)
+// False when the contact lacks a name, and so is not written.
+bool AddColumns(exchange::Run& run, const Object& item, data::HostRow& contact)
 {
-    links::AddAccountLinks(host, item, contact);
-    const std::wstring key = QuotedText(host.NewGuid());
-    const std::wstring keys = key + L"," + QuotedText(host.UserId()) + L",";
-    data::Demand(
-        host.Insert(L"TBLCONTACT", L"F_CNTCTID,F_CREATORID," + contact.Fields, keys + contact.Values) >= 0,
-        L"Insert");
+    exchange::ItemProperties properties(item);
+    return exchange::AddRelatedColumns(run.Relations, kItemToContact, exchange::Unmapped::LeftOut, properties,
+                                       contact);
 }
 
-void Update(const Host& host, const Recordset& rows, const Object& item, RowColumns& contact)
+void Insert(exchange::Run& run, const Object& item)
 {
-    const std::wstring id = automation::TextOf(rows.ValueOf(L"F_CNTCTID"));
-    links::AddAccountLinks(host, item, contact, {id, automation::TextOrEmpty(rows.ValueOf(L"ACC_SNAME"))});
-    if (!contact.SetList.empty())
+    data::InsertRow contact(run.Catalogue);
+    if (AddColumns(run, item, contact))
     {
-        data::Demand(host.Update(L"TBLCONTACT", contact.SetList, L"F_CNTCTID=" + QuotedText(id)) == 0,
-                     L"Update");
+        const Host host;
+        data::Transaction transaction(host);
+        links::AddAccountLinks(host, item, contact);
+        const std::wstring key = QuotedText(host.NewGuid());
+        contact.PutFirst(L"F_CNTCTID,F_CREATORID", key + L"," + QuotedText(host.UserId()));
+        contact.Insert(host, L"TBLCONTACT");
+        transaction.Commit();
     }
 }
 
-void Write(const Host& host, const exchange::Run& run, const Object& item, RowColumns& contact)
+void Update(exchange::Run& run, const Object& item)
 {
-    switch (contact.Mode())
+    data::UpdateRow contact(run.Catalogue);
+    if (AddColumns(run, item, contact))
     {
-    case data::kNewRecord: Insert(host, item, contact); break;
-    case data::kExistingRecord: Update(host, run.HostRows, item, contact); break;
-    default:
-        ui::ShowMessageBox(L"Error: Invalid Operation", MB_ICONERROR, L"SynOlContactToSynContact");
-        break;
+        const Host host;
+        data::Transaction transaction(host);
+        const links::PresentContact present{automation::TextOf(run.HostRows.ValueOf(L"F_CNTCTID")),
+                                            automation::TextOrEmpty(run.HostRows.ValueOf(L"ACC_SNAME"))};
+        links::AddAccountLinks(host, item, contact, &present);
+        if (!contact.SetList().empty())
+        {
+            contact.Update(host, L"TBLCONTACT", L"F_CNTCTID", present.Key);
+        }
+        transaction.Commit();
     }
+}
+
+// The contract reports another mode within a transaction.
+void ShowInvalidMode()
+{
+    const Host host;
+    data::Transaction transaction(host);
+    ui::ShowMessageBox(L"Error: Invalid Operation", MB_ICONERROR, L"SynOlContactToSynContact");
+    transaction.Commit();
 }
 
 } // namespace
@@ -230,19 +246,15 @@ void SynSynContactToOlContact(exchange::Run& run, data::RecordMode /*mode*/, con
 
 long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
-    return state::Trapped(-1L, [&] {
-        RowColumns contact(run.Catalogue, mode);
-        exchange::ItemProperties properties(item);
-        if (exchange::AddRelatedColumns(run.Relations, kItemToContact, exchange::Unmapped::LeftOut,
-                                        properties, contact))
+    const bool failed = state::Failed([&] {
+        switch (mode)
         {
-            const Host host;
-            data::Transaction transaction(host);
-            Write(host, run, item, contact);
-            transaction.Commit();
+        case data::kNewRecord: Insert(run, item); break;
+        case data::kExistingRecord: Update(run, item); break;
+        default: ShowInvalidMode(); break;
         }
-        return 0L;
     });
+    return failed ? -1 : 0;
 }
 
 constexpr exchange::PassToOutlook SynContactToOutlook{

@@ -12,10 +12,18 @@
 namespace data
 {
 
+// RecordState of a changed record: the side that is written. New records carry kNewRecordMark.
+enum RecordMark : long
+{
+    kNewRecordMark = 0,
+    kWritesHost = 0,
+    kWritesOutlook = 1,
+};
+
 struct ClsOlRecord
 {
     std::wstring ItemIndex; // position of the item in the folder's Items as decimal text; empty means no item
-    long RecordState = 0;   // of a modification: written to the host when 0
+    long RecordState = 0;   // a RecordMark; a changed item is written to the host when kWritesHost
     std::wstring EntryId{}; // tells the item from all others; empty where its store gives none
     std::wstring FirstKey{}; // its first match key, where there is no EntryId
 
@@ -28,7 +36,7 @@ struct ClsOlRecord
 struct ClsSalesRecord
 {
     long RecordBookmark = 0; // position of the row, used with ADO's Move
-    long RecordState = 0;    // of a modification: written to Outlook when 1
+    long RecordState = 0;    // a RecordMark; a changed row is written to Outlook when kWritesOutlook
     std::wstring Key{};      // the row's key column; empty where it is not known
 
     ClsSalesRecord(long recordBookmark, long recordState)

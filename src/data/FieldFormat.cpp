@@ -137,9 +137,14 @@ bool IsText(const FieldDescription& field)
                             resources::Choose(L"SynFields 中没有该字段", L"SynFields has no such column"));
 }
 
-// Nothing for a column of an unknown type, which shows a message box. Throws automation::Error when the value
-// cannot be formatted.
-std::optional<Value> Format(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)
+bool IsPair(wchar_t first, wchar_t second)
+{
+    return IS_HIGH_SURROGATE(first) && IS_LOW_SURROGATE(second);
+}
+
+} // namespace
+
+std::optional<Value> Formatted(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)
 {
     const FieldDescription* const field = catalogue.Find(column);
     if (field == nullptr)
@@ -155,24 +160,6 @@ std::optional<Value> Format(FieldCatalogue& catalogue, const std::wstring& colum
     return kFormatters[type - 1](value, *field);
 }
 
-bool IsPair(wchar_t first, wchar_t second)
-{
-    return IS_HIGH_SURROGATE(first) && IS_LOW_SURROGATE(second);
-}
-
-} // namespace
-
-long FormatFieldlValue(FieldCatalogue& catalogue, const std::wstring& column, Value& value)
-{
-    return state::Trapped(-1L, [&] {
-        if (auto formatted = Format(catalogue, column, value))
-        {
-            value = std::move(*formatted);
-        }
-        return 0L;
-    });
-}
-
 std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)
 {
     if (automation::IsAbsent(value))
@@ -181,7 +168,7 @@ std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, co
     }
     try
     {
-        const auto formatted = Format(catalogue, column, value);
+        const auto formatted = Formatted(catalogue, column, value);
         return formatted ? automation::TextOf(*formatted) : NumberOrQuotedText(automation::TextOf(value));
     }
     catch (const automation::Error& error)

@@ -5,20 +5,21 @@
 
 #include "data/FieldCatalogue.h"
 
+#include <optional>
 #include <string>
 
 namespace data
 {
 
-// Replaces a value (neither Empty nor Null) by its literal for the column; returns 0. Returns -1, with the
-// value as it was, for a column that the catalogue does not have (a message box says so), a catalogue that
-// cannot be read and a value that cannot be coerced. A column of an unknown type shows a message box and
-// leaves the value as it is.
-long FormatFieldlValue(FieldCatalogue& catalogue, const std::wstring& column, automation::Value& value);
+// The literal of a value (neither Empty nor Null) for the column; nothing for a column of an unknown type,
+// which shows a message box. Throws automation::Error for a column that the catalogue does not have (a
+// message box says so), a catalogue that cannot be read and a value that cannot be coerced.
+std::optional<automation::Value> Formatted(FieldCatalogue& catalogue, const std::wstring& column,
+                                           const automation::Value& value);
 
-// FormatFieldlValue for callers that report the error themselves: the value, whatever it is, as one literal
-// of a statement; NULL for an absent value. Of a column of an unknown type a plain number stays as it is,
-// anything else is quoted. Throws automation::Error that names the column where FormatFieldlValue returns -1.
+// The value, whatever it is, as one literal of a statement; NULL for an absent value. Of a column of an
+// unknown type a plain number stays as it is, anything else is quoted. Throws automation::Error that names
+// the column.
 std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, const automation::Value& value);
 
 // The text as the column holds it once it has been written there: cut to the column's size. The whole of it

@@ -98,7 +98,7 @@ void Host::RollbackTrans() const
     mDtc.Call(L"RollbackTrans");
 }
 
-void Demand(bool accepted, const wchar_t* member, long code)
+void ThrowUnless(bool accepted, const wchar_t* member, long code)
 {
     if (!accepted)
     {
@@ -134,10 +134,7 @@ void Transaction::RollBack() noexcept
     const bool isPending = state::Trapped(true, [&] { return mHost.InTransaction(); });
     if (isPending)
     {
-        state::Trapped(false, [&] {
-            mHost.RollbackTrans();
-            return true;
-        });
+        state::Trapped([&] { mHost.RollbackTrans(); });
     }
 }
 

@@ -52,9 +52,9 @@ class Host
     automation::Object mDtc;
 };
 
-// Turns a status that the contract calls a failure into an automation::Error naming the member, so that a
-// refused call and one that raises an error leave a routine by the same road. code: the error's number.
-void Demand(bool accepted, const wchar_t* member, long code = E_FAIL);
+// Throws automation::Error unless the host has accepted a call of this member, so that a refused call and one
+// that raises an error are handled in one way. code: the error's number.
+void ThrowUnless(bool accepted, const wchar_t* member, long code = E_FAIL);
 
 // One host transaction, begun with the object: Commit ends it well, any other way out of the scope rolls it
 // back. Neither is asked of the host when the host says that no transaction is pending.

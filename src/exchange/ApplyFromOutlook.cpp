@@ -12,9 +12,6 @@ using automation::Object;
 namespace
 {
 
-// A changed Outlook item is written to the host when it carries this mark.
-constexpr long kMarkToHost = 0;
-
 void Insert(Run& run, const PassFromOutlook& pass, long position)
 {
     const data::ClsOlRecord& record = run.Pending.NewOutlookItems.Item(position);
@@ -41,7 +38,7 @@ bool IsPairOf(const Run& run, const data::ClsOlRecord& record, const Object& ite
 void Update(Run& run, const PassFromOutlook& pass, long position)
 {
     const data::ClsOlRecord& record = run.Pending.ChangedOutlookItems.Item(position);
-    if (record.RecordState != kMarkToHost || record.ItemIndex.empty())
+    if (record.RecordState != data::kWritesHost || record.ItemIndex.empty())
     {
         return;
     }
@@ -61,7 +58,7 @@ void Update(Run& run, const PassFromOutlook& pass, long position)
 
 bool PassFromOutlook::operator()(Run& run) const
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         run.Display.SetStatus(resources::String(IDS_RUN_APPLYING));
         const ShowsProgress shown(run.Display);
         run.Relations.Use(RelationStatement, RelationOptions);
@@ -70,7 +67,6 @@ bool PassFromOutlook::operator()(Run& run) const
                          [&](long position) { Insert(run, *this, position); });
         WalkWithProgress(run.Display, run.Pending.ChangedOutlookItems.Count(),
                          [&](long position) { Update(run, *this, position); });
-        return false;
     });
 }
 

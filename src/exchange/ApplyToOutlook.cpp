@@ -13,9 +13,6 @@ using automation::Object;
 namespace
 {
 
-// A changed host record is written to Outlook when it carries this mark.
-constexpr long kMarkToOutlook = 1;
-
 // A row that cannot become an item is skipped before anything of it is written.
 void Write(Run& run, const PassToOutlook& pass, data::RecordMode mode, const Object& item)
 {
@@ -50,7 +47,7 @@ void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
 {
     const data::ClsSalesRecord& record = run.Pending.ChangedHostRecords.Item(i);
     // A row that the pass from Outlook has just overwritten is known only as it was before.
-    if (record.RecordState != kMarkToOutlook || run.OverwrittenRows.contains(record.RecordBookmark))
+    if (record.RecordState != data::kWritesOutlook || run.OverwrittenRows.contains(record.RecordBookmark))
     {
         return;
     }
@@ -71,7 +68,7 @@ void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
 
 bool PassToOutlook::operator()(Run& run) const
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         run.Display.SetStatus(resources::String(IDS_RUN_APPLYING));
         const ShowsProgress showsProgress(run.Display);
         run.Relations.Use(RelationStatement, RelationOptions);
@@ -79,7 +76,6 @@ bool PassToOutlook::operator()(Run& run) const
                          [&](long i) { WriteNewRecord(run, *this, i); });
         WalkWithProgress(run.Display, run.Pending.ChangedHostRecords.Count(),
                          [&](long i) { WriteChangedRecord(run, *this, i); });
-        return false;
     });
 }
 

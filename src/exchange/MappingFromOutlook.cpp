@@ -37,6 +37,23 @@ HostValue ReadUnlessRefused(const PropertyFromOutlook& row, const SourceProperty
     }
 }
 
+// False when the item is not to be written.
+bool AddRelatedColumn(const RelationRow& relation, std::span<const PropertyFromOutlook> mapping,
+                      Unmapped others, ItemProperties& item, data::HostRow& record)
+{
+    const auto row = std::ranges::find_if(mapping, [&](const PropertyFromOutlook& candidate) {
+        return relation.OutlookName == candidate.OutlookName;
+    });
+    const Value unmapped = others == Unmapped::LeftOut ? Value(kNoColumn) : Value();
+    const HostValue value =
+        row == mapping.end() ? unmapped : ReadUnlessRefused(*row, {item, relation.OutlookName, record});
+    if (value && !IsNoColumn(*value))
+    {
+        record.Add(relation.EnglishName, *value);
+    }
+    return value.has_value();
+}
+
 } // namespace
 
 HostValue ReadAsIs(const SourceProperty& property)
@@ -56,28 +73,18 @@ HostValue ReadCategories(const SourceProperty& property)
 }
 
 bool AddRelatedColumns(RelationTable& relations, std::span<const PropertyFromOutlook> mapping,
-                       Unmapped others, ItemProperties& item, data::RowColumns& record)
+                       Unmapped others, ItemProperties& item, data::HostRow& record)
 {
-    const Value valueOfOthers = others == Unmapped::LeftOut ? Value(kNoColumn) : Value();
-    for (const RelationRow& relation : relations.Rows())
-    {
-        record.Column = relation.EnglishName;
-        const auto row = std::ranges::find_if(mapping, [&](const PropertyFromOutlook& candidate) {
-            return relation.OutlookName == candidate.OutlookName;
-        });
-        const HostValue value = row == mapping.end()
-                                    ? valueOfOthers
-                                    : ReadUnlessRefused(*row, {item, relation.OutlookName, record});
-        if (!value)
+    return std::ranges::all_of(relations.Rows(), [&](const RelationRow& relation) {
+        try
         {
-            return false;
+            return AddRelatedColumn(relation, mapping, others, item, record);
         }
-        if (!IsNoColumn(*value))
+        catch (const automation::Error& error)
         {
-            record.Add(relation.EnglishName, *value);
+            throw ColumnError(error, relation.EnglishName);
         }
-    }
-    return true;
+    });
 }
 
 } // namespace exchange

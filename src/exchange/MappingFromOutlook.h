@@ -3,13 +3,15 @@
 // same tables with a row that keeps the values.
 #pragma once
 
-#include "data/RowColumns.h"
+#include "automation/Error.h"
+#include "data/HostRow.h"
 #include "exchange/ItemProperties.h"
 #include "exchange/Run.h"
 
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace exchange
 {
@@ -19,7 +21,7 @@ struct SourceProperty
 {
     ItemProperties& Item;
     const std::wstring& Name;
-    data::RowColumns& Record; // for columns that are written beside the mapped one, and before it
+    data::HostRow& Record; // for columns that are written beside the mapped one, and before it
 };
 
 // The value of the mapped column; nothing when the item is not to be written at all.
@@ -48,10 +50,26 @@ enum class Unmapped
     WrittenAsNull,
 };
 
+// An error in the conversion for one column.
+class ColumnError : public automation::Error
+{
+  public:
+    ColumnError(const automation::Error& error, std::wstring column)
+        : Error(error), mColumn(std::move(column))
+    {
+    }
+
+    // The host column of the relation row.
+    const std::wstring& Column() const noexcept { return mColumn; }
+
+  private:
+    std::wstring mColumn;
+};
+
 // Adds the column of each relation row to the record. False, with the walk ended, when the item is not to be
-// written. Throws automation::Error when the rows cannot be read, Outlook refuses, or a value cannot be
-// formatted for its column.
+// written. Throws automation::Error when the rows cannot be read, and ColumnError when Outlook refuses or a
+// value cannot be formatted for its column.
 bool AddRelatedColumns(RelationTable& relations, std::span<const PropertyFromOutlook> mapping,
-                       Unmapped others, ItemProperties& item, data::RowColumns& record);
+                       Unmapped others, ItemProperties& item, data::HostRow& record);
 
 } // namespace exchange

@@ -36,4 +36,9 @@ const std::vector<RelationRow>& RelationTable::Rows()
     return *mRows;
 }
 
+std::wstring RelationTable::LastColumn() const
+{
+    return mRows && !mRows->empty() ? mRows->back().EnglishName : std::wstring();
+}
+
 } // namespace exchange

@@ -36,6 +36,9 @@ class RelationTable
     // out. Throws automation::Error when they cannot be read.
     const std::vector<RelationRow>& Rows();
 
+    // The host column of the last row that has been read; the empty text for none.
+    std::wstring LastColumn() const;
+
   private:
     std::wstring mStatement;
     automation::OpenOptions mOptions;

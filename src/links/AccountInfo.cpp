@@ -9,22 +9,19 @@ namespace links
 
 long AddAccountInfo(const std::wstring& accountKey)
 {
-    return state::Trapped(-1L, [&] {
-        InsertAccountInfo(data::Host(), accountKey);
-        return 0L;
-    });
+    return state::Failed([&] { InsertAccountInfo(data::Host(), accountKey); }) ? -1 : 0;
 }
 
 void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey)
 {
     automation::Recordset system;
     const automation::ClosesRecordset closes(system);
-    data::Demand(host.OpenRecordsetByString(system, L"SELECT F_AITID FROM TBLSYSINFO") >= 0,
-                 L"OpenRecordsetByString");
+    data::ThrowUnless(host.OpenRecordsetByString(system, L"SELECT F_AITID FROM TBLSYSINFO") >= 0,
+                      L"OpenRecordsetByString");
     const std::wstring type = automation::TextOf(system.ValueOf(L"F_AITID"));
     const std::wstring values = data::QuotedText(host.NewGuid()) + L", " + data::QuotedText(type) + L", " +
                                 data::QuotedText(accountKey);
-    data::Demand(host.Insert(L"TBLACCINFO", L"F_AIID, F_AITID, F_ACCID", values) >= 0, L"Insert");
+    data::ThrowUnless(host.Insert(L"TBLACCINFO", L"F_AIID, F_AITID, F_ACCID", values) >= 0, L"Insert");
 }
 
 } // namespace links

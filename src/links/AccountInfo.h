@@ -11,11 +11,10 @@ class Host;
 namespace links
 {
 
-// Adds the row of the account with this key to TBLACCINFO; returns 0, or -1 when the host refuses.
-long AddAccountInfo(const std::wstring& accountKey);
-
-// AddAccountInfo for callers that report the error themselves: throws automation::Error where that returns
-// -1.
+// Adds the row of the account with this key to TBLACCINFO. Throws automation::Error when the host refuses.
 void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey);
+
+// The same as the host contract has it, for callers that do not report the error: 0, or -1 for failure.
+long AddAccountInfo(const std::wstring& accountKey);
 
 } // namespace links

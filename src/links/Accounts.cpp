@@ -5,7 +5,6 @@
 #include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
-#include "data/SqlFragments.h"
 #include "links/AccountInfo.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
@@ -20,8 +19,9 @@ using automation::TextOrEmpty;
 using automation::Trimmed;
 using automation::Value;
 using data::Host;
+using data::HostRow;
+using data::InsertRow;
 using data::QuotedText;
-using data::RowColumns;
 
 namespace
 {
@@ -54,15 +54,7 @@ bool MayChangeAccounts(long operation)
     return data::CheckPermission(data::kAccountRecord, data::kUsualScope, operation);
 }
 
-// The keys come first, before the columns of the fragment builders.
-void InsertRow(const Host& host, const wchar_t* table, const std::wstring& keyFields,
-               const std::wstring& keyValues, const RowColumns& row)
-{
-    data::Demand(host.Insert(table, keyFields + L"," + row.Fields, keyValues + L"," + row.Values) >= 0,
-                 L"Insert");
-}
-
-void AddAddressColumns(const Object& item, RowColumns& address)
+void AddAddressColumns(const Object& item, HostRow& address)
 {
     for (const AddressColumn& one : kAddressColumns)
     {
@@ -79,11 +71,11 @@ std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue, co
     {
         return {};
     }
-    RowColumns address(catalogue, data::kNewRecord);
+    InsertRow address(catalogue);
     AddAddressColumns(item, address);
     std::wstring key = host.NewGuid();
-    InsertRow(host, L"TBLADDRESS", L"F_ADDRID,F_ACCID", QuotedText(key) + L"," + QuotedText(account),
-              address);
+    address.PutFirst(L"F_ADDRID,F_ACCID", QuotedText(key) + L"," + QuotedText(account));
+    address.Insert(host, L"TBLADDRESS");
     return key;
 }
 
@@ -95,9 +87,9 @@ std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue,
     {
         return {};
     }
-    RowColumns address(catalogue, data::kExistingRecord);
+    data::UpdateRow address(catalogue);
     AddAddressColumns(item, address);
-    data::Demand(host.Update(L"TBLADDRESS", address.SetList, L"F_ADDRID=" + QuotedText(key)) == 0, L"Update");
+    address.Update(host, L"TBLADDRESS", L"F_ADDRID", key);
     return key;
 }
 
@@ -130,9 +122,9 @@ Links LinksOfFoundAccount(const Host& host, data::FieldCatalogue& catalogue, con
 void OpenAccounts(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName,
                   automation::Recordset& accounts)
 {
-    data::Demand(host.OpenRecordset(accounts, L"AccountMyAccount", AccountFilter(catalogue, companyName)) >=
-                     0,
-                 L"OpenRecordset");
+    data::ThrowUnless(
+        host.OpenRecordset(accounts, L"AccountMyAccount", AccountFilter(catalogue, companyName)) >= 0,
+        L"OpenRecordset");
 }
 
 Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
@@ -148,12 +140,11 @@ Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const Ob
 // A transaction that is pending all the same is the host's own, and so is the fate of the account.
 void TakeAccountBack(const Host& host, const std::wstring& key)
 {
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         if (!host.InTransaction())
         {
             host.Delete(L"TBLACCOUNT", L"F_ACCID=" + QuotedText(key));
         }
-        return true;
     });
 }
 
@@ -191,10 +182,10 @@ Links LinksOfPresentAccount(const Host& host, data::FieldCatalogue& catalogue, c
     return accounts.AtEnd() ? Links() : LinksOfFoundAccount(host, catalogue, item, accounts);
 }
 
-// A link that is not made because a right is missing must not cost an existing contact the one that it has.
-void AddLink(RowColumns& contact, const wchar_t* column, const std::wstring& key)
+// If the user may not make the link, keep the existing contact's one.
+void AddLink(HostRow& contact, bool isNew, const wchar_t* column, const std::wstring& key)
 {
-    if (contact.Mode() == data::kNewRecord || !key.empty())
+    if (isNew || !key.empty())
     {
         contact.Add(column, key);
     }
@@ -208,12 +199,12 @@ bool Leaves(const std::wstring& contactKey, const std::wstring& account)
 
 // An address belongs to its account: a contact that goes to another account does not take the address along,
 // even where the user may not give it another one.
-void AddLinks(RowColumns& contact, const Links& links, const std::wstring& contactKey)
+void AddLinks(HostRow& contact, const Links& links, const PresentContact* present)
 {
-    AddLink(contact, L"F_ACCID", links.account);
-    AddLink(contact, L"F_CNTADDRID", links.address);
+    AddLink(contact, present == nullptr, L"F_ACCID", links.account);
+    AddLink(contact, present == nullptr, L"F_CNTADDRID", links.address);
     const bool isAccountOnly = !links.account.empty() && links.address.empty();
-    if (contact.Mode() == data::kExistingRecord && isAccountOnly && Leaves(contactKey, links.account))
+    if (present != nullptr && isAccountOnly && Leaves(present->Key, links.account))
     {
         contact.Add(L"F_CNTADDRID", Value::Null());
     }
@@ -224,11 +215,12 @@ void AddLinks(RowColumns& contact, const Links& links, const std::wstring& conta
 std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName,
                            UndoneBy undoneBy)
 {
-    RowColumns account(catalogue, data::kNewRecord);
+    InsertRow account(catalogue);
     account.Add(L"F_ACCSNAME", companyName);
     account.Add(L"F_ACCCURRIDX", resources::IsChinese() ? kChineseCurrency : kOtherCurrency);
     std::wstring key = host.NewGuid();
-    InsertRow(host, L"TBLACCOUNT", L"F_ACCID", QuotedText(key), account);
+    account.PutFirst(L"F_ACCID", QuotedText(key));
+    account.Insert(host, L"TBLACCOUNT");
     try
     {
         links::InsertAccountInfo(host, key);
@@ -244,7 +236,7 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     return key;
 }
 
-void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact, const PresentContact& present)
+void AddAccountLinks(const Host& host, const Object& item, HostRow& contact, const PresentContact* present)
 {
     const std::wstring companyName = Trimmed(TextOrEmpty(item.Get(L"CompanyName")));
     if (companyName.empty())
@@ -253,11 +245,11 @@ void AddAccountLinks(const Host& host, const Object& item, RowColumns& contact, 
         contact.Add(L"F_CNTADDRID", Value::Null());
         return;
     }
-    const bool stays = contact.Mode() == data::kExistingRecord && IsSameCompany(companyName, present.Company);
+    const bool stays = present != nullptr && IsSameCompany(companyName, present->Company);
     AddLinks(contact,
-             stays ? LinksOfPresentAccount(host, contact.Catalogue(), item, present)
+             stays ? LinksOfPresentAccount(host, contact.Catalogue(), item, *present)
                    : LinksOfCompany(host, contact.Catalogue(), item, companyName),
-             present.Key);
+             present);
 }
 
 } // namespace links

@@ -6,7 +6,7 @@
 
 #include "automation/Object.h"
 #include "data/Host.h"
-#include "data/RowColumns.h"
+#include "data/HostRow.h"
 
 #include <string>
 
@@ -33,11 +33,11 @@ struct PresentContact
 };
 
 // Adds the columns F_ACCID and F_CNTADDRID to a contact's row by the item's company: the account is found or
-// created, its address overwritten or created from the item's business address. A link that the
-// user has no right to is left out with a message: it is NULL in a new contact, and untouched in an updated
-// one, unless that would leave it with the address of another account. A contact that is updated keeps its
-// account while the two companies are equal by the rule that matches contacts.
-void AddAccountLinks(const data::Host& host, const automation::Object& item, data::RowColumns& contact,
-                     const PresentContact& present = {});
+// created, its address overwritten or created from the item's business address. present: the contact that is
+// overwritten, null for a new one. If the user may not make a link, a message says so and the link is NULL in
+// a new contact and untouched in an existing one, unless that would leave it with the address of another
+// account. A contact keeps its account while the two companies are equal by the rule that matches contacts.
+void AddAccountLinks(const data::Host& host, const automation::Object& item, data::HostRow& contact,
+                     const PresentContact* present = nullptr);
 
 } // namespace links

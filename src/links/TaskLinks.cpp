@@ -3,14 +3,13 @@
 #include "automation/Error.h"
 #include "automation/Text.h"
 #include "data/FieldFormat.h"
+#include "data/Host.h"
 #include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
 #include "data/Remark.h"
-#include "data/SqlFragments.h"
 #include "links/ContactLink.h"
-#include "state/Failures.h"
-#include "ui/ShowMessageBox.h"
+#include "ui/ShowError.h"
 
 #include <optional>
 
@@ -27,14 +26,8 @@ constexpr wchar_t kContactColumn[] = L"F_CNTCTID";
 constexpr wchar_t kAccountColumn[] = L"F_ACCID";
 constexpr wchar_t kNull[] = L"NULL";
 
-// The value that a builder appends; nothing when the column stays as the host has it.
+// The literal of a link; nothing when the column stays as the host has it.
 using Link = std::optional<std::wstring>;
-
-// The lookup has failed, and the user has been shown why.
-struct FailedLookup : automation::Error
-{
-    using Error::Error;
-};
 
 // As scripts number errors: those of a range reserved for that without the range.
 long NumberOf(const automation::Error& error)
@@ -52,9 +45,7 @@ std::wstring FindKey(const wchar_t* builder, const wchar_t* table, const wchar_t
     }
     catch (const automation::Error& error)
     {
-        ui::ShowMessageBox(std::to_wstring(NumberOf(error)) + L":" + error.Description(), MB_ICONERROR,
-                           builder);
-        throw FailedLookup(error.Code(), error.Member(), error.Description());
+        ui::ShowAndThrow(error, std::to_wstring(NumberOf(error)), MB_ICONERROR, builder);
     }
 }
 
@@ -128,78 +119,36 @@ struct AccountLink
     }
 };
 
-void AppendInsert(std::wstring& fields, std::wstring& values, const wchar_t* column,
-                  const std::wstring& literal)
+void AddLink(data::HostRow& task, const wchar_t* column, const Link& link)
 {
-    data::AppendEntry(fields, column);
-    data::AppendEntry(values, literal);
-}
-
-void AppendUpdate(std::wstring& setList, const wchar_t* column, const std::wstring& literal)
-{
-    data::AppendEntry(setList, std::wstring(column) + L"=" + literal);
-}
-
-// -1 when a lookup failed; other errors go on to the writer.
-template<typename Build>
-long WithoutFailedLookup(Build&& build)
-{
-    try
+    if (link)
     {
-        build();
-        return 0;
-    }
-    catch (const FailedLookup&)
-    {
-        state::LogError();
-        return -1;
+        task.AddLiteral(column, *link);
     }
 }
 
 } // namespace
 
-long ChangeNewTaskContact(const Object& item, std::wstring& fields, std::wstring& values)
+void ChangeNewTaskContact(const Object& item, data::InsertRow& task)
 {
-    return WithoutFailedLookup([&] {
-        if (const auto literal = LiteralOfContact(L"ChangeNewTaskContact", item))
-        {
-            AppendInsert(fields, values, kContactColumn, *literal);
-        }
-    });
+    AddLink(task, kContactColumn, LiteralOfContact(L"ChangeNewTaskContact", item));
 }
 
-long ChangeEditTaskContact(const Object& item, std::wstring& setList)
+void ChangeEditTaskContact(const Object& item, data::UpdateRow& task)
 {
-    return WithoutFailedLookup([&] {
-        if (const auto literal = LiteralOfContact(L"ChangeEditTaskContact", item))
-        {
-            AppendUpdate(setList, kContactColumn, *literal);
-        }
-    });
+    AddLink(task, kContactColumn, LiteralOfContact(L"ChangeEditTaskContact", item));
 }
 
-long ChangeAddTaskAccount(data::FieldCatalogue& catalogue, const Object& item, std::wstring& fields,
-                          std::wstring& values, links::UndoneBy undoneBy)
+void ChangeAddTaskAccount(const Object& item, data::InsertRow& task, UndoneBy undoneBy)
 {
-    return WithoutFailedLookup([&] {
-        const AccountLink link{L"ChangeAddTaskAccount", catalogue, undoneBy};
-        if (const auto literal = link.LiteralOf(item))
-        {
-            AppendInsert(fields, values, kAccountColumn, *literal);
-        }
-    });
+    const AccountLink link{L"ChangeAddTaskAccount", task.Catalogue(), undoneBy};
+    AddLink(task, kAccountColumn, link.LiteralOf(item));
 }
 
-long ChangeEditTaskAccount(data::FieldCatalogue& catalogue, const Object& item, std::wstring& setList,
-                           links::UndoneBy undoneBy)
+void ChangeEditTaskAccount(const Object& item, data::UpdateRow& task, UndoneBy undoneBy)
 {
-    return WithoutFailedLookup([&] {
-        const AccountLink link{L"ChangeEditTaskAccount", catalogue, undoneBy};
-        if (const auto literal = link.LiteralOf(item))
-        {
-            AppendUpdate(setList, kAccountColumn, *literal);
-        }
-    });
+    const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), undoneBy};
+    AddLink(task, kAccountColumn, link.LiteralOf(item));
 }
 
 } // namespace links

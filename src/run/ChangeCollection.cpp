@@ -11,11 +11,6 @@ namespace run
 namespace
 {
 
-// Marks of the change records; the workers test them.
-constexpr long kMarkNew = 0;
-constexpr long kMarkToOutlook = 1;   // a changed host record that overwrites its partner
-constexpr long kMarkFromOutlook = 0; // a changed Outlook item that overwrites its partner
-
 enum class Proposal
 {
     Nothing,
@@ -54,7 +49,7 @@ double Fraction(long done, long all)
 } // namespace
 
 ChangeCollection::Reading::Reading(const exchange::Kind& kind, const exchange::Run& run)
-    : Items(kind.Match, run.Items, state::Shared().gSynParameter.TransType != state::kQuenlarToOutlook),
+    : Items(kind.Match, run.Items, state::WritesToHost(state::Shared().gSynParameter.TransType)),
       Rows(kind.Match, run.HostRows, kind.KeyColumn),
       ItemIndex(Items),
       RowIndex(Rows)
@@ -79,11 +74,10 @@ ChangeCollection::ChangeCollection(const exchange::Kind& kind, exchange::Run& ru
 
 bool ChangeCollection::CollectToOutlook()
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         mRun.Display.SetStatus(resources::String(mKind.CollectToOutlookTextId));
         const exchange::ShowsProgress showsProgress(mRun.Display);
         Walk([&] { WalkRows(); });
-        return false;
     });
 }
 
@@ -160,11 +154,11 @@ void ChangeCollection::ProposeRow(long row, long partner)
     }
     if (proposal == Proposal::New)
     {
-        mRun.Pending.NewHostRecords.Add(row, kMarkNew).Key = mReading->Rows.Key(row);
+        mRun.Pending.NewHostRecords.Add(row, data::kNewRecordMark).Key = mReading->Rows.Key(row);
     }
     else
     {
-        AddPair(partner, row, kMarkToOutlook);
+        AddPair(partner, row, data::kWritesOutlook);
     }
 }
 
@@ -186,7 +180,7 @@ std::optional<std::wstring> ChangeCollection::EntryIdOf(long item)
 
 bool ChangeCollection::CollectFromOutlook()
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         mRun.Display.SetStatus(resources::String(IDS_RUN_COLLECTING));
         const exchange::ShowsProgress showsProgress(mRun.Display);
         const bool mayAdd =
@@ -194,7 +188,6 @@ bool ChangeCollection::CollectFromOutlook()
         const bool mayModify =
             data::CheckPermission(mKind.PermissionKind, data::kUsualScope, data::kModifyOperation);
         Walk([&] { WalkItems(mayAdd, mayModify); });
-        return false;
     });
 }
 
@@ -226,7 +219,7 @@ void ChangeCollection::ProposeItem(long item, long partner, bool mayAdd, bool ma
     }
     else if (proposal == Proposal::Changed && mayModify)
     {
-        AddPair(item, partner, kMarkFromOutlook);
+        AddPair(item, partner, data::kWritesHost);
     }
 }
 
@@ -234,7 +227,8 @@ void ChangeCollection::AddItem(long item)
 {
     if (const auto entryId = EntryIdOf(item))
     {
-        data::ClsOlRecord& record = mRun.Pending.NewOutlookItems.Add(std::to_wstring(item), kMarkNew);
+        data::ClsOlRecord& record =
+            mRun.Pending.NewOutlookItems.Add(std::to_wstring(item), data::kNewRecordMark);
         record.EntryId = *entryId;
         if (entryId->empty())
         {

@@ -13,10 +13,7 @@ namespace
 template<typename Read>
 void ReadEarly(Read&& read)
 {
-    state::Trapped(false, [&] {
-        read();
-        return true;
-    });
+    state::Trapped(read);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "run/Runs.h"
 
 #include "calendar/Calendar.h"
-#include "config/store/ParameterStore.h"
+#include "config/outlook/OutlookFolders.h"
 #include "contacts/Contacts.h"
 #include "run/ChangeCollection.h"
 #include "state/Failures.h"
@@ -20,8 +20,8 @@ using state::Shared;
 bool Collect(const exchange::Kind& kind, exchange::Run& run, long transType)
 {
     ChangeCollection collection(kind, run);
-    const bool failed = transType != state::kOutlookToQuenlar && collection.CollectToOutlook();
-    return failed || (transType != state::kQuenlarToOutlook && collection.CollectFromOutlook());
+    const bool failed = state::WritesToOutlook(transType) && collection.CollectToOutlook();
+    return failed || (state::WritesToHost(transType) && collection.CollectFromOutlook());
 }
 
 // The changes of the directions that the parameters name. A run in one direction may have filled the other
@@ -29,11 +29,11 @@ bool Collect(const exchange::Kind& kind, exchange::Run& run, long transType)
 long CountChanges(const data::Changes& changes, long transType)
 {
     long count = 0;
-    if (transType != state::kOutlookToQuenlar)
+    if (state::WritesToOutlook(transType))
     {
         count += changes.NewHostRecords.Count() + changes.ChangedHostRecords.Count();
     }
-    if (transType != state::kQuenlarToOutlook)
+    if (state::WritesToHost(transType))
     {
         count += changes.NewOutlookItems.Count() + changes.ChangedOutlookItems.Count();
     }
@@ -52,8 +52,8 @@ bool UserAccepts(exchange::Run& run)
 // Writes the accepted changes; true when a worker failed, which keeps the other one from starting.
 bool Apply(const exchange::Kind& kind, exchange::Run& run, long transType)
 {
-    const bool toOutlook = transType != state::kOutlookToQuenlar;
-    const bool fromOutlook = transType != state::kQuenlarToOutlook;
+    const bool toOutlook = state::WritesToOutlook(transType);
+    const bool fromOutlook = state::WritesToHost(transType);
     if (kind.AppliesFromOutlookFirst)
     {
         return (fromOutlook && kind.FromOutlook(run)) || (toOutlook && kind.ToOutlook(run));

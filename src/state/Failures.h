@@ -1,5 +1,5 @@
-// "Procedures trap their own errors": the one way in which a routine of the component turns a trapped error
-// into its failure value, and the diagnostic sink that records it.
+// "Procedures trap their own errors": the one way in which a routine of the component turns an exception into
+// its failure value, and the diagnostic sink that records it. Inside, everything throws.
 #pragma once
 
 #include <exception>
@@ -28,6 +28,23 @@ Result Trapped(Result failure, Body&& body)
         LogError();
         return failure;
     }
+}
+
+// The same for a body without a result: whether it has thrown.
+template<typename Body>
+bool Failed(Body&& body)
+{
+    return Trapped(true, [&] {
+        body();
+        return false;
+    });
+}
+
+// The same where a failure makes no difference to the caller.
+template<typename Body>
+void Trapped(Body&& body)
+{
+    static_cast<void>(Failed(body));
 }
 
 } // namespace state

@@ -16,6 +16,16 @@ enum TransType : long
     kBothWays = 3,
 };
 
+// Whether a run with this code writes to the side.
+inline bool WritesToOutlook(long transType)
+{
+    return transType != kOutlookToQuenlar;
+}
+inline bool WritesToHost(long transType)
+{
+    return transType != kQuenlarToOutlook;
+}
+
 // Codes of SynParameter::TransConflictOption.
 enum ConflictOption : long
 {

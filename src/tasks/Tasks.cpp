@@ -4,7 +4,6 @@
 #include "automation/Readable.h"
 #include "data/Literals.h"
 #include "data/Permissions.h"
-#include "data/SqlFragments.h"
 #include "exchange/MatchKeys.h"
 #include "links/ContactLink.h"
 #include "links/TaskLinks.h"
@@ -25,7 +24,6 @@ using automation::Object;
 using automation::Recordset;
 using automation::Value;
 using data::Host;
-using data::RowColumns;
 using exchange::HostValue;
 using exchange::PutAsIs;
 using exchange::PutDate;
@@ -246,36 +244,49 @@ constexpr exchange::PropertyFromOutlook kTaskToActivity[] = {
     {L"ActualWork", ReadAsIs},
 };
 
-void Insert(const Host& host, const Object& item, RowColumns& task)
+void AddColumns(exchange::Run& run, const Object& item, data::HostRow& task)
 {
-    data::Demand(links::ChangeNewTaskContact(item, task.Fields, task.Values) == 0, L"ChangeNewTaskContact");
-    data::Demand(links::ChangeAddTaskAccount(task.Catalogue(), item, task.Fields, task.Values) == 0,
-                 L"ChangeAddTaskAccount");
+    exchange::ItemProperties properties(item);
+    data::ThrowUnless(exchange::AddRelatedColumns(run.Relations, kTaskToActivity,
+                                                  exchange::Unmapped::WrittenAsNull, properties, task),
+                      L"Subject");
+}
+
+void Insert(exchange::Run& run, const Object& item)
+{
+    data::InsertRow task(run.Catalogue);
+    AddColumns(run, item, task);
+    const Host host;
+    data::Transaction transaction(host);
+    links::ChangeNewTaskContact(item, task);
+    links::ChangeAddTaskAccount(item, task);
     const std::wstring id = host.NewGuid();
     const std::wstring user = host.UserIdLiteral();
-    data::AppendEntry(task.Fields, L"F_ACTORID ,F_CREATORID,F_ACTID"); // with its space, as the host has it
-    data::AppendEntry(task.Values, user + L"," + user + L"," + data::QuotedText(id));
-    data::Demand(host.Insert(L"TBLACTIVITY", task.Fields, task.Values, id) >= 0, L"Insert");
+    task.AddLiteral(L"F_ACTORID ,F_CREATORID,F_ACTID", // with its space, as the contract requires
+                    user + L"," + user + L"," + data::QuotedText(id));
+    task.Insert(host, L"TBLACTIVITY", id);
+    transaction.Commit();
 }
 
-void Update(const Host& host, const automation::Recordset& rows, const Object& item, RowColumns& task)
+void Update(exchange::Run& run, const Object& item)
 {
-    data::Demand(links::ChangeEditTaskContact(item, task.SetList) == 0, L"ChangeEditTaskContact");
-    data::Demand(links::ChangeEditTaskAccount(task.Catalogue(), item, task.SetList) == 0,
-                 L"ChangeEditTaskAccount");
-    const std::wstring id = automation::TextOf(rows.ValueOf(L"F_ACTID"));
-    data::Demand(host.Update(L"TBLACTIVITY", task.SetList, L"F_ACTID=" + data::QuotedText(id)) == 0,
-                 L"Update");
+    data::UpdateRow task(run.Catalogue);
+    AddColumns(run, item, task);
+    const Host host;
+    data::Transaction transaction(host);
+    links::ChangeEditTaskContact(item, task);
+    links::ChangeEditTaskAccount(item, task);
+    task.Update(host, L"TBLACTIVITY", L"F_ACTID", automation::TextOf(run.HostRows.ValueOf(L"F_ACTID")));
+    transaction.Commit();
 }
 
-void Write(const Host& host, const exchange::Run& run, const Object& item, RowColumns& task)
+// The contract reports another mode within a transaction.
+void ShowInvalidMode()
 {
-    switch (task.Mode())
-    {
-    case data::kNewRecord: Insert(host, item, task); break;
-    case data::kExistingRecord: Update(host, run.HostRows, item, task); break;
-    default: ui::ShowMessageBox(L"Error:Don't this Item.", MB_OK); break; // in both languages
-    }
+    const Host host;
+    data::Transaction transaction(host);
+    ui::ShowMessageBox(L"Error:Don't this Item.", MB_OK); // in both languages
+    transaction.Commit();
 }
 
 } // namespace
@@ -290,18 +301,15 @@ void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const Object&
 
 long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
-    return state::Trapped(-1L, [&] {
-        RowColumns task(run.Catalogue, mode);
-        exchange::ItemProperties properties(item);
-        data::Demand(exchange::AddRelatedColumns(run.Relations, kTaskToActivity,
-                                                 exchange::Unmapped::WrittenAsNull, properties, task),
-                     L"Subject");
-        const Host host;
-        data::Transaction transaction(host);
-        Write(host, run, item, task);
-        transaction.Commit();
-        return 0L;
+    const bool failed = state::Failed([&] {
+        switch (mode)
+        {
+        case data::kNewRecord: Insert(run, item); break;
+        case data::kExistingRecord: Update(run, item); break;
+        default: ShowInvalidMode(); break;
+        }
     });
+    return failed ? -1 : 0;
 }
 
 constexpr wchar_t kRelationStatement[] = L"Select * From SynRelation Where QuenlarTblName='TBLACTIVITY'";

@@ -1,4 +1,5 @@
 #include "data/FieldFormat.h"
+#include "data/ContractForms.h"
 
 #include "automation/Dates.h"
 #include "automation/Error.h"

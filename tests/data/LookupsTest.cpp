@@ -1,4 +1,5 @@
 #include "data/Lookups.h"
+#include "data/ContractForms.h"
 
 #include "automation/Error.h"
 #include "data/Host.h"

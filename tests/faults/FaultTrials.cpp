@@ -5,7 +5,7 @@
 
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "config/store/ParameterStore.h"
+#include "config/outlook/OutlookFolders.h"
 #include "run/ChangeCollection.h"
 #include "run/FrmMessage.h"
 #include "sandbox/ado/Ado.h"
@@ -130,8 +130,9 @@ exchange::Run FaultTrials::OpenRun(const ExchangedKind& kind)
     const data::Host host;
     const std::wstring filter =
         kind.category.SourceFilter == nullptr ? std::wstring() : kind.category.SourceFilter(host);
-    data::Demand(host.OpenRecordset(run.HostRows, kind.category.RecordSource, filter) >= 0, L"OpenRecordset");
-    data::Demand(!config::ResolveOutlookFolder(kind.folder, run.Folder), L"ResolveOutlookFolder");
+    data::ThrowUnless(host.OpenRecordset(run.HostRows, kind.category.RecordSource, filter) >= 0,
+                      L"OpenRecordset");
+    data::ThrowUnless(!config::ResolveOutlookFolder(kind.folder, run.Folder), L"ResolveOutlookFolder");
     run.Items = run.Folder.GetObject(L"Items");
     return run;
 }

@@ -1,5 +1,5 @@
 // Single values on their way into a statement: every type and size of column, every fragment builder.
-#include "data/SqlFragments.h"
+#include "data/ContractForms.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/FieldRows.h"
 #include "sandbox/host/Host.h"

@@ -3,6 +3,7 @@
 #include "automation/Text.h"
 #include "config/outlook/OutlookFolders.h"
 #include "config/store/ChosenFolders.h"
+#include "config/outlook/OutlookFolders.h"
 #include "config/store/ParameterStore.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"

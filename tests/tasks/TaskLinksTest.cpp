@@ -4,6 +4,7 @@
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskTest.h"
+#include "ui/ShowError.h"
 
 namespace
 {
@@ -29,32 +30,30 @@ class TaskLinks : public test_support::TaskTest
   protected:
     std::wstring InsertedContact()
     {
-        std::wstring fields;
-        std::wstring values;
-        EXPECT_EQ(0, links::ChangeNewTaskContact(TaskAt(1), fields, values));
-        return fields + L"|" + values;
+        data::InsertRow task(mCatalogue);
+        links::ChangeNewTaskContact(TaskAt(1), task);
+        return task.Fields() + L"|" + task.Values();
     }
 
     std::wstring UpdatedContact()
     {
-        std::wstring setList;
-        EXPECT_EQ(0, links::ChangeEditTaskContact(TaskAt(1), setList));
-        return setList;
+        data::UpdateRow task(mCatalogue);
+        links::ChangeEditTaskContact(TaskAt(1), task);
+        return task.SetList();
     }
 
     std::wstring InsertedAccount()
     {
-        std::wstring fields;
-        std::wstring values;
-        EXPECT_EQ(0, links::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
-        return fields + L"|" + values;
+        data::InsertRow task(mCatalogue);
+        links::ChangeAddTaskAccount(TaskAt(1), task);
+        return task.Fields() + L"|" + task.Values();
     }
 
     std::wstring UpdatedAccount()
     {
-        std::wstring setList;
-        EXPECT_EQ(0, links::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
-        return setList;
+        data::UpdateRow task(mCatalogue);
+        links::ChangeEditTaskAccount(TaskAt(1), task);
+        return task.SetList();
     }
 
     void ExpectNoContactAndNoQuestion()
@@ -90,16 +89,15 @@ TEST_F(TaskLinks, AFragmentAfterOthersCarriesAComma)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}});
     Host().Found[kLookupContact] = L"C1";
-    std::wstring fields = L"F_ACTNAME";
-    std::wstring values = L"'Call'";
-    EXPECT_EQ(0, links::ChangeNewTaskContact(TaskAt(1), fields, values));
-    EXPECT_EQ(0, links::ChangeAddTaskAccount(mCatalogue, TaskAt(1), fields, values));
-    EXPECT_EQ(L"F_ACTNAME,F_CNTCTID,F_ACCID", fields);
-    EXPECT_EQ(L"'Call','C1',NULL", values);
-    std::wstring setList = L"F_ACTNAME='Call'";
-    EXPECT_EQ(0, links::ChangeEditTaskContact(TaskAt(1), setList));
-    EXPECT_EQ(0, links::ChangeEditTaskAccount(mCatalogue, TaskAt(1), setList));
-    EXPECT_EQ(L"F_ACTNAME='Call',F_CNTCTID='C1',F_ACCID=NULL", setList);
+    data::InsertRow inserted(mCatalogue, L"F_ACTNAME", L"'Call'");
+    links::ChangeNewTaskContact(TaskAt(1), inserted);
+    links::ChangeAddTaskAccount(TaskAt(1), inserted);
+    EXPECT_EQ(L"F_ACTNAME,F_CNTCTID,F_ACCID", inserted.Fields());
+    EXPECT_EQ(L"'Call','C1',NULL", inserted.Values());
+    data::UpdateRow updated(mCatalogue, L"F_ACTNAME='Call'");
+    links::ChangeEditTaskContact(TaskAt(1), updated);
+    links::ChangeEditTaskAccount(TaskAt(1), updated);
+    EXPECT_EQ(L"F_ACTNAME='Call',F_CNTCTID='C1',F_ACCID=NULL", updated.SetList());
 }
 
 TEST_F(TaskLinks, AContactThatTheHostDoesNotKnowIsNull)
@@ -212,8 +210,8 @@ TEST_F(TaskLinks, ALookupsErrorIsShownWithTheNumberThatAScriptWouldSee)
     Host().Failing = {{kLookupContact, L"no such table"}};
     Host().FailureCode = static_cast<HRESULT>(0x800A0CC1);
     const auto messages = MessagesDuring([&] {
-        std::wstring setList;
-        EXPECT_EQ(-1, links::ChangeEditTaskContact(TaskAt(1), setList));
+        data::UpdateRow task(mCatalogue);
+        EXPECT_THROW(links::ChangeEditTaskContact(TaskAt(1), task), ui::ShownError);
     });
     ASSERT_EQ(1u, messages.size());
     EXPECT_EQ(L"3265:no such table", messages[0].text);
@@ -224,21 +222,18 @@ TEST_F(TaskLinks, AFailedLookupIsShownUnderTheNameOfItsBuilderAndIsAFailure)
     AddOutlookTask({{L"ContactNames", L"张伟"}, {L"Companies", L"Quenlar"}});
     Host().Failing = {{kLookupContact, L"no such table"}, {kLookupAccount, L"no such table"}};
     const auto task = TaskAt(1);
-    std::wstring fields = L"F_ACTNAME";
-    std::wstring values = L"'Call'";
-    std::wstring setList = L"F_ACTNAME='Call'";
-    const auto shown = [](auto&& build) { return MessagesDuring([&] { EXPECT_EQ(-1, build()); }); };
-    EXPECT_EQ(Failure(L"ChangeNewTaskContact"),
-              shown([&] { return links::ChangeNewTaskContact(task, fields, values); }));
-    EXPECT_EQ(Failure(L"ChangeEditTaskContact"),
-              shown([&] { return links::ChangeEditTaskContact(task, setList); }));
-    EXPECT_EQ(Failure(L"ChangeAddTaskAccount"),
-              shown([&] { return links::ChangeAddTaskAccount(mCatalogue, task, fields, values); }));
-    EXPECT_EQ(Failure(L"ChangeEditTaskAccount"),
-              shown([&] { return links::ChangeEditTaskAccount(mCatalogue, task, setList); }));
-    EXPECT_EQ(L"F_ACTNAME", fields);
-    EXPECT_EQ(L"'Call'", values);
-    EXPECT_EQ(L"F_ACTNAME='Call'", setList);
+    data::InsertRow inserted(mCatalogue, L"F_ACTNAME", L"'Call'");
+    data::UpdateRow updated(mCatalogue, L"F_ACTNAME='Call'");
+    const auto shown = [](auto&& build) {
+        return MessagesDuring([&] { EXPECT_THROW(build(), ui::ShownError); });
+    };
+    EXPECT_EQ(Failure(L"ChangeNewTaskContact"), shown([&] { links::ChangeNewTaskContact(task, inserted); }));
+    EXPECT_EQ(Failure(L"ChangeEditTaskContact"), shown([&] { links::ChangeEditTaskContact(task, updated); }));
+    EXPECT_EQ(Failure(L"ChangeAddTaskAccount"), shown([&] { links::ChangeAddTaskAccount(task, inserted); }));
+    EXPECT_EQ(Failure(L"ChangeEditTaskAccount"), shown([&] { links::ChangeEditTaskAccount(task, updated); }));
+    EXPECT_EQ(L"F_ACTNAME", inserted.Fields());
+    EXPECT_EQ(L"'Call'", inserted.Values());
+    EXPECT_EQ(L"F_ACTNAME='Call'", updated.SetList());
 }
 
 TEST_F(TaskLinks, ATaskWhoseLinkFailsIsRolledBackAndThePassGoesOn)

@@ -118,7 +118,7 @@ void FrmAdvanced::UpdateRow(const std::wstring& setClause) const
 
 void FrmAdvanced::OnCommand(int id, int notification)
 {
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         if (const auto code = OptConflict.Clicked(id, notification))
         {
             mConflictCode = *code;
@@ -139,7 +139,6 @@ void FrmAdvanced::OnCommand(int id, int notification)
         {
             OnRange(id, notification);
         }
-        return true;
     });
 }
 

@@ -54,10 +54,9 @@ void FrmConfigure::OnInit()
     lvTran.Prepare();
     lvTran.UsePictures(mPictures.List());
     lvTran.UseCheckBoxes();
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         FillList();
         SelectKindOfRecord();
-        return true;
     });
 }
 
@@ -160,7 +159,7 @@ LRESULT FrmConfigure::OnNotify(const NMHDR& notification)
 
 void FrmConfigure::OnCommand(int id, int notification)
 {
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         switch (id)
         {
         case IDC_CONFIGURE_CHOOSE: OnChoose(); break;
@@ -168,7 +167,6 @@ void FrmConfigure::OnCommand(int id, int notification)
         case IDOK: OnOk(); break;
         default: Dialog::OnCommand(id, notification); break;
         }
-        return true;
     });
 }
 
@@ -201,10 +199,7 @@ void FrmConfigure::OnOk()
 
 void ShowConfigure()
 {
-    state::Trapped(false, [] {
-        FrmConfigure().ShowModal();
-        return true;
-    });
+    state::Trapped([] { FrmConfigure().ShowModal(); });
 }
 
 } // namespace config

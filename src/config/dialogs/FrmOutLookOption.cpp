@@ -53,10 +53,7 @@ void FrmOutLookOption::OnInit()
 {
     SetCaptions();
     ui::FitLabels(*this, {&lblExplanation});
-    state::Trapped(false, [&] {
-        LoadProfiles();
-        return true;
-    });
+    state::Trapped([&] { LoadProfiles(); });
     mProfileShown = CmbProfile.Text();
 }
 
@@ -123,7 +120,7 @@ void FrmOutLookOption::ShowDefaultProfile()
 
 void FrmOutLookOption::OnCommand(int id, int notification)
 {
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         if (id == IDOK)
         {
             OnOk();
@@ -132,7 +129,6 @@ void FrmOutLookOption::OnCommand(int id, int notification)
         {
             Dialog::OnCommand(id, notification);
         }
-        return true;
     });
 }
 
@@ -140,10 +136,7 @@ void FrmOutLookOption::OnOk()
 {
     if (CmbProfile.Text() != mProfileShown && UserWantsTheChange())
     {
-        state::Trapped(false, [&] {
-            ChangeProfile();
-            return true;
-        });
+        state::Trapped([&] { ChangeProfile(); });
     }
     Unload(IDOK);
 }

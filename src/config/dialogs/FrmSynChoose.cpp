@@ -48,11 +48,10 @@ void FrmSynChoose::OnInit()
     ui::FitLabels(*this, {&lblPrompt});
     lstTran.Add(L"<None>");
     lstTran.Add(L"Ms Outlook");
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         TakeFromRecord();
         LoadDefaultFolder(state::EditedParameter(), state::EditedParameter().TransObject);
         ShowFolder();
-        return true;
     });
 }
 
@@ -93,11 +92,11 @@ void FrmSynChoose::ShowFolder()
 
 void FrmSynChoose::OnCommand(int id, int notification)
 {
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         if (const auto direction = OptSynType.Clicked(id, notification))
         {
             OnDirection(*direction);
-            return true;
+            return;
         }
         switch (id)
         {
@@ -112,7 +111,6 @@ void FrmSynChoose::OnCommand(int id, int notification)
         case IDOK: OnOk(); break;
         default: Dialog::OnCommand(id, notification); break;
         }
-        return true;
     });
 }
 

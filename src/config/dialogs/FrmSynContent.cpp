@@ -43,10 +43,7 @@ void FrmSynContent::OnInit()
     if (mKind != nullptr)
     {
         mIsLoaded = LoadChosen();
-        state::Trapped(false, [&] {
-            FillTree();
-            return true;
-        });
+        state::Trapped([&] { FillTree(); });
     }
     EnableButtons();
 }
@@ -208,7 +205,7 @@ LRESULT FrmSynContent::OnNotify(const NMHDR& notification)
 
 void FrmSynContent::OnCommand(int id, int notification)
 {
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         switch (id)
         {
         case IDC_CONTENT_ADD: OnAdd(); break;
@@ -217,7 +214,6 @@ void FrmSynContent::OnCommand(int id, int notification)
         case IDOK: OnOk(); break;
         default: Dialog::OnCommand(id, notification); break;
         }
-        return true;
     });
 }
 

@@ -115,7 +115,7 @@ void PurgeMissingFolders()
 {
     Recordset rows;
     const automation::ClosesRecordset closes(rows);
-    state::Trapped(false, [&] {
+    state::Trapped([&] {
         const data::Host host;
         StoreNames stores;
         const std::wstring sql =
@@ -129,7 +129,6 @@ void PurgeMissingFolders()
                 DeleteFolderRow(host, rows, folder);
             }
         }
-        return true;
     });
 }
 

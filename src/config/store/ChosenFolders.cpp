@@ -85,7 +85,7 @@ std::wstring FolderValueList(const exchange::KindName& kind, const ChosenFolder&
 
 bool StoreChosenFolders(const exchange::KindName& kind, const ChosenFolders& folders)
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         const data::Host host;
         RequireAccepted(host.Delete(kFolderTable, L"TransObjectID=" + std::to_wstring(kind.TransObjectID) +
                                                       L" And F_UID=" + host.UserIdLiteral()),
@@ -95,7 +95,6 @@ bool StoreChosenFolders(const exchange::KindName& kind, const ChosenFolders& fol
             InsertUserRow(L"TransObjectID,OutlookFolder,IsDefault", FolderValueList(kind, folder),
                           kFolderTable);
         }
-        return false;
     });
 }
 

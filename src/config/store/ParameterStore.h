@@ -5,7 +5,6 @@
 #pragma once
 
 #include "automation/Recordset.h"
-#include "config/outlook/OutlookFolders.h" // the module's routines for stored folder paths
 #include "state/SynParameter.h"
 
 #include <string>

@@ -22,37 +22,34 @@ bool IsSet(const automation::Value& flag)
 
 bool OpenUserRecordset(automation::Recordset& recordset, const std::wstring& whereOrSql)
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         const data::Host host;
         const std::wstring ofUser = L"F_UID=" + host.UserIdLiteral();
         const std::wstring sql = whereOrSql.empty() ? ofUser : whereOrSql + L" And " + ofUser;
         RequireAccepted(host.OpenRecordsetByString(recordset, sql), L"OpenRecordsetByString");
-        return false;
     });
 }
 
 bool UpdateUserRows(const std::wstring& setClause, const std::wstring& tableName,
                     const std::wstring& whereClause)
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         const data::Host host;
         // Without a condition of its own the statement names P_UID, as the host expects.
         const std::wstring where = whereClause.empty() ? L"P_UID=" + host.UserIdLiteral()
                                                        : whereClause + L" And F_UID=" + host.UserIdLiteral();
         RequireAccepted(host.Update(tableName, setClause, where), L"Update");
-        return false;
     });
 }
 
 bool InsertUserRow(const std::wstring& columnList, const std::wstring& valueList,
                    const std::wstring& tableName)
 {
-    return state::Trapped(true, [&] {
+    return state::Failed([&] {
         const data::Host host;
         RequireAccepted(
             host.Insert(tableName, columnList + L",F_UID", valueList + L"," + host.UserIdLiteral()),
             L"Insert");
-        return false;
     });
 }
 

@@ -1,4 +1,5 @@
-#include "data/SqlFragments.h"
+#include "data/HostRow.h"
+#include "data/ContractForms.h"
 
 #include "automation/Dates.h"
 #include "automation/Error.h"
@@ -146,17 +147,17 @@ TEST_F(SqlFragments, ForCallersThatReportItThemselvesTheErrorNamesTheColumn)
         }
         return std::wstring(L"(none)");
     };
-    EXPECT_TRUE(errorOf([&] {
-                    data::UpdateField(Database.Catalogue, SetList, L"F_DATE", L"someday");
-                }).starts_with(L"F_DATE cannot be formatted: "));
-    EXPECT_TRUE(errorOf([&] {
-                    data::InsertField(Database.Catalogue, Fields, L"F_NUMBER", Values, L"1,5");
-                }).starts_with(L"F_NUMBER cannot be formatted: "));
+    data::InsertRow inserted(Database.Catalogue);
+    data::UpdateRow updated(Database.Catalogue);
+    EXPECT_TRUE(
+        errorOf([&] { updated.Add(L"F_DATE", L"someday"); }).starts_with(L"F_DATE cannot be formatted: "));
+    EXPECT_TRUE(
+        errorOf([&] { inserted.Add(L"F_NUMBER", L"1,5"); }).starts_with(L"F_NUMBER cannot be formatted: "));
     MessagesDuring([&] {
-        EXPECT_EQ(errorOf([&] { data::UpdateField(Database.Catalogue, SetList, L"F_ELSE", L"x"); }),
+        EXPECT_EQ(errorOf([&] { updated.Add(L"F_ELSE", L"x"); }),
                   L"F_ELSE cannot be formatted: SynFields has no such column");
     });
-    EXPECT_EQ(Fields + Values + SetList, L"");
+    EXPECT_EQ(inserted.Fields() + inserted.Values() + updated.SetList(), L"");
 }
 
 } // namespace
