@@ -12,28 +12,35 @@ namespace config
 
 using automation::Recordset;
 
+namespace
+{
+
+ChosenFolders FoldersIn(const Recordset& rows)
+{
+    ChosenFolders folders;
+    for (; !rows.AtEnd(); rows.MoveNext())
+    {
+        folders.push_back({automation::TextOrEmpty(rows.ValueOf(L"OutlookFolder")), false});
+        if (IsSet(rows.ValueOf(L"IsDefault"))) // of several, the last one counts
+        {
+            MakeDefault(folders, folders.size() - 1);
+        }
+    }
+    return folders;
+}
+
+} // namespace
+
 std::optional<ChosenFolders> LoadChosenFolders(const exchange::KindName& kind)
 {
-    using Result = std::optional<ChosenFolders>;
     Recordset rows;
     const automation::ClosesRecordset closes(rows);
-    return state::Trapped(Result(), [&] {
-        if (OpenUserRecordset(rows, L"Select * From " + std::wstring(kFolderTable) +
-                                        L" Where TransObjectID=" + std::to_wstring(kind.TransObjectID)))
-        {
-            return Result();
-        }
-        ChosenFolders folders;
-        for (; !rows.AtEnd(); rows.MoveNext())
-        {
-            folders.push_back({automation::TextOrEmpty(rows.ValueOf(L"OutlookFolder")), false});
-            if (IsSet(rows.ValueOf(L"IsDefault"))) // of several, the last one counts
-            {
-                MakeDefault(folders, folders.size() - 1);
-            }
-        }
-        return Result(std::move(folders));
-    });
+    ChosenFolders folders;
+    const bool failed =
+        OpenUserRecordset(rows, L"Select * From " + std::wstring(kFolderTable) + L" Where TransObjectID=" +
+                                    std::to_wstring(kind.TransObjectID)) ||
+        state::Failed([&] { folders = FoldersIn(rows); });
+    return failed ? std::nullopt : std::optional(std::move(folders));
 }
 
 bool IsListed(const ChosenFolders& folders, const std::wstring& path)

@@ -63,27 +63,29 @@ void ReadCalendarValues(SynParameter& record, const Recordset& rows)
 
 struct KindReader
 {
-    const wchar_t* TransObject;
+    const exchange::KindName& Kind;
     void (*Read)(SynParameter& record, const Recordset& rows);
 };
 
+// The kinds that have values of their own.
 constexpr KindReader kKindReaders[] = {
-    {L"Contact", [](SynParameter& /*record*/, const Recordset& /*rows*/) {}},
-    {L"Task", &ReadTaskValues},
-    {L"Calendar", &ReadCalendarValues},
+    {exchange::kTaskName, &ReadTaskValues},
+    {exchange::kCalendarName, &ReadCalendarValues},
 };
 
 void ReadValuesOfKind(SynParameter& record, const Recordset& rows, const std::wstring& objectName)
 {
+    if (exchange::FindKindName(objectName) == nullptr)
+    {
+        ui::ShowMessageBox(L"错误", MB_ABORTRETRYIGNORE, L"SetSynParamenter");
+    }
     for (const KindReader& reader : kKindReaders)
     {
-        if (objectName == reader.TransObject)
+        if (objectName == reader.Kind.TransObject)
         {
             reader.Read(record, rows);
-            return;
         }
     }
-    ui::ShowMessageBox(L"错误", MB_ABORTRETRYIGNORE, L"SetSynParamenter");
 }
 
 } // namespace
