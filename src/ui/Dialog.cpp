@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "resources/Strings.h"
+#include "state/Failures.h"
 #include "ui/ApplyFormFont.h"
 #include "ui/Busy.h"
 #include "ui/RowPainting.h"
@@ -213,10 +214,35 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
+template<typename Handler>
+void Dialog::RunHandler(Handler&& handler)
+{
+    if (mErrors == Errors::AreTrapped)
+    {
+        state::Trapped(handler);
+    }
+    else
+    {
+        handler();
+    }
+}
+
+void Dialog::WriteCaptions()
+{
+    for (const CaptionRow& row : mCaptions)
+    {
+        const HWND window = row.ControlId == kDialogCaption ? mWindow : GetDlgItem(mWindow, row.ControlId);
+        SetWindowTextW(window, row.Text.Text().c_str());
+    }
+}
+
 INT_PTR Dialog::HandleInit()
 {
     SetIcons();
-    OnInit();
+    RunHandler([&] {
+        WriteCaptions();
+        OnInit();
+    });
     CenterOverActiveBefore();
     if (const int first = FirstFocus(); first != 0)
     {
@@ -250,7 +276,7 @@ INT_PTR Dialog::HandleOrder(UINT message, WPARAM wParam, LPARAM lParam)
     }
     else if (message == WM_COMMAND)
     {
-        OnCommand(LOWORD(wParam), HIWORD(wParam));
+        RunHandler([&] { OnCommand(LOWORD(wParam), HIWORD(wParam)); });
     }
     else
     {
@@ -281,7 +307,9 @@ INT_PTR Dialog::HandleNotify(const NMHDR& notification)
     {
         return FALSE;
     }
-    SetWindowLongPtrW(mWindow, DWLP_MSGRESULT, OnNotify(notification));
+    LRESULT result = 0;
+    RunHandler([&] { result = OnNotify(notification); });
+    SetWindowLongPtrW(mWindow, DWLP_MSGRESULT, result);
     return TRUE;
 }
 

@@ -1,12 +1,14 @@
-// The base of every dialog: one class per dialog, a template by number, messages as virtual functions. An
-// object is made, shown modally and thrown away; its window exists only while it is shown. An exception in a
-// handler ends the dialog, and the function that showed the dialog throws it again.
+// The base of every dialog: one class per dialog, a template by number, captions as a table, messages as
+// virtual functions. An object is made, shown modally and thrown away; its window exists only while it is
+// shown.
 #pragma once
 
+#include "ui/Caption.h"
 #include "ui/ModalScope.h"
 
 #include <exception>
 #include <optional>
+#include <span>
 #include <string>
 
 #include <windows.h>
@@ -16,10 +18,22 @@ namespace ui
 
 class Busy;
 
+// An exception in a handler.
+enum class Errors
+{
+    EndTheDialog, // the function that showed it throws the exception again
+    AreTrapped,   // the dialog stays
+};
+
 class Dialog
 {
   public:
-    explicit Dialog(UINT templateId) noexcept : mTemplateId(templateId) {}
+    // captions: written before OnInit; they outlive the dialog.
+    explicit Dialog(UINT templateId, std::span<const CaptionRow> captions = {},
+                    Errors errors = Errors::EndTheDialog) noexcept
+        : mTemplateId(templateId), mCaptions(captions), mErrors(errors)
+    {
+    }
     Dialog(const Dialog&) = delete;
     Dialog& operator=(const Dialog&) = delete;
     virtual ~Dialog() = default;
@@ -66,8 +80,11 @@ class Dialog
     INT_PTR Run(HWND owner);
     INT_PTR HandleGuarded(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    template<typename Handler>
+    void RunHandler(Handler&& handler);
     INT_PTR HandleInit();
     void SetIcons();
+    void WriteCaptions();
     INT_PTR HandleOrder(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR HandleNotify(LPARAM parameter);
     INT_PTR HandleNotify(const NMHDR& notification);
@@ -76,6 +93,8 @@ class Dialog
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     UINT mTemplateId;
+    std::span<const CaptionRow> mCaptions;
+    Errors mErrors;
     HWND mWindow = nullptr;
     std::optional<ModalScope> mModal;
     Busy* mBusy = nullptr;

@@ -25,7 +25,7 @@ class FolderPicker : public testing::TestWithParam<Language>
     void Show(const std::function<void(Robot&, const ShownDialog&)>& script)
     {
         Drive([&](Robot& robot) { script(robot, robot.WaitForDialog()); },
-              [&] { config::FrmSynContent(mGround.Record()).ShowModal(); });
+              [&] { config::ShowSynContent(mGround.Record()); });
     }
 
     // Selects a folder by its names and presses Add.

@@ -21,7 +21,7 @@ class FrmOutLookOption : public testing::TestWithParam<Language>
     void Show(const std::function<void(Robot&, const ShownDialog&)>& script)
     {
         Drive([&](Robot& robot) { script(robot, robot.WaitForDialog()); },
-              [] { config::FrmOutLookOption().ShowModal(); });
+              [] { config::ShowOutLookOption(); });
     }
 
     static Texts Profiles(const ShownDialog& dialog)
@@ -213,7 +213,7 @@ TEST_P(FrmOutLookOption, AMissingKeyIsReportedWithItsCode)
             EXPECT_TRUE(Profiles(dialog).empty());
             dialog.Close();
         },
-        [] { config::FrmOutLookOption().ShowModal(); });
+        [] { config::ShowOutLookOption(); });
 }
 
 TEST_P(FrmOutLookOption, AMissingDefaultIsReportedWithItsCode)
@@ -226,7 +226,7 @@ TEST_P(FrmOutLookOption, AMissingDefaultIsReportedWithItsCode)
             EXPECT_EQ((Texts{L"Outlook", L"Second"}), Profiles(dialog));
             dialog.Close();
         },
-        [] { config::FrmOutLookOption().ShowModal(); });
+        [] { config::ShowOutLookOption(); });
 }
 
 // The class of a key may be longer than what a listing has room for.
@@ -249,7 +249,7 @@ TEST_P(FrmOutLookOption, ProfilesThatCannotBeListedAreReportedWithTheirCodeAndTh
             EXPECT_EQ(L"Outlook", dialog.Text(kProfile)); // the default one is shown all the same
             dialog.Close();
         },
-        [] { config::FrmOutLookOption().ShowModal(); });
+        [] { config::ShowOutLookOption(); });
 }
 
 TEST_P(FrmOutLookOption, ValuesThatCannotBeListedAreReportedWithTheirCodeAndNoDefaultIsShown)
@@ -264,7 +264,7 @@ TEST_P(FrmOutLookOption, ValuesThatCannotBeListedAreReportedWithTheirCodeAndNoDe
             EXPECT_EQ(L"", dialog.Text(kProfile));
             dialog.Close();
         },
-        [] { config::FrmOutLookOption().ShowModal(); });
+        [] { config::ShowOutLookOption(); });
 }
 
 TEST_P(FrmOutLookOption, AFailedWriteIsReportedWithItsCode)
@@ -298,7 +298,7 @@ TEST(ANewProfile, IsConnectedToAfterTheOldOutlookHasBeenLetGo)
             dialog.Click(IDOK);
             Answer(robot, dialog, Language::English, IDYES);
         },
-        [] { config::FrmOutLookOption().ShowModal(); });
+        [] { config::ShowOutLookOption(); });
     EXPECT_EQ((std::vector<bool>{false, false}), isOldHeld);
     EXPECT_TRUE(static_cast<bool>(state::Shared().gOlNamespace));
 }

@@ -27,8 +27,7 @@ class FrmSynChoose : public testing::TestWithParam<Language>
 
     void Show(const std::function<void(Robot&, const ShownDialog&)>& script)
     {
-        Drive([&](Robot& robot) { script(robot, robot.WaitForDialog()); },
-              [] { config::FrmSynChoose().ShowModal(); });
+        Drive([&](Robot& robot) { script(robot, robot.WaitForDialog()); }, [] { config::ShowSynChoose(); });
     }
 
     Ground mGround{GetParam()};

@@ -85,7 +85,7 @@ TEST_P(FrmSynContent, AfterARefusedLoadItSaysSoAndKeepsTheStoredFolders)
             dialog.Command(IDC_CONTENT_ADD);
             dialog.Command(IDOK); // all the same
         },
-        [&] { config::FrmSynContent(mGround.Record()).ShowModal(); });
+        [&] { config::ShowSynContent(mGround.Record()); });
     EXPECT_EQ(Texts{L"Store\\A|1"}, mGround.Folders(10));
     EXPECT_EQ(L"Store\\A", mGround.Record().CurrentFolder);
     EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Delete"));

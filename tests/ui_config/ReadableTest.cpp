@@ -25,15 +25,9 @@ struct Shown
     int page; // of the advanced dialogs
 };
 
-template<typename Form>
-void Show()
-{
-    Form().ShowModal();
-}
-
 void ShowPicker()
 {
-    config::FrmSynContent(state::Shared().gConfigureParameter).ShowModal();
+    config::ShowSynContent(state::Shared().gConfigureParameter);
 }
 
 void ShowAdvanced()
@@ -43,7 +37,7 @@ void ShowAdvanced()
 
 constexpr Shown kDialogs[] = {
     {"FrmConfigure", L"Contact", &config::ShowConfigure, 0},
-    {"FrmSynChoose", L"Contact", &Show<config::FrmSynChoose>, 0},
+    {"FrmSynChoose", L"Contact", &config::ShowSynChoose, 0},
     {"FrmSynContent", L"Contact", &ShowPicker, 0},
     {"FrmSynContent-calendar", L"Calendar", &ShowPicker, 0},
     {"FrmSynContent-task", L"Task", &ShowPicker, 0},
@@ -52,7 +46,7 @@ constexpr Shown kDialogs[] = {
     {"FrmAdvCalendar-range", L"Calendar", &ShowAdvanced, 1},
     {"FrmAdvActivites", L"Task", &ShowAdvanced, 0},
     {"FrmAdvActivites-range", L"Task", &ShowAdvanced, 1},
-    {"FrmOutLookOption", L"Contact", &Show<config::FrmOutLookOption>, 0},
+    {"FrmOutLookOption", L"Contact", &config::ShowOutLookOption, 0},
 };
 
 class ReadableConfiguration : public testing::TestWithParam<std::tuple<Language, double>>

@@ -1,4 +1,4 @@
-#include "config/dialogs/FrmAdvActivites.h"
+#include "config/dialogs/FrmAdvanced.h"
 
 #include "config/store/AdvancedOptions.h"
 #include "resources/Strings.h"
@@ -12,25 +12,37 @@ namespace
 
 constexpr int kTaskRangeCount = 2;
 
+constexpr ui::CaptionRow kTaskOptionCaptions[] = {
+    {ui::kDialogCaption, {L"任务高级设置", L"Advanced Settings for Activities"}},
+    {IDC_ADV_CONFLICT_EXPLANATION, IDS_CONFLICT_EXPLANATION},
+    {IDC_ADV_CONFLICT_FRAME, IDS_OPTIONS},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+    {IDC_ADV_RANGE_EXPLANATION, IDS_RANGE_EXPLANATION},
+    {IDC_ADV_RANGE_FRAME, IDS_OPTIONS},
+};
+
+// The conflict rule, and whether all tasks are exchanged or only pending ones.
+class FrmAdvActivites : public FrmAdvanced
+{
+  public:
+    FrmAdvActivites() : FrmAdvanced(IDD_ADVACTIVITES, exchange::kTaskName, kTaskOptionCaptions) {}
+
+  private:
+    void AddRangePage(ui::TabPages& tabs) override;
+    void LoadRange(const automation::Recordset& row) override;
+    void OnRange(int id, int notification) override;
+    void Store() override;
+
+    ui::OptionGroup OptTransRange{*this, IDC_ADV_RANGE, kTaskRangeCount, state::kAllTasks};
+
+    Code mRangeCode;
+};
+
 } // namespace
-
-FrmAdvActivites::FrmAdvActivites()
-    : FrmAdvanced(IDD_ADVACTIVITES, L"Task"),
-      lblRange(*this, IDC_ADV_RANGE_EXPLANATION),
-      fraRange(*this, IDC_ADV_RANGE_FRAME),
-      OptTransRange(*this, IDC_ADV_RANGE, kTaskRangeCount, state::kAllTasks)
-{
-}
-
-const wchar_t* FrmAdvActivites::Caption() const
-{
-    return resources::Choose(L"任务高级设置", L"Advanced Settings for Activities");
-}
 
 void FrmAdvActivites::AddRangePage(ui::TabPages& tabs)
 {
-    lblRange.SetText(resources::String(IDS_RANGE_EXPLANATION));
-    fraRange.SetText(resources::String(IDS_OPTIONS));
     OptTransRange.SetText(state::kAllTasks, resources::String(IDS_TASKS_ALL));
     OptTransRange.SetText(state::kPendingTasks, resources::String(IDS_TASKS_PENDING));
     tabs.AddPage(resources::Choose(L"任务", L"Activities"),
@@ -61,6 +73,11 @@ void FrmAdvActivites::Store()
     UpdateRow(TaskSetClause(ConflictCode(), mRangeCode));
     state::EditedParameter().TransConflictOption = ConflictCode().value_or(kNoCode);
     state::EditedParameter().TaskTransItem = mRangeCode.value_or(kNoCode);
+}
+
+void ShowAdvActivites()
+{
+    FrmAdvActivites().ShowModal();
 }
 
 } // namespace config

@@ -1,8 +1,9 @@
-#include "config/dialogs/FrmAdvCalendar.h"
+#include "config/dialogs/FrmAdvanced.h"
 
 #include "config/store/AdvancedOptions.h"
 #include "resources/Strings.h"
 #include "state/SharedState.h"
+#include "ui/DigitBox.h"
 
 #include <algorithm>
 #include <limits>
@@ -23,35 +24,51 @@ short DaysOf(Code days)
         std::clamp<long>(days.value_or(0), std::numeric_limits<short>::min(), kMostDays));
 }
 
+constexpr ui::CaptionRow kCalendarOptionCaptions[] = {
+    {ui::kDialogCaption, {L"日历高级设置", L"Advanced Settings for Calendar"}},
+    {IDC_ADV_CONFLICT_EXPLANATION, IDS_CONFLICT_EXPLANATION},
+    {IDC_ADV_CONFLICT_FRAME, IDS_OPTIONS},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+    {IDC_ADV_RANGE_EXPLANATION, IDS_RANGE_EXPLANATION},
+    {IDC_ADV_RANGE_FRAME, IDS_OPTIONS},
+    {IDC_ADVCALENDAR_PRIOR_LABEL, IDS_CALENDAR_PRIOR},
+    {IDC_ADVCALENDAR_AFTER_LABEL, IDS_CALENDAR_AFTER},
+};
+
+// The conflict rule, and whether all entries are exchanged, only future ones, or those within a range of days
+// around today.
+class FrmAdvCalendar : public FrmAdvanced
+{
+  public:
+    FrmAdvCalendar() : FrmAdvanced(IDD_ADVCALENDAR, exchange::kCalendarName, kCalendarOptionCaptions) {}
+
+  private:
+    void AddRangePage(ui::TabPages& tabs) override;
+    void LoadRange(const automation::Recordset& row) override;
+    void OnRange(int id, int notification) override;
+    void Store() override;
+
+    void ChooseRange(Code code);
+    void EnableDays(bool enabled);
+
+    ui::OptionGroup OptTransItems{*this, IDC_ADV_RANGE, kCalendarRangeCount, state::kAllEntries};
+    ui::Label lblPrior{*this, IDC_ADVCALENDAR_PRIOR_LABEL};
+    ui::DigitBox txtPrior{*this, IDC_ADVCALENDAR_PRIOR};
+    ui::Label lblAfter{*this, IDC_ADVCALENDAR_AFTER_LABEL};
+    ui::DigitBox txtAfter{*this, IDC_ADVCALENDAR_AFTER};
+
+    Code mRangeCode;
+};
+
 } // namespace
-
-FrmAdvCalendar::FrmAdvCalendar()
-    : FrmAdvanced(IDD_ADVCALENDAR, L"Calendar"),
-      lblRange(*this, IDC_ADV_RANGE_EXPLANATION),
-      fraRange(*this, IDC_ADV_RANGE_FRAME),
-      OptTransItems(*this, IDC_ADV_RANGE, kCalendarRangeCount, state::kAllEntries),
-      lblPrior(*this, IDC_ADVCALENDAR_PRIOR_LABEL),
-      txtPrior(*this, IDC_ADVCALENDAR_PRIOR),
-      lblAfter(*this, IDC_ADVCALENDAR_AFTER_LABEL),
-      txtAfter(*this, IDC_ADVCALENDAR_AFTER)
-{
-}
-
-const wchar_t* FrmAdvCalendar::Caption() const
-{
-    return resources::Choose(L"日历高级设置", L"Advanced Settings for Calendar");
-}
 
 void FrmAdvCalendar::AddRangePage(ui::TabPages& tabs)
 {
-    lblRange.SetText(resources::String(IDS_RANGE_EXPLANATION));
-    fraRange.SetText(resources::String(IDS_OPTIONS));
     for (int i = 0; i < kCalendarRangeCount; ++i)
     {
         OptTransItems.SetText(state::kAllEntries + i, resources::String(kRangeCaptions[i]));
     }
-    lblPrior.SetText(resources::String(IDS_CALENDAR_PRIOR));
-    lblAfter.SetText(resources::String(IDS_CALENDAR_AFTER));
     txtPrior.Prepare(kMostDays, ui::DigitBox::EnterKey::MovesFocusOn);
     txtAfter.Prepare(kMostDays, ui::DigitBox::EnterKey::ActsOnDefaultButton);
     tabs.AddPage(resources::Choose(L"日期范围", L"Date Range"),
@@ -115,6 +132,11 @@ void FrmAdvCalendar::Store()
     UpdateRow(CalendarSetClause(ConflictCode(), mRangeCode, prior, after));
     state::EditedParameter().TransConflictOption = ConflictCode().value_or(kNoCode);
     state::EditedParameter().CalendarTransItem = mRangeCode.value_or(kNoCode);
+}
+
+void ShowAdvCalendar()
+{
+    FrmAdvCalendar().ShowModal();
 }
 
 } // namespace config

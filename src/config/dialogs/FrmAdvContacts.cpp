@@ -1,23 +1,40 @@
-#include "config/dialogs/FrmAdvContacts.h"
+#include "config/dialogs/FrmAdvanced.h"
 
-#include "config/store/AdvancedOptions.h"
-#include "resources/Strings.h"
 #include "state/SharedState.h"
 
 namespace config
 {
 
-FrmAdvContacts::FrmAdvContacts() : FrmAdvanced(IDD_ADVCONTACTS, L"Contact") {}
-
-const wchar_t* FrmAdvContacts::Caption() const
+namespace
 {
-    return resources::Choose(L"联系人高级设置", L"Advanced settings for contact");
-}
 
-void FrmAdvContacts::Store()
+constexpr ui::CaptionRow kContactOptionCaptions[] = {
+    {ui::kDialogCaption, {L"联系人高级设置", L"Advanced settings for contact"}},
+    {IDC_ADV_CONFLICT_EXPLANATION, IDS_CONFLICT_EXPLANATION},
+    {IDC_ADV_CONFLICT_FRAME, IDS_OPTIONS},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+};
+
+// The conflict rule alone.
+class FrmAdvContacts : public FrmAdvanced
 {
-    UpdateRow(ContactSetClause(ConflictCode()));
-    state::EditedParameter().TransConflictOption = ConflictCode().value_or(kNoCode);
+  public:
+    FrmAdvContacts() : FrmAdvanced(IDD_ADVCONTACTS, exchange::kContactName, kContactOptionCaptions) {}
+
+  private:
+    void Store() override
+    {
+        UpdateRow(ContactSetClause(ConflictCode()));
+        state::EditedParameter().TransConflictOption = ConflictCode().value_or(kNoCode);
+    }
+};
+
+} // namespace
+
+void ShowAdvContacts()
+{
+    FrmAdvContacts().ShowModal();
 }
 
 } // namespace config

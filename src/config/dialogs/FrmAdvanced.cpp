@@ -1,8 +1,5 @@
 #include "config/dialogs/FrmAdvanced.h"
 
-#include "config/dialogs/FrmAdvActivites.h"
-#include "config/dialogs/FrmAdvCalendar.h"
-#include "config/dialogs/FrmAdvContacts.h"
 #include "config/dialogs/NotLoaded.h"
 #include "config/store/UserRows.h"
 #include "data/Literals.h"
@@ -19,30 +16,24 @@ namespace
 
 constexpr UINT kConflictCaptions[] = {IDS_CONFLICT_ADD_ALL, IDS_CONFLICT_IGNORE_ALL, IDS_CONFLICT_NOTIFY,
                                       IDS_CONFLICT_HOST_WINS, IDS_CONFLICT_OUTLOOK_WINS};
-constexpr int kConflictCount = static_cast<int>(std::size(kConflictCaptions));
+static_assert(std::size(kConflictCaptions) == kConflictCount);
 
-std::wstring WhereOf(const wchar_t* objectName)
+std::wstring WhereOf(const exchange::KindName& kind)
 {
-    return L"TransObject=" + data::QuotedText(objectName);
+    return L"TransObject=" + data::QuotedText(kind.TransObject);
 }
 
 } // namespace
 
-FrmAdvanced::FrmAdvanced(UINT templateId, const wchar_t* objectName)
-    : Dialog(templateId),
-      SstbOption(*this, IDC_ADV_TABS),
-      lblConflict(*this, IDC_ADV_CONFLICT_EXPLANATION),
-      fraConflict(*this, IDC_ADV_CONFLICT_FRAME),
-      OptConflict(*this, IDC_ADV_CONFLICT, kConflictCount, state::kAddAllConflicting),
-      CmdOk(*this, IDOK),
-      cmdCancel(*this, IDCANCEL),
-      mObjectName(objectName)
+FrmAdvanced::FrmAdvanced(UINT templateId, const exchange::KindName& kind,
+                         std::span<const ui::CaptionRow> captions)
+    : Dialog(templateId, captions, ui::Errors::AreTrapped), mKind(kind)
 {
 }
 
 void FrmAdvanced::OnInit()
 {
-    SetCaptions();
+    WriteConflictRules();
     SstbOption.AddPage(resources::String(IDS_CONFLICT_TAB),
                        {{IDC_ADV_CONFLICT_EXPLANATION, IDC_ADV_CONFLICT + kConflictCount - 1}});
     AddRangePage(SstbOption);
@@ -69,17 +60,12 @@ void FrmAdvanced::FitExplanations()
     }
 }
 
-void FrmAdvanced::SetCaptions()
+void FrmAdvanced::WriteConflictRules()
 {
-    SetCaption(Caption());
-    lblConflict.SetText(resources::String(IDS_CONFLICT_EXPLANATION));
-    fraConflict.SetText(resources::String(IDS_OPTIONS));
     for (int i = 0; i < kConflictCount; ++i)
     {
         OptConflict.SetText(state::kAddAllConflicting + i, resources::String(kConflictCaptions[i]));
     }
-    CmdOk.SetText(resources::String(IDS_OK));
-    cmdCancel.SetText(resources::String(IDS_CANCEL));
 }
 
 // False for failure.
@@ -87,8 +73,8 @@ bool FrmAdvanced::Load()
 {
     automation::Recordset row;
     const automation::ClosesRecordset closes(row);
-    if (OpenUserRecordset(row, L"Select * From " + std::wstring(kParameterTable) + L" Where " +
-                                   WhereOf(mObjectName)) ||
+    if (OpenUserRecordset(row,
+                          L"Select * From " + std::wstring(kParameterTable) + L" Where " + WhereOf(mKind)) ||
         row.AtEnd())
     {
         return false;
@@ -112,34 +98,32 @@ void FrmAdvanced::UpdateRow(const std::wstring& setClause) const
 {
     if (!setClause.empty())
     {
-        UpdateUserRows(setClause, kParameterTable, WhereOf(mObjectName));
+        UpdateUserRows(setClause, kParameterTable, WhereOf(mKind));
     }
 }
 
 void FrmAdvanced::OnCommand(int id, int notification)
 {
-    state::Trapped([&] {
-        if (const auto code = OptConflict.Clicked(id, notification))
+    if (const auto code = OptConflict.Clicked(id, notification))
+    {
+        mConflictCode = *code;
+    }
+    else if (id == IDOK)
+    {
+        if (mIsLoaded)
         {
-            mConflictCode = *code;
+            Store();
         }
-        else if (id == IDOK)
-        {
-            if (mIsLoaded)
-            {
-                Store();
-            }
-            Unload(IDOK);
-        }
-        else if (id == IDCANCEL)
-        {
-            Unload();
-        }
-        else
-        {
-            OnRange(id, notification);
-        }
-    });
+        Unload(IDOK);
+    }
+    else if (id == IDCANCEL)
+    {
+        Unload();
+    }
+    else
+    {
+        OnRange(id, notification);
+    }
 }
 
 LRESULT FrmAdvanced::OnNotify(const NMHDR& notification)
@@ -156,22 +140,16 @@ int FrmAdvanced::FirstFocus() const
 namespace
 {
 
-template<typename Form>
-void Show()
-{
-    Form().ShowModal();
-}
-
 struct AdvancedForm
 {
-    const wchar_t* TransObject;
+    const exchange::KindName& Kind;
     void (*Show)();
 };
 
 constexpr AdvancedForm kForms[] = {
-    {L"Contact", &Show<FrmAdvContacts>},
-    {L"Task", &Show<FrmAdvActivites>},
-    {L"Calendar", &Show<FrmAdvCalendar>},
+    {exchange::kContactName, &ShowAdvContacts},
+    {exchange::kTaskName, &ShowAdvActivites},
+    {exchange::kCalendarName, &ShowAdvCalendar},
 };
 
 } // namespace
@@ -180,7 +158,7 @@ void ShowAdvancedOptions(const std::wstring& objectName)
 {
     for (const AdvancedForm& form : kForms)
     {
-        if (objectName == form.TransObject)
+        if (objectName == form.Kind.TransObject)
         {
             form.Show();
         }

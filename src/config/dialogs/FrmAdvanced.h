@@ -7,6 +7,7 @@
 
 #include "automation/Recordset.h"
 #include "config/store/AdvancedOptions.h"
+#include "exchange/KindName.h"
 #include "state/SynParameter.h"
 #include "ui/Choices.h"
 #include "ui/Control.h"
@@ -16,19 +17,19 @@
 namespace config
 {
 
+inline constexpr int kConflictCount = 5; // option buttons
+
 class FrmAdvanced : public ui::Dialog
 {
   protected:
-    // objectName: "Contact", "Task" or "Calendar".
-    FrmAdvanced(UINT templateId, const wchar_t* objectName);
+    FrmAdvanced(UINT templateId, const exchange::KindName& kind, std::span<const ui::CaptionRow> captions);
 
     void OnInit() override;
     void OnCommand(int id, int notification) override;
     LRESULT OnNotify(const NMHDR& notification) override;
     int FirstFocus() const override;
 
-    // The dialog's caption, and the captions of a second tab where there is one.
-    virtual const wchar_t* Caption() const = 0;
+    // A second tab, where there is one.
     virtual void AddRangePage(ui::TabPages& /*tabs*/) {}
     // Copies the codes of the user's row into the record and shows them, those of the conflict rule excepted.
     virtual void LoadRange(const automation::Recordset& /*row*/) {}
@@ -43,21 +44,24 @@ class FrmAdvanced : public ui::Dialog
     Code ConflictCode() const noexcept { return mConflictCode; }
 
   private:
-    void SetCaptions();
+    void WriteConflictRules();
     void FitExplanations();
     bool Load();
 
-    ui::TabPages SstbOption;
-    ui::Label lblConflict;
-    ui::Frame fraConflict;
-    ui::OptionGroup OptConflict;
-    ui::Button CmdOk;
-    ui::Button cmdCancel;
+    ui::TabPages SstbOption{*this, IDC_ADV_TABS};
+    ui::Label lblConflict{*this, IDC_ADV_CONFLICT_EXPLANATION};
+    ui::OptionGroup OptConflict{*this, IDC_ADV_CONFLICT, kConflictCount, state::kAddAllConflicting};
+    ui::Button CmdOk{*this, IDOK};
 
-    const wchar_t* mObjectName;
+    const exchange::KindName& mKind;
     Code mConflictCode;
     bool mIsLoaded = false;
 };
+
+// The dialogs, modally. Throw as ui::Dialog::ShowModal.
+void ShowAdvContacts();
+void ShowAdvActivites();
+void ShowAdvCalendar();
 
 // Shows the dialog of the kind with this name, modally; any other name does nothing. Throws as
 // ui::Dialog::ShowModal.

@@ -3,13 +3,18 @@
 #include "config/dialogs/FrmAdvanced.h"
 #include "config/dialogs/FrmSynChoose.h"
 #include "config/dialogs/NotLoaded.h"
+#include "config/dialogs/Pictures.h"
 #include "config/store/ParameterStore.h"
+#include "config/store/Translation.h"
 #include "config/store/UserRows.h"
 #include "data/Literals.h"
 #include "exchange/KindName.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
+#include "ui/Control.h"
+#include "ui/Dialog.h"
+#include "ui/PictureListView.h"
 
 #include <utility>
 
@@ -22,6 +27,48 @@ namespace
 constexpr int kArrowColumn = 1;
 constexpr int kArrowColumnWidth = 10; // dialog units; the column then takes the rest
 
+constexpr ui::CaptionRow kConfigureCaptions[] = {
+    {ui::kDialogCaption, {L"配置同步传输", L"Config Translation"}},
+    {IDC_CONFIGURE_LABEL, {L"本系统同步项目:", L"Quenlar Applications"}},
+    {IDC_CONFIGURE_ADVANCE, {L"高级(&A)...", L"&Advanced..."}},
+    {IDC_CONFIGURE_CHOOSE, {L"选择(&S)...", L"Choo&se..."}},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+};
+
+// Its rows are edited in memory and written on OK; the configuration record of the shared state always
+// describes the selected row. At first that is the row of the kind that the record names: the one chosen in
+// the main dialog.
+class FrmConfigure : public ui::Dialog
+{
+  public:
+    FrmConfigure() : Dialog(IDD_CONFIGURE, kConfigureCaptions, ui::Errors::AreTrapped) {}
+
+  private:
+    void OnInit() override;
+    void OnCommand(int id, int notification) override;
+    LRESULT OnNotify(const NMHDR& notification) override;
+
+    void FillList();
+    void SelectKindOfRecord();
+    void DescribeSelected(int row);
+    void EnableButtons();
+    void Redraw(int row);
+    void TakeCheckMark(int row);
+    void OnChoose();
+    void OnAdvance();
+    void OnOk();
+
+    ui::PictureListView lvTran{*this, IDC_CONFIGURE_LIST};
+    ui::Button cmdChoose{*this, IDC_CONFIGURE_CHOOSE};
+    ui::Button cmdAdvance{*this, IDC_CONFIGURE_ADVANCE};
+    ui::Button CmdOk{*this, IDOK};
+
+    Pictures mPictures;
+    std::vector<Translation> mRows;
+    bool mDrawing = false; // the program, not the user, is changing the list
+};
+
 // The row's own picture, or that of its kind where the row names none that there is.
 int PictureOfKind(const Translation& row)
 {
@@ -32,32 +79,13 @@ int PictureOfKind(const Translation& row)
 
 } // namespace
 
-FrmConfigure::FrmConfigure()
-    : Dialog(IDD_CONFIGURE),
-      lblTran(*this, IDC_CONFIGURE_LABEL),
-      lvTran(*this, IDC_CONFIGURE_LIST),
-      cmdChoose(*this, IDC_CONFIGURE_CHOOSE),
-      cmdAdvance(*this, IDC_CONFIGURE_ADVANCE),
-      CmdOk(*this, IDOK),
-      cmdCancel(*this, IDCANCEL)
-{
-}
-
 void FrmConfigure::OnInit()
 {
-    SetCaption(resources::Choose(L"配置同步传输", L"Config Translation"));
-    lblTran.SetText(resources::Choose(L"本系统同步项目:", L"Quenlar Applications"));
-    cmdAdvance.SetText(resources::Choose(L"高级(&A)...", L"&Advanced..."));
-    cmdChoose.SetText(resources::Choose(L"选择(&S)...", L"Choo&se..."));
-    CmdOk.SetText(resources::String(IDS_OK));
-    cmdCancel.SetText(resources::String(IDS_CANCEL));
     lvTran.Prepare();
     lvTran.UsePictures(mPictures.List());
     lvTran.UseCheckBoxes();
-    state::Trapped([&] {
-        FillList();
-        SelectKindOfRecord();
-    });
+    FillList();
+    SelectKindOfRecord();
 }
 
 void FrmConfigure::FillList()
@@ -140,34 +168,30 @@ void FrmConfigure::TakeCheckMark(int row)
 
 LRESULT FrmConfigure::OnNotify(const NMHDR& notification)
 {
-    return state::Trapped(LRESULT{0}, [&] {
-        if (lvTran.IsSelectionChange(notification))
+    if (lvTran.IsSelectionChange(notification))
+    {
+        if (const auto selected = lvTran.NewlySelected(notification))
         {
-            if (const auto selected = lvTran.NewlySelected(notification))
-            {
-                DescribeSelected(*selected);
-            }
-            EnableButtons();
+            DescribeSelected(*selected);
         }
-        else if (const auto toggled = lvTran.Toggled(notification); toggled && !mDrawing)
-        {
-            TakeCheckMark(*toggled);
-        }
-        return LRESULT{0};
-    });
+        EnableButtons();
+    }
+    else if (const auto toggled = lvTran.Toggled(notification); toggled && !mDrawing)
+    {
+        TakeCheckMark(*toggled);
+    }
+    return LRESULT{0};
 }
 
 void FrmConfigure::OnCommand(int id, int notification)
 {
-    state::Trapped([&] {
-        switch (id)
-        {
-        case IDC_CONFIGURE_CHOOSE: OnChoose(); break;
-        case IDC_CONFIGURE_ADVANCE: OnAdvance(); break;
-        case IDOK: OnOk(); break;
-        default: Dialog::OnCommand(id, notification); break;
-        }
-    });
+    switch (id)
+    {
+    case IDC_CONFIGURE_CHOOSE: OnChoose(); break;
+    case IDC_CONFIGURE_ADVANCE: OnAdvance(); break;
+    case IDOK: OnOk(); break;
+    default: Dialog::OnCommand(id, notification); break;
+    }
 }
 
 void FrmConfigure::OnChoose()
@@ -177,7 +201,7 @@ void FrmConfigure::OnChoose()
     {
         return;
     }
-    FrmSynChoose().ShowModal();
+    ShowSynChoose();
     TakeFrom(mRows.at(static_cast<size_t>(*row)), state::EditedParameter());
     Redraw(*row);
 }

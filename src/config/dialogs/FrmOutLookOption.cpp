@@ -3,9 +3,13 @@
 #include "config/outlook/OutlookFolders.h"
 #include "config/outlook/OutlookProfiles.h"
 #include "config/outlook/ProfileText.h"
+#include "config/outlook/SysReg.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
+#include "ui/Choices.h"
+#include "ui/Control.h"
+#include "ui/Dialog.h"
 #include "ui/FitText.h"
 #include "ui/ShowMessageBox.h"
 
@@ -37,33 +41,43 @@ void ConnectAnew()
     shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
 }
 
-} // namespace
+constexpr ui::CaptionRow kOptionCaptions[] = {
+    {ui::kDialogCaption, IDS_PROFILE_CAPTION},
+    {IDC_OUTLOOKOPTION_EXPLANATION, IDS_PROFILE_EXPLANATION},
+    {IDC_OUTLOOKOPTION_LABEL, IDS_PROFILE_LABEL},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+};
 
-FrmOutLookOption::FrmOutLookOption()
-    : Dialog(IDD_OUTLOOKOPTION),
-      lblExplanation(*this, IDC_OUTLOOKOPTION_EXPLANATION),
-      lblProfile(*this, IDC_OUTLOOKOPTION_LABEL),
-      CmbProfile(*this, IDC_OUTLOOKOPTION_PROFILE),
-      CmdOk(*this, IDOK),
-      cmdCancel(*this, IDCANCEL)
+class FrmOutLookOption : public ui::Dialog
 {
-}
+  public:
+    FrmOutLookOption() : Dialog(IDD_OUTLOOKOPTION, kOptionCaptions, ui::Errors::AreTrapped) {}
+
+  private:
+    void OnInit() override;
+    void OnCommand(int id, int notification) override;
+
+    void LoadProfiles();
+    void ListProfiles();
+    void ShowDefaultProfile();
+    void OnOk();
+    void ChangeProfile();
+
+    ui::Label lblExplanation{*this, IDC_OUTLOOKOPTION_EXPLANATION};
+    ui::ComboBox CmbProfile{*this, IDC_OUTLOOKOPTION_PROFILE};
+
+    TSysReg mRegistry;
+    std::wstring mProfileShown; // as the dialog was opened
+};
+
+} // namespace
 
 void FrmOutLookOption::OnInit()
 {
-    SetCaptions();
     ui::FitLabels(*this, {&lblExplanation});
     state::Trapped([&] { LoadProfiles(); });
     mProfileShown = CmbProfile.Text();
-}
-
-void FrmOutLookOption::SetCaptions()
-{
-    SetCaption(resources::String(IDS_PROFILE_CAPTION));
-    lblExplanation.SetText(resources::String(IDS_PROFILE_EXPLANATION));
-    lblProfile.SetText(resources::String(IDS_PROFILE_LABEL));
-    CmdOk.SetText(resources::String(IDS_OK));
-    cmdCancel.SetText(resources::String(IDS_CANCEL));
 }
 
 void FrmOutLookOption::LoadProfiles()
@@ -120,16 +134,14 @@ void FrmOutLookOption::ShowDefaultProfile()
 
 void FrmOutLookOption::OnCommand(int id, int notification)
 {
-    state::Trapped([&] {
-        if (id == IDOK)
-        {
-            OnOk();
-        }
-        else
-        {
-            Dialog::OnCommand(id, notification);
-        }
-    });
+    if (id == IDOK)
+    {
+        OnOk();
+    }
+    else
+    {
+        Dialog::OnCommand(id, notification);
+    }
 }
 
 void FrmOutLookOption::OnOk()
@@ -149,6 +161,11 @@ void FrmOutLookOption::ChangeProfile()
     }
     ConnectAnew();
     PurgeMissingFolders();
+}
+
+void ShowOutLookOption()
+{
+    FrmOutLookOption().ShowModal();
 }
 
 } // namespace config

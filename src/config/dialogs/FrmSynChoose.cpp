@@ -7,8 +7,10 @@
 #include "config/store/Translation.h"
 #include "exchange/KindName.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
 #include "state/SharedState.h"
+#include "ui/Choices.h"
+#include "ui/Control.h"
+#include "ui/Dialog.h"
 #include "ui/FitText.h"
 
 namespace config
@@ -24,23 +26,47 @@ constexpr wchar_t kOutlookSource[] = L"Outlook";
 
 constexpr int kDirectionCount = 3;
 
-} // namespace
+constexpr ui::CaptionRow kChooseCaptions[] = {
+    {IDC_CHOOSE_PROMPT, IDS_CHOOSE_PROMPT},
+    {IDC_CHOOSE_TRANSLATORS_LABEL, IDS_CHOOSE_TRANSLATORS},
+    {IDC_CHOOSE_OPERATION, IDS_CHOOSE_OPERATION},
+    {IDC_CHOOSE_FOLDER_LABEL, IDS_CHOOSE_FOLDER},
+    {IDC_CHOOSE_BROWSE, IDS_CHOOSE_BROWSE},
+    {IDC_CHOOSE_OPTION, IDS_CHOOSE_OPTION},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+};
 
-FrmSynChoose::FrmSynChoose()
-    : Dialog(IDD_SYNCHOOSE),
-      lblPrompt(*this, IDC_CHOOSE_PROMPT),
-      lblTranslators(*this, IDC_CHOOSE_TRANSLATORS_LABEL),
-      lstTran(*this, IDC_CHOOSE_TRANSLATORS),
-      fraOperation(*this, IDC_CHOOSE_OPERATION),
-      OptSynType(*this, IDC_CHOOSE_DIRECTION, kDirectionCount, state::kOutlookToQuenlar),
-      lblFolder(*this, IDC_CHOOSE_FOLDER_LABEL),
-      txtFolder(*this, IDC_CHOOSE_FOLDER),
-      cmdBrowse(*this, IDC_CHOOSE_BROWSE),
-      cmdOption(*this, IDC_CHOOSE_OPTION),
-      CmdOk(*this, IDOK),
-      cmdCancel(*this, IDCANCEL)
+class FrmSynChoose : public ui::Dialog
 {
-}
+  public:
+    FrmSynChoose() : Dialog(IDD_SYNCHOOSE, kChooseCaptions, ui::Errors::AreTrapped) {}
+
+  private:
+    void OnInit() override;
+    void OnCommand(int id, int notification) override;
+
+    void SetCaptions();
+    void TakeFromRecord();
+    void ShowFolder();
+    void OnTranslator();
+    void OnDirection(long transType);
+    void OnBrowse();
+    void OnOption();
+    void OnOk();
+
+    ui::Label lblPrompt{*this, IDC_CHOOSE_PROMPT};
+    ui::ListBox lstTran{*this, IDC_CHOOSE_TRANSLATORS};
+    ui::OptionGroup OptSynType{*this, IDC_CHOOSE_DIRECTION, kDirectionCount, state::kOutlookToQuenlar};
+    ui::TextBox txtFolder{*this, IDC_CHOOSE_FOLDER};
+
+    long mTransType = 0;
+    std::wstring mTransTypePic;
+    std::wstring mTransSource;
+    bool mDirectionChosen = false; // by the user, in this dialog
+};
+
+} // namespace
 
 void FrmSynChoose::OnInit()
 {
@@ -48,11 +74,9 @@ void FrmSynChoose::OnInit()
     ui::FitLabels(*this, {&lblPrompt});
     lstTran.Add(L"<None>");
     lstTran.Add(L"Ms Outlook");
-    state::Trapped([&] {
-        TakeFromRecord();
-        LoadDefaultFolder(state::EditedParameter(), state::EditedParameter().TransObject);
-        ShowFolder();
-    });
+    TakeFromRecord();
+    LoadDefaultFolder(state::EditedParameter(), state::EditedParameter().TransObject);
+    ShowFolder();
 }
 
 void FrmSynChoose::SetCaptions()
@@ -62,18 +86,10 @@ void FrmSynChoose::SetCaptions()
     {
         SetCaption(resources::String(kind->Caption));
     }
-    lblPrompt.SetText(resources::String(IDS_CHOOSE_PROMPT));
-    lblTranslators.SetText(resources::String(IDS_CHOOSE_TRANSLATORS));
-    fraOperation.SetText(resources::String(IDS_CHOOSE_OPERATION));
     for (const Direction& direction : Directions())
     {
         OptSynType.SetText(direction.TransType, resources::String(direction.Caption));
     }
-    lblFolder.SetText(resources::String(IDS_CHOOSE_FOLDER));
-    cmdBrowse.SetText(resources::String(IDS_CHOOSE_BROWSE));
-    cmdOption.SetText(resources::String(IDS_CHOOSE_OPTION));
-    CmdOk.SetText(resources::String(IDS_OK));
-    cmdCancel.SetText(resources::String(IDS_CANCEL));
 }
 
 void FrmSynChoose::TakeFromRecord()
@@ -92,26 +108,24 @@ void FrmSynChoose::ShowFolder()
 
 void FrmSynChoose::OnCommand(int id, int notification)
 {
-    state::Trapped([&] {
-        if (const auto direction = OptSynType.Clicked(id, notification))
+    if (const auto direction = OptSynType.Clicked(id, notification))
+    {
+        OnDirection(*direction);
+        return;
+    }
+    switch (id)
+    {
+    case IDC_CHOOSE_TRANSLATORS:
+        if (notification == LBN_SELCHANGE)
         {
-            OnDirection(*direction);
-            return;
+            OnTranslator();
         }
-        switch (id)
-        {
-        case IDC_CHOOSE_TRANSLATORS:
-            if (notification == LBN_SELCHANGE)
-            {
-                OnTranslator();
-            }
-            break;
-        case IDC_CHOOSE_BROWSE: OnBrowse(); break;
-        case IDC_CHOOSE_OPTION: OnOption(); break;
-        case IDOK: OnOk(); break;
-        default: Dialog::OnCommand(id, notification); break;
-        }
-    });
+        break;
+    case IDC_CHOOSE_BROWSE: OnBrowse(); break;
+    case IDC_CHOOSE_OPTION: OnOption(); break;
+    case IDOK: OnOk(); break;
+    default: Dialog::OnCommand(id, notification); break;
+    }
 }
 
 void FrmSynChoose::OnTranslator()
@@ -147,7 +161,7 @@ void FrmSynChoose::OnBrowse()
     {
         return;
     }
-    FrmSynContent(state::EditedParameter()).ShowModalOver(*this);
+    ShowSynContent(state::EditedParameter(), this);
     ShowFolder();
 }
 
@@ -157,7 +171,7 @@ void FrmSynChoose::OnOption()
     {
         return;
     }
-    FrmOutLookOption().ShowModal();
+    ShowOutLookOption();
     ShowFolder();
 }
 
@@ -168,6 +182,11 @@ void FrmSynChoose::OnOk()
     state::EditedParameter().TransTypePic = mTransTypePic;
     state::EditedParameter().IsTrans = !mTransSource.empty();
     Unload(IDOK);
+}
+
+void ShowSynChoose()
+{
+    FrmSynChoose().ShowModal();
 }
 
 } // namespace config

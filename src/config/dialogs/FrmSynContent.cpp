@@ -1,38 +1,89 @@
 #include "config/dialogs/FrmSynContent.h"
 
 #include "config/dialogs/NotLoaded.h"
+#include "config/dialogs/Pictures.h"
+#include "config/outlook/FolderTree.h"
+#include "config/store/ChosenFolders.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 #include "ui/Busy.h"
+#include "ui/Control.h"
 #include "ui/FitText.h"
+#include "ui/PictureListView.h"
 #include "ui/SentMessage.h"
+#include "ui/TreeView.h"
 
 #include <algorithm>
 
 namespace config
 {
 
-FrmSynContent::FrmSynContent(state::SynParameter& record)
-    : Dialog(IDD_SYNCONTENT),
-      lblPrompt(*this, IDC_CONTENT_PROMPT),
-      lblTree(*this, IDC_CONTENT_TREE_LABEL),
-      tvOlFolder(*this, IDC_CONTENT_TREE),
-      cmdAdd(*this, IDC_CONTENT_ADD),
-      cmdRemove(*this, IDC_CONTENT_REMOVE),
-      cmdDefault(*this, IDC_CONTENT_DEFAULT),
-      lblList(*this, IDC_CONTENT_LIST_LABEL),
-      lvSelItems(*this, IDC_CONTENT_LIST),
-      CmdOk(*this, IDOK),
-      cmdCancel(*this, IDCANCEL),
-      mRecord(record),
-      mKind(exchange::FindKindName(record.TransObject))
+namespace
 {
-}
+
+constexpr ui::CaptionRow kContentCaptions[] = {
+    {IDC_CONTENT_TREE_LABEL, {L"选择", L"Choose"}},
+    {IDC_CONTENT_ADD, {L"添加(&A)", L"&Add"}},
+    {IDC_CONTENT_DEFAULT, {L"缺省(&D)", L"&Default"}},
+    {IDC_CONTENT_REMOVE, {L"移除(&R)", L"&Remove"}},
+    {IDC_CONTENT_LIST_LABEL, IDS_PICKER_CHOSEN},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+};
+
+class FrmSynContent : public ui::Dialog
+{
+  public:
+    explicit FrmSynContent(state::SynParameter& record)
+        : Dialog(IDD_SYNCONTENT, kContentCaptions, ui::Errors::AreTrapped),
+          mRecord(record),
+          mKind(exchange::FindKindName(record.TransObject))
+    {
+    }
+
+  private:
+    void OnInit() override;
+    void OnCommand(int id, int notification) override;
+    LRESULT OnNotify(const NMHDR& notification) override;
+
+    void WriteKind();
+    void FillTree();
+    std::vector<HTREEITEM> AddNodes(HTREEITEM parent, const FolderNode& folder);
+    std::vector<HTREEITEM> OpenNode(HTREEITEM node);
+    HTREEITEM OpenDownTo(const std::wstring& path, std::vector<HTREEITEM> nodes);
+    bool LoadChosen();
+    void ShowChosen(size_t selected);
+    void EnableButtons();
+    bool IsChanged() const;
+    void OnAdd();
+    void OnRemove();
+    void OnDefault();
+    void OnOk();
+
+    ui::Label lblPrompt{*this, IDC_CONTENT_PROMPT};
+    ui::TreeView tvOlFolder{*this, IDC_CONTENT_TREE};
+    ui::Button cmdAdd{*this, IDC_CONTENT_ADD};
+    ui::Button cmdRemove{*this, IDC_CONTENT_REMOVE};
+    ui::Button cmdDefault{*this, IDC_CONTENT_DEFAULT};
+    ui::PictureListView lvSelItems{*this, IDC_CONTENT_LIST};
+    ui::Button CmdOk{*this, IDOK};
+
+    state::SynParameter& mRecord;
+    const exchange::KindName* mKind; // null for an unknown kind: nothing is shown or written
+    Pictures mPictures;
+    std::vector<FolderNode> mNodes; // by the number that the tree's nodes carry
+    ChosenFolders mChosen;
+    ChosenFolders mStored;
+    std::optional<int> mFirstSelected; // row of the list
+    bool mIsLoaded = false;
+};
+
+} // namespace
 
 void FrmSynContent::OnInit()
 {
-    SetCaptions();
+    WriteKind();
     ui::FitLabels(*this, {&lblPrompt});
     tvOlFolder.Prepare();
     tvOlFolder.UsePictures(mPictures.List());
@@ -64,20 +115,13 @@ bool FrmSynContent::LoadChosen()
     return true;
 }
 
-void FrmSynContent::SetCaptions()
+void FrmSynContent::WriteKind()
 {
     if (mKind != nullptr)
     {
         SetCaption(resources::String(mKind->FolderPickerCaption));
         lblPrompt.SetText(resources::String(mKind->FolderPickerPrompt));
     }
-    lblTree.SetText(resources::Choose(L"选择", L"Choose"));
-    cmdAdd.SetText(resources::Choose(L"添加(&A)", L"&Add"));
-    cmdDefault.SetText(resources::Choose(L"缺省(&D)", L"&Default"));
-    cmdRemove.SetText(resources::Choose(L"移除(&R)", L"&Remove"));
-    lblList.SetText(resources::String(IDS_PICKER_CHOSEN));
-    CmdOk.SetText(resources::String(IDS_OK));
-    cmdCancel.SetText(resources::String(IDS_CANCEL));
 }
 
 // The tree is opened down to the default folder; without one the first store is, since a user's folders are
@@ -178,43 +222,39 @@ void FrmSynContent::EnableButtons()
 
 LRESULT FrmSynContent::OnNotify(const NMHDR& notification)
 {
-    return state::Trapped(LRESULT{0}, [&] {
-        const auto opening = tvOlFolder.FirstOpening(notification);
-        if (opening && ui::IsSenderWaiting())
-        {
-            tvOlFolder.OpenLater(*opening);
-            return LRESULT{TRUE}; // not now
-        }
-        if (opening)
-        {
-            const ui::Busy busy(*this);
-            OpenNode(*opening);
-        }
-        else if (tvOlFolder.IsDoubleClickOnNode(notification))
-        {
-            OnAdd();
-            return LRESULT{TRUE}; // and the node stays open or closed as it is
-        }
-        else if (tvOlFolder.IsSelectionChange(notification) || lvSelItems.IsSelectionChange(notification))
-        {
-            EnableButtons();
-        }
-        return LRESULT{FALSE};
-    });
+    const auto opening = tvOlFolder.FirstOpening(notification);
+    if (opening && ui::IsSenderWaiting())
+    {
+        tvOlFolder.OpenLater(*opening);
+        return LRESULT{TRUE}; // not now
+    }
+    if (opening)
+    {
+        const ui::Busy busy(*this);
+        OpenNode(*opening);
+    }
+    else if (tvOlFolder.IsDoubleClickOnNode(notification))
+    {
+        OnAdd();
+        return LRESULT{TRUE}; // and the node stays open or closed as it is
+    }
+    else if (tvOlFolder.IsSelectionChange(notification) || lvSelItems.IsSelectionChange(notification))
+    {
+        EnableButtons();
+    }
+    return LRESULT{FALSE};
 }
 
 void FrmSynContent::OnCommand(int id, int notification)
 {
-    state::Trapped([&] {
-        switch (id)
-        {
-        case IDC_CONTENT_ADD: OnAdd(); break;
-        case IDC_CONTENT_REMOVE: OnRemove(); break;
-        case IDC_CONTENT_DEFAULT: OnDefault(); break;
-        case IDOK: OnOk(); break;
-        default: Dialog::OnCommand(id, notification); break;
-        }
-    });
+    switch (id)
+    {
+    case IDC_CONTENT_ADD: OnAdd(); break;
+    case IDC_CONTENT_REMOVE: OnRemove(); break;
+    case IDC_CONTENT_DEFAULT: OnDefault(); break;
+    case IDOK: OnOk(); break;
+    default: Dialog::OnCommand(id, notification); break;
+    }
 }
 
 void FrmSynContent::OnAdd()
@@ -264,6 +304,19 @@ void FrmSynContent::OnOk()
         }
     }
     Unload(IDOK);
+}
+
+void ShowSynContent(state::SynParameter& record, const ui::Dialog* owner)
+{
+    FrmSynContent picker(record);
+    if (owner != nullptr)
+    {
+        picker.ShowModalOver(*owner);
+    }
+    else
+    {
+        picker.ShowModal();
+    }
 }
 
 } // namespace config
