@@ -9,7 +9,7 @@ export WINEPREFIX=$prefix WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree
 export WINEARCH=${TELVIX_WINEARCH:-win64}
 
 packages=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
-    wine wine64 fonts-wine xvfb xauth imagemagick xdotool unixodbc libsqliteodbc sqlite3
+    wine wine64 fonts-wine xvfb xauth openbox x11-utils imagemagick xdotool unixodbc libsqliteodbc sqlite3
     fonts-wqy-microhei googletest)
 
 fail() {
