@@ -2,24 +2,28 @@
 # run.sh PROGRAM: runs a test program on a desktop with a window manager and a window of another program. Wine leaves
 # the program's windows to the window manager, as it does for users.
 # run.sh choose TITLE: activates the window with that title, as a task bar does.
-# run.sh front: writes the title of the window in front to the file that DESKTOP_ANSWER names.
+# run.sh front: tells the title of the window in front.
+# Both write their answer to the file that DESKTOP_ANSWER names.
 set -u
 other='Window of another program'
 
 choose() {
-    xdotool windowactivate "$(xdotool search --name "^$1\$" | tail -n 1)" 2>/dev/null
+    xdotool windowactivate "$(xdotool search --name "^$1\$" 2>/dev/null | tail -n 1)" && echo chosen
+    sleep 0.3 # until the window manager and the program have moved their windows
 }
 
 front() {
     local stack
     stack=$(xprop -root _NET_CLIENT_LIST_STACKING)
-    xdotool getwindowname "${stack##*[ ,]}" >"$DESKTOP_ANSWER.new" 2>/dev/null
-    mv "$DESKTOP_ANSWER.new" "$DESKTOP_ANSWER"
+    xdotool getwindowname "${stack##*[ ,]}"
 }
 
 case $1 in
-choose) choose "$2"; exit ;;
-front) front; exit ;;
+choose | front)
+    "$@" >"$DESKTOP_ANSWER.new" 2>/dev/null
+    mv "$DESKTOP_ANSWER.new" "$DESKTOP_ANSWER"
+    exit
+    ;;
 esac
 
 program=$1
