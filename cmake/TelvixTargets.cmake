@@ -36,11 +36,20 @@ endif()
 target_link_libraries(telvix_options INTERFACE
   ole32 oleaut32 uuid comctl32 comdlg32 gdi32 user32 uxtheme advapi32)
 
+# Test programs are linked by LLVM's linker, for its speed. The component and the fakes keep GNU's, with which they are
+# shipped, and so do 32-bit programs, whose exceptions it does not serve.
+find_program(TELVIX_LLD ld.lld)
+set(telvix_test_linker)
+if(TELVIX_LLD AND NOT MSVC AND CMAKE_SIZEOF_VOID_P EQUAL 8)
+  set(telvix_test_linker -wrapper ${CMAKE_SOURCE_DIR}/scripts/link_with_lld)
+endif()
+
 # telvix_test_options(NAME): the options of a test's own sources. The code under test keeps its optimisation;
 # assertions compile in half the time without. A fixture in an unnamed namespace has one linkage, also where
 # several sources are compiled as one.
 function(telvix_test_options name)
   set_target_properties(${name} PROPERTIES TELVIX_IS_TEST ON)
+  target_link_options(${name} PRIVATE ${telvix_test_linker})
   if(TELVIX_UNITY AND NOT MSVC)
     target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-Wno-subobject-linkage>)
   endif()

@@ -8,7 +8,7 @@ prefix=${TELVIX_PREFIX:-$root/build/wine}
 export WINEPREFIX=$prefix WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe="
 export WINEARCH=${TELVIX_WINEARCH:-win64}
 
-packages=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
+packages=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools lld
     wine wine64 fonts-wine xvfb xauth openbox x11-utils imagemagick xdotool unixodbc libsqliteodbc sqlite3
     fonts-wqy-microhei googletest)
 

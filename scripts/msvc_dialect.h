@@ -1,5 +1,5 @@
-// Included first when clang checks the sources as for MSVC, over mingw-w64's headers: these name an interface's
-// identifier for GCC alone, and the dialect of MSVC takes it from the declaration.
+// Included first when clang checks the sources as for MSVC, over mingw-w64's headers: these name an
+// interface's identifier for GCC alone, and the dialect of MSVC takes it from the declaration.
 #pragma once
 
 #include <windows.h>

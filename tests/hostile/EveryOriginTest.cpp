@@ -4,7 +4,6 @@
 #include "calendar/Calendar.h"
 #include "config/outlook/OutlookFolders.h"
 #include "config/store/ChosenFolders.h"
-#include "config/outlook/OutlookFolders.h"
 #include "config/store/ParameterStore.h"
 #include "config/store/Translation.h"
 #include "config/store/UserRows.h"

@@ -3,7 +3,6 @@
 #include "automation/Text.h"
 #include "config/outlook/OutlookFolders.h"
 #include "config/store/ChosenFolders.h"
-#include "config/outlook/OutlookFolders.h"
 #include "config/store/ParameterStore.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"

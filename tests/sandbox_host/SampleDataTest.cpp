@@ -180,8 +180,8 @@ TEST_F(SampleDataTest, NoTwoRecordsOfASideAreTheSameInWhatTheyAreMatchedBy)
     EXPECT_TRUE(
         AreUnique(KeysOfRows(Calendar(), {L"F_ACTNAME", L"F_ACTTYPE", L"F_ACTESDATE", L"F_ACTESTIME"})));
     EXPECT_TRUE(AreUnique(KeysOfItems(mMailbox, tools::kContactsFolder, {L"LastName", L"FirstName"})));
-    EXPECT_TRUE(AreUnique(KeysOfItems(mMailbox, tools::kTasksFolder,
-                                      {L"Subject", L"Categories", L"StartDate", L"Companies"})));
+    EXPECT_TRUE(AreUnique(
+        KeysOfItems(mMailbox, tools::kTasksFolder, {L"Subject", L"Categories", L"StartDate", L"Companies"})));
     EXPECT_TRUE(
         AreUnique(KeysOfItems(mMailbox, tools::kCalendarFolder, {L"Subject", L"Categories", L"Start"})));
 }
