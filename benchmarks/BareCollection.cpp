@@ -9,10 +9,10 @@ namespace
 {
 
 // The DISPIDs of the members that are read of each of many objects.
-class MemberIds
+class KeyIds
 {
   public:
-    MemberIds(Ids policy, size_t count) : mPolicy(policy), mIds(count, DISPID_UNKNOWN) {}
+    KeyIds(Ids policy, size_t count) : mPolicy(policy), mIds(count, DISPID_UNKNOWN) {}
 
     DISPID Of(const RawObject& object, size_t index, const wchar_t* member)
     {
@@ -39,7 +39,7 @@ void ReadItems(const Kind& kind, const exchange::Run& run, Ids policy)
     const RawObject items(run.Items);
     const long count = automation::LongOf(items.Get(items.IdOf(L"Count")));
     const DISPID itemId = items.IdOf(L"Item");
-    MemberIds ids(policy, kind.ItemKeys.size() + 1);
+    KeyIds ids(policy, kind.ItemKeys.size() + 1);
     for (long position = 1; position <= count; ++position)
     {
         const RawObject item(items.Get(itemId, position));

@@ -37,7 +37,7 @@ using exchange::TargetProperty;
 
 // An all-day appointment starts at midnight in Outlook, and is stored in the host with the start of the
 // working day; it matches that. Only an appointment that starts at midnight is asked whether it is one.
-Value StartOfItem(const Object& item)
+Value StartOfItem(const exchange::ItemView& item)
 {
     const std::optional<Date> start = automation::ReadableDate(item.Get(L"Start"));
     if (!start)
@@ -50,7 +50,7 @@ Value StartOfItem(const Object& item)
                : *start;
 }
 
-std::wstring KeyOfAppointment(const Object& item)
+std::wstring KeyOfAppointment(const exchange::ItemView& item)
 {
     const std::wstring subject = exchange::Comparable(item.Get(L"Subject"));
     const std::wstring category = exchange::ComparableCategory(item.Get(L"Categories"));
@@ -77,6 +77,8 @@ std::wstring KeyOfCalendarRow(const Recordset& rows)
     return exchange::JoinedKey(name, type,
                                exchange::ComparableDate(StartOfRow(rows), L"yyyy/mm/dd hh:mm:00"));
 }
+
+constexpr const wchar_t* kKeyColumns[] = {L"Subject", L"Categories", L"Start", L"AllDayEvent"};
 
 std::wstring EntriesOfUser(const data::Host& host)
 {
@@ -325,7 +327,7 @@ constexpr exchange::Kind kCalendar{
     .AppliesFromOutlookFirst = false,
     .CollectToOutlookTextId = IDS_RUN_APPLYING,
     .PermissionKind = data::kAccountCalendarRecord,
-    .Match = {KeyOfAppointment, nullptr, KeyOfCalendarRow, nullptr},
+    .Match = {KeyOfAppointment, nullptr, KeyOfCalendarRow, nullptr, {L"IPM.Appointment", kKeyColumns, false}},
     .FiltersOf = WithinCalendarRange,
     .ToOutlook = SynCalendarToOutlook,
     .FromOutlook = SynCalendarFromOutlook,

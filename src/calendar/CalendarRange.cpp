@@ -19,6 +19,8 @@ using automation::Value;
 // Later than every date that automation can hold.
 constexpr Date kNever{3000000};
 
+constexpr const wchar_t* kFilterColumns[] = {L"Start", L"IsRecurring", L"End"};
+
 Date DayOrZero(const Value& value)
 {
     return automation::DayOf(ReadableDate(value).value_or(Date{}));
@@ -86,11 +88,11 @@ EntrySpan SpanOfRow(const Recordset& rows)
     return {start, repeats ? EndOfRepetition(rows.ValueOf(L"F_ACTREPTEDATE")) : EndOfSingleRow(rows, start)};
 }
 
-EntrySpan SpanOfItem(const Object& item)
+EntrySpan SpanOfItem(const exchange::ItemView& item)
 {
     const Date start = ReadableDate(item.Get(L"Start")).value_or(Date{});
     const bool repeats = IsTrue(item.Get(L"IsRecurring"));
-    return {start, repeats ? EndOfPattern(item) : ReadableDate(item.Get(L"End")).value_or(start)};
+    return {start, repeats ? EndOfPattern(item.Item()) : ReadableDate(item.Get(L"End")).value_or(start)};
 }
 
 exchange::Filters WithinCalendarRange(const state::SynParameter& parameter, const data::Host& host)
@@ -104,7 +106,10 @@ exchange::Filters WithinCalendarRange(const state::SynParameter& parameter, cons
     const Date now = host.SysDateTime();
     return {
         [parameter, now](const Recordset& rows) { return IsWithinRange(SpanOfRow(rows), parameter, now); },
-        [parameter, now](const Object& item) { return IsWithinRange(SpanOfItem(item), parameter, now); },
+        [parameter, now](const exchange::ItemView& item) {
+            return IsWithinRange(SpanOfItem(item), parameter, now);
+        },
+        kFilterColumns,
     };
 }
 

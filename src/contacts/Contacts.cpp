@@ -29,7 +29,7 @@ using exchange::TargetProperty;
 
 // Match keys
 
-std::wstring ContactNameOfItem(const Object& item)
+std::wstring ContactNameOfItem(const exchange::ItemView& item)
 {
     // The contract joins the names without a separator: Li Ming and Lim Ing are one name.
     const std::wstring lastName = exchange::Comparable(item.Get(L"LastName"));
@@ -47,10 +47,12 @@ std::wstring ContactNameOfRow(const Recordset& rows)
     return exchange::Comparable(surname) + exchange::Comparable(givenName);
 }
 
-std::wstring CompanyOfContact(const Object& item)
+std::wstring CompanyOfContact(const exchange::ItemView& item)
 {
     return exchange::Comparable(item.Get(L"CompanyName"));
 }
+
+constexpr const wchar_t* kKeyColumns[] = {L"LastName", L"FirstName", L"CompanyName"};
 
 // Towards Outlook
 
@@ -281,7 +283,11 @@ constexpr exchange::Kind kContacts{
     .AppliesFromOutlookFirst = false,
     .CollectToOutlookTextId = IDS_RUN_COLLECTING,
     .PermissionKind = data::kContactRecord,
-    .Match = {ContactNameOfItem, CompanyOfContact, ContactNameOfRow, exchange::AccountOfRow},
+    .Match = {ContactNameOfItem,
+              CompanyOfContact,
+              ContactNameOfRow,
+              exchange::AccountOfRow,
+              {L"IPM.Contact", kKeyColumns, true}},
     .FiltersOf = exchange::KeepAll,
     .ToOutlook = SynContactToOutlook,
     .FromOutlook = SynContactFromOutlook,

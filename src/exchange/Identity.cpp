@@ -48,19 +48,27 @@ bool FindRow(const Recordset& rows, const std::wstring& keyColumn, const std::ws
     return false;
 }
 
-// An item that was deleted may be found in the folder of deleted items.
-bool IsInFolder(const Run& run, const Object& item)
+const FolderIds& IdsOfFolder(Run& run)
 {
-    return automation::TextOrEmpty(item.GetObject(L"Parent").Get(L"EntryID")) ==
-           automation::TextOrEmpty(run.Folder.Get(L"EntryID"));
+    if (!run.KnownFolderIds)
+    {
+        run.KnownFolderIds = {automation::TextOrEmpty(run.Folder.Get(L"StoreID")),
+                              automation::TextOrEmpty(run.Folder.Get(L"EntryID"))};
+    }
+    return *run.KnownFolderIds;
 }
 
-Object ItemById(const Run& run, const std::wstring& entryId)
+// An item that was deleted may be found in the folder of deleted items.
+bool IsInFolder(Run& run, const Object& item)
+{
+    return automation::TextOrEmpty(item.GetObject(L"Parent").Get(L"EntryID")) == IdsOfFolder(run).Entry;
+}
+
+Object ItemById(Run& run, const std::wstring& entryId)
 {
     try
     {
-        const Object item =
-            state::Shared().gOlNamespace.GetObject(L"GetItemFromID", entryId, run.Folder.Get(L"StoreID"));
+        const Object item = OpenItem(run, entryId);
         return IsInFolder(run, item) ? item : Object();
     }
     catch (const Error& error)
@@ -119,6 +127,11 @@ bool GoToRow(const Recordset& rows, const std::wstring& keyColumn, long position
     return isThere(&Recordset::MoveTo) || isThere(&Recordset::GoTo) || FindRow(rows, keyColumn, key);
 }
 
+Object OpenItem(Run& run, const std::wstring& entryId)
+{
+    return state::Shared().gOlNamespace.GetObject(L"GetItemFromID", entryId, IdsOfFolder(run).Store);
+}
+
 Object ItemAt(const Object& items, long position)
 {
     try
@@ -153,7 +166,7 @@ bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record)
     return GoToRow(run.HostRows, run.Identity.KeyColumn, record.RecordBookmark, record.Key);
 }
 
-bool AreStillAPair(const Run& run, const Object& item)
+bool AreStillAPair(const Run& run, const ItemView& item)
 {
     return !run.Identity.Matches || run.Identity.Matches(item, run.HostRows);
 }

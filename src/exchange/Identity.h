@@ -21,6 +21,10 @@ std::wstring KeyOfRow(const automation::Recordset& rows, const std::wstring& key
 bool GoToRow(const automation::Recordset& rows, const std::wstring& keyColumn, long position,
              const std::wstring& key);
 
+// The folder's item with this EntryID, wherever it is. Throws automation::Error, one of those of IsGone for
+// an item that has been deleted for good.
+automation::Object OpenItem(Run& run, const std::wstring& entryId);
+
 // The item at a position of the folder's items; nothing behind the last one.
 automation::Object ItemAt(const automation::Object& items, long position);
 
@@ -29,7 +33,7 @@ automation::Object ProposedItem(Run& run, const data::ClsOlRecord& record);
 // Moves the host's rows to the row that was proposed; false when it is gone.
 bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record);
 // Whether the two are the same record still.
-bool AreStillAPair(const Run& run, const automation::Object& item);
+bool AreStillAPair(const Run& run, const ItemView& item);
 
 // A record that the user has accepted is not written.
 void Skip(Run& run);

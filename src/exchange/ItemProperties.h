@@ -2,7 +2,7 @@
 // many host columns it bears on. Lives as long as the writing of its item, which it refers to.
 #pragma once
 
-#include "automation/Object.h"
+#include "exchange/ItemView.h"
 
 #include <map>
 #include <string>
@@ -10,7 +10,7 @@
 namespace exchange
 {
 
-class ItemProperties
+class ItemProperties : public PropertySource
 {
   public:
     explicit ItemProperties(const automation::Object& item) : mItem(item) {}
@@ -22,7 +22,8 @@ class ItemProperties
     // The date with its time of day; Null for none, and for the two dates that mean "no date".
     automation::Value DateOrNull(const std::wstring& property);
 
-    const automation::Object& Item() const noexcept { return mItem; }
+    automation::Value Get(const wchar_t* property) override { return ValueOf(property); }
+    const automation::Object& Item() override { return mItem; }
 
   private:
     const automation::Object& mItem;

@@ -16,13 +16,15 @@ namespace exchange
 {
 
 using RowFilter = std::function<bool(const automation::Recordset& rows)>;
-using ItemFilter = std::function<bool(const automation::Object& item)>;
+using ItemFilter = std::function<bool(const ItemView& item)>;
 
 // Which records a direction proposes on the side that it reads from; an empty function keeps all.
 struct Filters
 {
     RowFilter KeepsRow;
     ItemFilter KeepsItem;
+    // The properties that the filter of items reads, as far as a folder's table gives them.
+    std::span<const wchar_t* const> ItemColumns{};
 };
 
 // The filters of a kind that proposes every record.

@@ -4,24 +4,37 @@
 #pragma once
 
 #include "automation/Recordset.h"
+#include "exchange/ItemView.h"
 
+#include <span>
 #include <string>
 
 namespace exchange
 {
 
+// Which part of the keys a folder's table gives (Folder.GetTable). Items of other message classes than this
+// one and its derived ones ("IPM.Contact.Acme") are read themselves.
+struct KeysInTable
+{
+    const wchar_t* MessageClass = nullptr; // null: the table is of no use for the kind
+    // The properties of the keys, by their built-in names: a date is local then, and keywords are one text.
+    std::span<const wchar_t* const> Columns{};
+    bool HasSecondKey = false;
+};
+
 // The keys are comparable texts (trimmed, upper case, Empty and Null as the empty text). A null function
 // means that the category has no second key.
 struct MatchRule
 {
-    std::wstring (*FirstKeyOfItem)(const automation::Object& item);
-    std::wstring (*SecondKeyOfItem)(const automation::Object& item);
+    std::wstring (*FirstKeyOfItem)(const ItemView& item);
+    std::wstring (*SecondKeyOfItem)(const ItemView& item);
     // Of the row on which the recordset stands.
     std::wstring (*FirstKeyOfRow)(const automation::Recordset& rows);
     std::wstring (*SecondKeyOfRow)(const automation::Recordset& rows);
+    KeysInTable InTable{};
 
     // Whether the item and the row on which the recordset stands are the same record.
-    bool Matches(const automation::Object& item, const automation::Recordset& rows) const
+    bool Matches(const ItemView& item, const automation::Recordset& rows) const
     {
         return FirstKeyOfItem(item) == FirstKeyOfRow(rows) &&
                (SecondKeyOfItem == nullptr || SecondKeyOfItem(item) == SecondKeyOfRow(rows));

@@ -6,10 +6,12 @@
 #include "automation/Recordset.h"
 #include "data/ChangeRecords.h"
 #include "data/FieldCatalogue.h"
+#include "exchange/ItemView.h"
 #include "exchange/RelationTable.h"
 #include "exchange/RunDisplay.h"
 
 #include <functional>
+#include <optional>
 #include <set>
 
 namespace exchange
@@ -21,8 +23,15 @@ struct Identification
 {
     std::wstring KeyColumn{}; // of the host's rows
     // The first match key of an item, and whether an item and the current row are the same record.
-    std::function<std::wstring(const automation::Object& item)> FirstKeyOf{};
-    std::function<bool(const automation::Object& item, const automation::Recordset& rows)> Matches{};
+    std::function<std::wstring(const ItemView& item)> FirstKeyOf{};
+    std::function<bool(const ItemView& item, const automation::Recordset& rows)> Matches{};
+};
+
+// What Outlook tells the folder of a run by.
+struct FolderIds
+{
+    std::wstring Store; // StoreID
+    std::wstring Entry; // EntryID
 };
 
 struct Run
@@ -41,6 +50,7 @@ struct Run
     // Positions of the items that the pass towards Outlook has overwritten.
     std::set<std::wstring> OverwrittenItems{};
     Identification Identity{};
+    std::optional<FolderIds> KnownFolderIds{}; // read on first use
     long Skipped = 0; // accepted records that were gone, or another pair, when it came to writing them
 };
 

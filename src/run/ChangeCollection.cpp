@@ -48,8 +48,10 @@ double Fraction(long done, long all)
 
 } // namespace
 
-ChangeCollection::Reading::Reading(const exchange::Kind& kind, const exchange::Run& run)
-    : Items(kind.Match, run.Items, state::WritesToHost(state::Shared().gSynParameter.TransType)),
+ChangeCollection::Reading::Reading(const exchange::Kind& kind, const exchange::Filters& filters,
+                                   exchange::Run& run, bool usesTable)
+    : Items(kind.Match, filters, run, state::WritesToHost(state::Shared().gSynParameter.TransType),
+            usesTable),
       Rows(kind.Match, run.HostRows, kind.KeyColumn),
       ItemIndex(Items),
       RowIndex(Rows)
@@ -62,7 +64,7 @@ ChangeCollection::ChangeCollection(const exchange::Kind& kind, exchange::Run& ru
     : mKind(kind),
       mRun(run),
       mFilters(kind.FiltersOf(state::Shared().gSynParameter, data::Host())),
-      mReading(std::make_unique<Reading>(kind, run))
+      mReading(std::make_unique<Reading>(kind, mFilters, run, true))
 {
     const exchange::MatchRule& rule = kind.Match;
     run.Identity = {
@@ -93,7 +95,7 @@ void ChangeCollection::Walk(const std::function<void()>& walk)
         const long known = mReading->Items.Count();
         if (mReading->Items.CountItems() != known && known != 0)
         {
-            mReading = std::make_unique<Reading>(mKind, mRun);
+            ReadAgain();
             mReading->Items.CountItems();
         }
         walk();
@@ -101,9 +103,15 @@ void ChangeCollection::Walk(const std::function<void()>& walk)
         {
             return;
         }
-        mReading = std::make_unique<Reading>(mKind, mRun);
+        ReadAgain();
         mRun.Pending = before;
     }
+}
+
+// A table that was not to be trusted is not tried again.
+void ChangeCollection::ReadAgain()
+{
+    mReading = std::make_unique<Reading>(mKind, mFilters, mRun, mReading->Items.UsesTable());
 }
 
 void ChangeCollection::WalkRows()
@@ -126,20 +134,6 @@ bool ChangeCollection::KeepsRow(long row)
     return !mFilters.KeepsRow || rows.ReadRecord(row, false, [&] {
         rows.Reach(row);
         return mFilters.KeepsRow(mRun.HostRows);
-    });
-}
-
-// An item is fetched even where there is no row to compare it with: one that cannot be fetched ends the walk.
-bool ChangeCollection::KeepsItem(long item)
-{
-    ItemKeys& items = mReading->Items;
-    if (!mFilters.KeepsItem && items.IsRead(item))
-    {
-        return true;
-    }
-    return items.ReadRecord(item, false, [&] {
-        items.Reach(item);
-        return !mFilters.KeepsItem || mFilters.KeepsItem(items.Current());
     });
 }
 
@@ -197,7 +191,7 @@ void ChangeCollection::WalkItems(bool mayAdd, bool mayModify)
     const long all = items.Count();
     for (long item = 1; item <= all; ++item)
     {
-        if (KeepsItem(item))
+        if (items.Keeps(item))
         {
             ProposeItem(item, mReading->RowIndex.Find(items, item), mayAdd, mayModify);
         }

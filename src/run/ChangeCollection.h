@@ -30,7 +30,8 @@ class ChangeCollection
     // What has been read of both sides.
     struct Reading
     {
-        Reading(const exchange::Kind& kind, const exchange::Run& run);
+        Reading(const exchange::Kind& kind, const exchange::Filters& filters, exchange::Run& run,
+                bool usesTable);
 
         ItemKeys Items;
         RowKeys Rows;
@@ -39,10 +40,10 @@ class ChangeCollection
     };
 
     void Walk(const std::function<void()>& walk);
+    void ReadAgain();
     void WalkRows();
     void WalkItems(bool mayAdd, bool mayModify);
     bool KeepsRow(long row);
-    bool KeepsItem(long item);
     void ProposeRow(long row, long partner);
     void ProposeItem(long item, long partner, bool mayAdd, bool mayModify);
     void AddPair(long item, long row, long mark);

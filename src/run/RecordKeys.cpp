@@ -9,7 +9,7 @@ namespace
 {
 
 template<typename Read>
-const std::wstring& ReadOnce(std::deque<std::optional<std::wstring>>& keys, long position, Read&& read)
+const std::wstring& ReadOnce(Keys& keys, long position, Read&& read)
 {
     const auto index = static_cast<size_t>(position) - 1;
     if (keys.size() <= index)
@@ -62,20 +62,57 @@ void RecordKeys::Remember(long position, const std::wstring& identity)
     }
 }
 
-ItemKeys::ItemKeys(const exchange::MatchRule& rule, const automation::Object& items, bool keepsAll)
-    : RecordKeys(rule.SecondKeyOfItem != nullptr), mRule(rule), mItems(items), mKeepsAll(keepsAll)
+void RecordKeys::Take(Keys first, Keys second) noexcept
 {
+    mFirst = std::move(first);
+    mSecond = std::move(second);
+}
+
+ItemKeys::ItemKeys(const exchange::MatchRule& rule, const exchange::Filters& filters, exchange::Run& run,
+                   bool keepsAll, bool usesTable)
+    : RecordKeys(rule.SecondKeyOfItem != nullptr),
+      mRule(rule),
+      mFilters(filters),
+      mRun(run),
+      mKeepsAll(keepsAll),
+      mUsesTable(usesTable)
+{
+}
+
+// All at once, before the first item is read: a table that turns out to be wrong leaves nothing behind.
+void ItemKeys::TryTable()
+{
+    if (!mUsesTable || mHasTriedTable)
+    {
+        return;
+    }
+    mHasTriedTable = true;
+    static const exchange::Filters kNone{};
+    std::optional<TableKeys> keys = ReadTable(mRule, mKeepsAll ? mFilters : kNone, mRun, mCount);
+    mUsesTable = keys.has_value();
+    if (keys)
+    {
+        Take(std::move(keys->First), std::move(keys->Second));
+        mIdsInTable = std::move(keys->Ids);
+        mKept = std::move(keys->Kept);
+    }
+}
+
+bool ItemKeys::Exists(long position)
+{
+    TryTable();
+    return position <= mCount;
 }
 
 long ItemKeys::CountItems()
 {
-    mCount = automation::LongOf(mItems.Get(L"Count"));
+    mCount = automation::LongOf(mRun.Items.Get(L"Count"));
     return mCount;
 }
 
 bool ItemKeys::HasMoved() const
 {
-    return HasMetOneTwice() || automation::LongOf(mItems.Get(L"Count")) != mCount;
+    return HasMetOneTwice() || automation::LongOf(mRun.Items.Get(L"Count")) != mCount;
 }
 
 void ItemKeys::Reach(long position)
@@ -85,7 +122,7 @@ void ItemKeys::Reach(long position)
         return;
     }
     mCurrentPosition = 0;
-    mCurrent = exchange::ItemAt(mItems, position);
+    mCurrent = Fetched(position);
     if (!mCurrent)
     {
         throw automation::Error(automation::kItemNotFound, L"Item");
@@ -93,16 +130,46 @@ void ItemKeys::Reach(long position)
     mCurrentPosition = position;
 }
 
+// The table may have another order than Items.
+automation::Object ItemKeys::Fetched(long position)
+{
+    return mIdsInTable.Count() != 0 ? exchange::OpenItem(mRun, mIdsInTable.At(position))
+                                    : exchange::ItemAt(mRun.Items, position);
+}
+
+// An item is fetched even where there is no row to compare it with: one that cannot be fetched ends the walk.
+bool ItemKeys::Keeps(long position)
+{
+    TryTable();
+    const auto index = static_cast<size_t>(position) - 1;
+    if (index < mKept.size() && mKept[index])
+    {
+        return *mKept[index];
+    }
+    if (!mFilters.KeepsItem && IsRead(position))
+    {
+        return true;
+    }
+    return ReadRecord(position, false, [&] {
+        Reach(position);
+        return !mFilters.KeepsItem || mFilters.KeepsItem(mCurrent);
+    });
+}
+
 void ItemKeys::Keep(long position)
 {
-    if (position == mCurrentPosition && !mEntryIds.contains(position))
+    if (position == mCurrentPosition && mIdsInTable.Count() == 0 && !mEntryIds.contains(position))
     {
         Remember(position, mEntryIds.emplace(position, exchange::EntryIdOf(mCurrent)).first->second);
     }
 }
 
-const std::wstring& ItemKeys::EntryId(long position)
+std::wstring ItemKeys::EntryId(long position)
 {
+    if (mIdsInTable.Count() != 0)
+    {
+        return mIdsInTable.At(position);
+    }
     if (!mEntryIds.contains(position))
     {
         Reach(position);

@@ -4,9 +4,10 @@
 #pragma once
 
 #include "automation/Error.h"
-#include "exchange/MatchRule.h"
+#include "exchange/Kind.h"
+#include "exchange/Run.h"
+#include "run/TableKeys.h"
 
-#include <deque>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -52,6 +53,8 @@ class RecordKeys
     // Remembers the record by what tells it from all others; one that was met before is none.
     void Remember(long position, const std::wstring& identity);
     bool HasMetOneTwice() const noexcept { return mHasMetOneTwice; }
+    // Takes over keys that have been read in another way; those that it leaves open are read when asked for.
+    void Take(Keys first, Keys second) noexcept;
 
   private:
     virtual std::wstring ReadFirst() = 0;
@@ -61,8 +64,8 @@ class RecordKeys
     bool mHasSecond;
 
     // A deque keeps its elements in place while it grows, so that an index can refer to the keys.
-    std::deque<std::optional<std::wstring>> mFirst;
-    std::deque<std::optional<std::wstring>> mSecond;
+    Keys mFirst;
+    Keys mSecond;
     std::unordered_set<long> mNone;
     std::unordered_set<std::wstring> mIdentities;
     bool mHasMetOneTwice = false;
@@ -89,8 +92,10 @@ Result RecordKeys::ReadRecord(long position, Result otherwise, Read&& read)
 class ItemKeys : public RecordKeys
 {
   public:
-    // keepsAll: every item is likely to be proposed.
-    ItemKeys(const exchange::MatchRule& rule, const automation::Object& items, bool keepsAll);
+    // filters: of the direction from Outlook. keepsAll: every item is likely to be proposed. usesTable: the
+    // folder's table is tried before the items.
+    ItemKeys(const exchange::MatchRule& rule, const exchange::Filters& filters, exchange::Run& run,
+             bool keepsAll, bool usesTable);
 
     // Items.Count, asked once at the start of each collection procedure, since a walk goes by it.
     long CountItems();
@@ -98,13 +103,17 @@ class ItemKeys : public RecordKeys
     // Whether other programs have changed the folder since its items were counted.
     bool HasMoved() const;
 
-    bool Exists(long position) override { return position <= mCount; }
+    // Whether the folder's table has been of use, or not been tried yet.
+    bool UsesTable() const noexcept { return mUsesTable; }
+
+    bool Exists(long position) override;
     void Reach(long position) override;
     void Keep(long position) override;
     bool KeepsLikelyOnes() const noexcept override { return !mKeepsAll; }
-    const automation::Object& Current() const noexcept { return mCurrent; }
+    // Whether the filter keeps the item.
+    bool Keeps(long position);
     // Empty where the item's store gives none.
-    const std::wstring& EntryId(long position);
+    std::wstring EntryId(long position);
 
   private:
     std::wstring ReadFirst() override;
@@ -114,9 +123,17 @@ class ItemKeys : public RecordKeys
         return automation::IsMissingMember(error) || automation::IsGone(error);
     }
 
+    void TryTable();
+    automation::Object Fetched(long position);
+
     const exchange::MatchRule& mRule;
-    automation::Object mItems;
+    const exchange::Filters& mFilters;
+    exchange::Run& mRun;
     bool mKeepsAll;
+    bool mUsesTable;
+    bool mHasTriedTable = false;
+    EntryIds mIdsInTable;                   // of all items, or of none
+    std::vector<std::optional<bool>> mKept; // by the filter, as far as the table tells
     automation::Object mCurrent;
     long mCurrentPosition = 0;
     long mCount = 0;

@@ -39,7 +39,7 @@ constexpr long kTaskDeferred = 4; // the last one
 
 // Match keys and filters
 
-std::wstring KeyOfTaskItem(const Object& item)
+std::wstring KeyOfTaskItem(const exchange::ItemView& item)
 {
     const std::wstring subject = exchange::Comparable(item.Get(L"Subject"));
     const std::wstring category = exchange::ComparableCategory(item.Get(L"Categories"));
@@ -55,25 +55,30 @@ std::wstring KeyOfTaskRow(const Recordset& rows)
                                exchange::ComparableDate(rows.ValueOf(L"F_ACTPSTIME"), L"yyyy/mm/dd"));
 }
 
-std::wstring CompaniesOfTask(const Object& item)
+std::wstring CompaniesOfTask(const exchange::ItemView& item)
 {
     return exchange::Comparable(item.Get(L"Companies"));
 }
+
+// Outlook's documentation contradicts itself about Companies in a table, so that is read of the items.
+constexpr const wchar_t* kKeyColumns[] = {L"Subject", L"Categories", L"StartDate"};
+constexpr const wchar_t* kFilterColumns[] = {L"Complete"};
 
 bool IsPendingRow(const Recordset& rows)
 {
     return !IsTrue(rows.ValueOf(L"F_ACTCOMPLETED"));
 }
 
-bool IsPendingItem(const Object& item)
+bool IsPendingItem(const exchange::ItemView& item)
 {
     return !IsTrue(item.Get(L"Complete"));
 }
 
 exchange::Filters PendingOnly(const state::SynParameter& parameter, const data::Host& /*host*/)
 {
-    return parameter.TaskTransItem == state::kPendingTasks ? exchange::Filters{IsPendingRow, IsPendingItem}
-                                                           : exchange::Filters{};
+    return parameter.TaskTransItem == state::kPendingTasks
+               ? exchange::Filters{IsPendingRow, IsPendingItem, kFilterColumns}
+               : exchange::Filters{};
 }
 
 // Towards Outlook
@@ -340,7 +345,11 @@ constexpr exchange::Kind kTasks{
     .AppliesFromOutlookFirst = true,
     .CollectToOutlookTextId = IDS_RUN_COLLECTING,
     .PermissionKind = data::kActivityRecord,
-    .Match = {KeyOfTaskItem, CompaniesOfTask, KeyOfTaskRow, exchange::AccountOfRow},
+    .Match = {KeyOfTaskItem,
+              CompaniesOfTask,
+              KeyOfTaskRow,
+              exchange::AccountOfRow,
+              {L"IPM.Task", kKeyColumns, false}},
     .FiltersOf = PendingOnly,
     .ToOutlook = SynTaskToOutlook,
     .FromOutlook = SynTaskFromOutlook,

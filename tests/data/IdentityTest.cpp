@@ -51,7 +51,7 @@ class IdentityOfRecords : public testing::Test
         TheRun.HostRows =
             automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"a"}, {L"b"}, {L"c"}}}));
         TheRun.Identity.KeyColumn = L"Id";
-        TheRun.Identity.Matches = [](const Object& item, const automation::Recordset& rows) {
+        TheRun.Identity.Matches = [](const exchange::ItemView& item, const automation::Recordset& rows) {
             return TextOf(item.Get(L"LastName")) == TextOf(rows.ValueOf(L"Id"));
         };
     }
@@ -135,7 +135,7 @@ TEST_F(IdentityOfRecords, APairThatIsOneNoLongerIsNotWritten)
 
 TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsToldByItsKeyAlone)
 {
-    TheRun.Identity.FirstKeyOf = [](const Object& item) { return TextOf(item.Get(L"LastName")); };
+    TheRun.Identity.FirstKeyOf = [](const exchange::ItemView& item) { return TextOf(item.Get(L"LastName")); };
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).FirstKey = L"a";
     TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = L"a";
     EXPECT_FALSE(Import());
