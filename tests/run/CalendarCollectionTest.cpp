@@ -164,7 +164,7 @@ Record RandomAppointment(RandomData& random)
 {
     Record record = Appointment(random.Pick({L"Board", L" board", L"", Value::Null()}),
                                 InDays(static_cast<double>(random.Number(16)) / 4 - 2));
-    record[L"Categories"] = random.Pick({L"Meeting", L"MEETING", L"", Value()});
+    record[L"Categories"] = random.Pick({L"Meeting", L"MEETING", L"", L"Meeting; Board", Value()});
     record[L"AllDayEvent"] = random.OneIn(3);
     record[L"IsRecurring"] = random.OneIn(4);
     record[L"NoEndDate"] = random.OneIn(2);
@@ -181,7 +181,7 @@ Record RandomEntry(RandomData& random)
 {
     Record record = Entry(random.Pick({L"Board", L"BOARD ", L"", Value::Null()}),
                           InDays(static_cast<double>(random.Number(16)) / 4 - 2));
-    record[L"F_ACTTYPE"] = random.Pick({L"Meeting", L"(Unspecified)", L"", Value::Null()});
+    record[L"F_ACTTYPE"] = random.Pick({L"Meeting", L"(Unspecified)", L"meeting; board", L"", Value::Null()});
     record[L"FR_NAME"] = random.Pick({L"Every day", L"", Value::Null(), Value::Null()});
     record[L"F_ACTREPTEDATE"] = random.Pick({InDays(-1), InDays(1), Value::Null()});
     const std::vector<Value> optional = {L"F_ACTESDATE", L"F_ACTESTIME", L"F_ACTEETIME"};

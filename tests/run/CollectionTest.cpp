@@ -2,6 +2,7 @@
 
 #include "state/SharedState.h"
 #include "tests/nested_walk/NestedWalk.h"
+#include "tests/run/FakeFolder.h"
 
 namespace test_support
 {
@@ -56,6 +57,7 @@ CollectionTest::CollectionTest(const exchange::Kind& category) : mCategory(categ
 CollectionTest::~CollectionTest()
 {
     state::Shared().gDTC = {};
+    state::Shared().gOlNamespace = {};
     state::Shared().gSynParameter = {};
 }
 
@@ -69,8 +71,21 @@ exchange::Run CollectionTest::NewRun()
 
 std::string CollectionTest::Collect(long rule, long direction)
 {
-    state::Shared().gSynParameter.TransConflictOption = rule;
+    return Collect(NewRun(), rule, direction);
+}
+
+std::string CollectionTest::CollectByTable(long rule, long direction)
+{
     exchange::Run run = NewRun();
+    run.Folder = MakeFolder(Items, mCategory.Match.InTable.MessageClass);
+    state::Shared().gOlNamespace = MakeNamespace(Items);
+    return Collect(std::move(run), rule, direction);
+}
+
+std::string CollectionTest::Collect(exchange::Run run, long rule, long direction)
+{
+    state::Shared().gSynParameter.TransConflictOption = rule;
+    state::Shared().gSynParameter.TransType = direction;
     run::ChangeCollection collection(mCategory, run);
     const bool failed = (direction != 1 && collection.CollectToOutlook()) ||
                         (direction != 2 && collection.CollectFromOutlook());
@@ -111,9 +126,12 @@ long CollectionTest::CompareAllRulesAndDirections()
         for (long direction = 1; direction <= 3; ++direction)
         {
             const std::string expected = Walk(rule, direction);
-            EXPECT_EQ(expected, Collect(rule, direction))
-                << "rule " << rule << ", direction " << direction << ", " << Items->size() << " items, "
-                << Rows->size() << " rows";
+            for (const bool byTable : {false, true})
+            {
+                EXPECT_EQ(expected, byTable ? CollectByTable(rule, direction) : Collect(rule, direction))
+                    << (byTable ? "by table, " : "by items, ") << "rule " << rule << ", direction "
+                    << direction << ", " << Items->size() << " items, " << Rows->size() << " rows";
+            }
             proposed += expected.empty() ? 0 : 1;
         }
     }

@@ -37,6 +37,8 @@ class CollectionTest : public testing::Test
     // Collects by a conflict rule and direction (1 from Outlook, 2 to Outlook, 3 both): what was proposed, as
     // "newRow2/0 changedItem1/1 ...": position and mark; "failed" when it failed.
     std::string Collect(long rule, long direction);
+    // The same where the folder has a table.
+    std::string CollectByTable(long rule, long direction);
     // The same by the nested walk.
     std::string Walk(long rule, long direction);
 
@@ -47,8 +49,8 @@ class CollectionTest : public testing::Test
         std::function<Record(RandomData&)> row;
         std::function<void(RandomData&)> parameters = {}; // sets the run's parameters, once a round
     };
-    // Expects both to agree over random data, for every rule and direction. Returns how often anything was
-    // proposed, or failed.
+    // Expects the collection, with a table and without, and the walk to agree over random data, for every
+    // rule and direction. Returns how often anything was proposed, or failed.
     long CompareWithTheNestedWalk(const Rounds& rounds);
 
     exchange::Run NewRun();
@@ -59,6 +61,7 @@ class CollectionTest : public testing::Test
     std::shared_ptr<Records> Rows = std::make_shared<Records>();
 
   private:
+    std::string Collect(exchange::Run run, long rule, long direction);
     long CompareAllRulesAndDirections();
 
     const exchange::Kind& mCategory;

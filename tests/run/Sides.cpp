@@ -30,7 +30,7 @@ const Value& Read(const Record& record, const std::wstring& name)
 class FakeItem : public DispatchObject
 {
   public:
-    explicit FakeItem(const Record& record) : mRecord(record) {}
+    explicit FakeItem(const Record& record, long position = 0) : mRecord(record), mPosition(position) {}
 
   private:
     template<size_t Index>
@@ -38,6 +38,8 @@ class FakeItem : public DispatchObject
     {
         return Read(mRecord, Members()[Index].name);
     }
+
+    Value EntryId(const Call&) { return EntryIdAt(mPosition); }
 
     // The pattern's properties stand in the record of the item.
     Value Pattern(const Call&) { return MakeObject<FakeItem>(mRecord); }
@@ -60,12 +62,14 @@ class FakeItem : public DispatchObject
             {L"IsRecurring", Reads(&FakeItem::Property<11>), nullptr},
             {L"NoEndDate", Reads(&FakeItem::Property<12>), nullptr},
             {L"PatternEndDate", Reads(&FakeItem::Property<13>), nullptr},
+            {L"EntryID", Reads(&FakeItem::EntryId), nullptr},
             {L"GetRecurrencePattern", Reads(&FakeItem::Pattern), nullptr},
         };
         return table;
     }
 
     Record mRecord;
+    long mPosition;
 };
 
 class FakeItems : public DispatchObject
@@ -77,12 +81,13 @@ class FakeItems : public DispatchObject
     Value Count(const Call&) { return static_cast<long>(mRecords->size()); }
     Value Item(const Call& call)
     {
-        const Record& record = mRecords->at(static_cast<size_t>(automation::LongOf(call.At(0))) - 1);
+        const long position = automation::LongOf(call.At(0));
+        const Record& record = mRecords->at(static_cast<size_t>(position) - 1);
         if (record.empty())
         {
             throw Error(E_FAIL, L"Item", L"The item cannot be opened");
         }
-        return MakeObject<FakeItem>(record);
+        return MakeObject<FakeItem>(record, position);
     }
 
     const wchar_t* ClassName() const override { return L"Items"; }
@@ -200,6 +205,11 @@ class FakeRecordset : public DispatchObject
 automation::Object MakeItems(std::shared_ptr<const Records> records)
 {
     return MakeObject<FakeItems>(std::move(records));
+}
+
+std::wstring EntryIdAt(long position)
+{
+    return L"00E1" + std::to_wstring(position);
 }
 
 automation::Recordset MakeRows(std::shared_ptr<const Records> records)

@@ -22,6 +22,9 @@ using Records = std::vector<Record>;
 // Folder.Items over the records. Shares them with the caller, who may change them between calls.
 automation::Object MakeItems(std::shared_ptr<const Records> records);
 
+// The EntryID of the item at a position.
+std::wstring EntryIdAt(long position);
+
 // A recordset over the records: EOF, BOF, MoveFirst, MoveNext, Move from a position, AbsolutePosition,
 // RecordCount, Fields, State, Close.
 automation::Recordset MakeRows(std::shared_ptr<const Records> records);

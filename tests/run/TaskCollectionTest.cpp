@@ -122,7 +122,8 @@ Record RandomTask(RandomData& random)
 {
     Record record{
         {L"Subject", random.Pick({L"Call", L" call ", L"", Value(), Value::Null()})},
-        {L"Categories", random.Pick({L"Phone", L"PHONE", L"", L"(Unspecified)", Value::Null()})},
+        {L"Categories",
+         random.Pick({L"Phone", L"PHONE", L"", L"(Unspecified)", L"Phone; Fax", Value::Null()})},
         {L"StartDate",
          random.Pick({kTaskDay, Date{kTaskDay.days + 0.4}, kNextTaskDay, kNoTaskDate, Value()})},
         {L"Companies", random.Pick({L"Harbour", L"harbour ", L"", Value()})},
@@ -139,7 +140,8 @@ Record RandomTaskRow(RandomData& random)
 {
     Record record{
         {L"F_ACTNAME", random.Pick({L"Call", L"CALL", L"", Value::Null()})},
-        {L"F_ACTTYPE", random.Pick({L"Phone", L"(未指定)", L"(Unspecified)", L"", Value::Null()})},
+        {L"F_ACTTYPE",
+         random.Pick({L"Phone", L"(未指定)", L"(Unspecified)", L"phone; fax", L"", Value::Null()})},
         {L"F_ACTPSTIME",
          random.Pick({kTaskDay, Date{kTaskDay.days + 0.9}, kNextTaskDay, kNoTaskDate, Value::Null()})},
         {L"ACC_SNAME", random.Pick({L"Harbour", L"", Value::Null()})},

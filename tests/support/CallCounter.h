@@ -29,6 +29,7 @@ class CallCounter : public sandbox::CallObserver
         const auto count = mCounts.find(member);
         return count == mCounts.end() ? 0 : count->second;
     }
+    const std::map<std::wstring, long>& All() const noexcept { return mCounts; }
     long Total() const noexcept { return mTotal; }
 
   private:
