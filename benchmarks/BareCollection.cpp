@@ -28,12 +28,6 @@ class KeyIds
     std::vector<DISPID> mIds;
 };
 
-// Items from a position on have no partner: the host does not know them.
-long PartnersAmongItems(long count)
-{
-    return count - count / 2;
-}
-
 void ReadItems(const Kind& kind, const exchange::Run& run, Ids policy)
 {
     const RawObject items(run.Items);
@@ -67,7 +61,14 @@ struct RawField
     DISPID ValueId;
 };
 
-void ReadRows(const Kind& kind, const exchange::Run& run)
+} // namespace
+
+long PartnersAmongItems(long count)
+{
+    return count - count / 2;
+}
+
+void ReadBareRows(const Kind& kind, const exchange::Run& run)
 {
     const RawObject rows(run.HostRows.AsObject());
     std::vector<RawField> keys;
@@ -95,12 +96,10 @@ void ReadRows(const Kind& kind, const exchange::Run& run)
     }
 }
 
-} // namespace
-
 void ReadBare(const Kind& kind, const exchange::Run& run, Ids ids)
 {
     ReadItems(kind, run, ids);
-    ReadRows(kind, run);
+    ReadBareRows(kind, run);
 }
 
 } // namespace benchmarks

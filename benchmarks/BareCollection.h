@@ -13,6 +13,12 @@ enum class Ids
     PerClass,  // asked for at the first item and taken for granted at the others: what a cache could save
 };
 
+// Items from a position on have no partner: the host does not know them.
+long PartnersAmongItems(long count);
+
+// The rows alone.
+void ReadBareRows(const Kind& kind, const exchange::Run& run);
+
 void ReadBare(const Kind& kind, const exchange::Run& run, Ids ids = Ids::PerObject);
 
 } // namespace benchmarks

@@ -46,10 +46,12 @@ Value End(const Values& read)
 }
 
 constexpr const wchar_t* kContactItemKeys[] = {L"LastName", L"FirstName"};
+constexpr const wchar_t* kContactColumns[] = {L"LastName", L"FirstName", L"CompanyName"};
 constexpr const wchar_t* kContactRowKeys[] = {L"F_SURNAME", L"F_GIVENNAME"};
 constexpr const wchar_t* kTaskItemKeys[] = {L"Subject", L"Categories", L"StartDate"};
 constexpr const wchar_t* kTaskRowKeys[] = {L"F_ACTNAME", L"F_ACTTYPE", L"F_ACTPSTIME"};
 constexpr const wchar_t* kEntryItemKeys[] = {L"Subject", L"Categories", L"Start"};
+constexpr const wchar_t* kEntryColumns[] = {L"Subject", L"Categories", L"Start", L"AllDayEvent"};
 constexpr const wchar_t* kEntryRowKeys[] = {L"F_ACTNAME", L"F_ACTTYPE", L"F_ACTESDATE", L"F_ACTESTIME"};
 
 // In the order of the sandbox's relation rows, in English.
@@ -217,11 +219,11 @@ constexpr const wchar_t* kEntryReads[] = {
 
 const Kind kKinds[] = {
     {"contacts", contacts::kContacts, 10, automation::kContactItem, kContactItemKeys, L"CompanyName",
-     kContactRowKeys, L"ACC_SNAME", L"F_CNTCTID", kContactSteps, kContactReads},
+     kContactRowKeys, L"ACC_SNAME", kContactColumns, true, L"F_CNTCTID", kContactSteps, kContactReads},
     {"tasks", tasks::kTasks, 13, automation::kTaskItem, kTaskItemKeys, L"Companies", kTaskRowKeys,
-     L"ACC_SNAME", L"F_ACTID", kTaskSteps, kTaskReads},
+     L"ACC_SNAME", kTaskItemKeys, false, L"F_ACTID", kTaskSteps, kTaskReads},
     {"calendar", calendar::kCalendar, 9, automation::kAppointmentItem, kEntryItemKeys, nullptr, kEntryRowKeys,
-     nullptr, L"F_ACTID", kEntrySteps, kEntryReads},
+     nullptr, kEntryColumns, false, L"F_ACTID", kEntrySteps, kEntryReads},
 };
 
 } // namespace

@@ -44,6 +44,8 @@ struct Kind
     const wchar_t* SecondItemKey; // compared where the others agree; null for none
     std::span<const wchar_t* const> RowKeys;
     const wchar_t* SecondRowKey;
+    std::span<const wchar_t* const> TableColumns; // beside the identity and the class
+    bool TableHasSecondKey;
     const wchar_t* RowId; // the key of a row that is updated
     std::span<const Step> StepsToOutlook;
     std::span<const wchar_t* const> ReadFromOutlook; // properties of an item that goes to the host

@@ -71,6 +71,27 @@ Measured Measure(const automation::Object& control, Purpose purpose, Body&& body
     return measured;
 }
 
+// One piece of work, several times while it does not take too long; the best time.
+template<typename Work>
+Measured Repeated(bool isInProcess, Work&& work)
+{
+    constexpr int kMostRounds = 7;
+    constexpr double kEnough = 2; // seconds of measured time
+    Measured best;
+    if (isInProcess)
+    {
+        best.Merge(work(Purpose::Counted));
+    }
+    double spent = 0;
+    for (int round = 0; round < kMostRounds && spent < kEnough; ++round)
+    {
+        const Measured one = work(isInProcess ? Purpose::Timed : Purpose::TimedAndCounted);
+        spent += one.Seconds;
+        best.Merge(one);
+    }
+    return best;
+}
+
 // Two pieces of work in turn, several times while it does not take too long; of each the best time. Both are
 // called with the purpose of the run.
 template<typename Component, typename Bare>
