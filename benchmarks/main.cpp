@@ -33,6 +33,7 @@ struct Options
 {
     std::vector<std::string> Names; // output, folders
     std::set<std::string> Parts;    // empty for all
+    std::vector<size_t> Records;    // empty for those of the plan
     bool IsQuick = false;
     bool IsPatient = false;
 };
@@ -55,6 +56,10 @@ Options Parsed(int count, char** arguments)
         {
             options.Parts.insert(arguments[++i]);
         }
+        else if (argument == "--records" && i + 1 < count)
+        {
+            options.Records.push_back(std::stoul(arguments[++i]));
+        }
         else
         {
             options.Names.push_back(argument);
@@ -69,6 +74,10 @@ void Run(const Options& options)
     if (options.IsPatient)
     {
         plan.ApplyPatience = std::numeric_limits<double>::infinity();
+    }
+    if (!options.Records.empty())
+    {
+        plan.OutOfProcess = plan.InProcess = plan.ApplyInProcess = options.Records;
     }
     plan.X64 = options.Names[1];
     plan.X86 = options.Names[2];
@@ -96,7 +105,9 @@ int main(int count, char** arguments)
     const Options options = Parsed(count, arguments);
     if (options.Names.size() != 3)
     {
-        std::fputs("usage: Bench OUTPUT X64-FOLDER X86-FOLDER [--quick | --all] [--part NAME]...\n", stderr);
+        std::fputs(
+            "usage: Bench OUTPUT X64-FOLDER X86-FOLDER [--quick | --all] [--part NAME]... [--records N]...\n",
+            stderr);
         return kUsage;
     }
     try

@@ -37,7 +37,7 @@ using exchange::TargetProperty;
 
 // An all-day appointment starts at midnight in Outlook, and is stored in the host with the start of the
 // working day; it matches that. Only an appointment that starts at midnight is asked whether it is one.
-Value StartOfItem(const exchange::ItemView& item)
+Value StartOfItem(const automation::ItemView& item)
 {
     const std::optional<Date> start = automation::ReadableDate(item.Get(L"Start"));
     if (!start)
@@ -50,7 +50,7 @@ Value StartOfItem(const exchange::ItemView& item)
                : *start;
 }
 
-std::wstring KeyOfAppointment(const exchange::ItemView& item)
+std::wstring KeyOfAppointment(const automation::ItemView& item)
 {
     const std::wstring subject = exchange::Comparable(item.Get(L"Subject"));
     const std::wstring category = exchange::ComparableCategory(item.Get(L"Categories"));
@@ -222,12 +222,12 @@ bool Reported(const exchange::Run& run, Step&& step)
     });
 }
 
-void AddAccount(const Object& item, data::InsertRow& entry)
+void AddAccount(const automation::ItemView& item, data::InsertRow& entry)
 {
     links::ChangeAddTaskAccount(item, entry, links::UndoneBy::Hand);
 }
 
-void AddAccount(const Object& item, data::UpdateRow& entry)
+void AddAccount(const automation::ItemView& item, data::UpdateRow& entry)
 {
     links::ChangeEditTaskAccount(item, entry, links::UndoneBy::Hand);
 }
@@ -252,7 +252,7 @@ void Save(const exchange::Run& run, const data::UpdateRow& entry)
 
 // Row: data::InsertRow or data::UpdateRow. Returns -1 when the host has refused the row.
 template<typename Row>
-long WriteEntry(exchange::Run& run, const Object& item)
+long WriteEntry(exchange::Run& run, const automation::ItemView& item)
 {
     Row entry(run.Catalogue);
     bool hasSubject = false;
@@ -289,7 +289,7 @@ bool SynSynCalendarToOlCalendar(exchange::Run& run, data::RecordMode mode, const
     });
 }
 
-long SynOlCalendarToSynCalendar(exchange::Run& run, data::RecordMode mode, const Object& item)
+long SynOlCalendarToSynCalendar(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
     switch (mode)
     {

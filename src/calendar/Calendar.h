@@ -26,6 +26,6 @@ bool SynSynCalendarToOlCalendar(exchange::Run& run, data::RecordMode mode, const
 // which the run's recordset stands. An unknown mode does nothing. Returns -1 when the host refused the row, 0
 // otherwise: the row is written, or skipped because of an empty subject or an error. A message box has shown
 // the error or refusal, with the host column that was being processed.
-long SynOlCalendarToSynCalendar(exchange::Run& run, data::RecordMode mode, const automation::Object& item);
+long SynOlCalendarToSynCalendar(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item);
 
 } // namespace calendar

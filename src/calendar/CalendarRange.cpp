@@ -88,7 +88,7 @@ EntrySpan SpanOfRow(const Recordset& rows)
     return {start, repeats ? EndOfRepetition(rows.ValueOf(L"F_ACTREPTEDATE")) : EndOfSingleRow(rows, start)};
 }
 
-EntrySpan SpanOfItem(const exchange::ItemView& item)
+EntrySpan SpanOfItem(const automation::ItemView& item)
 {
     const Date start = ReadableDate(item.Get(L"Start")).value_or(Date{});
     const bool repeats = IsTrue(item.Get(L"IsRecurring"));
@@ -106,7 +106,7 @@ exchange::Filters WithinCalendarRange(const state::SynParameter& parameter, cons
     const Date now = host.SysDateTime();
     return {
         [parameter, now](const Recordset& rows) { return IsWithinRange(SpanOfRow(rows), parameter, now); },
-        [parameter, now](const exchange::ItemView& item) {
+        [parameter, now](const automation::ItemView& item) {
             return IsWithinRange(SpanOfItem(item), parameter, now);
         },
         kFilterColumns,

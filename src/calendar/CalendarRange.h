@@ -19,7 +19,7 @@ struct EntrySpan
 bool IsWithinRange(const EntrySpan& span, const state::SynParameter& parameter, automation::Date now);
 
 EntrySpan SpanOfRow(const automation::Recordset& rows);
-EntrySpan SpanOfItem(const exchange::ItemView& item);
+EntrySpan SpanOfItem(const automation::ItemView& item);
 
 // The filters of the calendar; reads the host's clock once, and only for a code that needs it.
 exchange::Filters WithinCalendarRange(const state::SynParameter& parameter, const data::Host& host);

@@ -29,7 +29,7 @@ using exchange::TargetProperty;
 
 // Match keys
 
-std::wstring ContactNameOfItem(const exchange::ItemView& item)
+std::wstring ContactNameOfItem(const automation::ItemView& item)
 {
     // The contract joins the names without a separator: Li Ming and Lim Ing are one name.
     const std::wstring lastName = exchange::Comparable(item.Get(L"LastName"));
@@ -47,7 +47,7 @@ std::wstring ContactNameOfRow(const Recordset& rows)
     return exchange::Comparable(surname) + exchange::Comparable(givenName);
 }
 
-std::wstring CompanyOfContact(const exchange::ItemView& item)
+std::wstring CompanyOfContact(const automation::ItemView& item)
 {
     return exchange::Comparable(item.Get(L"CompanyName"));
 }
@@ -190,14 +190,14 @@ constexpr exchange::PropertyFromOutlook kItemToContact[] = {
 };
 
 // False when the contact lacks a name, and so is not written.
-bool AddColumns(exchange::Run& run, const Object& item, data::HostRow& contact)
+bool AddColumns(exchange::Run& run, const automation::ItemView& item, data::HostRow& contact)
 {
     exchange::ItemProperties properties(item);
     return exchange::AddRelatedColumns(run.Relations, kItemToContact, exchange::Unmapped::LeftOut, properties,
                                        contact);
 }
 
-void Insert(exchange::Run& run, const Object& item)
+void Insert(exchange::Run& run, const automation::ItemView& item)
 {
     data::InsertRow contact(run.Catalogue);
     if (AddColumns(run, item, contact))
@@ -212,7 +212,7 @@ void Insert(exchange::Run& run, const Object& item)
     }
 }
 
-void Update(exchange::Run& run, const Object& item)
+void Update(exchange::Run& run, const automation::ItemView& item)
 {
     data::UpdateRow contact(run.Catalogue);
     if (AddColumns(run, item, contact))
@@ -246,7 +246,7 @@ void SynSynContactToOlContact(exchange::Run& run, data::RecordMode /*mode*/, con
     exchange::WriteRelatedProperties(run, kContactToItem, item, exchange::Saves::OnceAtTheEnd);
 }
 
-long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const Object& item)
+long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
     const bool failed = state::Failed([&] {
         switch (mode)

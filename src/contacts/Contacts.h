@@ -23,6 +23,6 @@ void SynSynContactToOlContact(exchange::Run& run, data::RecordMode mode, const a
 // Writes one contact item, with its account and address, in one host transaction: a new row, or over the row
 // on which the run's recordset stands. Returns 0 when the contact is written, or skipped because it lacks a
 // name; -1 when nothing of it was written. Another mode shows a message and writes nothing.
-long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const automation::Object& item);
+long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item);
 
 } // namespace contacts

@@ -21,7 +21,8 @@ void Insert(Run& run, const PassFromOutlook& pass, long position)
     }
     if (const Object item = ProposedItem(run, record))
     {
-        pass.Write(run, data::kNewRecord, item);
+        ItemProperties properties(item);
+        pass.Write(run, data::kNewRecord, properties);
     }
     else
     {
@@ -30,7 +31,7 @@ void Insert(Run& run, const PassFromOutlook& pass, long position)
 }
 
 // An item that this run has written may have other keys by Outlook's own rules.
-bool IsPairOf(const Run& run, const data::ClsOlRecord& record, const Object& item)
+bool IsPairOf(const Run& run, const data::ClsOlRecord& record, const automation::ItemView& item)
 {
     return run.OverwrittenItems.contains(record.ItemIndex) || AreStillAPair(run, item);
 }
@@ -44,11 +45,13 @@ void Update(Run& run, const PassFromOutlook& pass, long position)
     }
     const Object item = ProposedItem(run, record);
     const data::ClsSalesRecord& row = run.Pending.ChangedHostRecords.Item(position);
-    if (!item || !MoveToProposedRow(run, row) || !IsPairOf(run, record, item))
+    // The writer gets the match keys as they have been read for the comparison.
+    ItemProperties properties(item);
+    if (!item || !MoveToProposedRow(run, row) || !IsPairOf(run, record, properties))
     {
         Skip(run);
     }
-    else if (pass.Write(run, data::kExistingRecord, item) == 0)
+    else if (pass.Write(run, data::kExistingRecord, properties) == 0)
     {
         run.OverwrittenRows.insert(row.RecordBookmark);
     }

@@ -18,7 +18,7 @@ struct PassFromOutlook
     Unmapped Others = Unmapped::LeftOut;
     // Writes one item into the host: kNewRecord, or kExistingRecord with run.HostRows on the row to update.
     // Returns -1 for failure, 0 otherwise; the pass goes on with the next record in either case.
-    long (*Write)(Run& run, data::RecordMode mode, const automation::Object& item);
+    long (*Write)(Run& run, data::RecordMode mode, const automation::ItemView& item);
 
     // Writes the run's pending changes. True when an error ended the pass, False when both collections were
     // walked to their end.

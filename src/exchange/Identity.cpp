@@ -166,7 +166,7 @@ bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record)
     return GoToRow(run.HostRows, run.Identity.KeyColumn, record.RecordBookmark, record.Key);
 }
 
-bool AreStillAPair(const Run& run, const ItemView& item)
+bool AreStillAPair(const Run& run, const automation::ItemView& item)
 {
     return !run.Identity.Matches || run.Identity.Matches(item, run.HostRows);
 }

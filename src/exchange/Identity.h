@@ -33,7 +33,7 @@ automation::Object ProposedItem(Run& run, const data::ClsOlRecord& record);
 // Moves the host's rows to the row that was proposed; false when it is gone.
 bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record);
 // Whether the two are the same record still.
-bool AreStillAPair(const Run& run, const ItemView& item);
+bool AreStillAPair(const Run& run, const automation::ItemView& item);
 
 // A record that the user has accepted is not written.
 void Skip(Run& run);

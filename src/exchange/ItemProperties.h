@@ -1,8 +1,9 @@
 // The properties of one Outlook item while a record writer reads them: each is asked of Outlook once, however
-// many host columns it bears on. Lives as long as the writing of its item, which it refers to.
+// many host columns it bears on, and whether or not its identity was confirmed by it. Lives as long as the
+// writing of its item, which it refers to.
 #pragma once
 
-#include "exchange/ItemView.h"
+#include "automation/ItemView.h"
 
 #include <map>
 #include <string>
@@ -10,10 +11,10 @@
 namespace exchange
 {
 
-class ItemProperties : public PropertySource
+class ItemProperties : public automation::PropertySource
 {
   public:
-    explicit ItemProperties(const automation::Object& item) : mItem(item) {}
+    explicit ItemProperties(const automation::ItemView& item) : mItem(item) {}
 
     // All of these throw automation::Error when Outlook refuses.
     const automation::Value& ValueOf(const std::wstring& property);
@@ -23,10 +24,10 @@ class ItemProperties : public PropertySource
     automation::Value DateOrNull(const std::wstring& property);
 
     automation::Value Get(const wchar_t* property) override { return ValueOf(property); }
-    const automation::Object& Item() override { return mItem; }
+    const automation::Object& Item() override { return mItem.Item(); }
 
   private:
-    const automation::Object& mItem;
+    automation::ItemView mItem;
     std::map<std::wstring, automation::Value> mValues;
 };
 

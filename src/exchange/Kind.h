@@ -16,7 +16,7 @@ namespace exchange
 {
 
 using RowFilter = std::function<bool(const automation::Recordset& rows)>;
-using ItemFilter = std::function<bool(const ItemView& item)>;
+using ItemFilter = std::function<bool(const automation::ItemView& item)>;
 
 // Which records a direction proposes on the side that it reads from; an empty function keeps all.
 struct Filters

@@ -3,8 +3,8 @@
 // their second keys; the second ones are read only where the first ones are equal.
 #pragma once
 
+#include "automation/ItemView.h"
 #include "automation/Recordset.h"
-#include "exchange/ItemView.h"
 
 #include <span>
 #include <string>
@@ -26,15 +26,15 @@ struct KeysInTable
 // means that the category has no second key.
 struct MatchRule
 {
-    std::wstring (*FirstKeyOfItem)(const ItemView& item);
-    std::wstring (*SecondKeyOfItem)(const ItemView& item);
+    std::wstring (*FirstKeyOfItem)(const automation::ItemView& item);
+    std::wstring (*SecondKeyOfItem)(const automation::ItemView& item);
     // Of the row on which the recordset stands.
     std::wstring (*FirstKeyOfRow)(const automation::Recordset& rows);
     std::wstring (*SecondKeyOfRow)(const automation::Recordset& rows);
     KeysInTable InTable{};
 
     // Whether the item and the row on which the recordset stands are the same record.
-    bool Matches(const ItemView& item, const automation::Recordset& rows) const
+    bool Matches(const automation::ItemView& item, const automation::Recordset& rows) const
     {
         return FirstKeyOfItem(item) == FirstKeyOfRow(rows) &&
                (SecondKeyOfItem == nullptr || SecondKeyOfItem(item) == SecondKeyOfRow(rows));

@@ -3,10 +3,10 @@
 // pass ends, since nothing that a pass writes can change them.
 #pragma once
 
+#include "automation/ItemView.h"
 #include "automation/Recordset.h"
 #include "data/ChangeRecords.h"
 #include "data/FieldCatalogue.h"
-#include "exchange/ItemView.h"
 #include "exchange/RelationTable.h"
 #include "exchange/RunDisplay.h"
 
@@ -23,8 +23,8 @@ struct Identification
 {
     std::wstring KeyColumn{}; // of the host's rows
     // The first match key of an item, and whether an item and the current row are the same record.
-    std::function<std::wstring(const ItemView& item)> FirstKeyOf{};
-    std::function<bool(const ItemView& item, const automation::Recordset& rows)> Matches{};
+    std::function<std::wstring(const automation::ItemView& item)> FirstKeyOf{};
+    std::function<bool(const automation::ItemView& item, const automation::Recordset& rows)> Matches{};
 };
 
 // What Outlook tells the folder of a run by.

@@ -54,7 +54,7 @@ bool MayChangeAccounts(long operation)
     return data::CheckPermission(data::kAccountRecord, data::kUsualScope, operation);
 }
 
-void AddAddressColumns(const Object& item, HostRow& address)
+void AddAddressColumns(const automation::ItemView& item, HostRow& address)
 {
     for (const AddressColumn& one : kAddressColumns)
     {
@@ -64,8 +64,8 @@ void AddAddressColumns(const Object& item, HostRow& address)
 }
 
 // The key of the account's new primary address, empty where the user may not add it.
-std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
-                           const std::wstring& account)
+std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue,
+                           const automation::ItemView& item, const std::wstring& account)
 {
     if (!MayChangeAccounts(data::kAddOperation))
     {
@@ -80,8 +80,8 @@ std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue, co
 }
 
 // The key of the address, empty where the user may not change it.
-std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
-                              const std::wstring& key)
+std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue,
+                              const automation::ItemView& item, const std::wstring& key)
 {
     if (!MayChangeAccounts(data::kModifyOperation))
     {
@@ -99,7 +99,7 @@ std::wstring AccountFilter(data::FieldCatalogue& catalogue, const std::wstring& 
     return L"F_ACCSNAME=" + QuotedText(data::TextAsHeld(catalogue, L"F_ACCSNAME", companyName));
 }
 
-Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item,
                         const std::wstring& companyName)
 {
     if (!MayChangeAccounts(data::kAddOperation))
@@ -110,7 +110,7 @@ Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const
     return {account, CreateAddress(host, catalogue, item, account)};
 }
 
-Links LinksOfFoundAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+Links LinksOfFoundAccount(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item,
                           const automation::Recordset& accounts)
 {
     const std::wstring account = automation::TextOf(accounts.ValueOf(L"F_ACCID"));
@@ -127,7 +127,7 @@ void OpenAccounts(const Host& host, data::FieldCatalogue& catalogue, const std::
         L"OpenRecordset");
 }
 
-Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
+Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item,
                      const std::wstring& companyName)
 {
     automation::Recordset accounts;
@@ -164,8 +164,8 @@ bool IsSameCompany(const std::wstring& one, const std::wstring& other)
 
 // Looks under the name that the host has, for the account that the contact has: another one may have the same
 // name. No links where that account is not to be seen, so that the contact stays with it.
-Links LinksOfPresentAccount(const Host& host, data::FieldCatalogue& catalogue, const Object& item,
-                            const PresentContact& present)
+Links LinksOfPresentAccount(const Host& host, data::FieldCatalogue& catalogue,
+                            const automation::ItemView& item, const PresentContact& present)
 {
     const auto account = PresentAccount(present.Key);
     if (!account)
@@ -236,7 +236,8 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     return key;
 }
 
-void AddAccountLinks(const Host& host, const Object& item, HostRow& contact, const PresentContact* present)
+void AddAccountLinks(const Host& host, const automation::ItemView& item, HostRow& contact,
+                     const PresentContact* present)
 {
     const std::wstring companyName = Trimmed(TextOrEmpty(item.Get(L"CompanyName")));
     if (companyName.empty())

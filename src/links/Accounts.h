@@ -4,7 +4,7 @@
 // that the writer rolls back.
 #pragma once
 
-#include "automation/Object.h"
+#include "automation/ItemView.h"
 #include "data/Host.h"
 #include "data/HostRow.h"
 
@@ -37,7 +37,7 @@ struct PresentContact
 // overwritten, null for a new one. If the user may not make a link, a message says so and the link is NULL in
 // a new contact and untouched in an existing one, unless that would leave it with the address of another
 // account. A contact keeps its account while the two companies are equal by the rule that matches contacts.
-void AddAccountLinks(const data::Host& host, const automation::Object& item, data::HostRow& contact,
+void AddAccountLinks(const data::Host& host, const automation::ItemView& item, data::HostRow& contact,
                      const PresentContact* present = nullptr);
 
 } // namespace links

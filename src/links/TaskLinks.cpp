@@ -55,7 +55,7 @@ std::wstring LiteralOfKey(const std::wstring& key)
 }
 
 // Nothing where the object model guard refuses them.
-std::optional<std::wstring> ContactNamesOf(const Object& item)
+std::optional<std::wstring> ContactNamesOf(const automation::ItemView& item)
 {
     try
     {
@@ -72,10 +72,10 @@ std::optional<std::wstring> ContactNamesOf(const Object& item)
     }
 }
 
-Link LiteralOfContact(const wchar_t* builder, const Object& item)
+Link LiteralOfContact(const wchar_t* builder, const automation::ItemView& item)
 {
     if (!data::HasPermission(data::kContactRecord, data::kUsualScope, data::kModifyOperation) ||
-        IsOfOutlook8(item))
+        IsOfOutlook8(item.Item()))
     {
         return kNull;
     }
@@ -108,7 +108,7 @@ struct AccountLink
         return key.empty() ? links::CreateAccount(data::Host(), Catalogue, company, UndoneBy) : key;
     }
 
-    Link LiteralOf(const Object& item) const
+    Link LiteralOf(const automation::ItemView& item) const
     {
         const std::wstring company = automation::Trimmed(TextOrEmpty(item.Get(L"Companies")));
         if (company.empty())
@@ -129,23 +129,23 @@ void AddLink(data::HostRow& task, const wchar_t* column, const Link& link)
 
 } // namespace
 
-void ChangeNewTaskContact(const Object& item, data::InsertRow& task)
+void ChangeNewTaskContact(const automation::ItemView& item, data::InsertRow& task)
 {
     AddLink(task, kContactColumn, LiteralOfContact(L"ChangeNewTaskContact", item));
 }
 
-void ChangeEditTaskContact(const Object& item, data::UpdateRow& task)
+void ChangeEditTaskContact(const automation::ItemView& item, data::UpdateRow& task)
 {
     AddLink(task, kContactColumn, LiteralOfContact(L"ChangeEditTaskContact", item));
 }
 
-void ChangeAddTaskAccount(const Object& item, data::InsertRow& task, UndoneBy undoneBy)
+void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task, UndoneBy undoneBy)
 {
     const AccountLink link{L"ChangeAddTaskAccount", task.Catalogue(), undoneBy};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
 }
 
-void ChangeEditTaskAccount(const Object& item, data::UpdateRow& task, UndoneBy undoneBy)
+void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task, UndoneBy undoneBy)
 {
     const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), undoneBy};
     AddLink(task, kAccountColumn, link.LiteralOf(item));

@@ -4,7 +4,7 @@
 // message box titled by the routine.
 #pragma once
 
-#include "automation/Object.h"
+#include "automation/ItemView.h"
 #include "data/HostRow.h"
 #include "links/Accounts.h"
 
@@ -13,15 +13,15 @@ namespace links
 
 // F_CNTCTID by the item's ContactNames: the contact's key, or NULL where there is none, the item was made by
 // an Outlook without links, or the user may not modify contacts.
-void ChangeNewTaskContact(const automation::Object& item, data::InsertRow& task);
-void ChangeEditTaskContact(const automation::Object& item, data::UpdateRow& task);
+void ChangeNewTaskContact(const automation::ItemView& item, data::InsertRow& task);
+void ChangeEditTaskContact(const automation::ItemView& item, data::UpdateRow& task);
 
 // F_ACCID by the item's Companies: the account's key, with the account created where the host has none, for a
 // user who may add accounts; NULL for an item without a company, for a user who may modify them. Otherwise
 // nothing is added.
-void ChangeAddTaskAccount(const automation::Object& item, data::InsertRow& task,
+void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task,
                           UndoneBy undoneBy = UndoneBy::Transaction);
-void ChangeEditTaskAccount(const automation::Object& item, data::UpdateRow& task,
+void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task,
                            UndoneBy undoneBy = UndoneBy::Transaction);
 
 } // namespace links

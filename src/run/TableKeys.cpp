@@ -59,7 +59,7 @@ std::vector<std::wstring> ColumnsFor(const exchange::MatchRule& rule, const exch
 }
 
 // One row as the key readers see it.
-class RowOfTable : public exchange::PropertySource
+class RowOfTable : public automation::PropertySource
 {
   public:
     RowOfTable(const FolderTable& table, exchange::Run& run)

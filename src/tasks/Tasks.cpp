@@ -39,7 +39,7 @@ constexpr long kTaskDeferred = 4; // the last one
 
 // Match keys and filters
 
-std::wstring KeyOfTaskItem(const exchange::ItemView& item)
+std::wstring KeyOfTaskItem(const automation::ItemView& item)
 {
     const std::wstring subject = exchange::Comparable(item.Get(L"Subject"));
     const std::wstring category = exchange::ComparableCategory(item.Get(L"Categories"));
@@ -55,7 +55,7 @@ std::wstring KeyOfTaskRow(const Recordset& rows)
                                exchange::ComparableDate(rows.ValueOf(L"F_ACTPSTIME"), L"yyyy/mm/dd"));
 }
 
-std::wstring CompaniesOfTask(const exchange::ItemView& item)
+std::wstring CompaniesOfTask(const automation::ItemView& item)
 {
     return exchange::Comparable(item.Get(L"Companies"));
 }
@@ -69,7 +69,7 @@ bool IsPendingRow(const Recordset& rows)
     return !IsTrue(rows.ValueOf(L"F_ACTCOMPLETED"));
 }
 
-bool IsPendingItem(const exchange::ItemView& item)
+bool IsPendingItem(const automation::ItemView& item)
 {
     return !IsTrue(item.Get(L"Complete"));
 }
@@ -249,7 +249,7 @@ constexpr exchange::PropertyFromOutlook kTaskToActivity[] = {
     {L"ActualWork", ReadAsIs},
 };
 
-void AddColumns(exchange::Run& run, const Object& item, data::HostRow& task)
+void AddColumns(exchange::Run& run, const automation::ItemView& item, data::HostRow& task)
 {
     exchange::ItemProperties properties(item);
     data::ThrowUnless(exchange::AddRelatedColumns(run.Relations, kTaskToActivity,
@@ -257,7 +257,7 @@ void AddColumns(exchange::Run& run, const Object& item, data::HostRow& task)
                       L"Subject");
 }
 
-void Insert(exchange::Run& run, const Object& item)
+void Insert(exchange::Run& run, const automation::ItemView& item)
 {
     data::InsertRow task(run.Catalogue);
     AddColumns(run, item, task);
@@ -273,7 +273,7 @@ void Insert(exchange::Run& run, const Object& item)
     transaction.Commit();
 }
 
-void Update(exchange::Run& run, const Object& item)
+void Update(exchange::Run& run, const automation::ItemView& item)
 {
     data::UpdateRow task(run.Catalogue);
     AddColumns(run, item, task);
@@ -304,7 +304,7 @@ void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const Object&
     }
 }
 
-long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const Object& item)
+long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
     const bool failed = state::Failed([&] {
         switch (mode)

@@ -24,6 +24,6 @@ void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const automat
 // Writes one task item, with its links, in one host transaction: a new row, or over the row on which the
 // run's recordset stands. Returns 0, or -1 when the task is not written: the host refused, or the item has no
 // subject. Another mode shows a message and writes nothing.
-long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const automation::Object& item);
+long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item);
 
 } // namespace tasks

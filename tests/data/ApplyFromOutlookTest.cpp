@@ -50,7 +50,7 @@ class Items : public sandbox::DispatchObject
 std::vector<std::wstring> gWrittenRows;
 
 // Writes down mode, item and host row, and fails for every second item.
-long WriteRow(Run& run, data::RecordMode mode, const Object& item)
+long WriteRow(Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
     const long position = LongOf(item.Get(L"Position"));
     gWrittenRows.push_back((mode == data::kNewRecord ? L"new " : L"row ") + std::to_wstring(position) +

@@ -8,6 +8,7 @@
 #include "sandbox/ado/Recordset.h"
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
+#include "tests/support/CallCounter.h"
 #include "tests/support/RecordingDisplay.h"
 
 #include <gtest/gtest.h>
@@ -28,9 +29,9 @@ void Note(exchange::Run& run, data::RecordMode mode, const Object& item)
     gPairs.push_back(TextOf(item.Get(L"LastName")) + row);
 }
 
-long NoteRow(exchange::Run& run, data::RecordMode mode, const Object& item)
+long NoteRow(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
-    Note(run, mode, item);
+    Note(run, mode, item.Item());
     return 0;
 }
 
@@ -51,7 +52,7 @@ class IdentityOfRecords : public testing::Test
         TheRun.HostRows =
             automation::Recordset(sandbox::MakeRecordset({{{L"Id"}}, {{L"a"}, {L"b"}, {L"c"}}}));
         TheRun.Identity.KeyColumn = L"Id";
-        TheRun.Identity.Matches = [](const exchange::ItemView& item, const automation::Recordset& rows) {
+        TheRun.Identity.Matches = [](const automation::ItemView& item, const automation::Recordset& rows) {
             return TextOf(item.Get(L"LastName")) == TextOf(rows.ValueOf(L"Id"));
         };
     }
@@ -133,9 +134,25 @@ TEST_F(IdentityOfRecords, APairThatIsOneNoLongerIsNotWritten)
     EXPECT_EQ(2, TheRun.Skipped);
 }
 
+TEST_F(IdentityOfRecords, TheFolderIsAskedForItsOwnIdentityOnce)
+{
+    for (const long position : {1L, 2L, 3L})
+    {
+        TheRun.Pending.NewOutlookItems.Add(std::to_wstring(position), 0).EntryId = IdOf(position % 3 + 1);
+    }
+    const test_support::CallCounter counter;
+    EXPECT_FALSE(Import());
+    EXPECT_EQ((Pairs{L"b", L"c", L"a"}), gPairs);
+    EXPECT_EQ(3, counter.Of(L"NameSpace.GetItemFromID"));
+    EXPECT_EQ(1, counter.Of(L"MAPIFolder.StoreID"));
+    EXPECT_EQ(1 + 3, counter.Of(L"MAPIFolder.EntryID")); // its own, and those of the items' parents
+}
+
 TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsToldByItsKeyAlone)
 {
-    TheRun.Identity.FirstKeyOf = [](const exchange::ItemView& item) { return TextOf(item.Get(L"LastName")); };
+    TheRun.Identity.FirstKeyOf = [](const automation::ItemView& item) {
+        return TextOf(item.Get(L"LastName"));
+    };
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).FirstKey = L"a";
     TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = L"a";
     EXPECT_FALSE(Import());

@@ -21,7 +21,7 @@ constexpr long kRounds = 3;
 
 std::vector<std::wstring> gRead;
 
-long Read(exchange::Run& /*run*/, data::RecordMode /*mode*/, const Object& item)
+long Read(exchange::Run& /*run*/, data::RecordMode /*mode*/, const automation::ItemView& item)
 {
     gRead.push_back(automation::TextOf(item.Get(L"Subject")) + L" " +
                     std::to_wstring(automation::LongOf(item.Get(L"Class"))));

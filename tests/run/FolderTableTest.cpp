@@ -380,4 +380,29 @@ TEST_F(RunOverStaleTable, WritesNoPairThatTheItemsDoNotMake)
     EXPECT_EQ(L"Mine", automation::TextOf(Mailbox->ItemProperty(kContactRun.folder, kStale, L"JobTitle")));
 }
 
+// The collection compares the first items with the table; after that each pair is read once, for the
+// comparison of its keys and for the writing together.
+using RunFromOutlook = RunsFixture;
+
+TEST_F(RunFromOutlook, APairsPropertiesAreReadOnceInTheApplyPass)
+{
+    constexpr long kPairs = 8;
+    constexpr long kCompared = 4;
+    for (long i = 1; i <= kPairs; ++i)
+    {
+        const std::wstring name = L"Name" + std::to_wstring(i);
+        Mailbox->AddItem(kContactRun.folder, {{L"LastName", name}, {L"FirstName", L"Ann"}});
+        TheHost.Database().Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                                   L"VALUES (hex(randomblob(16)),1,'" +
+                                   name + L"','Ann')");
+    }
+    const CallCounter counter;
+    EXPECT_FALSE(Run(kContactRun, 1, Answer::Accept).failed);
+    for (const wchar_t* property : {L"LastName", L"FirstName", L"CompanyName", L"EntryID"})
+    {
+        EXPECT_EQ(kCompared + kPairs, counter.Of(std::wstring(L"ContactItem.") + property)) << property;
+    }
+    EXPECT_EQ(kCompared + kPairs, counter.Of(L"Items.Item"));
+}
+
 } // namespace
