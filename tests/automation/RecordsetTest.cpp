@@ -3,8 +3,8 @@
 #include "automation/Error.h"
 #include "sandbox/ado/Ado.h"
 #include "tests/automation/ScriptedObject.h"
-#include "tests/sandbox_host/DatabaseFile.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
+#include "tests/support/DatabaseFile.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace
 {
 
 using namespace automation;
-using test_support::CallCounter;
+using test_support::CallWatch;
 using test_support::DatabaseFile;
 
 class RecordsetTest : public testing::Test
@@ -31,15 +31,15 @@ TEST_F(RecordsetTest, AColumnIsFetchedOnceAndItsFieldFollowsTheRow)
 {
     const Recordset rows =
         Open(L"SELECT 'a' AS Name, 1 AS Size UNION ALL SELECT 'b', 2 UNION ALL SELECT 'c', 3");
-    const CallCounter counter;
+    const CallWatch calls;
     std::wstring read;
     for (; !rows.AtEnd(); rows.MoveNext())
     {
         read += TextOf(rows.ValueOf(L"Name")) + TextOf(rows.ValueOf(L"Size")) + TextOf(rows.ValueOf(L"Name"));
     }
     EXPECT_EQ(L"a1ab2bc3c", read);
-    EXPECT_EQ(2, counter.Of(L"Recordset.Fields"));
-    EXPECT_EQ(9, counter.Of(L"Field.Value"));
+    EXPECT_EQ(2, calls.Of(L"Recordset.Fields"));
+    EXPECT_EQ(9, calls.Of(L"Field.Value"));
 }
 
 TEST_F(RecordsetTest, ACopyTakesTheKnownColumnsAlong)
@@ -47,9 +47,9 @@ TEST_F(RecordsetTest, ACopyTakesTheKnownColumnsAlong)
     const Recordset rows = Open(L"SELECT 1 AS Size");
     rows.ValueOf(L"Size");
     const Recordset copy = rows;
-    const CallCounter counter;
+    const CallWatch calls;
     EXPECT_EQ(1, LongOf(copy.ValueOf(L"Size")));
-    EXPECT_EQ(0, counter.Of(L"Recordset.Fields"));
+    EXPECT_EQ(0, calls.Of(L"Recordset.Fields"));
 }
 
 TEST_F(RecordsetTest, AColumnThatIsNotThereIsAnErrorEachTime)
@@ -100,7 +100,7 @@ TEST_F(RecordsetTest, OnlyBothEndsAtOnceMeanThatThereIsNoRow)
 
 TEST_F(RecordsetTest, AScopeClosesItsRecordsetOnEveryWayOut)
 {
-    const CallCounter counter;
+    const CallWatch calls;
     Recordset rows = Open(L"SELECT 1 AS Size");
     try
     {
@@ -111,7 +111,7 @@ TEST_F(RecordsetTest, AScopeClosesItsRecordsetOnEveryWayOut)
     {
         EXPECT_FALSE(rows);
     }
-    EXPECT_EQ(1, counter.Of(L"Recordset.Close"));
+    EXPECT_EQ(1, calls.Of(L"Recordset.Close"));
 }
 
 TEST(CloseRecordset, ForgivesARecordsetThatCannotEvenTellItsState)

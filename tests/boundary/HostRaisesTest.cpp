@@ -1,7 +1,7 @@
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "tests/boundary/Meddler.h"
 #include "tests/boundary/Site.h"
+#include "tests/support/Interceptor.h"
 #include "tests/support/Thoroughness.h"
 
 #include <set>
@@ -84,15 +84,15 @@ class HostRaises : public testing::TestWithParam<const wchar_t*>
         Site site;
         const InProcess inProcess(site);
         site.Prepare(task.direction);
-        const auto meddling = std::make_shared<Meddling>();
-        meddling->before = [raising = Raising(member.name)](const std::wstring& called) {
+        const auto hooks = std::make_shared<test_support::Hooks>();
+        hooks->before = [raising = Raising(member.name)](const std::wstring& called) {
             if (raising.contains(called))
             {
                 throw automation::Error(E_FAIL, called, L"The host raises an error");
             }
         };
-        const Seen seen = RunWith(site, MakeMeddled(site.Host().Dtc(), meddling), task);
-        mCalls[member.name] += meddling->calls[member.name];
+        const Seen seen = RunWith(site, test_support::Intercept(site.Host().Dtc(), hooks), task);
+        mCalls[member.name] += hooks->calls[member.name];
         EXPECT_EQ(task.direction == kImport ? member.import : member.both, EndingOf(seen));
         TakeBackWhatTheHostLeftOpen(site, member.name);
         site.ExpectNothingLeft();

@@ -1,9 +1,9 @@
 #include "automation/Error.h"
 #include "automation/Text.h"
 #include "resources/Strings.h"
-#include "tests/boundary/Meddler.h"
 #include "tests/boundary/Site.h"
 #include "tests/support/Drive.h"
+#include "tests/support/Interceptor.h"
 
 namespace boundary_tests
 {
@@ -18,7 +18,7 @@ class MisbehavingHost : public testing::TestWithParam<const wchar_t*>
   protected:
     MisbehavingHost() { mSite.Prepare(kBoth); }
 
-    Object Meddled() { return MakeMeddled(mSite.Host().Dtc(), mMeddling); }
+    Object Hooked() { return test_support::Intercept(mSite.Host().Dtc(), mHooks); }
 
     // One run with the meddled host; atConfirmation runs on this thread.
     Seen Run(const std::function<void()>& atConfirmation = [] {})
@@ -31,7 +31,7 @@ class MisbehavingHost : public testing::TestWithParam<const wchar_t*>
                 seen = user.Run(mTask.kind, [&] { mainThread.Invoke(atConfirmation); });
                 user.Leave();
             },
-            Meddled()));
+            Hooked()));
         return seen;
     }
 
@@ -48,14 +48,14 @@ class MisbehavingHost : public testing::TestWithParam<const wchar_t*>
         ExpectWhole(mSite.Look(), mCourse.before, mCourse.after, UnfinishedRecords(mTask));
         EXPECT_EQ(SuccessStatus(), mSite.Run(mTask).status);
         ExpectReached(mSite.Look(), mCourse.after, UnfinishedRecords(mTask));
-        EXPECT_EQ(0, MeddledObjects());
+        EXPECT_EQ(0, test_support::InterceptedObjects());
     }
 
     const Task mTask{GetParam(), kBoth};
     const Course& mCourse = UndisturbedCourse(mTask);
     Site mSite;
     InProcess mInProcess{mSite};
-    std::shared_ptr<Meddling> mMeddling = std::make_shared<Meddling>();
+    std::shared_ptr<test_support::Hooks> mHooks = std::make_shared<test_support::Hooks>();
 };
 
 // The object that a by-reference argument holds becomes nothing.
@@ -74,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(, MisbehavingHost, testing::ValuesIn(kKinds));
 
 TEST_P(MisbehavingHost, ThatGivesNoUserIsNotWorkedWith)
 {
-    mMeddling->after = [](const std::wstring& member, DISPPARAMS&, VARIANT& result) {
+    mHooks->after = [](const std::wstring& member, DISPPARAMS&, VARIANT& result) {
         if (member == L"MyInfo")
         {
             VariantClear(&result);
@@ -89,7 +89,7 @@ TEST_P(MisbehavingHost, ThatGivesNoUserIsNotWorkedWith)
 
 TEST_P(MisbehavingHost, ThatReportsSuccessWithoutARecordsetFailsTheRun)
 {
-    mMeddling->after = [](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
+    mHooks->after = [](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
         if (member == L"OpenRecordset")
         {
             ClearObject(arguments.rgvarg[arguments.cArgs - 1]);
@@ -102,7 +102,7 @@ TEST_P(MisbehavingHost, ThatReportsSuccessWithoutARecordsetFailsTheRun)
 
 TEST_P(MisbehavingHost, ThatReportsSuccessWithoutTheRowsOfAStatementIsNotWorkedWith)
 {
-    mMeddling->after = [](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
+    mHooks->after = [](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
         if (member == L"OpenRecordsetByString")
         {
             ClearObject(arguments.rgvarg[arguments.cArgs - 1]);
@@ -116,7 +116,7 @@ TEST_P(MisbehavingHost, ThatReportsSuccessWithoutTheRowsOfAStatementIsNotWorkedW
 TEST_P(MisbehavingHost, ThatWritesNumbersDatesAndTruthAsTextIsUnderstood)
 {
     long texts = 0;
-    mMeddling->after = [&](const std::wstring&, DISPPARAMS&, VARIANT& result) {
+    mHooks->after = [&](const std::wstring&, DISPPARAMS&, VARIANT& result) {
         if (result.vt != VT_EMPTY && result.vt != VT_DISPATCH && result.vt != VT_BSTR)
         {
             EXPECT_EQ(S_OK, VariantChangeType(&result, &result, VARIANT_ALPHABOOL, VT_BSTR));
@@ -132,7 +132,7 @@ TEST_P(MisbehavingHost, ThatWritesNumbersDatesAndTruthAsTextIsUnderstood)
 TEST_P(MisbehavingHost, WhoseObjectDiesWhileTheUserConfirmsLosesNothing)
 {
     bool isDead = false;
-    mMeddling->before = [&](const std::wstring& member) {
+    mHooks->before = [&](const std::wstring& member) {
         if (isDead)
         {
             throw automation::Error(CO_E_OBJNOTCONNECTED, member);
@@ -147,7 +147,7 @@ TEST_P(MisbehavingHost, WhoseObjectDiesWhileTheUserConfirmsLosesNothing)
 TEST_P(MisbehavingHost, WhoseObjectDiesWithTheFirstRowWrittenLosesNothing)
 {
     bool isDead = false;
-    mMeddling->before = [&](const std::wstring& member) {
+    mHooks->before = [&](const std::wstring& member) {
         if (isDead)
         {
             throw automation::Error(CO_E_OBJNOTCONNECTED, member);
@@ -162,7 +162,7 @@ TEST_P(MisbehavingHost, WhoseObjectDiesWithTheFirstRowWrittenLosesNothing)
 TEST_P(MisbehavingHost, ThatClosesItsRecordsetWhileTheUserConfirmsFailsTheRun)
 {
     Object handedOut;
-    mMeddling->after = [&](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
+    mHooks->after = [&](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
         if (member == L"OpenRecordset")
         {
             handedOut = Object(*arguments.rgvarg[arguments.cArgs - 1].ppdispVal);
@@ -171,15 +171,15 @@ TEST_P(MisbehavingHost, ThatClosesItsRecordsetWhileTheUserConfirmsFailsTheRun)
     const Seen seen = Run([&] { handedOut.Call(L"Close"); });
     EXPECT_EQ(FailureStatus(), seen.status);
     handedOut = {};
-    mMeddling->after = {};
+    mHooks->after = {};
     ExpectPutRight();
 }
 
 TEST_P(MisbehavingHost, ThatGivesUpItsOwnReferencesDuringTheRunIsKeptUntilTheEnd)
 {
     IDispatch* given = nullptr;
-    Meddled().Dispatch()->QueryInterface(IID_PPV_ARGS(&given));
-    mMeddling->before = [&](const std::wstring&) {
+    Hooked().Dispatch()->QueryInterface(IID_PPV_ARGS(&given));
+    mHooks->before = [&](const std::wstring&) {
         if (given != nullptr)
         {
             std::exchange(given, nullptr)->Release(); // the variable that SynLoad was given by reference, too
@@ -207,14 +207,14 @@ TEST_P(MisbehavingHost, ThatGivesUpItsOwnReferencesDuringTheRunIsKeptUntilTheEnd
     robot.Finish();
     EXPECT_EQ(nullptr, given);
     EXPECT_EQ(SuccessStatus(), seen.status);
-    EXPECT_EQ(0, MeddledObjects());
+    EXPECT_EQ(0, test_support::InterceptedObjects());
     ExpectReached(mSite.Look(), mCourse.after);
     ExpectPutRight();
 }
 
 TEST_P(MisbehavingHost, ThatRaisesWhileTheConfigurationIsStoredLeavesTheDialogsUsable)
 {
-    mMeddling->before = [](const std::wstring& member) {
+    mHooks->before = [](const std::wstring& member) {
         if (member == L"Update")
         {
             throw automation::Error(E_FAIL, member, L"The host raises an error");
@@ -232,8 +232,8 @@ TEST_P(MisbehavingHost, ThatRaisesWhileTheConfigurationIsStoredLeavesTheDialogsU
             seen = user.Run(mTask.kind);
             user.Leave();
         },
-        Meddled());
-    EXPECT_LT(0, mMeddling->calls[L"Update"]);
+        Hooked());
+    EXPECT_LT(0, mHooks->calls[L"Update"]);
     EXPECT_EQ(SuccessStatus(), seen.status);
     ExpectPutRight();
 }

@@ -1,8 +1,8 @@
 #include "automation/Error.h"
 #include "resources/Strings.h"
-#include "tests/boundary/Meddler.h"
 #include "tests/boundary/Site.h"
 #include "tests/support/Drive.h"
+#include "tests/support/Interceptor.h"
 
 #include <algorithm>
 
@@ -26,12 +26,11 @@ class Reentry : public testing::TestWithParam<const wchar_t*>
     // A run during which the host does something in each of its members that is named, once.
     Seen RunWhile(const std::vector<std::wstring>& members, const std::function<void(const Object&)>& action)
     {
-        const auto meddling = std::make_shared<Meddling>();
+        const auto hooks = std::make_shared<test_support::Hooks>();
         const Object component = Object::Create(L"TelvixOutlook.ClsSynOutlook");
         bool isInside = false;
-        meddling->before = [&](const std::wstring& member) {
-            if (!isInside && meddling->calls[member] == 1 &&
-                std::ranges::find(members, member) != members.end())
+        hooks->before = [&](const std::wstring& member) {
+            if (!isInside && hooks->calls[member] == 1 && std::ranges::find(members, member) != members.end())
             {
                 isInside = true;
                 action(component);
@@ -45,7 +44,7 @@ class Reentry : public testing::TestWithParam<const wchar_t*>
             seen = user.Run(mTask.kind);
             user.Leave();
         });
-        Object dtc = MakeMeddled(mSite.Host().Dtc(), meddling);
+        Object dtc = test_support::Intercept(mSite.Host().Dtc(), hooks);
         EXPECT_FALSE(
             automation::TruthOf(component.Call(L"SynLoad", ByRef(dtc), mSite.Host().ConnectionString())));
         robot.Finish();
@@ -59,7 +58,7 @@ class Reentry : public testing::TestWithParam<const wchar_t*>
         EXPECT_LT(0, mTimes);
         ExpectReached(mSite.Look(), mCourse.after);
         mSite.ExpectNothingLeft();
-        EXPECT_EQ(0, MeddledObjects());
+        EXPECT_EQ(0, test_support::InterceptedObjects());
     }
 
     const Task mTask{GetParam(), kBoth};
@@ -89,9 +88,9 @@ INSTANTIATE_TEST_SUITE_P(, Reentry, testing::ValuesIn(kKinds));
 
 TEST_P(Reentry, ByASecondSynLoadShowsNoSecondDialogAndTheRunGoesOnWithItsOwnHost)
 {
-    const auto ofSecond = std::make_shared<Meddling>();
+    const auto ofSecond = std::make_shared<test_support::Hooks>();
     ExpectUnimpressed(RunWhile(kEverywhere, [&](const Object& component) {
-        Object dtc = MakeMeddled(mSite.Host().Dtc(), ofSecond);
+        Object dtc = test_support::Intercept(mSite.Host().Dtc(), ofSecond);
         EXPECT_FALSE(automation::TruthOf(component.Call(L"SynLoad", ByRef(dtc), L"Driver=Other")));
         Object nothing;
         EXPECT_TRUE(
@@ -114,9 +113,9 @@ TEST_P(Reentry, ByPropertiesAndANewObjectOfTheClassLeavesTheRunAlone)
 
 TEST_P(Reentry, ByAHostThatQuitsEndsTheDialogsAndTheHostGetsItsMessage)
 {
-    const auto meddling = std::make_shared<Meddling>();
-    meddling->before = [&](const std::wstring& member) {
-        if (member == L"OpenRecordset" && meddling->calls[member] == 1)
+    const auto hooks = std::make_shared<test_support::Hooks>();
+    hooks->before = [&](const std::wstring& member) {
+        if (member == L"OpenRecordset" && hooks->calls[member] == 1)
         {
             PostQuitMessage(7);
         }
@@ -128,7 +127,7 @@ TEST_P(Reentry, ByAHostThatQuitsEndsTheDialogsAndTheHostGetsItsMessage)
             user.Main().Click(IDC_SYNC_START);
             robot.WaitUntilClosed(user.Main());
         },
-        MakeMeddled(mSite.Host().Dtc(), meddling)));
+        test_support::Intercept(mSite.Host().Dtc(), hooks)));
     MSG message{};
     EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(7u, message.wParam);
@@ -139,8 +138,8 @@ TEST_P(Reentry, ByAHostThatQuitsEndsTheDialogsAndTheHostGetsItsMessage)
 
 TEST_P(Reentry, ByAHostThatDestroysTheDialogEndsTheCallAndWritesNothing)
 {
-    const auto meddling = std::make_shared<Meddling>();
-    meddling->before = [&](const std::wstring& member) {
+    const auto hooks = std::make_shared<test_support::Hooks>();
+    hooks->before = [&](const std::wstring& member) {
         if (member == L"OpenRecordset")
         {
             EnumThreadWindows(GetCurrentThreadId(), DestroyDialog, 0);
@@ -152,24 +151,24 @@ TEST_P(Reentry, ByAHostThatDestroysTheDialogEndsTheCallAndWritesNothing)
             user.Run(mTask.kind);
             robot.WaitUntilClosed(user.Main());
         },
-        MakeMeddled(mSite.Host().Dtc(), meddling)));
+        test_support::Intercept(mSite.Host().Dtc(), hooks)));
     EXPECT_EQ(mCourse.before, mSite.Look());
     mSite.ExpectNothingLeft();
-    EXPECT_EQ(0, MeddledObjects());
+    EXPECT_EQ(0, test_support::InterceptedObjects());
     EXPECT_EQ(SuccessStatus(), mSite.Run(mTask).status);
     ExpectReached(mSite.Look(), mCourse.after);
 }
 
 TEST_P(Reentry, ByAHostThatLetsGoOfTheComponentIsSurvivedAndTheModuleStays)
 {
-    const auto meddling = std::make_shared<Meddling>();
+    const auto hooks = std::make_shared<test_support::Hooks>();
     Microsoft::WRL::ComPtr<IDispatch> component(Object::Create(L"TelvixOutlook.ClsSynOutlook").Dispatch());
     IDispatch* const called = component.Get();
     using CanUnloadNow = HRESULT(WINAPI*)();
     const auto canUnloadNow = reinterpret_cast<CanUnloadNow>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"Telvix.dll"), "DllCanUnloadNow")));
     ASSERT_NE(nullptr, canUnloadNow);
-    meddling->before = [&](const std::wstring&) {
+    hooks->before = [&](const std::wstring&) {
         component.Reset();
         CoFreeUnusedLibraries();
         EXPECT_EQ(S_FALSE, canUnloadNow());
@@ -184,7 +183,7 @@ TEST_P(Reentry, ByAHostThatLetsGoOfTheComponentIsSurvivedAndTheModuleStays)
         DISPID id = 0;
         LPOLESTR name = const_cast<LPOLESTR>(L"SynLoad");
         ASSERT_EQ(S_OK, called->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_SYSTEM_DEFAULT, &id));
-        const Object dtc = MakeMeddled(mSite.Host().Dtc(), meddling);
+        const Object dtc = test_support::Intercept(mSite.Host().Dtc(), hooks);
         const automation::Value connection(mSite.Host().ConnectionString());
         const automation::Value host(dtc);
         VARIANT arguments[2] = {connection.Raw(), host.Raw()};

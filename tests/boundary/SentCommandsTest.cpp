@@ -1,4 +1,5 @@
 // A second process presses the buttons by messages that it sends, as screen readers and test tools do.
+#include "resources/Strings.h"
 #include "tests/boundary/Server.h"
 
 #include <array>

@@ -1,10 +1,9 @@
 #include "tests/boundary/Site.h"
 
-#include "sandbox/dispatch/DispatchObject.h"
+#include "tests/support/CallWatch.h"
 #include "tools/demo/Installation.h"
 #include "tools/sample_data/SampleData.h"
 
-#include <atomic>
 #include <map>
 #include <set>
 #include <stdexcept>
@@ -66,27 +65,12 @@ BOOL CALLBACK CountDialog(HWND window, LPARAM count)
     return TRUE;
 }
 
-// Counts the calls of Outlook's objects in this process.
-class OutlookCalls : public sandbox::CallObserver
+// A call of one of Outlook's objects.
+bool IsOutlooks(const std::wstring& name)
 {
-  public:
-    OutlookCalls() : mPrevious(sandbox::Observe(this)) {}
-    OutlookCalls(const OutlookCalls&) = delete;
-    OutlookCalls& operator=(const OutlookCalls&) = delete;
-    ~OutlookCalls() override { sandbox::Observe(mPrevious); }
-
-    void OnCall(const wchar_t* className, const wchar_t* /*member*/) override
-    {
-        static const std::set<std::wstring> kOthers = {L"DTC", L"MyInfo", L"Recordset", L"Fields", L"Field"};
-        mCount += kOthers.contains(className) ? 0 : 1;
-    }
-
-    long Count() const noexcept { return mCount; }
-
-  private:
-    sandbox::CallObserver* mPrevious;
-    std::atomic<long> mCount{0};
-};
+    static const std::set<std::wstring> kOthers = {L"DTC", L"MyInfo", L"Recordset", L"Fields", L"Field"};
+    return !kOthers.contains(name.substr(0, name.find(L'.')));
+}
 
 Course FollowedCourse(const Task& task)
 {
@@ -95,15 +79,15 @@ Course FollowedCourse(const Task& task)
     site.Prepare(task.direction);
     Course course;
     course.before = site.Look();
-    const OutlookCalls calls;
+    const test_support::CallWatch calls;
     Seen seen;
     site.SynLoad([&](Robot& robot) {
         User user(robot);
-        seen = user.Run(task.kind, [&] { course.callsUntilConfirmation = calls.Count(); });
+        seen = user.Run(task.kind, [&] { course.callsUntilConfirmation = calls.CountIf(IsOutlooks); });
         user.Leave();
     });
     EXPECT_EQ(SuccessStatus(), seen.status);
-    course.callsInAll = calls.Count();
+    course.callsInAll = calls.CountIf(IsOutlooks);
     course.after = site.Look();
     EXPECT_NE(course.before, course.after) << "a run that does nothing says nothing";
     return course;

@@ -1,6 +1,6 @@
 #include "automation/Error.h"
-#include "tests/boundary/Meddler.h"
 #include "tests/boundary/Site.h"
+#include "tests/support/Interceptor.h"
 
 namespace boundary_tests
 {
@@ -16,9 +16,9 @@ class ParametersOfAnotherRun : public testing::Test
     Seen RunAfterAnother(const std::wstring& unreadable)
     {
         mSite.Prepare(kExport);
-        const auto meddling = std::make_shared<Meddling>();
+        const auto hooks = std::make_shared<test_support::Hooks>();
         bool fails = false;
-        meddling->after = [&](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
+        hooks->after = [&](const std::wstring& member, DISPPARAMS& arguments, VARIANT&) {
             if (fails && member == L"OpenRecordsetByString" &&
                 std::wstring(arguments.rgvarg[0].bstrVal).find(unreadable) != std::wstring::npos)
             {
@@ -35,7 +35,7 @@ class ParametersOfAnotherRun : public testing::Test
                 seen = user.Run(L"task");
                 user.Leave();
             },
-            MakeMeddled(mSite.Host().Dtc(), meddling));
+            test_support::Intercept(mSite.Host().Dtc(), hooks));
         return seen;
     }
 

@@ -168,14 +168,6 @@ CalendarTest::Columns CalendarTest::UpdateFirstAppointment()
     return Written();
 }
 
-std::vector<std::wstring> CalendarTest::CallsOf(const std::wstring& member) const
-{
-    std::vector<std::wstring> calls;
-    std::ranges::copy_if(mHost->Calls, std::back_inserter(calls),
-                         [&](const std::wstring& call) { return call.starts_with(member + L"("); });
-    return calls;
-}
-
 CalendarTest::Columns CalendarTest::Written() const
 {
     const auto isWrite = [](const std::wstring& call) {

@@ -1,14 +1,15 @@
-// What the tests of the calendar share: a host database with relation rows, a field catalogue and calendar
+// Fixture of the calendar tests: a host database with relation rows, a field catalogue and calendar
 // entries, a host that keeps what it is asked to write, a mailbox with Outlook's default folders, and a run
 // over all of them.
 #pragma once
 
 #include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
+#include "state/SharedState.h"
 #include "tests/calendar/AppointmentsTest.h"
-#include "tests/sandbox_host/DatabaseFile.h"
+#include "tests/support/DatabaseFile.h"
+#include "tests/support/FakeHost.h"
 #include "tests/support/RecordingDisplay.h"
-#include "tests/support/RecordingHost.h"
 
 #include <map>
 #include <string>
@@ -52,9 +53,9 @@ class CalendarTest : public AppointmentsTest
     Columns UpdateFirstAppointment();
 
     // The calls that the host has had of a member.
-    std::vector<std::wstring> CallsOf(const std::wstring& member) const;
+    std::vector<std::wstring> CallsOf(const std::wstring& member) const { return mHost->CallsOf(member); }
 
-    WithRecordingHost mHost;
+    WithFakeHost mHost;
     RecordingDisplay mDisplay;
 
   private:

@@ -2,6 +2,7 @@
 
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/WithLanguage.h"
 
 namespace test_support
@@ -16,29 +17,6 @@ std::wstring BoundsOf(const Object& appointment)
 {
     return At(appointment.Get(L"Start")) + L" - " + At(appointment.Get(L"End"));
 }
-
-// Counts the calls of one member of the fakes for the length of a scope.
-class CountsCalls : public sandbox::CallObserver
-{
-  public:
-    explicit CountsCalls(std::wstring member) : mMember(std::move(member)), mPrevious(sandbox::Observe(this))
-    {
-    }
-    CountsCalls(const CountsCalls&) = delete;
-    CountsCalls& operator=(const CountsCalls&) = delete;
-    ~CountsCalls() override { sandbox::Observe(mPrevious); }
-
-    void OnCall(const wchar_t* className, const wchar_t* member) override
-    {
-        Count += std::wstring(className) + L"." + member == mMember ? 1 : 0;
-    }
-
-    long Count = 0;
-
-  private:
-    std::wstring mMember;
-    sandbox::CallObserver* mPrevious;
-};
 
 } // namespace
 
@@ -203,9 +181,9 @@ TEST_F(CalendarToOutlook, NamesThatNoRuleKnowsWriteNothing)
 TEST_F(CalendarToOutlook, TheAppointmentIsSavedOnceAfterTheLastRelationRow)
 {
     AddEntry();
-    const CountsCalls saves(L"AppointmentItem.Save");
+    const CallWatch calls;
     WriteNewAppointment();
-    EXPECT_EQ(1, saves.Count);
+    EXPECT_EQ(1, calls.Of(L"AppointmentItem.Save"));
 }
 
 TEST_F(CalendarToOutlook, AModeOtherThanNewAndExistingTouchesNothing)
@@ -213,12 +191,12 @@ TEST_F(CalendarToOutlook, AModeOtherThanNewAndExistingTouchesNothing)
     AddEntry();
     const Object appointment = AddAppointment(Day(2003, 1, 1, 8), Day(2003, 1, 1, 9));
     exchange::Run run = NewRun();
-    const CountsCalls saves(L"AppointmentItem.Save");
+    const CallWatch calls;
     for (const auto mode : {data::RecordMode{0}, data::RecordMode{3}, data::RecordMode{-1}})
     {
         EXPECT_FALSE(calendar::SynSynCalendarToOlCalendar(run, mode, appointment));
     }
-    EXPECT_EQ(0, saves.Count);
+    EXPECT_EQ(0, calls.Of(L"AppointmentItem.Save"));
     EXPECT_EQ(L"2003-01-01 08:00 - 2003-01-01 09:00", BoundsOf(appointment));
 }
 

@@ -2,6 +2,7 @@
 #include "calendar/Recurrence.h"
 #include "resources/Strings.h"
 #include "tests/calendar/CalendarTest.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/WithLanguage.h"
 
 namespace test_support
@@ -10,28 +11,18 @@ namespace test_support
 namespace
 {
 
-// The members of recurrence patterns, in the order in which they are used, for the length of a scope.
-class RecordsPatternCalls : public sandbox::CallObserver
+// The calls of recurrence patterns, in their order.
+std::vector<std::wstring> PatternMembers(const CallWatch& calls)
 {
-  public:
-    RecordsPatternCalls() : mPrevious(sandbox::Observe(this)) {}
-    RecordsPatternCalls(const RecordsPatternCalls&) = delete;
-    RecordsPatternCalls& operator=(const RecordsPatternCalls&) = delete;
-    ~RecordsPatternCalls() override { sandbox::Observe(mPrevious); }
-
-    void OnCall(const wchar_t* className, const wchar_t* member) override
+    const std::wstring pattern = L"RecurrencePattern.";
+    std::vector<std::wstring> members =
+        calls.Those([&](const std::wstring& name) { return name.starts_with(pattern); });
+    for (std::wstring& member : members)
     {
-        if (className == std::wstring(L"RecurrencePattern"))
-        {
-            Members.emplace_back(member);
-        }
+        member.erase(0, pattern.size());
     }
-
-    std::vector<std::wstring> Members;
-
-  private:
-    sandbox::CallObserver* mPrevious;
-};
+    return members;
+}
 
 struct Rule
 {
@@ -119,12 +110,12 @@ TEST_F(RecurrenceToOutlook, AReferenceDateOnAWednesdayGivesTheFourthBit)
 TEST_F(RecurrenceToOutlook, ANameThatIsNoRuleLeavesThePatternUntouched)
 {
     const Object pattern = NewPattern();
-    const RecordsPatternCalls calls;
+    const CallWatch calls;
     for (const wchar_t* name : {L"", L"每两周", L"Daily", L"每天 ", L"每 天"})
     {
         EXPECT_EQ(0, calendar::SetRecurrenceByName(pattern, name, Value::Null()));
     }
-    EXPECT_TRUE(calls.Members.empty());
+    EXPECT_TRUE(PatternMembers(calls).empty());
 }
 
 TEST_F(RecurrenceToOutlook, ARuleThatNeedsAReferenceDateFailsWithoutOne)
@@ -137,32 +128,32 @@ TEST_F(RecurrenceToOutlook, ARuleThatNeedsAReferenceDateFailsWithoutOne)
 TEST_F(RecurrenceToOutlook, TheStepsAreTakenInTheirOrder)
 {
     AddRepeatingEntry(L"每年", {{L"F_ACTREPTEDATE", L"'2010-12-31 00:00:00'"}});
-    const RecordsPatternCalls calls;
+    const CallWatch calls;
     WriteNewAppointment();
     const std::vector<std::wstring> expected{L"StartTime",      L"EndTime",       L"PatternStartDate",
                                              L"RecurrenceType", L"MonthOfYear",   L"DayOfMonth",
                                              L"NoEndDate",      L"PatternEndDate"};
-    EXPECT_EQ(expected, calls.Members);
+    EXPECT_EQ(expected, PatternMembers(calls));
 }
 
 TEST_F(RecurrenceToOutlook, APatternThatWouldNotChangeIsReadAndNotRewritten)
 {
     AddRepeatingEntry(L"每年", {{L"F_ACTREPTEDATE", L"'2010-12-31 00:00:00'"}});
     WriteNewAppointment();
-    const RecordsPatternCalls calls;
+    const CallWatch calls;
     WriteExistingAppointment();
     const std::vector<std::wstring> once{L"StartTime",      L"EndTime",       L"PatternStartDate",
                                          L"RecurrenceType", L"MonthOfYear",   L"DayOfMonth",
                                          L"NoEndDate",      L"PatternEndDate"};
-    EXPECT_EQ(once, calls.Members);
+    EXPECT_EQ(once, PatternMembers(calls));
 }
 
 TEST_F(RecurrenceToOutlook, WhatTheEntryLacksIsLeftToOutlook)
 {
     AddRepeatingEntry(L"", {{L"F_ACTESTIME", L"NULL"}, {L"F_ACTEETIME", L"NULL"}});
-    const RecordsPatternCalls calls;
+    const CallWatch calls;
     const Object pattern = PatternOf(WriteNewAppointment());
-    EXPECT_EQ((std::vector<std::wstring>{L"PatternStartDate", L"NoEndDate"}), calls.Members);
+    EXPECT_EQ((std::vector<std::wstring>{L"PatternStartDate", L"NoEndDate"}), PatternMembers(calls));
     EXPECT_EQ(L"00:00", TimeOf(pattern, L"StartTime"));
     EXPECT_EQ(L"01:30", TimeOf(pattern, L"EndTime"));
 }

@@ -1,6 +1,6 @@
 #include "config/store/ChosenFolders.h"
 
-#include "tests/config_host/HostTest.h"
+#include "tests/config/ConfigFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace
 using config::ChosenFolders;
 using Texts = std::vector<std::wstring>;
 
-class ChosenFoldersTest : public config_tests::HostTest
+class ChosenFoldersTest : public config_tests::ConfigFixture
 {
 };
 
@@ -108,7 +108,7 @@ TEST_F(ChosenFoldersTest, TheUsersFoldersOfTheKindAreReplaced)
                                             {{L"Store\\New", false}, {L"Store\\Newer", true}}));
     EXPECT_EQ((Texts{L"20|Store\\Tasks|1", L"10|Store\\New|0", L"10|Store\\Newer|1"}), Folders());
     EXPECT_EQ(Texts{L"Store\\Others"}, Rows(L"SELECT OutlookFolder FROM T_POutlookSyncFolder WHERE F_UID=8"));
-    EXPECT_EQ(Texts{L"Delete(T_POutlookSyncFolder; TransObjectID=10 And F_UID=7)"}, mLog.CallsOf(L"Delete"));
+    EXPECT_EQ(Texts{L"Delete(T_POutlookSyncFolder|TransObjectID=10 And F_UID=7)"}, mHost->CallsOf(L"Delete"));
 }
 
 TEST_F(ChosenFoldersTest, AnEmptyListDeletesAllOfTheKindsRows)
@@ -124,7 +124,7 @@ TEST_F(ChosenFoldersTest, ARefusedDeleteWritesNothing)
     RefuseEvery(L"Delete");
     EXPECT_TRUE(config::StoreChosenFolders(*exchange::FindKindName(L"Contact"), {{L"Store\\New", true}}));
     EXPECT_EQ(Texts{L"10|Store\\Old|1"}, Folders());
-    EXPECT_TRUE(mLog.CallsOf(L"Insert").empty());
+    EXPECT_TRUE(mHost->CallsOf(L"Insert").empty());
 }
 
 TEST_F(ChosenFoldersTest, StoredFoldersAreLoadedWithOneDefaultAtMost)

@@ -1,7 +1,7 @@
 #include "config/store/ParameterStore.h"
 
 #include "config/store/Translation.h"
-#include "tests/config_host/HostTest.h"
+#include "tests/config/ConfigFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace
 using state::SynParameter;
 using RowTexts = std::vector<std::wstring>;
 
-class DefaultParameters : public config_tests::HostTest
+class DefaultParameters : public config_tests::ConfigFixture
 {
 };
 
@@ -42,7 +42,7 @@ TEST_F(DefaultParameters, AMissingTemplateDoesNotCopyTheOtherKindsAgain)
         EXPECT_EQ(L"", record.TransObject);
         EXPECT_EQ(others, Rows(L"SELECT TransObjectID, TransObject FROM T_POutlookSyncParam WHERE F_UID=7"));
     }
-    EXPECT_EQ(2u, mLog.CallsOf(L"Insert").size());
+    EXPECT_EQ(2u, mHost->CallsOf(L"Insert").size());
 }
 
 TEST_F(DefaultParameters, AKindThatTheUserLacksIsCopiedBesideTheRowsThatHeHasChanged)

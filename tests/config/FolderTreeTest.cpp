@@ -1,33 +1,19 @@
 #include "config/outlook/FolderTree.h"
 
-#include "automation/Error.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/Fakes.h"
 
 #include <gtest/gtest.h>
-
-#include <map>
 
 namespace
 {
 
 using config::FolderNode;
 using sandbox::ItemKind;
+using test_support::CallWatch;
 
 constexpr long kContactItem = 2;
-
-// How often each member of a folder was asked for.
-class FolderCalls : public sandbox::CallObserver
-{
-  public:
-    FolderCalls() : mBefore(sandbox::Observe(this)) {}
-    ~FolderCalls() override { sandbox::Observe(mBefore); }
-    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override { ++Counts[member]; }
-    std::map<std::wstring, int> Counts;
-
-  private:
-    CallObserver* mBefore;
-};
 
 std::vector<std::wstring> PathsBelow(const FolderNode& parent, long itemType)
 {
@@ -83,50 +69,26 @@ TEST_F(FolderTreeTest, EachFolderIsAskedOnlyForWhatIsNeeded)
     mMailbox->AddFolder(L"Store\\Contacts", ItemKind::Contact);
     mMailbox->AddFolder(L"Store\\Mail");
     mMailbox->AddFolder(L"Store\\Box\\Inner", ItemKind::Contact);
-    FolderCalls calls;
     const FolderNode root = Root();
     const auto stores = config::ChildrenOf(root, kContactItem);
-    calls.Counts.clear();
+    const CallWatch calls;
     config::ChildrenOf(stores.at(0), kContactItem);
-    EXPECT_EQ(3, calls.Counts[L"Item"]);
-    EXPECT_EQ(4, calls.Counts[L"Folders"]); // of the store as well, which is opened
-    EXPECT_EQ(4, calls.Counts[L"Count"]);
-    EXPECT_EQ(2, calls.Counts[L"DefaultItemType"]); // not of the container
-    EXPECT_EQ(2, calls.Counts[L"Name"]);            // not of the mail folder, which is not shown
+    EXPECT_EQ(3, calls.Of(L"Item"));
+    EXPECT_EQ(4, calls.Of(L"Folders")); // of the store as well, which is opened
+    EXPECT_EQ(4, calls.Of(L"Count"));
+    EXPECT_EQ(2, calls.Of(L"DefaultItemType")); // not of the container
+    EXPECT_EQ(2, calls.Of(L"Name"));            // not of the mail folder, which is not shown
 }
 
 TEST_F(FolderTreeTest, ALevelAsksNothingOfTheFoldersBelowIt)
 {
     mMailbox->AddFolder(L"Store\\Box\\A\\B\\C", ItemKind::Contact);
     const FolderNode root = Root();
-    FolderCalls calls;
+    const CallWatch calls;
     config::ChildrenOf(root, kContactItem);
-    EXPECT_EQ(1, calls.Counts[L"Item"]);
-    EXPECT_EQ(1, calls.Counts[L"Name"]);
+    EXPECT_EQ(1, calls.Of(L"Item"));
+    EXPECT_EQ(1, calls.Of(L"Name"));
 }
-
-// Outlook refuses one call of a member: that of a folder which cannot be opened.
-class Refusal : public sandbox::CallObserver
-{
-  public:
-    Refusal(std::wstring member, int call)
-        : mMember(std::move(member)), mCall(call), mBefore(sandbox::Observe(this))
-    {
-    }
-    ~Refusal() override { sandbox::Observe(mBefore); }
-    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
-    {
-        if (mMember == member && --mCall == 0)
-        {
-            throw automation::Error(E_FAIL, member, L"The folder cannot be opened.");
-        }
-    }
-
-  private:
-    std::wstring mMember;
-    int mCall;
-    CallObserver* mBefore;
-};
 
 TEST_F(FolderTreeTest, AFolderThatCannotBeReadIsLeftOutAndTheRestIsShownAtEveryLevel)
 {
@@ -136,7 +98,8 @@ TEST_F(FolderTreeTest, AFolderThatCannotBeReadIsLeftOutAndTheRestIsShownAtEveryL
         mMailbox->AddFolder(std::wstring(name) + L"\\Contacts", ItemKind::Contact);
     }
     const auto pathsWithout = [](const FolderNode& parent, const wchar_t* member, int call) {
-        const Refusal refusal(member, call);
+        CallWatch watch;
+        watch.FailNth(call, member);
         std::vector<std::wstring> paths;
         for (const FolderNode& child : config::ChildrenOf(parent, kContactItem))
         {

@@ -2,8 +2,9 @@
 
 #include "resources/Strings.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/config/ConfigFixture.h"
 #include "tests/config/TellsUser.h"
-#include "tests/config_host/HostTest.h"
+#include "tests/support/CallWatch.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ using config_tests::ExpectTellsUser;
 using resources::Language;
 using Texts = std::vector<std::wstring>;
 
-class OutlookFoldersTest : public config_tests::HostTest
+class OutlookFoldersTest : public config_tests::ConfigFixture
 {
   protected:
     OutlookFoldersTest()
@@ -75,10 +76,10 @@ TEST_F(OutlookFoldersTest, FoldersWhoseStoreIsGoneAreDeletedAndOthersAreKept)
     config::PurgeMissingFolders();
     EXPECT_EQ((Texts{L"10|Personal Folders\\Contacts|1", L"20|Archive\\No longer there|0", L"30|Archive|0"}),
               Folders());
-    EXPECT_EQ((Texts{L"Delete(T_POutlookSyncFolder; F_UID=7 And TransObjectID=10 And "
+    EXPECT_EQ((Texts{L"Delete(T_POutlookSyncFolder|F_UID=7 And TransObjectID=10 And "
                      L"OutlookFolder='Gone\\Contacts')",
-                     L"Delete(T_POutlookSyncFolder; F_UID=7 And TransObjectID=30 And OutlookFolder='Gone')"}),
-              mLog.CallsOf(L"Delete"));
+                     L"Delete(T_POutlookSyncFolder|F_UID=7 And TransObjectID=30 And OutlookFolder='Gone')"}),
+              mHost->CallsOf(L"Delete"));
 }
 
 TEST_F(OutlookFoldersTest, AStaleFolderWithAnApostropheIsDeleted)
@@ -102,25 +103,9 @@ TEST_F(OutlookFoldersTest, ARefusedDeleteEndsThePurge)
     GiveFolder(10, L"Gone\\B", false);
     RefuseEvery(L"Delete");
     config::PurgeMissingFolders();
-    EXPECT_EQ(1u, mLog.CallsOf(L"Delete").size());
+    EXPECT_EQ(1u, mHost->CallsOf(L"Delete").size());
     EXPECT_EQ(2u, Folders().size());
 }
-
-// Counts what reaches Outlook.
-class NameReads : public sandbox::CallObserver
-{
-  public:
-    NameReads() : mBefore(sandbox::Observe(this)) {}
-    ~NameReads() override { sandbox::Observe(mBefore); }
-    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
-    {
-        Count += std::wstring(member) == L"Name" ? 1 : 0;
-    }
-    int Count = 0;
-
-  private:
-    CallObserver* mBefore;
-};
 
 TEST_F(OutlookFoldersTest, EachStoresNameIsReadOnceForAnyNumberOfRows)
 {
@@ -128,9 +113,9 @@ TEST_F(OutlookFoldersTest, EachStoresNameIsReadOnceForAnyNumberOfRows)
     {
         GiveFolder(10, L"Archive\\" + std::to_wstring(i), false);
     }
-    const NameReads reads;
+    const test_support::CallWatch calls;
     config::PurgeMissingFolders();
-    EXPECT_EQ(2, reads.Count); // two stores
+    EXPECT_EQ(2, calls.Of(L"Name")); // two stores
     EXPECT_EQ(5u, Folders().size());
 }
 

@@ -1,7 +1,7 @@
 #include "config/store/ParameterStore.h"
 
 #include "config/store/UserRows.h"
-#include "tests/config_host/HostTest.h"
+#include "tests/config/ConfigFixture.h"
 #include "tests/support/Drive.h"
 #include "tests/support/Fakes.h"
 #include "tools/robot/Robot.h"
@@ -15,11 +15,11 @@ using automation::Recordset;
 using state::SynParameter;
 using Texts = std::vector<std::wstring>;
 
-class ParameterStoreTest : public config_tests::HostTest
+class ParameterStoreTest : public config_tests::ConfigFixture
 {
 };
 
-class UserRowsTest : public config_tests::HostTest
+class UserRowsTest : public config_tests::ConfigFixture
 {
 };
 
@@ -31,9 +31,10 @@ TEST_F(UserRowsTest, AStatementIsOpenedForTheCurrentUserOnly)
     EXPECT_FALSE(
         config::OpenUserRecordset(rows, L"Select * From T_POutlookSyncParam Where TransObject='Task'"));
     EXPECT_EQ(1, rows.RecordCount());
-    EXPECT_EQ(Texts{L"OpenRecordsetByString(Select * From T_POutlookSyncParam Where TransObject='Task' And "
-                    L"F_UID=7)"},
-              mLog.Calls);
+    EXPECT_EQ(
+        Texts{L"OpenRecordsetByString(nothing|Select * From T_POutlookSyncParam Where TransObject='Task' And "
+              L"F_UID=7)"},
+        mHost->Calls);
 }
 
 TEST_F(UserRowsTest, WithoutAConditionTheBareFilterIsOpenedAndFailsHarmlessly)
@@ -41,15 +42,15 @@ TEST_F(UserRowsTest, WithoutAConditionTheBareFilterIsOpenedAndFailsHarmlessly)
     Recordset rows;
     EXPECT_TRUE(config::OpenUserRecordset(rows, L""));
     EXPECT_FALSE(static_cast<bool>(rows));
-    EXPECT_EQ(Texts{L"OpenRecordsetByString(F_UID=7)"}, mLog.Calls);
+    EXPECT_EQ(Texts{L"OpenRecordsetByString(nothing|F_UID=7)"}, mHost->Calls);
 }
 
 TEST_F(UserRowsTest, AnUpdateIsRestrictedToTheCurrentUser)
 {
     GiveUserRows();
     EXPECT_FALSE(config::UpdateUserRows(L"TransType=2", L"T_POutlookSyncParam", L"TransObject='Task'"));
-    EXPECT_EQ(Texts{L"Update(T_POutlookSyncParam; TransType=2; ; TransObject='Task' And F_UID=7)"},
-              mLog.Calls);
+    EXPECT_EQ(Texts{L"Update(T_POutlookSyncParam|TransType=2||TransObject='Task' And F_UID=7)"},
+              mHost->Calls);
     EXPECT_EQ((Texts{L"0|1", L"7|2"}),
               Rows(L"SELECT F_UID, TransType FROM T_POutlookSyncParam WHERE TransObject='Task'"));
 }
@@ -58,14 +59,14 @@ TEST_F(UserRowsTest, AnUpdateWithoutAConditionFiltersOnPUidNotFUid)
 {
     GiveUserRows();
     EXPECT_TRUE(config::UpdateUserRows(L"TransType=2", L"T_POutlookSyncParam", L""));
-    EXPECT_EQ(Texts{L"Update(T_POutlookSyncParam; TransType=2; ; P_UID=7)"}, mLog.Calls);
+    EXPECT_EQ(Texts{L"Update(T_POutlookSyncParam|TransType=2||P_UID=7)"}, mHost->Calls);
 }
 
 TEST_F(UserRowsTest, OnlyANegativeStatusOfAnUpdateIsAFailure)
 {
-    mLog.Refuse = [](const std::wstring&) { return -1L; };
+    mHost->Refuse = [](const std::wstring&) { return -1L; };
     EXPECT_TRUE(config::UpdateUserRows(L"TransType=2", L"T_POutlookSyncParam", L"TransType=1"));
-    mLog.Refuse = nullptr;
+    mHost->Refuse = nullptr;
     EXPECT_FALSE(config::UpdateUserRows(L"TransType=2", L"T_POutlookSyncParam", L"TransType=1"));
 }
 
@@ -73,9 +74,9 @@ TEST_F(UserRowsTest, AnInsertedRowHasItsOwnerAppendedLast)
 {
     EXPECT_FALSE(config::InsertUserRow(L"TransObjectID,OutlookFolder,IsDefault", L"10,'Store\\A',1",
                                        L"T_POutlookSyncFolder"));
-    EXPECT_EQ(Texts{L"Insert(T_POutlookSyncFolder; TransObjectID,OutlookFolder,IsDefault,F_UID; "
-                    L"10,'Store\\A',1,7; )"},
-              mLog.Calls);
+    EXPECT_EQ(Texts{L"Insert(T_POutlookSyncFolder|TransObjectID,OutlookFolder,IsDefault,F_UID|"
+                    L"10,'Store\\A',1,7|)"},
+              mHost->Calls);
     EXPECT_EQ(Texts{L"10|Store\\A|1"}, Folders());
     RefuseEvery(L"Insert");
     EXPECT_TRUE(config::InsertUserRow(L"TransObjectID", L"10", L"T_POutlookSyncFolder"));
@@ -114,16 +115,15 @@ TEST_F(ParameterStoreTest, ATemplateIsCopiedColumnByColumnInTheContractsOrder)
         L"F_UID,TransObjectID,TransObject,TransObjectPic,TransType,TransTypePic,TransConflictOption,"
         L"TransSourceConfig,TransSource,CalendarTransItem,CalendarPrior,CalendarAfter,TaskTransItem,"
         L"TransNameEnglish,TransNameChinese,IsTrans";
-    EXPECT_EQ(
-        (Texts{L"Insert(T_POutlookSyncParam; " + columns +
-                   L"; 7,10,'Contact','contact',3,'each',2,NULL,'Outlook',NULL,NULL,NULL,NULL,'Contact',"
-                   L"'联系人',1; )",
-               L"Insert(T_POutlookSyncParam; " + columns +
-                   L"; 7,20,'Task','task',1,'left',3,NULL,'Outlook',0,0,0,1,'Task','任务',1; )",
-               L"Insert(T_POutlookSyncParam; " + columns +
-                   L"; 7,30,'Calendar','calendar',2,'right',4,'config','Null',2,7,3,0,'Calendar','日历"
-                   L"',0; )"}),
-        mLog.CallsOf(L"Insert"));
+    EXPECT_EQ((Texts{L"Insert(T_POutlookSyncParam|" + columns +
+                         L"|7,10,'Contact','contact',3,'each',2,NULL,'Outlook',NULL,NULL,NULL,NULL,'Contact',"
+                         L"'联系人',1|)",
+                     L"Insert(T_POutlookSyncParam|" + columns +
+                         L"|7,20,'Task','task',1,'left',3,NULL,'Outlook',0,0,0,1,'Task','任务',1|)",
+                     L"Insert(T_POutlookSyncParam|" + columns +
+                         L"|7,30,'Calendar','calendar',2,'right',4,'config','Null',2,7,3,0,'Calendar','日历"
+                         L"',0|)"}),
+              mHost->CallsOf(L"Insert"));
 }
 
 TEST_F(ParameterStoreTest, TheStatementsOfALoadAreTheContractsOwn)
@@ -131,11 +131,12 @@ TEST_F(ParameterStoreTest, TheStatementsOfALoadAreTheContractsOwn)
     GiveUserRows();
     SynParameter record;
     config::SetSynParamenter(record, L"Contact");
-    EXPECT_EQ((Texts{L"OpenRecordsetByString(Select * From T_POutlookSyncParam Where TransObject='Contact' "
-                     L"And F_UID=7)",
-                     L"OpenRecordsetByString(Select * From T_POutlookSyncFolder Where TransObjectID=10 And "
-                     L"F_UID=7)"}),
-              mLog.Calls);
+    EXPECT_EQ(
+        (Texts{L"OpenRecordsetByString(nothing|Select * From T_POutlookSyncParam Where TransObject='Contact' "
+               L"And F_UID=7)",
+               L"OpenRecordsetByString(nothing|Select * From T_POutlookSyncFolder Where TransObjectID=10 And "
+               L"F_UID=7)"}),
+        mHost->Calls);
 }
 
 TEST_F(ParameterStoreTest, ATemplateWithAnApostropheIsCopied)
@@ -170,13 +171,13 @@ TEST_F(ParameterStoreTest, TemplatesWithoutTheKindLeaveTheRecordUnchangedAndShow
 TEST_F(ParameterStoreTest, ARefusedCopyStopsAndKeepsTheRowsInsertedSoFar)
 {
     int inserts = 0;
-    mLog.Refuse = [&](const std::wstring& member) {
+    mHost->Refuse = [&](const std::wstring& member) {
         return member == L"Insert" && ++inserts == 2 ? -1L : 0L;
     };
     Recordset rows = config::CreateDefaultParameters();
     EXPECT_FALSE(static_cast<bool>(rows));
     EXPECT_EQ(Texts{L"Contact"}, Rows(L"SELECT TransObject FROM T_POutlookSyncParam WHERE F_UID=7"));
-    EXPECT_EQ(2u, mLog.CallsOf(L"Insert").size());
+    EXPECT_EQ(2u, mHost->CallsOf(L"Insert").size());
 }
 
 TEST_F(ParameterStoreTest, CreatingTheRowsReturnsThemOpen)
@@ -281,7 +282,7 @@ TEST_F(ParameterStoreTest, AnUnknownKindHasNoDefaultFolderAndChangesNothing)
     EXPECT_EQ(L"", config::LoadDefaultFolder(record, L"Notes"));
     EXPECT_EQ(L"kept", record.DefaultFolder);
     EXPECT_EQ(L"kept", record.CurrentFolder);
-    EXPECT_EQ(Texts{L"OpenRecordsetByString(F_UID=7)"}, mLog.Calls);
+    EXPECT_EQ(Texts{L"OpenRecordsetByString(nothing|F_UID=7)"}, mHost->Calls);
 }
 
 TEST_F(ParameterStoreTest, ARowOfAnUnknownKindShowsTheErrorBoxWithAbortRetryAndIgnore)

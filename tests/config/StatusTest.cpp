@@ -2,7 +2,7 @@
 #include "config/store/ChosenFolders.h"
 #include "config/store/ParameterStore.h"
 #include "config/store/UserRows.h"
-#include "tests/support/RecordingHost.h"
+#include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ class Status : public testing::Test
         }
     }
 
-    test_support::WithRecordingHost mHost;
+    test_support::WithFakeHost mHost;
     automation::Recordset mRows;
 };
 

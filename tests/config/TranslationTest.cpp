@@ -1,6 +1,6 @@
 #include "config/store/Translation.h"
 
-#include "tests/config_host/HostTest.h"
+#include "tests/config/ConfigFixture.h"
 #include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ using config::Translation;
 using resources::Language;
 using Texts = std::vector<std::wstring>;
 
-class TranslationTest : public config_tests::HostTest
+class TranslationTest : public config_tests::ConfigFixture
 {
 };
 

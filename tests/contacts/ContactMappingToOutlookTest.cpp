@@ -1,6 +1,6 @@
 // How each relation row of contacts reaches an Outlook item: the whole table, in both interface languages.
 #include "tests/contacts/ContactsFixture.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 
 #include <algorithm>
 #include <span>
@@ -203,7 +203,7 @@ TEST_F(ContactMappingToOutlook, ABirthdayAndAnAnniversaryAreWrittenOnlyWhenTheyD
     const long item = AddItem({{L"Birthday", Day(1980, 1, 2)}, {L"Anniversary", Day(2003, 5, 6)}});
     const long row =
         AddRow({{L"F_BIRTHDAY", L"'1980-01-02 00:00:00'"}, {L"F_ANNIVERSARY", L"'2003-05-07 00:00:00'"}});
-    const test_support::CallCounter calls;
+    const test_support::CallWatch calls;
     EXPECT_FALSE(OverwriteItems({{row, item}}));
     EXPECT_EQ(1, calls.Of(L"ContactItem.Birthday")) << "read, not written";
     EXPECT_EQ(2, calls.Of(L"ContactItem.Anniversary"));

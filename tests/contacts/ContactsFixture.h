@@ -8,7 +8,7 @@
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/WithLanguage.h"
 

@@ -2,8 +2,6 @@
 // all, and the walk goes on.
 #include "tests/contacts/ContactsFixture.h"
 
-#include "automation/Error.h"
-#include "sandbox/outlook/CallCounter.h"
 #include "tests/support/MessageBoxes.h"
 
 namespace
@@ -39,16 +37,10 @@ class ContactsFromOutlookFailure : public test_support::ContactsFixture
         exchange::Run run = NewRun();
         run.Pending.NewOutlookItems.Add(L"1", 0);
         run.Pending.NewOutlookItems.Add(L"2", 0);
-        sandbox::CallCounter counter;
-        bool failed = false;
-        counter.BeforeCall(k, [&] {
-            failed = true;
-            throw automation::Error(E_FAIL, L"call", L"Injected");
-        });
-        sandbox::CallObserver* const before = sandbox::Observe(&counter);
+        test_support::CallWatch watch;
+        watch.FailNth(k, [](const std::wstring&) { return true; });
         contacts::SynContactFromOutlook(run);
-        sandbox::Observe(before);
-        return failed;
+        return watch.HasFailed();
     }
 
     void ExpectOnlyWholeContacts()

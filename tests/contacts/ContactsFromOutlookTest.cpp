@@ -1,6 +1,5 @@
 #include "tests/contacts/ContactsFixture.h"
 
-#include "sandbox/outlook/CallCounter.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/OpenedRecordsets.h"
 #include "tests/support/SentStatements.h"
@@ -275,24 +274,19 @@ TEST_F(ContactsFromOutlook, AnotherModeIsReportedAndWritesNothing)
 TEST_F(ContactsFromOutlook, RelationsAndCatalogueAreReadOncePerPass)
 {
     const std::vector<long> items = {AddNamedItem({}), AddNamedItem({}), AddNamedItem({})};
-    sandbox::CallCounter counter;
-    sandbox::CallObserver* const before = sandbox::Observe(&counter);
+    const test_support::CallWatch calls;
     Import(items);
-    sandbox::Observe(before);
-    EXPECT_NE(counter.Table().find(L"Recordset.Open\t2\n"), std::wstring::npos) << counter.Total();
+    EXPECT_EQ(2, calls.Of(L"Recordset.Open"));
 }
 
 TEST_F(ContactsFromOutlook, EachPropertyOfAnItemIsReadOnce)
 {
     const long item = AddNamedItem({{L"CompanyName", L"Acme"}});
-    sandbox::CallCounter counter;
-    sandbox::CallObserver* const before = sandbox::Observe(&counter);
+    const test_support::CallWatch calls;
     Import({item});
-    sandbox::Observe(before);
     for (const wchar_t* property : {L"LastName", L"FirstName", L"CompanyName", L"Title"})
     {
-        EXPECT_NE(counter.Table().find(L"ContactItem." + std::wstring(property) + L"\t1\n"),
-                  std::wstring::npos);
+        EXPECT_EQ(1, calls.Of(L"ContactItem." + std::wstring(property)));
     }
 }
 

@@ -1,6 +1,5 @@
 // The apply pass of contacts towards Outlook: which records it writes, in which order, at what cost, and what
 // is left when it cannot go on.
-#include "automation/Error.h"
 #include "tests/contacts/ContactsFixture.h"
 
 #include "tests/support/OpenedRecordsets.h"
@@ -9,35 +8,8 @@ namespace
 {
 
 using resources::Language;
-using test_support::CallCounter;
+using test_support::CallWatch;
 using test_support::WithLanguage;
-
-// Outlook refuses one nickname for the length of a scope: the n-th that is written.
-class RefusesNickName : public sandbox::CallObserver
-{
-  public:
-    explicit RefusesNickName(long number) : mNumber(number), mPrevious(sandbox::Observe(this)) {}
-    RefusesNickName(const RefusesNickName&) = delete;
-    RefusesNickName& operator=(const RefusesNickName&) = delete;
-    ~RefusesNickName() override { sandbox::Observe(mPrevious); }
-
-    void OnCall(const wchar_t* className, const wchar_t* member) override
-    {
-        if (mPrevious != nullptr)
-        {
-            mPrevious->OnCall(className, member);
-        }
-        if (member == std::wstring(L"NickName") && ++mSeen == mNumber)
-        {
-            throw automation::Error(E_INVALIDARG, member, L"Refused by a test");
-        }
-    }
-
-  private:
-    long mNumber;
-    long mSeen = 0;
-    sandbox::CallObserver* mPrevious;
-};
 
 class ContactsToOutlook : public test_support::ContactsFixture
 {
@@ -143,9 +115,9 @@ TEST_F(ContactsToOutlook, ZeroAdditionsAndModificationsWriteNothingReadNothingAn
     AddThreeRows();
     AddThreeItems();
     exchange::Run run = NewRun();
-    const CallCounter counter;
+    const CallWatch calls;
     EXPECT_FALSE(contacts::SynContactToOutlook(run));
-    EXPECT_EQ(counter.Total(), 0);
+    EXPECT_EQ(calls.Total(), 0);
     EXPECT_EQ(Display.Progress, (std::vector<double>{0, 0, 0}));
     EXPECT_EQ(NickNames(), L"old old old");
 }
@@ -192,7 +164,8 @@ TEST_F(ContactsToOutlook, TheHostRowsStayOnTheLastWrittenRow)
 TEST_F(ContactsToOutlook, AnErrorInTheMiddleOfTheAdditionsStopsThemFailsAndLeavesTheWrittenOnes)
 {
     AddThreeRows();
-    const RefusesNickName refuses(2);
+    CallWatch watch;
+    watch.FailNth(2, L"NickName"); // Outlook refuses it
     EXPECT_TRUE(Export({1, 2, 3}));
     EXPECT_EQ(NickNames(), L"one");
     EXPECT_EQ(Display.Progress.back(), 1.0 / 3);
@@ -203,7 +176,8 @@ TEST_F(ContactsToOutlook, AnErrorInTheMiddleOfTheModificationsStopsThemFailsAndL
 {
     AddThreeRows();
     AddThreeItems();
-    const RefusesNickName refuses(2);
+    CallWatch watch;
+    watch.FailNth(2, L"NickName"); // Outlook refuses it
     EXPECT_TRUE(OverwriteItems({{1, 1}, {2, 2}, {3, 3}}));
     EXPECT_EQ(NickNames(), L"one old old");
 }
@@ -212,7 +186,8 @@ TEST_F(ContactsToOutlook, AnErrorInTheAdditionsKeepsTheModificationsFromStarting
 {
     AddThreeRows();
     AddItem({{L"NickName", L"old"}});
-    const RefusesNickName refuses(1);
+    CallWatch watch;
+    watch.FailNth(1, L"NickName"); // Outlook refuses it
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(2L, 0);
     run.Pending.ChangedHostRecords.Add(1L, 1);
@@ -272,14 +247,14 @@ TEST_F(ContactsToOutlook, TheRelationsAreReadOncePerPassHoweverManyRecordsItWrit
         run.Pending.ChangedHostRecords.Add(row, 1);
         run.Pending.ChangedOutlookItems.Add(std::to_wstring(row), 1);
     }
-    const CallCounter counter;
+    const CallWatch calls;
     EXPECT_FALSE(contacts::SynContactToOutlook(run));
-    EXPECT_EQ(counter.Of(L"Recordset.Open"), 1);
-    EXPECT_EQ(counter.Of(L"Recordset.Close"), 1);
-    EXPECT_EQ(counter.Of(L"Items.Add"), 3);
-    EXPECT_EQ(counter.Of(L"Items.Item"), 3);
-    EXPECT_EQ(counter.Of(L"ContactItem.Save"), 6);
-    EXPECT_EQ(counter.Of(L"Recordset.Move"), 6);
+    EXPECT_EQ(calls.Of(L"Recordset.Open"), 1);
+    EXPECT_EQ(calls.Of(L"Recordset.Close"), 1);
+    EXPECT_EQ(calls.Of(L"Items.Add"), 3);
+    EXPECT_EQ(calls.Of(L"Items.Item"), 3);
+    EXPECT_EQ(calls.Of(L"ContactItem.Save"), 6);
+    EXPECT_EQ(calls.Of(L"Recordset.Move"), 6);
 }
 
 TEST_F(ContactsToOutlook, WritingOneMoreRecordReadsItsColumnsAndNothingElseOfTheDatabase)
@@ -292,9 +267,9 @@ TEST_F(ContactsToOutlook, WritingOneMoreRecordReadsItsColumnsAndNothingElseOfThe
         {
             run.Pending.NewHostRecords.Add(row, 0);
         }
-        const CallCounter counter;
+        const CallWatch calls;
         contacts::SynContactToOutlook(run);
-        return counter.Total();
+        return calls.Total();
     };
     // Move, Items.Add, two columns read, two properties written, Save.
     EXPECT_EQ(callsFor({1, 2, 3}) - callsFor({1, 2}), 7);
@@ -305,10 +280,11 @@ TEST_F(ContactsToOutlook, TheRelationRecordsetIsClosedAfterAFailureToo)
     AddThreeRows();
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
-    const CallCounter counter;
-    const RefusesNickName refuses(1);
+    const CallWatch calls;
+    CallWatch watch;
+    watch.FailNth(1, L"NickName"); // Outlook refuses it
     EXPECT_TRUE(contacts::SynContactToOutlook(run));
-    EXPECT_EQ(counter.Of(L"Recordset.Close"), counter.Of(L"Recordset.Open"));
+    EXPECT_EQ(calls.Of(L"Recordset.Close"), calls.Of(L"Recordset.Open"));
 }
 
 } // namespace

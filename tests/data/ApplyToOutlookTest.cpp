@@ -3,7 +3,7 @@
 
 #include "sandbox/ado/Recordset.h"
 #include "sandbox/dispatch/DispatchObject.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/WithLanguage.h"
 
@@ -62,7 +62,7 @@ class ApplyToOutlook : public testing::Test
 
 TEST_F(ApplyToOutlook, NothingPendingShowsTheStatusAsksOutlookForNothingAndSucceeds)
 {
-    const test_support::CallCounter calls;
+    const test_support::CallWatch calls;
     EXPECT_FALSE(Apply());
     const std::vector<std::wstring> events{
         L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"(hidden)"};
@@ -74,7 +74,7 @@ TEST_F(ApplyToOutlook, NothingPendingShowsTheStatusAsksOutlookForNothingAndSucce
 TEST_F(ApplyToOutlook, APendingRecordReachesOutlook)
 {
     TheRun.Pending.NewHostRecords.Add(1, 0);
-    const test_support::CallCounter calls;
+    const test_support::CallWatch calls;
     EXPECT_FALSE(Apply());
     EXPECT_EQ(1, calls.Of(L"Items.Add"));
     EXPECT_EQ(std::vector<long>{data::kNewRecord}, gWrittenModes);

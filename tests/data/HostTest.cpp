@@ -1,7 +1,7 @@
 #include "data/Host.h"
 
 #include "automation/Error.h"
-#include "tests/support/RecordingHost.h"
+#include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ using Calls = std::vector<std::wstring>;
 class HostContract : public testing::Test
 {
   protected:
-    test_support::WithRecordingHost Dtc;
+    test_support::WithFakeHost Dtc;
 };
 
 TEST_F(HostContract, ARecordSourceIsOpenedIntoTheVariableWithItsFilterAsFourthArgument)
@@ -134,7 +134,7 @@ TEST(CloseRecordset, RaisesNothingForARecordsetThatIsClosedAlready)
 
 TEST(CloseRecordset, RaisesNothingForAnObjectThatIsNoRecordset)
 {
-    const test_support::WithRecordingHost host;
+    const test_support::WithFakeHost host;
     Recordset rows(state::Shared().gDTC);
     automation::CloseRecordset(rows);
     EXPECT_FALSE(rows);

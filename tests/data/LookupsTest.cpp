@@ -4,7 +4,7 @@
 #include "automation/Error.h"
 #include "data/Host.h"
 #include "links/AccountInfo.h"
-#include "tests/support/RecordingHost.h"
+#include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ class Lookups : public testing::Test
                                                                                        : L"(failed)";
     }
 
-    test_support::WithRecordingHost Host;
+    test_support::WithFakeHost Host;
 };
 
 using AccountInfo = Lookups;

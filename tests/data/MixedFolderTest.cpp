@@ -4,8 +4,8 @@
 
 #include "automation/Text.h"
 #include "sandbox/ado/Recordset.h"
-#include "sandbox/outlook/CallCounter.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/RecordingDisplay.h"
 
 #include <gtest/gtest.h>
@@ -59,14 +59,11 @@ TEST(AFolderOfMixedItems, IsReadByEachItemsOwnMembersAskedForOncePerClass)
         expected.push_back(std::to_wstring(i) + classNumbers[(i - 1) % std::ssize(kItemTypes)]);
     }
     gRead.clear();
-    sandbox::CallCounter calls;
-    sandbox::CallObserver* const before = sandbox::Observe(&calls);
+    const test_support::CallWatch calls;
     EXPECT_FALSE((exchange::PassFromOutlook{.RelationStatement = L"SELECT", .Write = Read}(run)));
-    sandbox::Observe(before);
     EXPECT_EQ(expected, gRead);
     for (const wchar_t* name : {L"ContactItem", L"TaskItem", L"AppointmentItem", L"MailItem"})
     {
-        const std::wstring line = std::wstring(name) + L".Subject\t1\n";
-        EXPECT_NE(std::wstring::npos, calls.LookupTable().find(line)) << calls.LookupTable();
+        EXPECT_EQ(1, calls.LookupsOf(name + std::wstring(L".Subject"))) << automation::ToUtf8(name);
     }
 }

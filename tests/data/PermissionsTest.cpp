@@ -1,7 +1,8 @@
 #include "data/Permissions.h"
 
+#include "state/SharedState.h"
+#include "tests/support/FakeHost.h"
 #include "tests/support/MessageBoxes.h"
-#include "tests/support/RecordingHost.h"
 #include "tests/support/WithLanguage.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +38,7 @@ class Permissions : public testing::Test
         return shown.empty() ? L"(no message)" : shown.front().text;
     }
 
-    test_support::WithRecordingHost Host;
+    test_support::WithFakeHost Host;
 };
 
 TEST_F(Permissions, KindsAndScopesBecomeTheHostsModulesAndFunctions)

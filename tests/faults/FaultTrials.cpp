@@ -106,8 +106,8 @@ void ExpectSame(const Records& now, const Records& wanted, size_t extraAllowed)
 
 FaultTrials::FaultTrials()
     : mAdo(sandbox::kRecordsetClass, CLSCTX_INPROC_SERVER, [this] {
-          CountCreation(*mFaults);
-          return WithFaults(sandbox::MakeRecordset(), mFaults);
+          mFaults->CountCreation();
+          return Intercept(sandbox::MakeRecordset(), mFaults);
       })
 {
     sandbox::RegisterProgId(sandbox::kRecordsetProgId, sandbox::kRecordsetClass);
@@ -143,7 +143,7 @@ bool FaultTrials::ExchangeInSteps(const Trial& trial)
     const exchange::Kind& category = trial.what.kind.category;
     exchange::Run run = OpenRun(trial.what.kind);
     const automation::ClosesRecordset closes(run.HostRows);
-    const auto startCounting = [&] { *mFaults = {trial.fault, trial.at, 0, {}}; };
+    const auto startCounting = [&] { mFaults->Order(trial.fault, trial.at); };
     if (trial.phase == Phase::Collection)
     {
         startCounting();
@@ -158,7 +158,7 @@ bool FaultTrials::ExchangeInSteps(const Trial& trial)
     {
         failed = true;
     }
-    mFaults->At = 0;
+    mFaults->Stop();
     if (failed)
     {
         return true;
@@ -173,16 +173,16 @@ bool FaultTrials::ExchangeInSteps(const Trial& trial)
 FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
 {
     state::SharedState& shared = state::Shared();
-    *mFaults = {};
-    shared.gDTC = WithFaults(mSides.TheHost.Dtc(), mFaults, true);
-    shared.gOlApplication = WithFaults(sandbox::MakeOutlook(mSides.Mailbox), mFaults);
+    mFaults->OrderNone();
+    shared.gDTC = Intercept(mSides.TheHost.Dtc(), mFaults);
+    shared.gOlApplication = Intercept(sandbox::MakeOutlook(mSides.Mailbox), mFaults);
     shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
     shared.gSynParameter.TransType = static_cast<long>(trial.what.direction);
     shared.gSynParameter.CurrentFolder = trial.what.kind.folder;
     Outcome outcome;
     if (trial.phase == Phase::Whole)
     {
-        *mFaults = {trial.fault, trial.at, 0, {}};
+        mFaults->Order(trial.fault, trial.at);
         mDisplay.Ask = run::ShowConfirmation;
         outcome.reportedFailure = trial.what.kind.run(mDisplay);
     }
@@ -190,8 +190,8 @@ FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
     {
         outcome.reportedFailure = ExchangeInSteps(trial);
     }
-    outcome.struck = mFaults->StruckMember;
-    *mFaults = {};
+    outcome.struck = mFaults->StruckMember();
+    mFaults->OrderNone();
     shared.gDTC = {};
     shared.gOlApplication = {};
     shared.gOlNamespace = {};
@@ -261,7 +261,7 @@ void FaultTrials::ExpectNothingOpen()
 {
     EXPECT_FALSE(mSides.TheHost.Database().InTransaction());
     EXPECT_FALSE(mDisplay.IsShown) << "the progress bar is still shown";
-    EXPECT_EQ(0, LiveWrappers()) << "objects are still held";
+    EXPECT_EQ(0, InterceptedObjects()) << "objects are still held";
     EXPECT_EQ(mLiveObjects, sandbox::LiveObjects()) << "objects are still held";
 }
 

@@ -4,7 +4,7 @@
 
 #include "exchange/Kind.h"
 #include "sandbox/dispatch/ClassObject.h"
-#include "tests/faults/FaultyObject.h"
+#include "tests/faults/Faults.h"
 #include "tests/faults/TwoSides.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/WithLanguage.h"
@@ -84,7 +84,7 @@ class FaultTrials : public testing::Test
     void ExpectWholeRecords(const Trial& trial, const TwoStates& now);
     void ExpectPuttingRight(const Trial& trial);
 
-    FaultsRef mFaults = std::make_shared<Faults>();
+    std::shared_ptr<Faults> mFaults = std::make_shared<Faults>();
     sandbox::RegisteredClass mAdo;
     TwoSides mSides;
     TwoStates mBefore;

@@ -12,13 +12,14 @@
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
+#include "state/SharedState.h"
 #include "tasks/Tasks.h"
 #include "tests/hostile/HostileItem.h"
 #include "tests/hostile/HostileValues.h"
 #include "tests/hostile/NoMessageBoxes.h"
 #include "tests/hostile/StatementShape.h"
+#include "tests/support/FakeHost.h"
 #include "tests/support/RecordingDisplay.h"
-#include "tests/support/RecordingHost.h"
 #include "tests/support/Thoroughness.h"
 #include "tests/support/WithLanguage.h"
 
@@ -35,7 +36,7 @@ class EveryOrigin : public testing::Test
   protected:
     EveryOrigin()
     {
-        state::Shared().gDTC = MakeStatementRecorder(automation::Object(mHost.Get()), mStatements);
+        state::Shared().gDTC = RecordStatements(automation::Object(mHost.Get()), mStatements);
         state::Shared().gCnnString = mDatabase.ConnectionString();
         state::Shared().gOlNamespace =
             sandbox::MakeOutlook(sandbox::MakeMailbox()).GetObject(L"GetNamespace", L"MAPI");
@@ -150,7 +151,7 @@ class EveryOrigin : public testing::Test
 
     sandbox::AdoInProcess mAdo;
     sandbox::Host mDatabase;
-    Microsoft::WRL::ComPtr<RecordingHost> mHost{new RecordingHost};
+    Microsoft::WRL::ComPtr<FakeHost> mHost{new FakeHost};
     Statements mStatements;
     NoMessageBoxes mBoxes;
     RecordingDisplay mDisplay;

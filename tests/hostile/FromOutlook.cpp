@@ -111,7 +111,7 @@ HostileFromOutlook::HostileFromOutlook()
     {
         mHost.Database().Execute(sql);
     }
-    state::Shared().gDTC = MakeStatementRecorder(mHost.Dtc(), mStatements);
+    state::Shared().gDTC = RecordStatements(mHost.Dtc(), mStatements);
     state::Shared().gCnnString = mHost.ConnectionString();
     state::Shared().gCalendarStartTime = {0.25};
     state::Shared().gCalendarEndTime = {0.75};

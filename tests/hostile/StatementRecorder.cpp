@@ -1,6 +1,6 @@
 #include "tests/hostile/StatementRecorder.h"
 
-#include "automation/Argument.h"
+#include "tests/support/Interceptor.h"
 
 #include <algorithm>
 #include <iterator>
@@ -11,112 +11,47 @@ namespace test_support
 namespace
 {
 
-using automation::ByRef;
-using automation::Object;
 using automation::TextOf;
-using automation::Value;
 using sandbox::Call;
-using sandbox::DispatchObject;
-using sandbox::Member;
-using sandbox::MemberTable;
-using sandbox::Reads;
 
-class StatementRecorder : public DispatchObject
+// The places of the texts among a member's arguments.
+const std::map<std::wstring, std::vector<size_t>> kTexts = {
+    {L"OpenRecordset", {1, 3}}, {L"OpenRecordsetByString", {1}},
+    {L"Insert", {0, 1, 2}},     {L"Update", {0, 1, 3}},
+    {L"Delete", {0, 1}},
+};
+
+class StatementRecorder : public Interceptor
 {
   public:
-    StatementRecorder(Object dtc, Statements& statements) : mDtc(std::move(dtc)), mStatements(statements) {}
+    explicit StatementRecorder(Statements& statements) : mStatements(statements) {}
+
+    void After(const InterceptedCall& call) override
+    {
+        const auto texts = kTexts.find(call.member);
+        if (texts == kTexts.end())
+        {
+            return;
+        }
+        const Call arguments(call.arguments, DISPATCH_METHOD);
+        Statement statement{call.member, {}, automation::LongOf(automation::Value(call.result))};
+        for (const size_t place : texts->second)
+        {
+            const automation::Value text = arguments.At(place);
+            statement.arguments.push_back(automation::IsMissing(text) ? L"" : TextOf(text));
+        }
+        mStatements.push_back(std::move(statement));
+    }
 
   private:
-    Value Kept(const wchar_t* member, std::vector<std::wstring> arguments, const Value& result)
-    {
-        mStatements.push_back({member, std::move(arguments), automation::LongOf(result)});
-        return result;
-    }
-
-    Value OpenRecordset(const Call& call)
-    {
-        Object rows;
-        const std::wstring source = TextOf(call.At(1));
-        const Value filter = call.At(3);
-        const Value result = mDtc.Call(L"OpenRecordset", ByRef(rows), source, Value::Missing(), filter);
-        call.Write(0, rows);
-        return Kept(L"OpenRecordset", {source, automation::IsMissing(filter) ? L"" : TextOf(filter)}, result);
-    }
-
-    Value OpenRecordsetByString(const Call& call)
-    {
-        Object rows;
-        const std::wstring sql = TextOf(call.At(1));
-        const Value result = mDtc.Call(L"OpenRecordsetByString", ByRef(rows), sql);
-        call.Write(0, rows);
-        return Kept(L"OpenRecordsetByString", {sql}, result);
-    }
-
-    Value Insert(const Call& call)
-    {
-        const std::wstring table = TextOf(call.At(0));
-        std::wstring fields = TextOf(call.At(1));
-        std::wstring values = TextOf(call.At(2));
-        std::wstring text = TextOf(call.At(3));
-        const Value result = mDtc.Call(L"Insert", table, ByRef(fields), ByRef(values), ByRef(text));
-        return Kept(L"Insert", {table, fields, values}, result);
-    }
-
-    Value Update(const Call& call)
-    {
-        const std::wstring table = TextOf(call.At(0));
-        std::wstring setList = TextOf(call.At(1));
-        const std::wstring condition = TextOf(call.At(3));
-        const Value result = mDtc.Call(L"Update", table, ByRef(setList), L"", condition);
-        return Kept(L"Update", {table, setList, condition}, result);
-    }
-
-    Value Delete(const Call& call)
-    {
-        const std::wstring table = TextOf(call.At(0));
-        const std::wstring condition = TextOf(call.At(1));
-        return Kept(L"Delete", {table, condition}, mDtc.Call(L"Delete", table, condition));
-    }
-
-    // The members that carry no text.
-    static Member Forwarded(const wchar_t* name)
-    {
-        return {name,
-                [name](DispatchObject& self, const Call&) {
-                    return static_cast<StatementRecorder&>(self).mDtc.Get(name);
-                },
-                nullptr};
-    }
-
-    const wchar_t* ClassName() const override { return L"StatementRecorder"; }
-    const MemberTable& Members() const override
-    {
-        static const MemberTable table{
-            {L"OpenRecordset", Reads(&StatementRecorder::OpenRecordset), nullptr},
-            {L"OpenRecordsetByString", Reads(&StatementRecorder::OpenRecordsetByString), nullptr},
-            {L"Insert", Reads(&StatementRecorder::Insert), nullptr},
-            {L"Update", Reads(&StatementRecorder::Update), nullptr},
-            {L"Delete", Reads(&StatementRecorder::Delete), nullptr},
-            Forwarded(L"NewGuid"),
-            Forwarded(L"MyInfo"),
-            Forwarded(L"SysDateTime"),
-            Forwarded(L"BeginTrans"),
-            Forwarded(L"CommitTrans"),
-            Forwarded(L"RollbackTrans"),
-            Forwarded(L"InTransaction"),
-        };
-        return table;
-    }
-
-    Object mDtc;
     Statements& mStatements;
 };
 
 } // namespace
 
-automation::Object MakeStatementRecorder(const Object& dtc, Statements& statements)
+automation::Object RecordStatements(const automation::Object& dtc, Statements& statements)
 {
-    return sandbox::MakeObject<StatementRecorder>(dtc, statements);
+    return Intercept(dtc, std::make_shared<StatementRecorder>(statements));
 }
 
 std::map<std::wstring, sandbox::Literal> ColumnsWritten(const Statements& statements,

@@ -1,5 +1,5 @@
-// Stands before a host's data-access object and keeps what is written and asked through it, text for text, on
-// the way to the host: what a statement means is judged by what it says, not by what one host makes of it.
+// Keeps each statement and query that the component sends to a host, text for text: tests judge the
+// statement, not how one host understands it.
 #pragma once
 
 #include "sandbox/dispatch/DispatchObject.h"
@@ -21,8 +21,8 @@ struct Statement
 
 using Statements = std::vector<Statement>;
 
-// The object before dtc; it writes to statements, which outlive it.
-automation::Object MakeStatementRecorder(const automation::Object& dtc, Statements& statements);
+// A wrapper around dtc; it writes to statements, which outlive it.
+automation::Object RecordStatements(const automation::Object& dtc, Statements& statements);
 
 // What the inserts and updates that succeeded have written to a table: column to literal. Empty for nothing.
 std::map<std::wstring, sandbox::Literal> ColumnsWritten(const Statements& statements,

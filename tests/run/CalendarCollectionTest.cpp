@@ -5,7 +5,7 @@
 
 #include "automation/Dates.h"
 #include "state/SharedState.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/Thoroughness.h"
 
@@ -48,7 +48,7 @@ Record Entry(Value name, Date start)
 class CalendarCollection : public CollectionTest
 {
   protected:
-    CalendarCollection() : CollectionTest(calendar::kCalendar) { Host.SetSysDateTime(InDays(0.5)); }
+    CalendarCollection() : CollectionTest(calendar::kCalendar) { Host->Now = InDays(0.5); }
     ~CalendarCollection() override { Shared().gCalendarStartTime = {}; }
 
     void TakeFutureEntriesOnly() { Shared().gSynParameter.CalendarTransItem = state::kFutureEntries; }
@@ -119,9 +119,9 @@ TEST_F(CalendarCollection, APartnerOutsideTheRangeStillMatchesSoThatNoDuplicateI
 TEST_F(CalendarCollection, TheHostsClockIsAskedOncePerRunAndOnlyForARange)
 {
     const auto timesAsked = [&] {
-        const CallCounter counter;
+        const CallWatch calls;
         Collect(3, 3);
-        return counter.Of(L"DTC.SysDateTime");
+        return calls.Of(L"DTC.SysDateTime");
     };
     *Rows = {Entry(L"a", kToday), Entry(L"b", kToday)};
     *Items = {Appointment(L"c", kToday), Appointment(L"d", kToday)};
@@ -136,16 +136,16 @@ TEST_F(CalendarCollection, AnItemIsFetchedOnceThoughItsPartnerComesLater)
 {
     *Items = {Appointment(L"a", kToday), Appointment(L"b", kToday), Appointment(L"c", kToday)};
     *Rows = {Entry(L"c", kToday), Entry(L"b", kToday), Entry(L"a", kToday)};
-    const CallCounter counter;
+    const CallWatch calls;
     EXPECT_EQ("changedRow1/1 changedRow2/1 changedRow3/1 changedItem3/1 changedItem2/1 changedItem1/1 ",
               Collect(4, 2));
-    EXPECT_EQ(3, counter.Of(L"Items.Item"));
-    EXPECT_EQ(3, counter.Of(L"Item.Start"));
+    EXPECT_EQ(3, calls.Of(L"Items.Item"));
+    EXPECT_EQ(3, calls.Of(L"Item.Start"));
 }
 
 TEST_F(CalendarCollection, AsksForTheRightsOfCalendars)
 {
-    Host.DenyRight(2); // add
+    Host->DeniedCodes.insert(2); // add
     const std::vector<ShownMessage> expected = {
         {L"You are not permit to add account calendar record(s)!", L"Telvix", IDI_EXCLAMATION}};
     *Items = {Appointment(L"a", kToday)};

@@ -50,13 +50,12 @@ void Fill(Records& records, RandomData& random, const std::function<Record(Rando
 
 CollectionTest::CollectionTest(const exchange::Kind& category) : mCategory(category)
 {
-    state::Shared().gDTC = Host.Object();
+    Host->UserId = L"1";
     state::Shared().gSynParameter = {};
 }
 
 CollectionTest::~CollectionTest()
 {
-    state::Shared().gDTC = {};
     state::Shared().gOlNamespace = {};
     state::Shared().gSynParameter = {};
 }

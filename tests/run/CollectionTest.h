@@ -4,7 +4,7 @@
 
 #include "run/ChangeCollection.h"
 #include "tests/run/Sides.h"
-#include "tests/run/TestHost.h"
+#include "tests/support/FakeHost.h"
 #include "tests/support/RecordingDisplay.h"
 
 #include <gtest/gtest.h>
@@ -55,7 +55,7 @@ class CollectionTest : public testing::Test
 
     exchange::Run NewRun();
 
-    TestHost Host;
+    WithFakeHost Host;
     RecordingDisplay Display;
     std::shared_ptr<Records> Items = std::make_shared<Records>();
     std::shared_ptr<Records> Rows = std::make_shared<Records>();

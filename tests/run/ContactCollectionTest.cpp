@@ -1,7 +1,7 @@
 #include "contacts/Contacts.h"
 #include "tests/run/CollectionTest.h"
 
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/Thoroughness.h"
 #include "tools/robot/Robot.h"
 
@@ -73,7 +73,7 @@ TEST_F(ContactCollection, Rules4And5ProposeAMatchedPairOnlyTowardsTheSideThatLos
 
 TEST_F(ContactCollection, WithoutTheRightToAddMatchedPairsAreStillProposed)
 {
-    Host.DenyRight(2); // adding
+    Host->DeniedCodes.insert(2); // adding
     *Items = {Contact(L"Li", L"Ming", L"Harbour"), Contact(L"Ode", L"Ann", L"")};
     *Rows = {ContactRow(L"Li", L"Ming", L"Harbour")};
     const auto collectAndReadTheRefusal = [&](long rule, const std::string& expected) {
@@ -149,14 +149,14 @@ TEST_F(ContactCollection, ATwoWayRunReadsEachMatchKeyOnce)
         Items->push_back(Contact(name.c_str(), L"A", L"Harbour"));
         Rows->push_back(ContactRow(i % 2 == 0 ? name : name + L"x", L"A", L"Harbour"));
     }
-    const CallCounter counter;
+    const CallWatch calls;
     Collect(3, 3);
-    EXPECT_EQ(40, counter.Of(L"Item.LastName"));
-    EXPECT_EQ(40, counter.Of(L"Item.FirstName"));
-    EXPECT_EQ(20, counter.Of(L"Item.CompanyName"));
-    EXPECT_EQ(40, counter.Of(L"Items.Item"));
+    EXPECT_EQ(40, calls.Of(L"Item.LastName"));
+    EXPECT_EQ(40, calls.Of(L"Item.FirstName"));
+    EXPECT_EQ(20, calls.Of(L"Item.CompanyName"));
+    EXPECT_EQ(40, calls.Of(L"Items.Item"));
     // With the key of each row, which is read again where the recordset returns to it.
-    EXPECT_EQ(40 * 3 + 20 + 19, counter.Of(L"Field.Value"));
+    EXPECT_EQ(40 * 3 + 20 + 19, calls.Of(L"Field.Value"));
 }
 
 TEST_F(ContactCollection, TheCompanyOfAnItemWhosePartnerComesLaterIsReadWhileTheItemIsAtHand)
@@ -165,11 +165,11 @@ TEST_F(ContactCollection, TheCompanyOfAnItemWhosePartnerComesLaterIsReadWhileThe
               Contact(L"Zoe", L"Ann", L"Harbour")};
     *Rows = {ContactRow(L"New", L"Ann", L"Harbour"), ContactRow(L"Li", L"Ming", L"Harbour"),
              ContactRow(L"Ode", L"Ann", L"Harbour")};
-    const CallCounter counter;
+    const CallWatch calls;
     EXPECT_EQ("newRow1/0 changedRow2/1 changedRow3/1 changedItem2/1 changedItem1/1 ", Collect(4, 2));
-    EXPECT_EQ(2, counter.Of(L"Item.CompanyName"));
-    EXPECT_EQ(3, counter.Of(L"Items.Item"));
-    EXPECT_EQ(3 * 3 + 2 + 2, counter.Of(L"Field.Value"));
+    EXPECT_EQ(2, calls.Of(L"Item.CompanyName"));
+    EXPECT_EQ(3, calls.Of(L"Items.Item"));
+    EXPECT_EQ(3 * 3 + 2 + 2, calls.Of(L"Field.Value"));
 }
 
 TEST_F(ContactCollection, ARowThatCannotBeReadFailsOnlyWhereTheWalkReachesIt)

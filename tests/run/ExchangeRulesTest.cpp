@@ -6,7 +6,7 @@
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
 #include "tests/run/Sides.h"
-#include "tests/run/TestHost.h"
+#include "tests/support/FakeHost.h"
 #include "tests/support/PageTable.h"
 #include "tests/support/RecordingDisplay.h"
 
@@ -94,7 +94,6 @@ std::string ProposedFor(const data::Changes& changes, const Pair& pair)
 class ExchangeRules : public testing::Test
 {
   protected:
-    ExchangeRules() { Shared().gDTC = mHost.Object(); }
     ~ExchangeRules() override
     {
         Shared().gDTC = {};
@@ -120,7 +119,7 @@ class ExchangeRules : public testing::Test
     }
 
   private:
-    TestHost mHost;
+    WithFakeHost mHost;
 };
 
 const exchange::Kind* const kCategories[] = {&contacts::kContacts, &tasks::kTasks, &calendar::kCalendar};

@@ -12,7 +12,7 @@ namespace
 
 using namespace test_support;
 
-using Questions = std::vector<TestHost::Question>;
+using Questions = std::vector<FakeHost::Right>;
 
 struct RightsOfKind
 {
@@ -54,22 +54,21 @@ TEST_F(RightsOfCollection, OfEachKindTheRightsToAddAndToModifyAreAskedForOnceInT
 {
     for (const RightsOfKind& kind : kRightsOfKinds)
     {
-        TestHost host;
-        state::Shared().gDTC = host.Object();
+        const WithFakeHost host;
         Items->clear();
         Rows->clear();
         exchange::Run run = NewRun();
         run::ChangeCollection collection(kind.category, run);
         EXPECT_FALSE(collection.CollectToOutlook());
-        EXPECT_EQ(Questions{}, host.Questions()) << "towards Outlook no right is needed";
+        EXPECT_EQ(Questions{}, host->Asked) << "towards Outlook no right is needed";
         EXPECT_FALSE(collection.CollectFromOutlook());
-        EXPECT_EQ(kind.expected, host.Questions()) << automation::ToUtf8(kind.category.Name.TransObject);
+        EXPECT_EQ(kind.expected, host->Asked) << automation::ToUtf8(kind.category.Name.TransObject);
     }
 }
 
 TEST_F(RightsOfCollection, Rule3WithoutTheRightToAddStillProposesThePairs)
 {
-    Host.DenyRight(2); // adding
+    Host->DeniedCodes.insert(2); // adding
     EXPECT_EQ("changedRow1/0 changedItem1/0 ", CollectWithRefusals(3, 1, 1));
     EXPECT_EQ("newRow2/0 changedRow1/1 changedRow1/0 changedItem1/1 changedItem1/0 ",
               CollectWithRefusals(3, 3, 1));
@@ -77,15 +76,15 @@ TEST_F(RightsOfCollection, Rule3WithoutTheRightToAddStillProposesThePairs)
 
 TEST_F(RightsOfCollection, Rule3WithoutTheRightToModifyStillProposesNewRows)
 {
-    Host.DenyRight(4); // modifying
+    Host->DeniedCodes.insert(4); // modifying
     EXPECT_EQ("newItem2/0 ", CollectWithRefusals(3, 1, 1));
     EXPECT_EQ("newRow2/0 changedRow1/1 changedItem1/1 newItem2/0 ", CollectWithRefusals(3, 3, 1));
 }
 
 TEST_F(RightsOfCollection, WithoutEitherRightNothingIsProposedFromOutlookWhateverTheRule)
 {
-    Host.DenyRight(2);
-    Host.DenyRight(4);
+    Host->DeniedCodes.insert(2);
+    Host->DeniedCodes.insert(4);
     for (const long rule : {1, 2, 3, 4, 5})
     {
         EXPECT_EQ("", CollectWithRefusals(rule, 1, 2)) << rule;

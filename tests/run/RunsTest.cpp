@@ -4,8 +4,7 @@
 
 #include "automation/Text.h"
 #include "state/SharedState.h"
-#include "tests/run/CallOrder.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 
 #include <functional>
 
@@ -31,12 +30,12 @@ TEST_F(Runs, ADirectionThatIsNoneDoesNothingAndSucceeds)
         AddItem(kind);
         for (const long transType : {0L, 4L, -1L})
         {
-            const CallCounter counter;
+            const CallWatch calls;
             const Outcome outcome = Run(kind, transType, Answer::Accept);
             EXPECT_FALSE(outcome.failed);
             EXPECT_TRUE(outcome.shown.empty());
-            EXPECT_EQ(0, counter.Of(L"Items.Item"));
-            EXPECT_EQ(0, counter.Of(L"DTC.Insert") + counter.Of(L"Items.Add"));
+            EXPECT_EQ(0, calls.Of(L"Items.Item"));
+            EXPECT_EQ(0, calls.Of(L"DTC.Insert") + calls.Of(L"Items.Add"));
         }
     }
 }
@@ -61,11 +60,11 @@ TEST_F(Runs, WithRule2AndEveryRecordMatchedNothingIsWrittenAndTheRunSucceeds)
     EXPECT_FALSE(Run(kContactRun, 2, Answer::Accept).failed);
     Shared().gSynParameter.TransType = 3;
     Shared().gSynParameter.TransConflictOption = state::kIgnoreAllConflicting;
-    const CallCounter counter;
+    const CallWatch calls;
     const Outcome outcome = Run(kContactRun);
     EXPECT_FALSE(outcome.failed);
     EXPECT_EQ(1, Confirmations(outcome));
-    EXPECT_EQ(0, counter.Of(L"ContactItem.Save") + counter.Of(L"DTC.Update") + counter.Of(L"DTC.Insert"));
+    EXPECT_EQ(0, calls.Of(L"ContactItem.Save") + calls.Of(L"DTC.Update") + calls.Of(L"DTC.Insert"));
 }
 
 TEST_F(Runs, TheConfirmationIsShownBeforeAnythingIsWrittenAndCancelWritesNothing)
@@ -112,9 +111,10 @@ TEST_F(Runs, BothWaysTasksWriteTheHostFirstAndTheOthersOutlook)
         SCOPED_TRACE(ToUtf8(kind.name));
         AddHostRecord(kind);
         AddItem(kind);
-        const CallOrder order({L"Items.Add", L"DTC.Insert"});
+        const CallWatch watch;
         EXPECT_FALSE(Run(kind, 3, Answer::Accept).failed);
-        EXPECT_EQ(kind.writesHostFirst ? kRowFirst : kItemFirst, order.Seen);
+        EXPECT_EQ(kind.writesHostFirst ? kRowFirst : kItemFirst,
+                  watch.InOrder({L"Items.Add", L"DTC.Insert"}));
     }
 }
 
@@ -122,10 +122,10 @@ TEST_F(Runs, AFirstPassThatFailsKeepsTheSecondFromStarting)
 {
     AddHostRecord(kContactRun);
     AddItem(kContactRun);
-    CallOrder order({L"DTC.Insert", L"Items.Add"});
-    order.Failing = L"Items.Add";
+    CallWatch watch;
+    watch.FailEvery(L"Items.Add");
     EXPECT_TRUE(Run(kContactRun, 3, Answer::Accept).failed);
-    EXPECT_EQ(Order{L"Items.Add"}, order.Seen);
+    EXPECT_EQ(Order{L"Items.Add"}, watch.InOrder({L"DTC.Insert", L"Items.Add"}));
     EXPECT_EQ(1, CountRows(kContactRun));
 }
 
@@ -204,8 +204,8 @@ TEST_F(Runs, ACollectionThatFailsEndsTheRunBeforeTheConfirmation)
         AddItem(kind);
         for (const long transType : {1L, 2L, 3L})
         {
-            CallOrder order({});
-            order.Failing = L"Items.Item";
+            CallWatch watch;
+            watch.FailEvery(L"Items.Item");
             const Outcome outcome = Run(kind, transType, Answer::Accept);
             EXPECT_TRUE(outcome.failed);
             EXPECT_TRUE(outcome.shown.empty());
@@ -235,12 +235,12 @@ TEST_F(Runs, TheHostRowsAreClosedAtEveryWayOut)
         for (const RunKind& kind : kRuns)
         {
             SCOPED_TRACE(std::string(way) + " " + ToUtf8(kind.name));
-            const CallCounter counter;
+            const CallWatch calls;
             run(kind);
-            const long opened = counter.Of(L"DTC.OpenRecordset") + counter.Of(L"DTC.OpenRecordsetByString") +
-                                counter.Of(L"Recordset.Open");
-            EXPECT_GE(counter.Of(L"DTC.OpenRecordset"), 1);
-            EXPECT_EQ(opened, counter.Of(L"Recordset.Close"));
+            const long opened = calls.Of(L"DTC.OpenRecordset") + calls.Of(L"DTC.OpenRecordsetByString") +
+                                calls.Of(L"Recordset.Open");
+            EXPECT_GE(calls.Of(L"DTC.OpenRecordset"), 1);
+            EXPECT_EQ(opened, calls.Of(L"Recordset.Close"));
         }
     };
     for (const RunKind& kind : kRuns)
@@ -255,13 +255,13 @@ TEST_F(Runs, TheHostRowsAreClosedAtEveryWayOut)
         return Run(kind);
     });
     expectClosed("collection fails", [&](const RunKind& kind) {
-        CallOrder order({});
-        order.Failing = L"Items.Item";
+        CallWatch watch;
+        watch.FailEvery(L"Items.Item");
         return Run(kind, 3, Answer::Accept);
     });
     expectClosed("applying fails", [&](const RunKind& kind) {
-        CallOrder order({});
-        order.Failing = L"Items.Add";
+        CallWatch watch;
+        watch.FailEvery(L"Items.Add");
         Outcome outcome = Run(kind, 2, Answer::Accept);
         EXPECT_TRUE(outcome.failed);
         return outcome;
@@ -275,9 +275,9 @@ TEST_F(Runs, TheFoldersItemsAreFetchedOncePerRun)
     {
         AddHostRecord(kind);
         AddItem(kind);
-        const CallCounter counter;
+        const CallWatch calls;
         Run(kind, 3, Answer::Cancel);
-        EXPECT_EQ(1, counter.Of(L"MAPIFolder.Items"));
+        EXPECT_EQ(1, calls.Of(L"MAPIFolder.Items"));
     }
 }
 

@@ -3,7 +3,7 @@
 #include "tests/run/CollectionTest.h"
 
 #include "state/SharedState.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/Thoroughness.h"
 
@@ -80,9 +80,9 @@ TEST_F(TaskCollection, WhereAllTasksAreTakenNobodyAsksWhetherTheyAreCompleted)
 {
     *Items = {Task(L"a", true), Task(L"b", false)};
     *Rows = {TaskRow(L"c", true), TaskRow(L"d", false)};
-    const CallCounter counter;
+    const CallWatch calls;
     EXPECT_EQ("newRow1/0 newRow2/0 newItem1/0 newItem2/0 ", Collect(3, 3));
-    EXPECT_EQ(counter.Of(L"Item.Complete"), 0);
+    EXPECT_EQ(calls.Of(L"Item.Complete"), 0);
 }
 
 TEST_F(TaskCollection, ACompletionThatCannotBeReadFailsOnlyWhereItMatters)
@@ -98,8 +98,8 @@ TEST_F(TaskCollection, ACompletionThatCannotBeReadFailsOnlyWhereItMatters)
 
 TEST_F(TaskCollection, AsksForTheRightsOfActivities)
 {
-    Host.DenyRight(2); // add
-    Host.DenyRight(4); // modify
+    Host->DeniedCodes.insert(2); // add
+    Host->DeniedCodes.insert(4); // modify
     const std::vector<ShownMessage> expected = {
         {L"You are not permit to add activity record(s)!", L"Telvix", IDI_EXCLAMATION},
         {L"You are not permit to modify activity record(s)!", L"Telvix", IDI_EXCLAMATION}};

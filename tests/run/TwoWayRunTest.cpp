@@ -1,9 +1,8 @@
 // What a run in both directions makes of a pair that differs, and that it comes to rest: each kind, with the
 // rule "notify me", which proposes the pair in both directions.
 #include "sandbox/outlook/PropertyTable.h"
-#include "tests/run/CallOrder.h"
 #include "tests/run/RunsFixture.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 
 #include "automation/Text.h"
 
@@ -162,10 +161,10 @@ TEST_F(TwoWayRun, ATaskThatCameFromOutlookIsNotSavedThereAgain)
         TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
         TheHost.Database().Execute(pair->row);
         Mailbox->AddItem(pair->kind.folder, pair->item);
-        const CallCounter counter;
+        const CallWatch calls;
         Exchange(*pair);
-        EXPECT_EQ(1, counter.Of(L"DTC.Update")) << automation::ToUtf8(pair->kind.name);
-        EXPECT_EQ(pair == &kTaskPair ? 0 : 1, counter.Of(pair->saves)) << automation::ToUtf8(pair->kind.name);
+        EXPECT_EQ(1, calls.Of(L"DTC.Update")) << automation::ToUtf8(pair->kind.name);
+        EXPECT_EQ(pair == &kTaskPair ? 0 : 1, calls.Of(pair->saves)) << automation::ToUtf8(pair->kind.name);
     }
 }
 
@@ -199,9 +198,10 @@ TEST_F(TwoWayRun, ANewItemIsMadeBeforeOrAfterTheRecordsetMovesByItsKind)
     {
         TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
         AddHostRecord(kind);
-        const CallOrder order({L"Items.Add", L"Recordset.Move"});
+        const CallWatch watch;
         EXPECT_FALSE(Run(kind, 2, Answer::Accept).failed);
-        EXPECT_EQ(kind.name == kContactRun.name ? rowFirst : itemFirst, order.Seen)
+        EXPECT_EQ(kind.name == kContactRun.name ? rowFirst : itemFirst,
+                  watch.InOrder({L"Items.Add", L"Recordset.Move"}))
             << automation::ToUtf8(kind.name);
     }
 }

@@ -1,7 +1,7 @@
 #include "automation/Error.h"
 #include "automation/Object.h"
 #include "sandbox/ado/Recordset.h"
-#include "tests/sandbox_host/DatabaseFile.h"
+#include "tests/support/DatabaseFile.h"
 
 #include <gtest/gtest.h>
 

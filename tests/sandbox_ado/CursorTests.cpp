@@ -2,7 +2,7 @@
 #include "automation/Object.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
-#include "tests/sandbox_host/DatabaseFile.h"
+#include "tests/support/DatabaseFile.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "automation/Error.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
-#include "tests/sandbox_host/DatabaseFile.h"
+#include "tests/support/DatabaseFile.h"
 #include "tests/support/Fakes.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include "automation/Dates.h"
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "tests/sandbox_host/DatabaseFile.h"
+#include "tests/support/DatabaseFile.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // every Open of the fake ADO but the connection, with the cursor location before them. Header only.
 #pragma once
 
-#include "sandbox/dispatch/DispatchObject.h"
+#include "tests/support/CallWatch.h"
 
 #include <string>
 #include <vector>
@@ -10,18 +10,12 @@
 namespace test_support
 {
 
-class OpenedRecordsets : public sandbox::CallObserver
+class OpenedRecordsets : public CallWatch
 {
   public:
-    OpenedRecordsets() : mPrevious(sandbox::Observe(this)) {}
-    OpenedRecordsets(const OpenedRecordsets&) = delete;
-    OpenedRecordsets& operator=(const OpenedRecordsets&) = delete;
-    ~OpenedRecordsets() override { sandbox::Observe(mPrevious); }
-
     // "location 3: Select ... (cursor 1, lock 1, options 1)"; a default location is not named.
     std::vector<std::wstring> Texts;
 
-    void OnCall(const wchar_t* /*className*/, const wchar_t* /*member*/) override {}
     void OnArguments(const wchar_t* className, const wchar_t* member, const sandbox::Call& call) override
     {
         const std::wstring name = std::wstring(className) + L"." + member;
@@ -39,7 +33,6 @@ class OpenedRecordsets : public sandbox::CallObserver
     }
 
   private:
-    sandbox::CallObserver* mPrevious;
     std::wstring mLocation;
 };
 

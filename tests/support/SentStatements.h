@@ -2,7 +2,7 @@
 // "Insert(table|columns|values)", "Update(table|set list|condition)". Header only.
 #pragma once
 
-#include "sandbox/dispatch/DispatchObject.h"
+#include "tests/support/CallWatch.h"
 
 #include <string>
 #include <vector>
@@ -10,14 +10,9 @@
 namespace test_support
 {
 
-class SentStatements : public sandbox::CallObserver
+class SentStatements : public CallWatch
 {
   public:
-    SentStatements() : mPrevious(sandbox::Observe(this)) {}
-    SentStatements(const SentStatements&) = delete;
-    SentStatements& operator=(const SentStatements&) = delete;
-    ~SentStatements() override { sandbox::Observe(mPrevious); }
-
     std::vector<std::wstring> Texts;
 
     // The only one that begins like this; the empty text where there is none, or more than one.
@@ -38,7 +33,6 @@ class SentStatements : public sandbox::CallObserver
         return found;
     }
 
-    void OnCall(const wchar_t* /*className*/, const wchar_t* /*member*/) override {}
     void OnArguments(const wchar_t* /*className*/, const wchar_t* member, const sandbox::Call& call) override
     {
         const std::wstring name = member;
@@ -49,9 +43,6 @@ class SentStatements : public sandbox::CallObserver
                             automation::TextOf(call.At(name == L"Insert" ? 2 : 3)) + L")");
         }
     }
-
-  private:
-    sandbox::CallObserver* mPrevious;
 };
 
 } // namespace test_support

@@ -3,7 +3,7 @@
 #include "automation/Error.h"
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/tasks/TaskTest.h"
 
 namespace
@@ -11,7 +11,7 @@ namespace
 
 using automation::Object;
 using automation::TextOf;
-using test_support::CallCounter;
+using test_support::CallWatch;
 using test_support::kContacts;
 using test_support::kTasks;
 
@@ -141,7 +141,7 @@ TEST_F(ContactLink, ADoubleQuoteInANameEndsThePassWithNothingHalfOpen)
         exchange::Run run = NewRun();
         run.Pending.NewHostRecords.Add(1L, 0);
         run.Pending.NewHostRecords.Add(2L, 0);
-        const CallCounter calls;
+        const CallWatch calls;
         EXPECT_TRUE(tasks::SynTaskToOutlook(run));
         EXPECT_EQ(0, CountContacts());
         EXPECT_EQ(before + 1, CountTasks()); // the first row had saved it, the second task was not begun
@@ -206,7 +206,7 @@ TEST_F(ContactLink, TheItemItselfIsLeftToItsWriterToSave)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
     const Object task = TaskAt(1);
-    const CallCounter calls;
+    const CallWatch calls;
     links::LinkContact(task, L"Zhang", L"Wei");
     EXPECT_EQ(0, calls.Of(L"TaskItem.Save"));
     EXPECT_EQ(1, calls.Of(L"ContactItem.Save"));

@@ -3,51 +3,30 @@
 #include "tasks/Tasks.h"
 #include "tests/tasks/TaskExchange.h"
 
-#include "automation/Error.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/MessageBoxes.h"
 
 namespace
 {
 
+using test_support::CallWatch;
 using test_support::Day;
 using test_support::MessagesDuring;
-
-// Makes the n-th call that reaches a fake fail. Questions of rights do not count: one that fails is a
-// right that is missing, and the task is then written without its link.
-class FailsCall : public sandbox::CallObserver
-{
-  public:
-    explicit FailsCall(long n) : mCallsLeft(n), mPrevious(sandbox::Observe(this)) {}
-    FailsCall(const FailsCall&) = delete;
-    FailsCall& operator=(const FailsCall&) = delete;
-    ~FailsCall() override { sandbox::Observe(mPrevious); }
-
-    bool HasFailed() const noexcept { return mCallsLeft <= 0; }
-
-    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
-    {
-        const std::wstring name = member;
-        if (name != L"MyInfo" && name != L"PermissionOn" && --mCallsLeft == 0)
-        {
-            throw automation::Error(E_FAIL, member, L"Injected");
-        }
-    }
-
-  private:
-    long mCallsLeft;
-    sandbox::CallObserver* mPrevious;
-};
 
 class TaskFailure : public test_support::TaskExchange
 {
   protected:
-    // Runs the pass while the n-th call fails; false when there were not so many.
+    // Runs the pass while the n-th call fails; false if there were fewer. Questions for rights do not count:
+    // if one fails, the task is written without its link.
     template<typename Pass>
     static bool WithFailureAt(long n, Pass&& pass)
     {
-        const FailsCall fails(n);
+        CallWatch watch;
+        watch.FailNth(n, [](const std::wstring& name) {
+            return !name.ends_with(L".MyInfo") && !name.ends_with(L".PermissionOn");
+        });
         pass();
-        return fails.HasFailed();
+        return watch.HasFailed();
     }
 };
 

@@ -23,7 +23,7 @@ class TaskFieldsFromOutlook : public test_support::TaskTest
         Host().Calls.clear();
         InsertFirstTask();
         const std::wstring& insert = Host().Calls.at(1);
-        const std::wstring begin = std::wstring(L"Insert TBLACTIVITY|") + column +
+        const std::wstring begin = std::wstring(L"Insert(TBLACTIVITY|") + column +
                                    L",F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|";
         EXPECT_EQ(begin, insert.substr(0, begin.size()));
         return insert.substr(begin.size(), insert.find(L",NULL,NULL,7,7,") - begin.size());
@@ -82,9 +82,9 @@ TEST_F(TaskFieldsFromOutlook, StartDueAndCompletionDatesAreStoredWithoutATimeOfD
     run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     EXPECT_EQ(
         0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, sandbox::MakeObject<CompletedTaskWithTimes>()));
-    EXPECT_EQ(L"Insert TBLACTIVITY|F_ACTPSTIME,F_ACTMADE,F_ACTMADE,F_CNTCTID,F_ACCID,F_ACTORID "
+    EXPECT_EQ(L"Insert(TBLACTIVITY|F_ACTPSTIME,F_ACTMADE,F_ACTMADE,F_CNTCTID,F_ACCID,F_ACTORID "
               L",F_CREATORID,F_ACTID|'05/06/2003 00:00:00','05/08/2003 00:00:00','05/07/2003 00:00:00',"
-              L"NULL,NULL,7,7,'KEY1'|KEY1",
+              L"NULL,NULL,7,7,'KEY1'|KEY1)",
               Host().Calls.at(1));
 }
 

@@ -10,8 +10,8 @@ namespace
 {
 
 using resources::Language;
+using test_support::FakeHost;
 using test_support::MessagesDuring;
-using test_support::ScriptedHost;
 using test_support::ShownMessage;
 using test_support::WithLanguage;
 using Calls = std::vector<std::wstring>;
@@ -21,9 +21,9 @@ constexpr const wchar_t* kLookupContact =
 constexpr const wchar_t* kLookupAccount = L"SELECT F_ACCID\r\nFROM TBLACCOUNT\r\nWHERE F_ACCSNAME= 'Quenlar'";
 
 // The host's codes for the rights that the builders ask for.
-const ScriptedHost::Right kModifyContacts{2, 2, 4};
-const ScriptedHost::Right kModifyAccounts{1, 2, 4};
-const ScriptedHost::Right kAddAccounts{1, 2, 2};
+const FakeHost::Right kModifyContacts{2, 2, 4};
+const FakeHost::Right kModifyAccounts{1, 2, 4};
+const FakeHost::Right kAddAccounts{1, 2, 2};
 
 class TaskLinks : public test_support::TaskTest
 {
@@ -66,6 +66,11 @@ class TaskLinks : public test_support::TaskTest
     data::FieldCatalogue mCatalogue;
 };
 
+std::wstring Opened(const std::wstring& statement)
+{
+    return L"OpenRecordsetByString(nothing|" + statement + L")";
+}
+
 std::vector<ShownMessage> Failure(const wchar_t* builder)
 {
     return {{L"-2147467259:no such table", builder, IDI_ERROR}};
@@ -76,19 +81,17 @@ std::vector<ShownMessage> Failure(const wchar_t* builder)
 TEST_F(TaskLinks, AContactIsLookedUpByItsJoinedNameAndLinkedByItsKey)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}});
-    Host().Found[kLookupContact] = L"C1";
+    Host().Find(kLookupContact, L"C1");
     EXPECT_EQ(L"F_CNTCTID|'C1'", InsertedContact());
     EXPECT_EQ(L"F_CNTCTID='C1'", UpdatedContact());
-    EXPECT_EQ((Calls{std::wstring(L"OpenRecordsetByString ") + kLookupContact,
-                     std::wstring(L"OpenRecordsetByString ") + kLookupContact}),
-              Host().Calls);
-    EXPECT_EQ((std::vector<ScriptedHost::Right>{kModifyContacts, kModifyContacts}), Host().Asked);
+    EXPECT_EQ((Calls{Opened(kLookupContact), Opened(kLookupContact)}), Host().Calls);
+    EXPECT_EQ((std::vector<FakeHost::Right>{kModifyContacts, kModifyContacts}), Host().Asked);
 }
 
 TEST_F(TaskLinks, AFragmentAfterOthersCarriesAComma)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}});
-    Host().Found[kLookupContact] = L"C1";
+    Host().Find(kLookupContact, L"C1");
     data::InsertRow inserted(mCatalogue, L"F_ACTNAME", L"'Call'");
     links::ChangeNewTaskContact(TaskAt(1), inserted);
     links::ChangeAddTaskAccount(TaskAt(1), inserted);
@@ -122,7 +125,7 @@ TEST_F(TaskLinks, ATaskOfAnOutlookWhoseVersionBeginsWithEightHasNoContact)
 TEST_F(TaskLinks, AnEightLaterInTheVersionIsNoMatter)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}, {L"OutlookVersion", L"10.8"}});
-    Host().Found[kLookupContact] = L"C1";
+    Host().Find(kLookupContact, L"C1");
     EXPECT_EQ(L"F_CNTCTID|'C1'", InsertedContact());
 }
 
@@ -136,22 +139,22 @@ TEST_F(TaskLinks, WithoutTheRightToModifyContactsTheContactIsNullWithoutAMessage
 TEST_F(TaskLinks, AnAccountIsLookedUpByItsShortNameAndLinkedByItsKey)
 {
     AddOutlookTask({{L"Companies", L"Quenlar"}});
-    Host().Found[kLookupAccount] = L"A1";
+    Host().Find(kLookupAccount, L"A1");
     EXPECT_EQ(L"F_ACCID|'A1'", InsertedAccount());
     EXPECT_EQ(L"F_ACCID='A1'", UpdatedAccount());
-    EXPECT_EQ((std::vector<ScriptedHost::Right>{kAddAccounts, kAddAccounts}), Host().Asked);
+    EXPECT_EQ((std::vector<FakeHost::Right>{kAddAccounts, kAddAccounts}), Host().Asked);
 }
 
 TEST_F(TaskLinks, AnAccountThatTheHostDoesNotKnowIsCreatedWithItsInformationRow)
 {
     AddOutlookTask({{L"Companies", L"Quenlar"}});
-    Host().Found[L"SELECT F_AITID FROM TBLSYSINFO"] = L"TYPE";
+    Host().Find(L"SELECT F_AITID FROM TBLSYSINFO", L"TYPE");
     const WithLanguage english(Language::English);
     EXPECT_EQ(L"F_ACCID|'KEY1'", InsertedAccount());
-    EXPECT_EQ((Calls{std::wstring(L"OpenRecordsetByString ") + kLookupAccount,
-                     L"Insert TBLACCOUNT|F_ACCID,F_ACCSNAME,F_ACCCURRIDX|'KEY1','Quenlar',2|",
-                     L"OpenRecordsetByString SELECT F_AITID FROM TBLSYSINFO",
-                     L"Insert TBLACCINFO|F_AIID, F_AITID, F_ACCID|'KEY2', 'TYPE', 'KEY1'|"}),
+    EXPECT_EQ((Calls{Opened(kLookupAccount),
+                     L"Insert(TBLACCOUNT|F_ACCID,F_ACCSNAME,F_ACCCURRIDX|'KEY1','Quenlar',2|)",
+                     L"OpenRecordsetByString(nothing|SELECT F_AITID FROM TBLSYSINFO)",
+                     L"Insert(TBLACCINFO|F_AIID, F_AITID, F_ACCID|'KEY2', 'TYPE', 'KEY1'|)"}),
               Host().Calls);
 }
 
@@ -161,7 +164,7 @@ TEST_F(TaskLinks, ATaskWithoutACompanyHasNoAccount)
     EXPECT_EQ(L"F_ACCID|NULL", InsertedAccount());
     EXPECT_EQ(L"F_ACCID=NULL", UpdatedAccount());
     EXPECT_TRUE(Host().Calls.empty());
-    EXPECT_EQ((std::vector<ScriptedHost::Right>{kModifyAccounts, kModifyAccounts}), Host().Asked);
+    EXPECT_EQ((std::vector<FakeHost::Right>{kModifyAccounts, kModifyAccounts}), Host().Asked);
 }
 
 TEST_F(TaskLinks, WithoutEitherRightTheAccountIsLeftAlone)
@@ -175,7 +178,7 @@ TEST_F(TaskLinks, WithoutEitherRightTheAccountIsLeftAlone)
 TEST_F(TaskLinks, ACompanyNeedsTheRightToAddAccountsAlone)
 {
     AddOutlookTask({{L"Companies", L"Quenlar"}});
-    Host().Found[kLookupAccount] = L"A1";
+    Host().Find(kLookupAccount, L"A1");
     Host().Denied = {kModifyAccounts};
     EXPECT_EQ(L"F_ACCID='A1'", UpdatedAccount());
     Host().Denied = {kAddAccounts};
@@ -185,7 +188,7 @@ TEST_F(TaskLinks, ACompanyNeedsTheRightToAddAccountsAlone)
 TEST_F(TaskLinks, WithoutACompanyAUserWhoMayAddAccountsButNotModifyThemLeavesTheAccountAlone)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    Host().Found[L"SELECT F_AITID FROM TBLSYSINFO"] = L"TYPE";
+    Host().Find(L"SELECT F_AITID FROM TBLSYSINFO", L"TYPE");
     Host().Denied = {kModifyAccounts};
     EXPECT_EQ(L"|", InsertedAccount());
     EXPECT_EQ(L"", UpdatedAccount());
@@ -200,14 +203,14 @@ TEST_F(TaskLinks, ACompanyOfBlanksIsNoneAndBlanksAtItsEndsDoNotCount)
     const auto task = TaskAt(1);
     task.Put(L"Companies", L"  Quenlar ");
     task.Call(L"Save");
-    Host().Found[kLookupAccount] = L"A1";
+    Host().Find(kLookupAccount, L"A1");
     EXPECT_EQ(L"F_ACCID|'A1'", InsertedAccount());
 }
 
 TEST_F(TaskLinks, ALookupsErrorIsShownWithTheNumberThatAScriptWouldSee)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}});
-    Host().Failing = {{kLookupContact, L"no such table"}};
+    Host().FailingStatements = {{kLookupContact, L"no such table"}};
     Host().FailureCode = static_cast<HRESULT>(0x800A0CC1);
     const auto messages = MessagesDuring([&] {
         data::UpdateRow task(mCatalogue);
@@ -220,7 +223,7 @@ TEST_F(TaskLinks, ALookupsErrorIsShownWithTheNumberThatAScriptWouldSee)
 TEST_F(TaskLinks, AFailedLookupIsShownUnderTheNameOfItsBuilderAndIsAFailure)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}, {L"Companies", L"Quenlar"}});
-    Host().Failing = {{kLookupContact, L"no such table"}, {kLookupAccount, L"no such table"}};
+    Host().FailingStatements = {{kLookupContact, L"no such table"}, {kLookupAccount, L"no such table"}};
     const auto task = TaskAt(1);
     data::InsertRow inserted(mCatalogue, L"F_ACTNAME", L"'Call'");
     data::UpdateRow updated(mCatalogue, L"F_ACTNAME='Call'");
@@ -240,26 +243,25 @@ TEST_F(TaskLinks, ATaskWhoseLinkFailsIsRolledBackAndThePassGoesOn)
 {
     AddOutlookTask({{L"Subject", L"One"}, {L"ContactNames", L"张伟"}});
     AddOutlookTask({{L"Subject", L"Two"}});
-    Host().Failing = {{kLookupContact, L"no such table"}};
+    Host().FailingStatements = {{kLookupContact, L"no such table"}};
     exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     run.Pending.NewOutlookItems.Add(L"2", 0);
     const auto messages = MessagesDuring([&] { EXPECT_FALSE(tasks::SynTaskFromOutlook(run)); });
     EXPECT_EQ(Failure(L"ChangeNewTaskContact"), messages);
-    EXPECT_EQ((Calls{L"BeginTrans", std::wstring(L"OpenRecordsetByString ") + kLookupContact,
-                     L"RollbackTrans", L"BeginTrans",
-                     L"Insert TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
-                     L"NULL,NULL,7,7,'KEY1'|KEY1",
-                     L"CommitTrans"}),
+    EXPECT_EQ((Calls{L"BeginTrans()", Opened(kLookupContact), L"RollbackTrans()", L"BeginTrans()",
+                     L"Insert(TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
+                     L"NULL,NULL,7,7,'KEY1'|KEY1)",
+                     L"CommitTrans()"}),
               Host().Calls);
 }
 
 TEST_F(TaskLinks, AnAccountThatCannotBeCreatedFailsTheTaskWithAllThatCameBefore)
 {
     AddOutlookTask({{L"Subject", L"One"}, {L"Companies", L"Quenlar"}});
-    Host().Found[L"SELECT F_AITID FROM TBLSYSINFO"] = L"TYPE";
-    Host().Results[L"TBLACCINFO"] = -1;
+    Host().Find(L"SELECT F_AITID FROM TBLSYSINFO", L"TYPE");
+    Host().Status[L"TBLACCINFO"] = -1;
     EXPECT_TRUE(MessagesDuring([&] { InsertFirstTask(); }).empty()); // no lookup has failed
-    EXPECT_EQ(L"RollbackTrans", Host().Calls.back());
-    EXPECT_EQ(1, Host().TransactionAsked);
+    EXPECT_EQ(L"RollbackTrans()", Host().Calls.back());
+    EXPECT_EQ(1, Host().Counts[L"InTransaction"]);
 }

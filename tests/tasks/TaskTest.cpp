@@ -41,11 +41,12 @@ constexpr const wchar_t* kTables[] = {
 
 } // namespace
 
-TaskTest::TaskTest() : mHost(new ScriptedHost), mPath(NewDatabaseFile())
+TaskTest::TaskTest() : mPath(NewDatabaseFile())
 {
     state::SharedState& shared = state::Shared();
     shared.gCnnString = sandbox::ConnectionStringOf(mPath);
-    shared.gDTC = Object(mHost.Get());
+    mHost->KeyStem = L"KEY";
+    mHost->Unlogged = {L"MyInfo", L"UID", L"NewGuid", L"InTransaction", L"PermissionOn"};
     shared.gOlNamespace = Namespace();
     shared.gCalendarPreviewAlarmTime = 20;
     for (const wchar_t* statement : kTables)
@@ -57,7 +58,6 @@ TaskTest::TaskTest() : mHost(new ScriptedHost), mPath(NewDatabaseFile())
 TaskTest::~TaskTest()
 {
     state::Shared().gCnnString.clear();
-    state::Shared().gDTC = {};
     state::Shared().gOlNamespace = {};
     DeleteFileW(mPath.c_str());
 }

@@ -7,8 +7,8 @@
 #include "sandbox/ado/Ado.h"
 #include "sandbox/database/Connection.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/FakeHost.h"
 #include "tests/support/RecordingDisplay.h"
-#include "tests/tasks/ScriptedHost.h"
 
 #include <gtest/gtest.h>
 
@@ -62,11 +62,11 @@ class TaskTest : public testing::Test
     sandbox::AdoInProcess mAdo;
     sandbox::MailboxRef mMailbox = sandbox::MakeMailbox();
     automation::Object mOutlook = sandbox::MakeOutlook(mMailbox);
-    ScriptedHost& Host() const { return *mHost.Get(); }
+    FakeHost& Host() const { return *mHost; }
     RecordingDisplay mDisplay;
 
   private:
-    Microsoft::WRL::ComPtr<ScriptedHost> mHost;
+    WithFakeHost mHost;
     std::wstring mPath;
 };
 

@@ -42,10 +42,10 @@ TEST_F(TasksFromOutlook, WithoutRelationRowsTheInsertIsTheLinksAndTheKeys)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
     InsertFirstTask();
-    EXPECT_EQ((Calls{L"BeginTrans",
-                     L"Insert TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
-                     L"NULL,NULL,7,7,'KEY1'|KEY1",
-                     L"CommitTrans"}),
+    EXPECT_EQ((Calls{L"BeginTrans()",
+                     L"Insert(TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
+                     L"NULL,NULL,7,7,'KEY1'|KEY1)",
+                     L"CommitTrans()"}),
               Host().Calls);
 }
 
@@ -67,9 +67,9 @@ TEST_F(TasksFromOutlook, TheRelationRowsAndTheCatalogueAreOpenedAsTheContractHas
 TEST_F(TasksFromOutlook, AnyPositiveResultOfAnInsertIsSuccess)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    Host().Results[L"TBLACTIVITY"] = 5;
+    Host().Status[L"TBLACTIVITY"] = 5;
     InsertFirstTask();
-    EXPECT_EQ(L"CommitTrans", Host().Calls.back());
+    EXPECT_EQ(L"CommitTrans()", Host().Calls.back());
 }
 
 TEST_F(TasksFromOutlook, AnUpdateWritesTheMappedColumnsAndTheLinksOfItsRow)
@@ -78,10 +78,10 @@ TEST_F(TasksFromOutlook, AnUpdateWritesTheMappedColumnsAndTheLinksOfItsRow)
     AddHostTask({{L"F_ACTNAME", L"'Old'"}});
     AddOutlookTask({{L"Subject", L"Call O'Brien"}, {L"Status", 1}});
     UpdateFirstTask();
-    EXPECT_EQ((Calls{L"BeginTrans",
-                     L"Update TBLACTIVITY|F_ACTNAME='Call O''Brien',F_ACTSTATUS=1,F_CNTCTID=NULL,F_ACCID=NULL"
-                     L"||F_ACTID='ACT1'",
-                     L"CommitTrans"}),
+    EXPECT_EQ((Calls{L"BeginTrans()",
+                     L"Update(TBLACTIVITY|F_ACTNAME='Call O''Brien',F_ACTSTATUS=1,F_CNTCTID=NULL,F_ACCID=NULL"
+                     L"||F_ACTID='ACT1')",
+                     L"CommitTrans()"}),
               Host().Calls);
 }
 
@@ -91,10 +91,10 @@ TEST_F(TasksFromOutlook, ATaskWithoutASubjectNeverReachesTheHost)
     AddOutlookTask({{L"Body", L"nothing to call it by"}});
     AddOutlookTask({{L"Subject", L"Call"}});
     EXPECT_FALSE(InsertAll());
-    EXPECT_EQ((Calls{L"BeginTrans",
-                     L"Insert TBLACTIVITY|F_ACTSTATUS,F_ACTNAME,F_CNTCTID,F_ACCID,F_ACTORID "
-                     L",F_CREATORID,F_ACTID|0,'Call',NULL,NULL,7,7,'KEY1'|KEY1",
-                     L"CommitTrans"}),
+    EXPECT_EQ((Calls{L"BeginTrans()",
+                     L"Insert(TBLACTIVITY|F_ACTSTATUS,F_ACTNAME,F_CNTCTID,F_ACCID,F_ACTORID "
+                     L",F_CREATORID,F_ACTID|0,'Call',NULL,NULL,7,7,'KEY1'|KEY1)",
+                     L"CommitTrans()"}),
               Host().Calls);
 }
 
@@ -104,7 +104,7 @@ TEST_F(TasksFromOutlook, AColumnThatIsNotTheHostTablesOwnIsLeftOut)
     AddOutlookTask({{L"Subject", L"Call"}});
     InsertFirstTask();
     EXPECT_EQ(
-        L"Insert TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|NULL,NULL,7,7,'KEY1'|KEY1",
+        L"Insert(TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|NULL,NULL,7,7,'KEY1'|KEY1)",
         Host().Calls.at(1));
 }
 
@@ -124,7 +124,7 @@ TEST_F(TasksFromOutlook, AnInsertThatTheHostRefusesIsRolledBackAndThePassGoesOn)
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddOutlookTask({{L"Subject", L"One"}});
     AddOutlookTask({{L"Subject", L"Two"}});
-    Host().Results[L"TBLACTIVITY"] = -1;
+    Host().Status[L"TBLACTIVITY"] = -1;
     EXPECT_FALSE(InsertAll());
     EXPECT_EQ(2, CountOf(Host().Calls, L"Insert"));
     EXPECT_EQ(2, CountOf(Host().Calls, L"RollbackTrans"));
@@ -135,19 +135,19 @@ TEST_F(TasksFromOutlook, APositiveResultOfAnInsertCountsAsWrittenOfAnUpdateAsFai
 {
     AddHostTask({{L"F_ACTNAME", L"'Old'"}});
     AddOutlookTask({{L"Subject", L"Call"}});
-    Host().Results[L"TBLACTIVITY"] = 1;
+    Host().Status[L"TBLACTIVITY"] = 1;
     InsertFirstTask();
-    EXPECT_EQ(L"CommitTrans", Host().Calls.back());
+    EXPECT_EQ(L"CommitTrans()", Host().Calls.back());
     UpdateFirstTask();
-    EXPECT_EQ(L"RollbackTrans", Host().Calls.back());
+    EXPECT_EQ(L"RollbackTrans()", Host().Calls.back());
 }
 
 TEST_F(TasksFromOutlook, WithoutAPendingTransactionNeitherEndIsAsked)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    Host().HasTransactions = false;
+    Host().BeginOpensTransaction = false;
     InsertFirstTask();
-    Host().Results[L"TBLACTIVITY"] = -1;
+    Host().Status[L"TBLACTIVITY"] = -1;
     InsertFirstTask();
     EXPECT_EQ(2, CountOf(Host().Calls, L"Insert"));
     EXPECT_EQ(0, CountOf(Host().Calls, L"CommitTrans") + CountOf(Host().Calls, L"RollbackTrans"));
@@ -162,7 +162,7 @@ TEST_F(TasksFromOutlook, TheWriterSaysWhetherTheTaskWasWritten)
     run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     EXPECT_EQ(0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
     EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(2)));
-    Host().Results[L"TBLACTIVITY"] = -1;
+    Host().Status[L"TBLACTIVITY"] = -1;
     EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
 }
 
@@ -197,8 +197,8 @@ TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
     run.Pending.ChangedOutlookItems.Add(L"1", 0);
     const WithLanguage english(Language::English);
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
-    EXPECT_EQ((Calls{L"BeginTrans", L"Update TBLACTIVITY|F_CNTCTID=NULL,F_ACCID=NULL||F_ACTID='ACT2'",
-                     L"CommitTrans"}),
+    EXPECT_EQ((Calls{L"BeginTrans()", L"Update(TBLACTIVITY|F_CNTCTID=NULL,F_ACCID=NULL||F_ACTID='ACT2')",
+                     L"CommitTrans()"}),
               Host().Calls);
     EXPECT_EQ((std::vector<std::wstring>{L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"50%",
                                          L"100%", L"(hidden)"}),

@@ -4,7 +4,7 @@
 
 #include "automation/Error.h"
 #include "state/SharedState.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskTest.h"
 
@@ -18,7 +18,7 @@ using automation::Object;
 using automation::TextOf;
 using automation::TruthOf;
 using resources::Language;
-using test_support::CallCounter;
+using test_support::CallWatch;
 using test_support::Day;
 
 class TasksToOutlook : public test_support::TaskTest
@@ -236,7 +236,7 @@ TEST_F(TasksToOutlook, ATaskIsSavedAfterEveryRowOnceMoreAfterTheStatusAndAtTheEn
 {
     Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTSTATUS", L"Status"}, {L"F_ACTTYPE", L"Unknown"}});
     AddHostTask({{L"F_ACTNAME", L"'Call'"}, {L"F_ACTSTATUS", L"1"}});
-    const CallCounter calls;
+    const CallWatch calls;
     WriteNewTask();
     EXPECT_EQ(3 + 1 + 1, calls.Of(L"TaskItem.Save"));
 }
@@ -249,7 +249,7 @@ TEST_F(TasksToOutlook, TheRelationRowsAreReadOncePerPass)
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     run.Pending.NewHostRecords.Add(2L, 0);
-    const CallCounter calls;
+    const CallWatch calls;
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
     EXPECT_EQ(1, calls.Of(L"Recordset.Open"));
     EXPECT_EQ(1, calls.Of(L"Recordset.Close"));
@@ -265,7 +265,7 @@ TEST_F(TasksToOutlook, AnyModeButNewAndExistingTouchesNothing)
     exchange::Run run = NewRun();
     run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     const Object task = TaskAt(1);
-    const CallCounter calls;
+    const CallWatch calls;
     for (const auto mode : {data::RecordMode{-1}, data::RecordMode{0}, data::RecordMode{3}})
     {
         tasks::SynSynTaskToOlTask(run, mode, task);

@@ -1,11 +1,9 @@
 // The folder picker: its tree of Outlook's folders.
-#include "automation/Error.h"
 #include "automation/Text.h"
-#include "sandbox/dispatch/DispatchObject.h"
+#include "tests/support/CallWatch.h"
 #include "tests/ui_config/FolderPicker.h"
 #include "ui/SentMessage.h"
 
-#include <atomic>
 #include <chrono>
 
 namespace
@@ -13,6 +11,7 @@ namespace
 
 using namespace ui_config_tests;
 using sandbox::ItemKind;
+using test_support::CallWatch;
 
 class FolderPickerTree : public FolderPicker
 {
@@ -28,25 +27,6 @@ class FolderPickerTree : public FolderPicker
 };
 
 INSTANTIATE_TEST_SUITE_P(, FolderPickerTree, testing::ValuesIn(ui_tests::kLanguages));
-
-// Outlook refuses the n-th folder that is asked for its sub-folders, the namespace not counted.
-class FolderRefusal : public sandbox::CallObserver
-{
-  public:
-    explicit FolderRefusal(int folder) : mCall(folder), mBefore(sandbox::Observe(this)) {}
-    ~FolderRefusal() override { sandbox::Observe(mBefore); }
-    void OnCall(const wchar_t* className, const wchar_t* member) override
-    {
-        if (std::wstring(className) != L"NameSpace" && std::wstring(member) == L"Folders" && --mCall == 0)
-        {
-            throw automation::Error(E_FAIL, member, L"The folder cannot be opened.");
-        }
-    }
-
-  private:
-    int mCall;
-    sandbox::CallObserver* mBefore;
-};
 
 TEST_P(FolderPickerTree, TheTreeShowsContainersAndFoldersOfTheKind)
 {
@@ -72,18 +52,14 @@ TEST_P(FolderPickerTree, TheTreeShowsContainersAndFoldersOfTheKind)
 }
 
 // Outlook is asked for nothing while another thread waits for the answer to its message.
-class NoSenderWaits : public sandbox::CallObserver
+class NoSenderWaits : public CallWatch
 {
   public:
-    NoSenderWaits() : mBefore(sandbox::Observe(this)) {}
-    ~NoSenderWaits() override { sandbox::Observe(mBefore); }
-    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
+    void OnCall(const wchar_t* className, const wchar_t* member) override
     {
         EXPECT_FALSE(ui::IsSenderWaiting()) << automation::ToUtf8(member);
+        CallWatch::OnCall(className, member);
     }
-
-  private:
-    sandbox::CallObserver* mBefore;
 };
 
 TEST_P(FolderPickerTree, ANodeThatAnotherThreadOpensBySendingOpensWhenTheSenderHasItsAnswer)
@@ -128,7 +104,10 @@ TEST_P(FolderPickerTree, AFolderThatCannotBeOpenedIsLeftOutAndTheRestIsShown)
 {
     mGround.Mailbox->AddFolder(L"Archive\\Contacts 2020", ItemKind::Contact);
     mGround.Mailbox->AddFolder(L"Team\\Contacts", ItemKind::Contact);
-    const FolderRefusal refusal(2);
+    CallWatch watch;
+    watch.FailNth(2, [](const std::wstring& name) { // the second folder that is asked for its sub-folders
+        return name.ends_with(L".Folders") && name != L"NameSpace.Folders";
+    });
     Show([&](Robot&, const ShownDialog& dialog) {
         EXPECT_EQ((Texts{kStore, L"Team"}), NodesBelow(dialog, kTree, nullptr));
         dialog.Close();
@@ -196,22 +175,6 @@ TEST_P(FolderPickerTree, WithoutOutlookTheDialogOpensWithoutATree)
     });
 }
 
-// Counts the folders that were touched.
-class ItemCalls : public sandbox::CallObserver
-{
-  public:
-    ItemCalls() : mBefore(sandbox::Observe(this)) {}
-    ~ItemCalls() override { sandbox::Observe(mBefore); }
-    void OnCall(const wchar_t* /*className*/, const wchar_t* member) override
-    {
-        Items += std::wstring(member) == L"Item" ? 1 : 0;
-    }
-    std::atomic<int> Items{0};
-
-  private:
-    sandbox::CallObserver* mBefore;
-};
-
 void AddLevels(sandbox::Mailbox& mailbox, const std::wstring& path, int levels, int width, int& left)
 {
     for (int i = 0; i < width && left > 0; ++i, --left)
@@ -230,13 +193,13 @@ TEST_P(FolderPickerTree, TwoThousandFoldersInEightLevelsAreTouchedOnlyAsFarAsThe
     int left = 2000;
     AddLevels(*mGround.Mailbox, kStore, 8, 3, left);
     ASSERT_LE(left, 0);
-    const ItemCalls calls;
+    const CallWatch calls;
     const auto begin = std::chrono::steady_clock::now();
     Show([&](Robot&, const ShownDialog& dialog) {
         EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2));
         dialog.Close();
     });
-    EXPECT_LT(calls.Items, 20); // the store, and the folders directly in it
+    EXPECT_LT(calls.Of(L"Item"), 20); // the store, and the folders directly in it
 }
 
 } // namespace

@@ -1,10 +1,10 @@
-// The ground of a configuration test: the host's two parameter tables with their template rows, in a database
-// of the test's own, and the host over it as the shared state's gDTC.
+// Fixture of the configuration tests: a database with the host's schema and template rows of their own, and a
+// fake host over it as the thread's host. The user's id is 7.
 #pragma once
 
 #include "state/SharedState.h"
-#include "tests/config_host/RecordingHost.h"
-#include "tests/sandbox_host/DatabaseFile.h"
+#include "tests/support/DatabaseFile.h"
+#include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
 
@@ -14,11 +14,11 @@
 namespace config_tests
 {
 
-class HostTest : public testing::Test
+class ConfigFixture : public testing::Test
 {
   protected:
-    HostTest();
-    ~HostTest() override;
+    ConfigFixture();
+    ~ConfigFixture() override;
 
     void Execute(const std::wstring& sql) { mConnection.Execute(sql); }
     // The rows of a query, each as its values joined with "|"; NULL as "NULL".
@@ -40,7 +40,7 @@ class HostTest : public testing::Test
 
   protected:
     sandbox::Connection mConnection{mFile.ConnectionString()};
-    HostLog mLog;
+    test_support::WithFakeHost mHost; // over the database
 };
 
 } // namespace config_tests

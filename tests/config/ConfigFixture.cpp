@@ -1,4 +1,6 @@
-#include "tests/config_host/HostTest.h"
+#include "tests/config/ConfigFixture.h"
+
+#include "sandbox/host/Schema.h"
 
 namespace config_tests
 {
@@ -6,14 +8,7 @@ namespace config_tests
 namespace
 {
 
-constexpr const wchar_t* kGround[] = {
-    L"CREATE TABLE T_POutlookSyncParam (F_UID INTEGER, TransObjectID INTEGER, TransObject TEXT, "
-    L"TransObjectPic TEXT, TransType INTEGER, TransTypePic TEXT, TransConflictOption INTEGER, "
-    L"TransSourceConfig TEXT, TransSource TEXT, CalendarTransItem INTEGER, CalendarPrior SMALLINT, "
-    L"CalendarAfter SMALLINT, TaskTransItem INTEGER, TransNameEnglish TEXT, TransNameChinese TEXT, "
-    L"IsTrans BOOLEAN)",
-    L"CREATE TABLE T_POutlookSyncFolder (F_UID INTEGER, TransObjectID INTEGER, OutlookFolder TEXT, "
-    L"IsDefault BOOLEAN)",
+constexpr const wchar_t* kTemplates[] = {
     L"INSERT INTO T_POutlookSyncParam VALUES (0, 10, 'Contact', 'contact', 3, 'each', 2, NULL, 'Outlook', "
     L"NULL, NULL, NULL, NULL, 'Contact', '联系人', 1)",
     L"INSERT INTO T_POutlookSyncParam VALUES (0, 20, 'Task', 'task', 1, 'left', 3, NULL, 'Outlook', 0, 0, 0, "
@@ -24,21 +19,23 @@ constexpr const wchar_t* kGround[] = {
 
 } // namespace
 
-HostTest::HostTest()
+ConfigFixture::ConfigFixture()
 {
-    for (const wchar_t* statement : kGround)
+    sandbox::CreateHostSchema(mConnection);
+    for (const wchar_t* statement : kTemplates)
     {
         Execute(statement);
     }
-    state::Shared().gDTC = MakeRecordingHost(mConnection, mLog);
+    mHost->Database = &mConnection;
+    mHost->Unlogged = {L"MyInfo", L"UID"};
 }
 
-HostTest::~HostTest()
+ConfigFixture::~ConfigFixture()
 {
     state::Shared() = {};
 }
 
-std::vector<std::wstring> HostTest::Rows(const std::wstring& sql)
+std::vector<std::wstring> ConfigFixture::Rows(const std::wstring& sql)
 {
     std::vector<std::wstring> texts;
     for (const sandbox::Row& row : mConnection.Query(sql).rows)
@@ -54,7 +51,7 @@ std::vector<std::wstring> HostTest::Rows(const std::wstring& sql)
     return texts;
 }
 
-std::wstring HostTest::StoredTranslation(const std::wstring& kind)
+std::wstring ConfigFixture::StoredTranslation(const std::wstring& kind)
 {
     const auto rows = Rows(L"SELECT IsTrans+0, TransSource, TransType, TransTypePic FROM T_POutlookSyncParam "
                            L"WHERE F_UID=7 AND TransObject='" +
@@ -62,7 +59,7 @@ std::wstring HostTest::StoredTranslation(const std::wstring& kind)
     return rows.size() == 1 ? rows[0] : std::to_wstring(rows.size()) + L" rows";
 }
 
-void HostTest::GiveUserRows()
+void ConfigFixture::GiveUserRows()
 {
     Execute(L"CREATE TEMP TABLE Copies AS SELECT * FROM T_POutlookSyncParam WHERE F_UID=0");
     Execute(L"UPDATE Copies SET F_UID=7");
@@ -70,21 +67,21 @@ void HostTest::GiveUserRows()
     Execute(L"DROP TABLE Copies");
 }
 
-void HostTest::GiveFolder(long kind, const std::wstring& path, bool isDefault)
+void ConfigFixture::GiveFolder(long kind, const std::wstring& path, bool isDefault)
 {
     mConnection.Execute(L"INSERT INTO T_POutlookSyncFolder VALUES (7, ?, ?, ?)",
                         {kind, path, isDefault ? 1 : 0});
 }
 
-std::vector<std::wstring> HostTest::Folders()
+std::vector<std::wstring> ConfigFixture::Folders()
 {
     return Rows(L"SELECT TransObjectID, OutlookFolder, IsDefault+0 FROM T_POutlookSyncFolder WHERE F_UID=7 "
                 L"ORDER BY rowid");
 }
 
-void HostTest::RefuseEvery(const std::wstring& member, long status)
+void ConfigFixture::RefuseEvery(const std::wstring& member, long status)
 {
-    mLog.Refuse = [=](const std::wstring& called) { return called == member ? status : 0; };
+    mHost->Refuse = [=](const std::wstring& called) { return called == member ? status : 0; };
 }
 
 } // namespace config_tests
