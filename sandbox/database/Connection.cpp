@@ -33,7 +33,7 @@ std::wstring PathForDriver(const std::wstring& path)
     return result;
 }
 
-// Where the database's path stands in a connection string; a length of 0 for one that names no database.
+// The position of the database's path in a connection string; a length of 0 for one that names no database.
 struct PathSpan
 {
     size_t start = 0;
@@ -61,7 +61,7 @@ std::wstring StringForDriver(std::wstring connectionString)
                                           PathForDriver(connectionString.substr(path.start, path.length)));
 }
 
-// What a message calls the database: its path, else the whole connection string.
+// The database's name in messages: its path, else the whole connection string.
 std::wstring NameOf(const std::wstring& connectionString)
 {
     const PathSpan path = PathIn(connectionString);

@@ -1,4 +1,4 @@
-// What ships with the host's database besides its tables: users, the field catalogue, the rows that relate
+// The rows that ship with the host's tables: users, the field catalogue, the rows that relate
 // host columns to Outlook's properties, the template rows of the parameters, the repeat rules.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What the parts of the fake host share: its database, who is signed in, the clock, the refusals so far
+// Shared by the parts of the fake host: its database, who is signed in, the clock, the refusals so far
 // and the failures that a test has ordered. It lives as long as one of its objects is referred to.
 #pragma once
 

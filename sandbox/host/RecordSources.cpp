@@ -17,7 +17,7 @@ struct RecordSource
 {
     const wchar_t* name;
     const wchar_t* view;
-    const wchar_t* condition; // {} stands for the user's id
+    const wchar_t* condition; // {} is the user's id
     const wchar_t* order;     // the running number, which follows the order of insertion
 };
 

@@ -2,7 +2,7 @@
 // them by name, with a filter over their columns:
 //   ContactMyContact    the user's contacts, with company (ACC_SNAME) and business address
 //   ActivityMyActivity  the tasks that the user does or has created, with contact and company
-//   AccountMyAccount    the user's accounts and those that are nobody's, with the primary address (M_ADDR_ID)
+//   AccountMyAccount    the user's accounts and those without an owner, with the primary address (M_ADDR_ID)
 //   Calendar            the entries of the calendar (VW_CALENDAR) of all users: clients filter by F_ACTORID
 #pragma once
 

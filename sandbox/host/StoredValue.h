@@ -1,4 +1,4 @@
-// What a literal becomes in a column of a declared type, as a strict database takes it: dates of the host's
+// Converts a literal to a column's declared type as a strict database does: dates of the host's
 // forms are stored as proper dates, and a value that the column cannot hold is refused.
 #pragma once
 

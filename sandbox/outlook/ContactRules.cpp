@@ -1,4 +1,5 @@
-// What a contact composes from its names: the full name, the name to file it under, the subject.
+// The properties that a contact composes from its names: the full name, the name to file it under, the
+// subject.
 #include "sandbox/outlook/ItemDraft.h"
 
 #include "automation/Text.h"
@@ -59,7 +60,7 @@ Value ReadFullName(const ItemDraft& item)
     return JoinedText({item.Text(Title), first, middle, last, item.Text(Suffix)}, L" ");
 }
 
-// A full name is taken apart: the family name stands last, in East Asian names it is the first character.
+// A full name is taken apart: the family name is last, in East Asian names it is the first character.
 void WriteFullName(ItemDraft& item, const Value& converted)
 {
     const std::wstring name = automation::Trimmed(automation::TextOf(converted));

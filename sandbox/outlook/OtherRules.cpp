@@ -1,4 +1,4 @@
-// What follows from what in the items that are no records: notes and distribution lists.
+// Dependent properties of the items that are no records: notes and distribution lists.
 #include "sandbox/outlook/ItemDraft.h"
 
 namespace sandbox::outlook

@@ -196,7 +196,7 @@ Value OutlookItem::Delete(const Call&)
     return {};
 }
 
-// OlInspectorClose: 0 saves; 1 discards and 2 would ask, with nobody there to answer.
+// OlInspectorClose: 0 saves; 1 discards and 2 would ask, and there is no user to answer.
 Value OutlookItem::Close(const Call& call)
 {
     if (automation::LongOf(call.At(0)) == 0)

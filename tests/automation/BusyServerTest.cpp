@@ -170,7 +170,7 @@ TEST_F(PatientUser, IsAskedWhenThePatienceIsUsedUpAndHasItAnewAfterwards)
     EXPECT_EQ(1, gTimesAsked);
 }
 
-TEST_F(PatientUser, WhoGivesUpIsNotAskedForTheCallsThatFollowUntilOneIsTaken)
+TEST_F(PatientUser, AfterGivingUpTheUserIsNotAskedAgainUntilACallSucceeds)
 {
     gGoesOn = false;
     EXPECT_FALSE(LongWait().MayTryAgain());

@@ -37,14 +37,14 @@ TEST(Dates, MmIsTheMonthBeforeTheHourAndTheMinuteAfterIt)
     EXPECT_EQ(L"05.05", Formatted(date, L"mm.mm"));
 }
 
-TEST(Dates, OfAPatternEverythingElseStandsForItself)
+TEST(Dates, AllOtherCharactersOfAPatternAreLiteral)
 {
     const Date date = DateOf(Moment{2003, 5, 6});
     EXPECT_EQ(L"{d '2003-05-06'} y m", Formatted(date, L"{d 'yyyy-mm-dd'} y m"));
     EXPECT_EQ(L"", Formatted(date, L""));
 }
 
-TEST(Dates, AreFormattedAlikeWhateverTheRegionalSettings)
+TEST(Dates, AreFormattedAlikeUnderAllRegionalSettings)
 {
     const test_support::WithThreadLocale german(test_support::kGerman);
     EXPECT_EQ(L"2003/05/06 23:59:58", Shown(DateOf(Moment{2003, 5, 6, 23, 59, 58})));
@@ -86,14 +86,14 @@ TEST(Dates, AreRoundedToTheSecond)
     EXPECT_EQ(L"2003/05/07 00:00:00", Shown(Date{37748 - 0.2 * kSecond}));
 }
 
-TEST(Dates, WhatLiesOutsideTheYears100To9999IsRefused)
+TEST(Dates, ADateOutsideTheYears100To9999IsRefused)
 {
     EXPECT_THROW(MomentOf(Date{-657435}), Error);
     EXPECT_THROW(MomentOf(Date{2958466}), Error);
     EXPECT_THROW(Formatted(Date{1e9}, L"yyyy"), Error);
 }
 
-TEST(Dates, WhatIsNoNumberIsNoDateEither)
+TEST(Dates, NotANumberIsNoDate)
 {
     for (const double days :
          {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()})

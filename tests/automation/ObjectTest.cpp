@@ -145,7 +145,7 @@ TEST(Object, AWriteNamesItsArgumentAsTheValueAndWantsNoResult)
     EXPECT_EQ(DISPATCH_PROPERTYPUTREF, flags);
 }
 
-TEST(Object, ByReferenceArgumentsCarryTheirExactTypesAndBringBackWhatWasWritten)
+TEST(Object, ByReferenceArgumentsHaveTheirExactTypesAndReturnTheNewValues)
 {
     ScriptedObject scripted;
     ScriptedObject given;
@@ -171,7 +171,7 @@ TEST(Object, ByReferenceArgumentsCarryTheirExactTypesAndBringBackWhatWasWritten)
     EXPECT_EQ(2, number);
 }
 
-TEST(Object, AnObjectGivenByReferenceMayBeReplacedAndIsLetGo)
+TEST(Object, AnObjectPassedByReferenceMayBeReplacedAndIsReleased)
 {
     ScriptedObject scripted;
     ScriptedObject before;

@@ -87,7 +87,7 @@ TEST(ProxyHome, AnObjectOfThisProcessIsReleasedAfterTheThreadHasLeftComToo)
 }
 
 // A real proxy: what COM makes of an object of another apartment.
-TEST(ProxyHome, WhatComHandsToAnotherApartmentIsAProxyThatKeepsItsHome)
+TEST(ProxyHome, AProxyOfAnotherApartmentKeepsItsHome)
 {
     ScriptedObject scripted;
     IStream* stream = nullptr;

@@ -21,7 +21,7 @@ using automation::Value;
 const Value kUnreadable[] = {Value(), Value::Null(), Value(L""), Value(L"soon"),
                              Value(std::wstring(10000, L'x'))};
 
-TEST(Readable, WhatIsNoDateNumberOrTruthValueIsNoneOfThemAndNoError)
+TEST(Readable, AnUnreadableValueIsNoDateNoNumberAndNoTruthValue)
 {
     for (const Value& value : kUnreadable)
     {
@@ -44,7 +44,7 @@ TEST(Readable, ADateIsReadFromADateOrAText)
     EXPECT_FALSE(ReadableDate(Date{std::numeric_limits<double>::quiet_NaN()}));
 }
 
-TEST(Readable, OutlookHoldsDatesFrom1601ToTheOneThatStandsForNone)
+TEST(Readable, OutlookHoldsDatesFrom1601ToItsDateForNone)
 {
     EXPECT_FALSE(OutlookDate(DateOf(Moment{1500, 5, 6})));
     EXPECT_FALSE(OutlookDate(DateOf(Moment{1601, 1, 1, 23, 59, 59})));

@@ -114,7 +114,7 @@ TEST_F(RecordsetTest, AScopeClosesItsRecordsetOnEveryWayOut)
     EXPECT_EQ(1, calls.Of(L"Recordset.Close"));
 }
 
-TEST(CloseRecordset, ForgivesARecordsetThatCannotEvenTellItsState)
+TEST(CloseRecordset, IgnoresARecordsetWhoseStateCannotBeRead)
 {
     test_support::ScriptedObject scripted;
     scripted.Member = L"State";

@@ -18,7 +18,7 @@
 namespace test_support
 {
 
-// What one call looked like when it arrived.
+// One call as it arrives.
 struct ArrivedCall
 {
     DISPID id;
@@ -50,7 +50,7 @@ class ScriptedObject : public IDispatchEx
     std::function<HRESULT(const ArrivedCall& call)> OnCall = [](const ArrivedCall&) { return S_OK; };
     // An object of a script class knows its members through IDispatchEx only.
     bool IsOfScriptClass = false;
-    // It looks like a proxy, which stands for an object of another apartment.
+    // It looks like a proxy of an object of another apartment.
     bool IsProxy = false;
     // How often the member's number was asked for, by either interface.
     long NamesAsked = 0;

@@ -51,7 +51,7 @@ TEST(SharedMembers, AreThoseOfAnObjectsOwnInterfaceWhereOthersAreMixedWithIt)
     }
 }
 
-TEST(SharedMembers, WhatTheFirstObjectKnewBeforeIsKnownToTheOthers)
+TEST(SharedMembers, TheOtherObjectsKnowTheMembersOfTheFirst)
 {
     InterfaceIds interfaces;
     ScriptedObject first(kOne);

@@ -48,7 +48,7 @@ TEST(Text, WhereThereIsNoNumberItIsZero)
     }
 }
 
-TEST(Text, TheLeadingNumberHasAPointWhateverTheRegionalSettings)
+TEST(Text, TheLeadingNumberHasAPointUnderAllRegionalSettings)
 {
     const test_support::WithThreadLocale german(test_support::kGerman);
     EXPECT_EQ(2.5, LeadingNumber(L"2.5"));
@@ -63,7 +63,7 @@ TEST(Text, EveryOccurrenceIsReplacedAndTheReplacementIsNotLookedIntoAgain)
     EXPECT_EQ(L"same", Replaced(L"same", L"other", L"y"));
 }
 
-TEST(Text, Utf8GoesThereAndBackForEveryPlane)
+TEST(Text, Utf8RoundTripsInEveryPlane)
 {
     const std::wstring text = L"a\u00df\u20ac任\U0001F600";
     EXPECT_EQ("a\xC3\x9F\xE2\x82\xAC\xE4\xBB\xBB\xF0\x9F\x98\x80", ToUtf8(text));
@@ -78,7 +78,7 @@ TEST(Text, AnEmbeddedNulSurvives)
     EXPECT_EQ(text, FromUtf8(ToUtf8(text)));
 }
 
-TEST(Text, WhatCannotBeConvertedBecomesTheReplacementCharacter)
+TEST(Text, AnInvalidSequenceBecomesTheReplacementCharacter)
 {
     EXPECT_EQ("\xEF\xBF\xBD", ToUtf8(std::wstring(1, wchar_t(0xD800))));
     EXPECT_EQ(L"a\uFFFD", FromUtf8("a\xFF"));

@@ -112,7 +112,7 @@ TEST(Value, NullIsRefusedByEveryCoercionButTextOrEmptyAndTheObject)
     EXPECT_FALSE(ObjectOf(null));
 }
 
-TEST(Value, WhatDoesNotFitIsRefused)
+TEST(Value, AValueOutOfRangeIsRefused)
 {
     EXPECT_EQ(DISP_E_OVERFLOW, CodeOf([] { LongOf(1e12); }));
     EXPECT_EQ(DISP_E_OVERFLOW, CodeOf([] { ShortOf(40000L); }));
@@ -138,7 +138,7 @@ TEST(Value, ATextKeepsItsEmbeddedNulAndItsLastCharacter)
     EXPECT_EQ(text, TextOf(Value(text)));
 }
 
-TEST(Value, AByReferenceVariantIsCopiedWithWhatItRefersTo)
+TEST(Value, AByReferenceVariantIsCopiedWithItsTarget)
 {
     LONG number = 7;
     VARIANT inner;
@@ -180,7 +180,7 @@ TEST(Value, GivenAwayItIsEmptyAndTheTakerClears)
     VariantClear(&taken);
 }
 
-TEST(Value, ReadyToReceiveItHasLetGoOfWhatItHeld)
+TEST(Value, ReceiveReleasesTheFormerValue)
 {
     ScriptedObject object;
     Value value{Object(&object)};

@@ -79,7 +79,7 @@ constexpr const wchar_t* kCatalogue = L"SynFields";
 constexpr const wchar_t* kContacts = L"TBLCONTACT";
 constexpr const wchar_t* kActivities = L"TBLACTIVITY";
 
-// What becomes of a run whose changes the user has accepted.
+// The outcome of a run whose changes the user has accepted.
 enum class Outcome
 {
     Fails,       // nothing can be written in either direction

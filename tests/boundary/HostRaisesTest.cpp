@@ -14,7 +14,7 @@ namespace
 
 enum class Ending
 {
-    Refused, // the user is told that nothing is chosen for transfer
+    Refused, // a message says that nothing is chosen for transfer
     Failed,
     Succeeded, // with what could be done
 };

@@ -94,7 +94,7 @@ TEST_F(OutlookIsBusy, SynLoadAndTheRunWaitForItAndTheRunIsComplete)
                                " milliseconds each: " + std::to_string(Tried().size()));
 }
 
-TEST_F(OutlookIsBusy, ForLongerThanAnybodyWaitsTheUserIsAskedAndARetryCompletesTheRun)
+TEST_F(OutlookIsBusy, ForLongerThanThePatienceTheUserIsAskedAndARetryCompletesTheRun)
 {
     if (!test_support::IsLongRun())
     {

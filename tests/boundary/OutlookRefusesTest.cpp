@@ -90,7 +90,7 @@ TEST_F(OutlookRefuses, SynLoadEndsSilentlyWhereItIsNotInstalled)
     ExpectGoodAfterwards();
 }
 
-TEST_F(OutlookRefuses, SynLoadEndsSilentlyWhereItHasNoNamespaceAndKeepsWhatItHasUntilTheNextCall)
+TEST_F(OutlookRefuses, SynLoadEndsSilentlyWithoutANamespaceAndKeepsItsObjectsUntilTheNextCall)
 {
     {
         const RegisteredClass sessionless(kOutlookClass, CLSCTX_INPROC_SERVER,

@@ -119,7 +119,7 @@ TEST_F(OutlookUnderConfiguration, ABusyOneIsWaitedForByTheFolderTree)
     mSite.ExpectNothingLeft();
 }
 
-TEST_F(OutlookUnderConfiguration, ChoosingAnotherProfileConnectsToANewOutlookInPlaceOfADeadOne)
+TEST_F(OutlookUnderConfiguration, ChoosingAnotherProfileReplacesADeadOutlook)
 {
     if (!test_support::IsLongRun())
     {

@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(, Reentry, testing::ValuesIn(kKinds));
 
 } // namespace
 
-TEST_P(Reentry, ByASecondSynLoadShowsNoSecondDialogAndTheRunGoesOnWithItsOwnHost)
+TEST_P(Reentry, ByASecondSynLoadShowsNoSecondDialogAndTheRunContinuesWithItsHost)
 {
     const auto ofSecond = std::make_shared<test_support::Hooks>();
     ExpectUnimpressed(RunWhile(kEverywhere, [&](const Object& component) {
@@ -131,7 +131,7 @@ TEST_P(Reentry, ByAHostThatQuitsEndsTheDialogsAndTheHostGetsItsMessage)
     MSG message{};
     EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(7u, message.wParam);
-    EXPECT_EQ(mCourse.before, mSite.Look()); // nobody has confirmed anything
+    EXPECT_EQ(mCourse.before, mSite.Look()); // no change was confirmed
     mSite.ExpectNothingLeft();
     EXPECT_EQ(SuccessStatus(), mSite.Run(mTask).status);
 }

@@ -244,7 +244,7 @@ TEST_F(Registration, FailsWithoutATraceWhereTheUsersClassesAreDeniedToo)
     }
 }
 
-TEST_F(Registration, TakenBackKeepsWhatTheOtherArchitectureSharesWithIt)
+TEST_F(Registration, RemovedKeepsTheKeysThatTheOtherArchitectureShares)
 {
     const std::vector<std::wstring> own = OwnKeys();
     const std::wstring library = WithPrefix(own, L"TypeLib\\");
@@ -271,7 +271,7 @@ TEST_F(Registration, TakenBackKeepsWhatTheOtherArchitectureSharesWithIt)
     ExpectNothing();
 }
 
-TEST_F(Registration, OfTheMachineThatMayNotBeTakenBackIsAFailureUnlessTheUserHadOneOfHisOwn)
+TEST_F(Registration, OfTheMachineThatMayNotBeRemovedFailsUnlessTheUserHasOne)
 {
     const std::vector<std::wstring> own = OwnKeys();
     EXPECT_EQ(S_OK, Call("DllRegisterServer"));

@@ -26,12 +26,12 @@ class Server
     explicit Server(const Site& site);
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
-    // A server that lives on (with objects that nobody has given back) is ended.
+    // Ends a server that still runs because objects were not released.
     ~Server();
 
     // On the main thread, whichever loop of messages it is in.
     void Disturb(const wchar_t* how, long amount = 0);
-    // The program has ended by itself, given that nobody but this holds it.
+    // Whether the program ends by itself when this object, its last client, lets it go.
     bool EndsWhenLetGo();
     // Objects that clients hold, without the control object.
     long ObjectCount();

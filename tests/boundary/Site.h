@@ -30,7 +30,7 @@ inline constexpr std::array<long, 3> kDirections = {kImport, kExport, kBoth};
 // The side that a run writes to takes changes as well; a run in both directions adds what is missing.
 long RuleOf(long direction);
 
-// What one run is, apart from what happens to it.
+// The kind and direction of one run.
 struct Task
 {
     std::wstring kind;

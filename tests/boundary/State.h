@@ -1,4 +1,4 @@
-// What stands in the host's database and in the mailbox, in a form in which two courses of events can be
+// The contents of the host's database and of the mailbox, in a form in which two courses of events can be
 // compared: keys that the host makes afresh each time read alike, and order says nothing.
 #pragma once
 

@@ -14,7 +14,7 @@ namespace boundary_tests
 using tools::Robot;
 using tools::ShownDialog;
 
-// What the user has seen of one run.
+// The messages and the status that one run shows.
 struct Seen
 {
     std::vector<std::wstring> messages; // of message boxes and message dialogs
@@ -22,7 +22,7 @@ struct Seen
     bool wasAsked = false;              // the confirmation came up
 };
 
-// What the status line says after a run.
+// The texts of the status line after a run.
 std::wstring SuccessStatus();
 std::wstring FailureStatus();
 std::wstring NoProfileStatus();

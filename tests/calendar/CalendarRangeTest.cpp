@@ -44,7 +44,7 @@ TEST(CalendarRange, CodeZeroAndUnknownCodesKeepEverything)
     }
 }
 
-TEST(CalendarRange, CodeOneKeepsWhatEndsAfterNow)
+TEST(CalendarRange, CodeOneKeepsEntriesThatEndAfterNow)
 {
     EXPECT_TRUE(IsFuture(Day(2003, 5, 8), Day(2003, 5, 9)));
     EXPECT_TRUE(IsFuture(Day(2003, 5, 7, 11, 0), Day(2003, 5, 7, 12, 1)));
@@ -60,7 +60,7 @@ TEST(CalendarRange, CodeTwoIncludesBothOfItsOuterDays)
     EXPECT_FALSE(IsWithinDays(Day(2003, 5, 11), Day(2003, 5, 11, 1, 0), 2, 3));
 }
 
-TEST(CalendarRange, CodeTwoKeepsWhatReachesIntoOrOverItsDays)
+TEST(CalendarRange, CodeTwoKeepsEntriesThatOverlapItsDays)
 {
     EXPECT_TRUE(IsWithinDays(Day(2003, 5, 4, 23, 0), Day(2003, 5, 5, 0, 1), 2, 3));
     EXPECT_TRUE(IsWithinDays(Day(2003, 1, 1), Day(2003, 12, 31), 2, 3));
@@ -186,7 +186,7 @@ TEST_F(CalendarSpan, TheFiltersKeepEverythingForCodeZeroWithoutAskingForTheTime)
     EXPECT_TRUE(CallsOf(L"SysDateTime").empty());
 }
 
-// The recording host's clock stands at noon of 2003-05-06.
+// The recording host's clock shows noon of 2003-05-06.
 TEST_F(CalendarSpan, TheFiltersGoByTheHostsClockWhichTheyReadOnce)
 {
     AddEntry({{L"F_ACTESTIME", L"'1899-12-30 09:30:00'"}, {L"F_ACTEETIME", L"'1899-12-30 11:00:00'"}});

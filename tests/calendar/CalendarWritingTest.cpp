@@ -189,7 +189,7 @@ TEST_F(CalendarWriting, AnAccountThatCannotBeLookedUpIsReportedOnceWithTheHostsN
     EXPECT_TRUE(CallsOf(L"Insert").empty());
 }
 
-TEST_F(CalendarWriting, AnAccountThatCannotBeMadeIsReportedOnceInTheHostsOwnWords)
+TEST_F(CalendarWriting, AnAccountThatCannotBeMadeIsReportedOnceWithTheHostsText)
 {
     AddMeetingOf(L"Miller & Sons");
     mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
@@ -198,7 +198,7 @@ TEST_F(CalendarWriting, AnAccountThatCannotBeMadeIsReportedOnceInTheHostsOwnWord
     EXPECT_EQ(expected, MessagesOf(data::kNewRecord, 0));
 }
 
-TEST_F(CalendarWriting, OfAnAccountThatWasNotInsertedNothingIsTakenBack)
+TEST_F(CalendarWriting, AnAccountThatWasNotInsertedIsNotDeleted)
 {
     AddMeetingOf(L"Miller & Sons");
     mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
@@ -208,7 +208,7 @@ TEST_F(CalendarWriting, OfAnAccountThatWasNotInsertedNothingIsTakenBack)
     EXPECT_TRUE(CallsOf(L"InTransaction").empty());
 }
 
-TEST_F(CalendarWriting, AnAccountWithoutItsInformationRowIsTakenBackAndNothingElse)
+TEST_F(CalendarWriting, AnAccountWithoutItsInformationRowIsDeletedAndNothingElse)
 {
     AddMeetingOf(L"Miller & Sons");
     mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}}; // so that there is no system row either
@@ -290,7 +290,7 @@ TEST_F(CalendarWriting, APairIsWrittenOnlyWhenItsMarkIsZeroButTheProgressAdvance
     EXPECT_FALSE(mDisplay.IsShown);
 }
 
-TEST_F(CalendarWriting, ThePassGoesOnAfterARefusedAppointment)
+TEST_F(CalendarWriting, ThePassContinuesAfterARefusedAppointment)
 {
     AddMeeting();
     AddMeeting();

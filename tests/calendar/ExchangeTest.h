@@ -33,7 +33,7 @@ class ExchangeTest : public AppointmentsTest
         Names ChangedInHost;
     };
 
-    // The host's clock stands at noon of Tuesday 2003-05-06; all entries are exchanged.
+    // The host's clock shows noon of Tuesday 2003-05-06; all entries are exchanged.
     ExchangeTest();
     ~ExchangeTest() override;
 

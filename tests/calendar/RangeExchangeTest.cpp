@@ -5,7 +5,7 @@
 namespace test_support
 {
 
-// The host's clock stands at noon of 2003-05-06.
+// The host's clock shows noon of 2003-05-06.
 class CalendarRangeExchange : public ExchangeTest
 {
   protected:

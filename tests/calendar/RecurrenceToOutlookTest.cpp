@@ -148,7 +148,7 @@ TEST_F(RecurrenceToOutlook, APatternThatWouldNotChangeIsReadAndNotRewritten)
     EXPECT_EQ(once, PatternMembers(calls));
 }
 
-TEST_F(RecurrenceToOutlook, WhatTheEntryLacksIsLeftToOutlook)
+TEST_F(RecurrenceToOutlook, ValuesThatTheEntryLacksAreLeftToOutlook)
 {
     AddRepeatingEntry(L"", {{L"F_ACTESTIME", L"NULL"}, {L"F_ACTEETIME", L"NULL"}});
     const CallWatch calls;

@@ -15,7 +15,7 @@ namespace config_tests
 class NewerProfiles
 {
   public:
-    // The key with these profiles. The name of the default one stands in the key itself or in the one above.
+    // The key with these profiles. The name of the default one is in the key itself or in the one above.
     NewerProfiles(std::wstring path, const std::vector<std::wstring>& profiles,
                   std::wstring keyOfDefault = {})
         : mPath(std::move(path)), mKeyOfDefault(std::move(keyOfDefault))

@@ -42,7 +42,7 @@ TEST(CheckOutlookProfiles, OneProfileIsEnough)
     ExpectAProfile();
 }
 
-TEST(CheckOutlookProfiles, WithoutAProfileTheUserIsToldInHisLanguage)
+TEST(CheckOutlookProfiles, WithoutAProfileAMessageIsShownInTheUsersLanguage)
 {
     const ProfileKey key;
     const auto check = [] { EXPECT_TRUE(CheckOutlookProfiles()); };

@@ -265,7 +265,7 @@ TEST_F(ParameterStoreTest, WithoutADefaultMarkBothFoldersAreEmpty)
     EXPECT_EQ(L"", record.CurrentFolder);
 }
 
-TEST_F(ParameterStoreTest, OfTwoFoldersMarkedDefaultTheLaterRowWins)
+TEST_F(ParameterStoreTest, TheLaterOfTwoDefaultFoldersWins)
 {
     GiveFolder(30, L"Store\\First", true);
     GiveFolder(30, L"Store\\Second", true);

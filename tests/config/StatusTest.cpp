@@ -1,4 +1,5 @@
-// What the host's status numbers mean to the parameter store: negative is failure, anything else success.
+// The meaning of the host's status numbers to the parameter store: negative is failure, anything else
+// success.
 #include "config/store/ChosenFolders.h"
 #include "config/store/ParameterStore.h"
 #include "config/store/UserRows.h"

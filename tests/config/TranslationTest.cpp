@@ -98,7 +98,7 @@ TEST_F(TranslationTest, ThereIsNoListWhenTheHostRefuses)
     EXPECT_FALSE(config::LoadTranslations());
 }
 
-TEST(TranslationSetClause, WritesWhatTheRowShows)
+TEST(TranslationSetClause, WritesTheValuesOfTheRow)
 {
     Translation row;
     row.Checked = true;

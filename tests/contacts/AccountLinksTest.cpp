@@ -96,7 +96,7 @@ TEST_F(AccountLinks, ACompanyNameLongerThanItsColumnIsFoundAgainAsItWasCut)
     EXPECT_EQ(Found(L"SELECT F_ACCSNAME FROM TBLACCOUNT"), std::wstring(79, L'x'));
 }
 
-TEST_F(AccountLinks, ACompanyIsFoundWhateverTheCatalogueSaysOfItsColumn)
+TEST_F(AccountLinks, ACompanyIsFoundForAnySizeInTheCatalogue)
 {
     const std::wstring kCompany = L"O'Brien, Lee & 1=1";
     AddAccount(L"A1", L"O''Brien, Lee & 1=1");
@@ -233,7 +233,7 @@ TEST_F(AccountLinks, ACompanyOfBlanksIsNone)
     EXPECT_EQ(Count(L"TBLACCOUNT"), 0);
 }
 
-TEST_F(AccountLinks, WhenThePresentAccountCannotBeAskedForTheColumnIsLeftOutAndTheContactWritten)
+TEST_F(AccountLinks, IfThePresentAccountIsUnknownTheContactIsWrittenWithoutTheColumn)
 {
     Import({AddEmployee(L"Acme", L"Bonn")});
     const std::wstring before = Links();

@@ -218,7 +218,7 @@ TEST_F(ContactMappingToOutlook, ANullBirthdayIsWrittenAsOutlooksNoDateAndNeverLe
     EXPECT_EQ(DateIn(item, L"Anniversary"), Day(4501, 1, 1));
 }
 
-TEST_F(ContactMappingToOutlook, OfTwoRelationsToOnePropertyTheLaterOneStays)
+TEST_F(ContactMappingToOutlook, TheLaterOfTwoRelationsToAPropertyWins)
 {
     Relate({{L"F_SURNAME", L"NickName"}, {L"F_NICKNAME", L"NickName"}});
     EXPECT_FALSE(Export({AddRow({{L"F_SURNAME", L"'first'"}, {L"F_NICKNAME", L"'later'"}})}));

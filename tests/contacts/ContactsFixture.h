@@ -1,4 +1,4 @@
-// What the tests of contacts share: the host with its catalogue and no rows of its own, an empty mailbox, the
+// Fixture of the contact tests: the host with its catalogue and no rows of its own, an empty mailbox, the
 // English interface, and runs over both in either direction.
 #pragma once
 

@@ -72,7 +72,7 @@ class ContactsFromOutlookFailure : public test_support::ContactsFixture
     }
 };
 
-TEST_F(ContactsFromOutlookFailure, ARefusedInsertLeavesNoRowOfThatContactAndTheWalkGoesOn)
+TEST_F(ContactsFromOutlookFailure, ARefusedInsertLeavesNoRowOfThatContactAndThePassContinues)
 {
     // account, information row, address, contact
     for (long n = 1; n <= 4; ++n)

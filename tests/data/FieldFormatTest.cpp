@@ -54,7 +54,7 @@ Value Raw(VARTYPE type, LONGLONG bits)
     return Value(variant);
 }
 
-TEST_P(FieldFormat, ANumberStandsUnchangedAndWithADecimalPoint)
+TEST_P(FieldFormat, ANumberIsUnchangedAndHasADecimalPoint)
 {
     for (const wchar_t* column : {L"F_NUMBER", L"F_AMOUNT"})
     {
@@ -69,7 +69,7 @@ TEST_P(FieldFormat, ANumberStandsUnchangedAndWithADecimalPoint)
     }
 }
 
-TEST_P(FieldFormat, ATextThatIsAPlainNumberGoesOnUnchanged)
+TEST_P(FieldFormat, ATextThatIsAPlainNumberStaysUnchanged)
 {
     for (const wchar_t* number :
          {L"12.5", L"-12", L"1e5", L"007", L"12345678901234567", L"0.12345678901234567"})
@@ -101,7 +101,7 @@ TEST_P(FieldFormat, NoTextReachesANumberColumnUnread)
     EXPECT_EQ(Literal(L"F_AMOUNT", L"twelve"), L"(failed)");
 }
 
-TEST_P(FieldFormat, WhatIsNoFiniteNumberFailsTheColumn)
+TEST_P(FieldFormat, AValueThatIsNoFiniteNumberFailsTheColumn)
 {
     for (const double number :
          {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
@@ -115,7 +115,7 @@ TEST_P(FieldFormat, WhatIsNoFiniteNumberFailsTheColumn)
     }
 }
 
-TEST_P(FieldFormat, ATextStandsBetweenSingleQuotes)
+TEST_P(FieldFormat, ATextIsPutInSingleQuotes)
 {
     EXPECT_EQ(Literal(L"F_NAME", L"Miller"), L"'Miller'");
     EXPECT_EQ(Literal(L"F_NOTES", L"王小明 \u00d6"), L"'王小明 \u00d6'");
@@ -238,7 +238,7 @@ TEST_P(FieldFormat, ColumnsAreFoundByExactName)
     MessagesDuring([&] { EXPECT_EQ(Literal(L"F_NAME ", L"x"), L"(failed)"); });
 }
 
-TEST_P(FieldFormat, AnUnknownTypeIsReportedAndTheValueGoesOnUnformatted)
+TEST_P(FieldFormat, AnUnknownTypeIsReportedAndTheValueStaysUnformatted)
 {
     Database.AddField(L"F_PICTURE", L"9", L"10");
     Database.AddField(L"F_ZERO", L"0", L"10");
@@ -263,7 +263,7 @@ TEST_P(FieldFormat, ARowWithoutTypeOrSizeFailsItsOwnColumnOnly)
     EXPECT_EQ(Literal(L"F_NAME", L"x"), L"'x'");
 }
 
-TEST_P(FieldFormat, OfTwoRowsForOneColumnTheFirstCounts)
+TEST_P(FieldFormat, TheFirstOfTwoRowsForAColumnCounts)
 {
     Database.AddField(L"F_NAME", L"1", L"0");
     EXPECT_EQ(Literal(L"F_NAME", 5L), L"'5'");

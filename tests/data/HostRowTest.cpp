@@ -133,7 +133,7 @@ TEST_F(SqlFragments, ANameThatIsNoColumnNameIsSkippedLikeAForeignColumn)
     EXPECT_EQ(Fields + Values + SetList, L"");
 }
 
-TEST_F(SqlFragments, ForCallersThatReportItThemselvesTheErrorNamesTheColumn)
+TEST_F(SqlFragments, TheThrowingFormNamesTheColumn)
 {
     const test_support::WithLanguage english(resources::Language::English);
     const auto errorOf = [&](auto&& add) {

@@ -1,6 +1,7 @@
 #include "data/Host.h"
 
 #include "automation/Error.h"
+#include "state/SharedState.h"
 #include "tests/support/FakeHost.h"
 
 #include <gtest/gtest.h>
@@ -76,7 +77,7 @@ TEST_F(HostContract, ATransactionThatIsLeftWithoutCommitRollsBack)
     EXPECT_EQ(Dtc->Calls, (Calls{L"BeginTrans()", L"InTransaction()", L"RollbackTrans()"}));
 }
 
-TEST_F(HostContract, NeitherCommitNorRollbackIsAskedWhenNoTransactionIsPending)
+TEST_F(HostContract, WithoutAPendingTransactionNothingIsCommittedOrRolledBack)
 {
     Dtc->BeginOpensTransaction = false;
     {
@@ -116,7 +117,7 @@ TEST(CloseRecordset, DoesNothingForAVariableThatHoldsNothing)
     EXPECT_FALSE(nothing);
 }
 
-TEST(CloseRecordset, ClosesWhatIsOpenAndLetsItGo)
+TEST(CloseRecordset, ClosesAnOpenRecordsetAndReleasesIt)
 {
     const automation::Object object = sandbox::MakeRecordset({{{L"A"}}, {}});
     Recordset rows(object);

@@ -8,7 +8,7 @@
 #include "sandbox/ado/Recordset.h"
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
-#include "tests/support/CallCounter.h"
+#include "tests/support/CallWatch.h"
 #include "tests/support/RecordingDisplay.h"
 
 #include <gtest/gtest.h>
@@ -109,7 +109,7 @@ TEST_F(IdentityOfRecords, ANewItemThatHasMovedIsFoundAgain)
     EXPECT_EQ((Pairs{L"a"}), gPairs);
 }
 
-TEST_F(IdentityOfRecords, WhatIsGoneIsSkippedAndCounted)
+TEST_F(IdentityOfRecords, ADeletedRecordIsSkippedAndCounted)
 {
     const std::wstring gone = IdOf(1);
     Mailbox->RemoveItem(kFolder, 1);
@@ -140,15 +140,15 @@ TEST_F(IdentityOfRecords, TheFolderIsAskedForItsOwnIdentityOnce)
     {
         TheRun.Pending.NewOutlookItems.Add(std::to_wstring(position), 0).EntryId = IdOf(position % 3 + 1);
     }
-    const test_support::CallCounter counter;
+    const test_support::CallWatch calls;
     EXPECT_FALSE(Import());
     EXPECT_EQ((Pairs{L"b", L"c", L"a"}), gPairs);
-    EXPECT_EQ(3, counter.Of(L"NameSpace.GetItemFromID"));
-    EXPECT_EQ(1, counter.Of(L"MAPIFolder.StoreID"));
-    EXPECT_EQ(1 + 3, counter.Of(L"MAPIFolder.EntryID")); // its own, and those of the items' parents
+    EXPECT_EQ(3, calls.Of(L"NameSpace.GetItemFromID"));
+    EXPECT_EQ(1, calls.Of(L"MAPIFolder.StoreID"));
+    EXPECT_EQ(1 + 3, calls.Of(L"MAPIFolder.EntryID")); // its own, and those of the items' parents
 }
 
-TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsToldByItsKeyAlone)
+TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsIdentifiedByItsKey)
 {
     TheRun.Identity.FirstKeyOf = [](const automation::ItemView& item) {
         return TextOf(item.Get(L"LastName"));

@@ -9,7 +9,7 @@ using data::IsColumnName;
 using data::NumberOrQuotedText;
 using data::QuotedText;
 
-TEST(Literals, ATextStandsBetweenQuotesWithItsApostrophesDoubled)
+TEST(Literals, ATextIsQuotedWithItsApostrophesDoubled)
 {
     EXPECT_EQ(L"'Miller'", QuotedText(L"Miller"));
     EXPECT_EQ(L"'O''Brien'", QuotedText(L"O'Brien"));
@@ -26,7 +26,7 @@ TEST(Literals, APlainNumberStaysAsItIs)
     }
 }
 
-TEST(Literals, WhatIsNoPlainNumberIsQuoted)
+TEST(Literals, ATextThatIsNoPlainNumberIsQuoted)
 {
     for (const wchar_t* text : {L"", L" 7", L"7 ", L"1,5", L"(12)", L"&H10", L"0x10", L"1e", L"e5", L".",
                                 L"-", L"--1", L"1 OR 1=1", L"F_UID", L"NULL", L"7-1", L"\u0661", L"1.2.3"})

@@ -76,7 +76,7 @@ TEST_F(Lookups, AnApostropheInAKeyIsDoubled)
     EXPECT_NE(Host->Calls.front().find(L"F_ACCSNAME= 'O''Brien'"), std::wstring::npos);
 }
 
-TEST_F(Lookups, TheRecordsetIsClosedWhateverWasFound)
+TEST_F(Lookups, TheRecordsetIsClosedInEveryCase)
 {
     Host->Rows = {{{L"F_ACCID"}}, {{L"A1"}}};
     LookedUp(L"Miller");
@@ -118,7 +118,7 @@ TEST_F(Lookups, ATypedKeyIsQuotedByItsType)
                                   L"OpenRecordsetByString(nothing|SELECT R\r\nFROM T\r\nWHERE K=1)"}));
 }
 
-TEST_F(Lookups, ATypedKeyIsOneLiteralWhateverItsType)
+TEST_F(Lookups, AKeyOfAnyTypeIsOneLiteral)
 {
     Value result;
     for (const wchar_t* type : {data::kTextKey, data::kDateKey, data::kFlagKey, L"Number"})
@@ -131,7 +131,7 @@ TEST_F(Lookups, ATypedKeyIsOneLiteralWhateverItsType)
     EXPECT_EQ(Host->Calls.back(), L"OpenRecordsetByString(nothing|SELECT R\r\nFROM T\r\nWHERE K=True)");
 }
 
-TEST_F(Lookups, ForCallersThatReportItThemselvesTheHostsErrorComesThrough)
+TEST_F(Lookups, TheThrowingFormPassesOnTheHostsError)
 {
     Host->Failing = {L"OpenRecordsetByString"};
     try
@@ -174,7 +174,7 @@ TEST_F(AccountInfo, ARefusedInsertOrAnyErrorFails)
     }
 }
 
-TEST_F(AccountInfo, ForCallersThatReportItThemselvesTheHostsErrorComesThrough)
+TEST_F(AccountInfo, TheThrowingFormPassesOnTheHostsError)
 {
     Host->Rows = {{{L"F_AITID"}}, {{L"TYPE"}}};
     Host->Failing = {L"Insert"};

@@ -38,7 +38,7 @@ class ContactExchange : public Exchange
 
 } // namespace
 
-TEST_P(EveryKind, GoesToOutlookWholeAndASecondRunProposesNothingNew)
+TEST_P(EveryKind, IsWrittenWholeToOutlookAndASecondRunProposesNothing)
 {
     const Snapshot before = Look();
     const Outcome first = Run(GetParam(), kExport, kIgnoreAll);

@@ -35,7 +35,7 @@ constexpr long kLongRuns = 1000;
 constexpr Footprint kTolerance = {
     .heapBytes = 1500, .residentBytes = 1024 * 1024, .gdiObjects = 1, .kernelHandles = 2};
 
-// What seven uses of the same kind have left, the first three not counted: everything that a use needs once
+// The growth over seven uses of the same kind, the first three not counted: everything that a use needs once
 // is there then, so that a few bytes of a leak show.
 constexpr int kFirstUses = 3;
 constexpr int kUsesAlike = 4;
@@ -100,7 +100,7 @@ TEST(ThisProcess, StaysAsLargeAsItIsOverManyRunsOfTheComponent)
         " runs of SynLoad in one process; from their second quarter to their second half: " + TextOf(growth));
 }
 
-TEST(EveryDialog, GivesBackWhatItTookToTheByte)
+TEST(EveryDialog, FreesEveryByteThatItAllocates)
 {
     const StaticTexts texts;
     const ProcessLanguage language(Language::English);

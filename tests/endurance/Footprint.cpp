@@ -97,7 +97,7 @@ long UserObjects()
     return count != 0 ? count : Windows() + Menus();
 }
 
-// What the system tells of one handle; the SDK documents this structure without declaring it.
+// The system's data about one handle; the SDK documents this structure without declaring it.
 struct HandleEntry
 {
     void* object;

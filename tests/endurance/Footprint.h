@@ -1,4 +1,4 @@
-// What this process holds at one moment, counted in a way that is true on Windows and under Wine: Wine
+// The resources of this process at one moment, counted in a way that is true on Windows and under Wine: Wine
 // answers GetGuiResources and GetProcessHandleCount with 0, so handles are counted one by one there. Used by
 // tests that compare two moments; FootprintTest shows that each figure notices a leak.
 #pragma once
@@ -29,8 +29,8 @@ long BytesInHeaps();
 // For every figure the smaller one.
 Footprint Smaller(const Footprint& one, const Footprint& other);
 
-// What a series of the same work leaves: of the first series that stays within the tolerance, or of the last
-// of a few. A cache of the system fills at a moment of its own and shows in one series, a leak in each.
+// The growth over a series of the same work: of the first series that stays within the tolerance, or of the
+// last of a few. A cache of the system fills at a moment of its own and shows in one series, a leak in each.
 Footprint GrowthOfLevelSeries(const Footprint& tolerance, const std::function<Footprint()>& growthOfSeries);
 
 // "heap 1234 bytes, resident ..., GDI 5, USER 6, handles 7, fakes 0".

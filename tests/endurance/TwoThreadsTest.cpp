@@ -139,7 +139,7 @@ void Exchange(const Preferences& own, Edition edition, Meeting& meeting, size_t 
     }
 }
 
-// What is thrown must not leave the thread, which would end the process.
+// An exception must not leave the thread: it would end the process.
 void Work(const Preferences& own, Edition edition, Meeting& meeting, size_t uses, Faults& faults)
 {
     try

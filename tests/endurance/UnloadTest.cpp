@@ -1,4 +1,4 @@
-// The module goes when nobody needs it, whatever threads have used it, and comes back as new.
+// The module is unloaded when it is no longer used, whichever threads have used it, and can be loaded again.
 #include "tests/endurance/Apartment.h"
 #include "tests/endurance/Footprint.h"
 #include "tests/endurance/Module.h"
@@ -40,8 +40,8 @@ constexpr long kReminder = 45; // minutes; not the default
 constexpr long kDefaultReminder = 20;
 constexpr int kThreads = 8;
 
-// What all cycles together may leave: nothing of the component, a little of the caches of the system. One
-// object lost by each cycle would be as many as there are cycles.
+// The growth that all cycles together may leave: nothing of the component, a little of the caches of the
+// system. One object lost by each cycle would be as many as there are cycles.
 constexpr Footprint kTolerance = {
     .heapBytes = 1500, .residentBytes = 1024 * 1024, .gdiObjects = 1, .kernelHandles = 2};
 
@@ -186,7 +186,7 @@ TEST(TheModule, IsNeededAsLongAsItIsLocked)
     EXPECT_EQ(S_OK, module.CanUnloadNow());
 }
 
-TEST(TheModule, IsNotNeededForWhatItsInstancesShared)
+TEST(TheModule, IsNotNeededForStateThatItsInstancesShared)
 {
     Module module;
     LendFont(module.NewComponent());
@@ -197,7 +197,7 @@ TEST(TheModule, IsNotNeededForWhatItsInstancesShared)
     EXPECT_EQ(0, LiveObjects());
 }
 
-TEST(TheModule, StaysWhileCOMKnowsOfAnInstanceAndGoesWhenCOMMayFreeIt)
+TEST(TheModule, StaysLoadedWhileCOMKnowsAnInstanceAndIsUnloadedAfterwards)
 {
     Office office(sandbox::Edition::English, kRecordsOfKind);
     for (size_t k = 0; k < 3; ++k)
@@ -239,7 +239,7 @@ TEST(TheModule, LeavesNothingBehindHoweverOftenItIsUsedUnloadedAndLoadedAgain)
                                ": " + TextOf(growth));
 }
 
-TEST(TheModule, GoesWhileAThreadThatUsedItLivesOn)
+TEST(TheModule, IsUnloadedWhileAThreadThatUsedItLivesOn)
 {
     for (size_t k = 0; k < Cycles(); ++k)
     {
@@ -279,7 +279,7 @@ TEST(TheModule, ComesBackAsNewForAThreadThatUsedItBefore)
     EXPECT_EQ(0, LiveObjects());
 }
 
-TEST(TheModule, GoesWhileManyThreadsThatUsedItLiveOnAndOthersHaveEnded)
+TEST(TheModule, IsUnloadedWhileSomeOfItsThreadsLiveOnAndOthersHaveEnded)
 {
     Module module;
     std::list<UsedThread> threads;

@@ -52,7 +52,7 @@ TEST(SharedStateOfThreads, AThreadThatReleasesItsObjectsHoldsNoOtherThreadUp)
     EXPECT_TRUE(isServed);
 }
 
-TEST(SharedStateOfThreads, WhatIsReleasedMayUseTheStateOfItsThread)
+TEST(SharedStateOfThreads, AReleasedObjectMayUseTheStateOfItsThread)
 {
     std::thread([] {
         state::Shared().gDTC = sandbox::MakeObject<WorkingHost>([] { state::Shared().gFontSize = 1; });

@@ -31,7 +31,7 @@ enum class Direction : long
     ToOutlook = state::kQuenlarToOutlook,
 };
 
-// What of a run the faults strike.
+// The part of a run that the faults strike.
 enum class Phase
 {
     Collection,

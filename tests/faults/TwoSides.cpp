@@ -48,7 +48,7 @@ constexpr const wchar_t* kRows[] = {
     L"'1899-12-30 10:00:00',1,'2003-05-20 00:00:00','C2')",
 };
 
-// What a user would call the records, with all that belongs to them.
+// The records as a user sees them, with their dependent rows.
 constexpr const wchar_t* kRecords[] = {
     L"SELECT 'contact', * FROM VW_CONTACT",
     L"SELECT 'task', * FROM VW_ACTIVITY",

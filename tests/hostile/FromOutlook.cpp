@@ -21,7 +21,7 @@ using sandbox::Refusal;
 namespace
 {
 
-// TARGET comes first, so that it is the first row of its record source; nobody may touch the others.
+// TARGET comes first, so that it is the first row of its record source. The other rows must not change.
 constexpr const wchar_t* kRows[] = {
     L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Account one'),('A2',2,'Two')",
     L"INSERT INTO TBLADDRESS (F_ADDRID,F_ACCID,F_ADDRCITY,F_ISPRIMARY) VALUES ('D1','A1','Bonn',1),"
@@ -69,7 +69,7 @@ bool IsKey(std::wstring_view text)
     });
 }
 
-// What a statement is refused for when its text does not say what it should.
+// The refusals that show a misread statement.
 bool IsMisread(long result)
 {
     constexpr Refusal kMisread[] = {Refusal::UnknownTable,     Refusal::UnknownColumn,
@@ -90,7 +90,7 @@ std::wstring Doubled(const std::wstring& text)
     return literal + L"'";
 }
 
-// What the component can make of a property that is to be a text: nothing, where it is none.
+// The text that the component reads from a property; empty if the property is no text.
 std::wstring TextIfAny(const Value& value)
 {
     try

@@ -1,4 +1,4 @@
-// What the tests of hostile items share: the strict host behind a recorder, rows that nobody may touch, and
+// Fixture of the hostile items: the strict host behind a recorder, rows that no test may change, and
 // the checks that hold after every record, whatever it held.
 #pragma once
 

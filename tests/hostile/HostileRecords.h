@@ -7,7 +7,7 @@
 namespace test_support
 {
 
-// What a property or column usually holds.
+// The usual type of a property or column.
 enum class Sort
 {
     Text,

@@ -1,4 +1,4 @@
-// Values that nobody would type and that a program meets all the same: texts made of quotes, fragments of SQL
+// Values that no user types and that a program meets all the same: texts made of quotes, fragments of SQL
 // and of Outlook's filters, control characters, lone surrogates and emoji, long ones, some that end just
 // where a column ends; dates at and beyond both ends; numbers that are none; values of every automation type.
 // The same seed gives the same values on every machine.

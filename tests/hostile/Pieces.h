@@ -1,4 +1,4 @@
-// What hostile values are made of. Used by HostileValues only.
+// The parts of hostile values. Used by HostileValues only.
 #pragma once
 
 #include <string_view>

@@ -24,7 +24,7 @@ using Statements = std::vector<Statement>;
 // A wrapper around dtc; it writes to statements, which outlive it.
 automation::Object RecordStatements(const automation::Object& dtc, Statements& statements);
 
-// What the inserts and updates that succeeded have written to a table: column to literal. Empty for nothing.
+// The columns that successful inserts and updates wrote to a table, each with its literal; empty for none.
 std::map<std::wstring, sandbox::Literal> ColumnsWritten(const Statements& statements,
                                                         const std::wstring& table);
 

@@ -140,7 +140,7 @@ class ValuesFromOutlook : public HostileFromOutlook
     }
 };
 
-TEST_F(ValuesFromOutlook, HaveTheEffectThatThePageTellsAndThePassGoesOn)
+TEST_F(ValuesFromOutlook, HaveTheDocumentedEffectAndThePassContinues)
 {
     const auto values = ValuesOfColumns();
     std::set<std::wstring> told;

@@ -135,7 +135,7 @@ TargetEntry EntryNamed(const std::wstring& name)
     return {name.substr(0, by), name.substr(by + 4), found->mapped, found->shownBy};
 }
 
-// What an item shows that has nothing there.
+// The value of a property that is not set.
 const std::set<std::wstring> kEmptyTexts{L"", L"0", L"False", L"1/1/4501", L"00:00"};
 
 class ValuesToOutlook : public testing::Test

@@ -95,7 +95,7 @@ bool HasChinese(const std::wstring& text)
     return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c >= 0x4E00 && c <= 0x9FFF; });
 }
 
-TEST(StringTable, EveryFixedTextStandsExactlyInEnglish)
+TEST(StringTable, EveryFixedTextIsExactInEnglish)
 {
     const WithLanguage with(Language::English);
     for (const Row& row : kFixedTexts)
@@ -104,7 +104,7 @@ TEST(StringTable, EveryFixedTextStandsExactlyInEnglish)
     }
 }
 
-TEST(StringTable, EveryFixedTextStandsExactlyInChinese)
+TEST(StringTable, EveryFixedTextIsExactInChinese)
 {
     const WithLanguage with(Language::Chinese);
     for (const Row& row : kFixedTexts)
@@ -192,7 +192,7 @@ TEST(InterfaceLanguage, TheLanguageTestsFollowStringZero)
     EXPECT_STREQ(L"en", resources::Choose(L"中", L"en"));
 }
 
-// What the environment says under Wine, where it decides the user interface's language.
+// The language of the environment under Wine, where it decides the user interface's language.
 bool IsEnvironmentChinese()
 {
     for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"})

@@ -60,7 +60,7 @@ class CalendarCollection : public CollectionTest
     }
 };
 
-TEST_F(CalendarCollection, FutureOnlyKeepsWhatEndsAfterTheHostsNowInBothDirections)
+TEST_F(CalendarCollection, FutureOnlyKeepsEntriesThatEndAfterTheHostsNowInBothDirections)
 {
     TakeFutureEntriesOnly();
     *Rows = {Entry(L"over", InDays(0.25)), Entry(L"going on", InDays(0.48)), Entry(L"later", InDays(3))};

@@ -1,4 +1,4 @@
-// What the tests of change collection share: two sides as plain data, a host with rights and a clock, and the
+// Fixture of the change collection tests: two sides as plain data, a host with rights and a clock, and the
 // collection of a category over them, next to the plain nested walk that it must equal.
 #pragma once
 

@@ -52,7 +52,7 @@ Record RowNamed(const wchar_t* name)
             {L"F_ACTESTIME", Value::Null()}};
 }
 
-// What is proposed for a row and the item at a position; 0 for none.
+// The proposal for a row and the item at a position; 0 for none.
 struct Pair
 {
     long row;
@@ -124,7 +124,7 @@ class ExchangeRules : public testing::Test
 
 const exchange::Kind* const kCategories[] = {&contacts::kContacts, &tasks::kTasks, &calendar::kCalendar};
 
-TEST_F(ExchangeRules, ThePageTellsWhatIsProposedForEveryDirectionAndConflictRule)
+TEST_F(ExchangeRules, ThePageListsTheProposalsOfEveryDirectionAndConflictRule)
 {
     std::set<std::pair<long, long>> described;
     for (const Cells& cells : TableOfPage(kPage, "Direction"))

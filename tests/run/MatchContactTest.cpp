@@ -70,7 +70,7 @@ TEST_F(MatchContact, EachNameAndTheCompanyAreComparedInUpperCase)
     }
 }
 
-TEST_F(MatchContact, TheLastNameComesFirstAndNothingStandsBetweenTheNames)
+TEST_F(MatchContact, TheLastNameComesFirstWithoutASeparator)
 {
     EXPECT_FALSE(MatchWith(L"LastName", L"Lim", L"F_SURNAME", L"Li"));
     Item = {{L"LastName", L"Lim"}, {L"FirstName", L"ing"}, {L"CompanyName", L"Harbour"}};

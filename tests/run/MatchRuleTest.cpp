@@ -173,7 +173,7 @@ TEST_F(MatchAppointment, TheDayAndTheTimeOfTheHostStandInColumnsOfTheirOwn)
     EXPECT_FALSE(Match(item, Entry(Date{kDay.days + 1}, DateOf(Moment{.hour = 9, .minute = 30}))));
 }
 
-TEST_F(MatchAppointment, OfTheDayColumnOnlyTheDayAndOfTheTimeColumnOnlyTheTimeCounts)
+TEST_F(MatchAppointment, OnlyTheDayOfTheDayColumnAndTheTimeOfTheTimeColumnCount)
 {
     const Record item = Appointment(DateOf(Moment{2003, 5, 6, 9, 30}));
     EXPECT_TRUE(Match(item, Entry(DateOf(Moment{2003, 5, 6, 17, 0}), DateOf(Moment{2001, 1, 1, 9, 30}))));

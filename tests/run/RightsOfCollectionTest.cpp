@@ -81,7 +81,7 @@ TEST_F(RightsOfCollection, Rule3WithoutTheRightToModifyStillProposesNewRows)
     EXPECT_EQ("newRow2/0 changedRow1/1 changedItem1/1 newItem2/0 ", CollectWithRefusals(3, 3, 1));
 }
 
-TEST_F(RightsOfCollection, WithoutEitherRightNothingIsProposedFromOutlookWhateverTheRule)
+TEST_F(RightsOfCollection, WithoutEitherRightNoRuleProposesAnythingFromOutlook)
 {
     Host->DeniedCodes.insert(2);
     Host->DeniedCodes.insert(4);
@@ -91,7 +91,7 @@ TEST_F(RightsOfCollection, WithoutEitherRightNothingIsProposedFromOutlookWhateve
     }
 }
 
-TEST_F(RightsOfCollection, WhatWasCollectedBeforeAnItemThatFailsStays)
+TEST_F(RightsOfCollection, RecordsCollectedBeforeAFailingItemStay)
 {
     *Items = {Contact(L"Ode"), Contact(L"Li"), Contact(L"Zoe"), Record{}, Contact(L"Ann")};
     state::Shared().gSynParameter.TransConflictOption = state::kOutlookWins;

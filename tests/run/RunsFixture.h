@@ -1,4 +1,4 @@
-// What the tests of the run procedures share: the fake host and an empty mailbox as a run finds them,
+// Fixture of the run procedures: the fake host and an empty mailbox as a run finds them,
 // and whole runs whose dialogs a robot answers.
 #pragma once
 

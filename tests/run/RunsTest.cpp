@@ -162,7 +162,7 @@ TEST_F(Runs, TheCalendarTakesTheEntriesOfTheSignedInUserOnly)
     EXPECT_EQ(L"Host", automation::TextOf(Mailbox->ItemProperty(kCalendarRun.folder, 1, L"Subject")));
 }
 
-TEST_F(Runs, WithoutAChosenFolderTheUserIsToldAndTheRunFails)
+TEST_F(Runs, WithoutAChosenFolderAMessageIsShownAndTheRunFails)
 {
     Shared().gSynParameter.TransType = 3;
     for (const RunKind& kind : kRuns)

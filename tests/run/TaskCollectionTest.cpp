@@ -76,7 +76,7 @@ TEST_F(TaskCollection, ACompletedPartnerStillMatchesSoThatNoDuplicateIsProposed)
     EXPECT_EQ("", Collect(2, 3));
 }
 
-TEST_F(TaskCollection, WhereAllTasksAreTakenNobodyAsksWhetherTheyAreCompleted)
+TEST_F(TaskCollection, IfAllTasksAreTakenTheirCompletionIsNotRead)
 {
     *Items = {Task(L"a", true), Task(L"b", false)};
     *Rows = {TaskRow(L"c", true), TaskRow(L"d", false)};

@@ -168,7 +168,7 @@ TEST_F(TwoWayRun, ATaskThatCameFromOutlookIsNotSavedThereAgain)
     }
 }
 
-TEST_F(TwoWayRun, ATaskThatTheHostRefusesGoesToOutlookAsTheHostHasIt)
+TEST_F(TwoWayRun, ATaskThatTheHostRefusesIsWrittenToOutlookAsTheHostHasIt)
 {
     TheHost.Database().Execute(kTaskPair.row);
     Mailbox->AddItem(kTaskPair.kind.folder, kTaskPair.item);

@@ -108,7 +108,7 @@ TEST_F(AdoRecordset, ARecordsetWithoutRowsIsAtBothEndsAndHasNoCurrentRecord)
     EXPECT_EQ(sandbox::kNoCurrentRecord, CodeOf([&] { rows.ValueOf(L"Name"); }));
 }
 
-TEST_F(AdoRecordset, RefusesWhatADORefuses)
+TEST_F(AdoRecordset, RefusesTheCallsThatADORefuses)
 {
     const Recordset rows = Open(L"SELECT * FROM Thing");
     EXPECT_EQ(sandbox::kItemNotFound, CodeOf([&] { rows.ValueOf(L"Colour"); }));

@@ -200,7 +200,7 @@ TEST_F(ConnectionTest, ANumberBeyondALongComesAsADouble)
     EXPECT_EQ(5e9, automation::DoubleOf(number));
 }
 
-TEST_F(ConnectionTest, WhatDoesNotFitTheDeclaredTypeComesAsItIs)
+TEST_F(ConnectionTest, AValueThatDoesNotFitTheDeclaredTypeIsReturnedAsItIs)
 {
     MakeTable();
     mDatabase.Execute(L"INSERT INTO T(Number, Share, Moment) VALUES ('many', 'half', 'soon')");

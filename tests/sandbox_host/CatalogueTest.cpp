@@ -86,7 +86,7 @@ TEST_F(HostCatalogue, EveryColumnThatCanBeWrittenHasARuleThatSuitsItsType)
     }
 }
 
-TEST_F(HostCatalogue, AllEightRulesAreInUseAndNoColumnStandsTwice)
+TEST_F(HostCatalogue, AllEightRulesAreUsedAndNoColumnIsListedTwice)
 {
     std::set<FieldRule> rules;
     std::set<std::wstring> columns;
@@ -156,7 +156,7 @@ TEST_F(HostCatalogue, TheRelationRowsCoverEveryPropertyThatIsExchanged)
               PropertiesOf(L"VW_CALENDAR"));
 }
 
-TEST_F(HostCatalogue, ATasksStatusComesBeforeWhatIsOnlyWrittenToACompletedTask)
+TEST_F(HostCatalogue, ATasksStatusPrecedesTheColumnsOfCompletedTasks)
 {
     const auto position = [this](const wchar_t* property) {
         return LongOf(mHost.Database().QueryValue(

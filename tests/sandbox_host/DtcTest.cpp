@@ -143,7 +143,7 @@ TEST(HostFiles, AHostIsKeptInItsFile)
     DeleteFileW(path.c_str());
 }
 
-TEST(HostFiles, WhatCannotBeWrittenWholeLeavesNoFile)
+TEST(HostFiles, AFileThatCannotBeWrittenWholeIsRemoved)
 {
     const std::wstring path = sandbox::TemporaryDatabasePath();
     EXPECT_THROW(sandbox::WriteDatabaseFile(path,

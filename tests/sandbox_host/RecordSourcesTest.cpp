@@ -176,7 +176,7 @@ TEST_F(RecordSources, AContactIsFoundByItsJoinedNames)
     EXPECT_EQ(L"c", TextOf(rows.ValueOf(L"F_CNTCTID")));
 }
 
-TEST_F(RecordSources, WhatIsNoSoundSelectStatementIsRefused)
+TEST_F(RecordSources, AMalformedSelectStatementIsRefused)
 {
     Recordset rows;
     EXPECT_EQ(Refused(Refusal::BadStatement), OpenByString(rows, L"F_UID=1"));

@@ -172,7 +172,7 @@ TEST_F(SampleDataTest, BothLanguagesApostrophesAndGapsOccurOften)
     EXPECT_EQ(0, Count(mHost, mine + L"(F_SURNAME IS NULL OR F_GIVENNAME IS NULL)"));
 }
 
-TEST_F(SampleDataTest, NoTwoRecordsOfASideAreTheSameInWhatTheyAreMatchedBy)
+TEST_F(SampleDataTest, NoTwoRecordsOfASideHaveTheSameKeys)
 {
     EXPECT_TRUE(AreUnique(KeysOfRows(Source(L"ContactMyContact"), {L"F_SURNAME", L"F_GIVENNAME"})));
     EXPECT_TRUE(AreUnique(KeysOfRows(Source(L"ActivityMyActivity"),
@@ -215,7 +215,7 @@ TEST_F(SampleDataTest, AThirdOfTheCalendarIsInOutlookAsWellWhichHasOthersBesides
     EXPECT_EQ(65u, items.size());
 }
 
-TEST_F(SampleDataTest, WhatATaskSaysOfItsProgressHangsTogether)
+TEST_F(SampleDataTest, TheProgressPropertiesOfATaskAgree)
 {
     EXPECT_EQ(0, Count(mHost, L"TBLACTIVITY WHERE F_ACTESDATE IS NULL AND "
                               L"((F_ACTSTATUS=2)<>F_ACTCOMPLETED OR (F_ACTSTATUS=2)<>(F_ACTPERCENT=1) OR "

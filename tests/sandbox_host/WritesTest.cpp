@@ -153,7 +153,7 @@ TEST_F(HostWrites, DeleteSaysHowManyRowsAreGone)
     EXPECT_EQ(1, Count(L"T_POutlookSyncFolder"));
 }
 
-TEST_F(HostWrites, WhatATransactionWroteIsGoneAfterItsRollback)
+TEST_F(HostWrites, ARollbackUndoesTheRowsOfItsTransaction)
 {
     mHost.Dtc().Call(L"BeginTrans");
     EXPECT_TRUE(automation::TruthOf(mHost.Dtc().Get(L"InTransaction")));

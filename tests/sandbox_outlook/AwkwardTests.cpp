@@ -115,7 +115,7 @@ TEST_F(Awkwardness, ItemsOfOtherKindsStandAmongTheRecords)
     }
 }
 
-TEST_F(Awkwardness, TheGuardRefusesToReadWhatItProtectsAndNothingElse)
+TEST_F(Awkwardness, TheGuardRefusesOnlyTheProtectedMembers)
 {
     const auto contact = Contacts().GetObject(L"Items").GetObject(L"Item", 1);
     EXPECT_EQ(L"", Text(contact, L"Email1Address"));
@@ -213,7 +213,7 @@ TEST_F(Awkwardness, TwoStoresHaveOneNameAndFoldersOfTheSameNames)
     EXPECT_EQ(5, Number(Contacts().GetObject(L"Items"), L"Count"));
 }
 
-TEST_F(Awkwardness, ATwinInFrontIsWhatASearchByNameFinds)
+TEST_F(Awkwardness, ASearchByNameFindsATwinInFront)
 {
     mMailbox->Switch(L"Twins", 2);
     const auto store =

@@ -72,7 +72,7 @@ TEST_F(Filter, AFilterThatCannotBeReadIsAnErrorThatSaysWhere)
     EXPECT_EQ(L"Cannot parse condition. Error at \"'soon'\".", Failure(L"[Birthday] = 'soon'"));
 }
 
-TEST_F(Filter, ADoubledQuoteStandsForOneAndASingleOneEndsTheText)
+TEST_F(Filter, ADoubledQuoteIsOneAndASingleOneEndsTheText)
 {
     mMailbox->AddItem(kContacts, {{L"FirstName", L"a\"b"}, {L"LastName", L"X"}});
     EXPECT_EQ(1, Matches(L"[FirstName] = \"a\"\"b\" And [LastName] = \"X\""));
@@ -112,7 +112,7 @@ TEST_F(Filter, FindGivesTheFirstItemAndFindNextTheOthers)
     EXPECT_FALSE(items.GetObject(L"Find", L"[FirstName] = 'Nobody'"));
 }
 
-TEST_F(Filter, WhatIsFoundInARestrictedCollectionIsInItOnly)
+TEST_F(Filter, FindInARestrictedCollectionFindsOnlyItsItems)
 {
     const auto restricted = Contacts().GetObject(L"Items").GetObject(L"Restrict", L"[LastName] = 'Smith'");
     EXPECT_FALSE(restricted.GetObject(L"Find", L"[LastName] = '王'"));

@@ -62,7 +62,7 @@ TEST_F(Folders, AFolderNamedLikeANumberIsFoundByName)
     EXPECT_EQ(L"Old", Text(Contacts().GetObject(L"Folders").GetObject(L"Item", 1), L"Name"));
 }
 
-TEST_F(Folders, ANewFolderTakesItsParentsTypeUnlessItIsToldAnother)
+TEST_F(Folders, ANewFolderHasItsParentsTypeUnlessAnotherIsGiven)
 {
     const auto folders = Contacts().GetObject(L"Folders");
     EXPECT_EQ(2, Number(folders.GetObject(L"Add", L"客户"), L"DefaultItemType"));

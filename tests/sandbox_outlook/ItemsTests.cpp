@@ -5,7 +5,7 @@ namespace sandbox
 
 using Items = OutlookTest;
 
-TEST_F(Items, ANewItemStandsInTheFolderOnlyOnceItIsSavedAndThenAtTheEnd)
+TEST_F(Items, ANewItemIsInTheFolderAfterSaveAtTheEnd)
 {
     SavedContact(L"Mary", L"Smith");
     const auto items = Contacts().GetObject(L"Items");
@@ -64,7 +64,7 @@ TEST_F(Items, AChangeIsSeenThroughAnotherObjectOnlyOnceItIsSaved)
     EXPECT_EQ(L"Brown", Text(other, L"LastName"));
 }
 
-TEST_F(Items, AnUnsavedChangeGoesWithItsObject)
+TEST_F(Items, AnUnsavedChangeIsLostWithItsObject)
 {
     SavedContact(L"Mary", L"Smith");
     const auto items = Contacts().GetObject(L"Items");

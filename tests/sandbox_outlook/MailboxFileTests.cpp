@@ -22,7 +22,7 @@ TEST_F(MailboxFile, ASavedItemIsInTheFileAtOnce)
     EXPECT_EQ(L"1975-03-04 00:00:00", Stored(1, L"Birthday"));
 }
 
-TEST_F(MailboxFile, AnotherSessionReadsWhatWasSaved)
+TEST_F(MailboxFile, AnotherSessionReadsTheSavedItems)
 {
     {
         const auto outlook = MakeOutlook(OpenMailbox(mPath));
@@ -56,7 +56,7 @@ TEST_F(MailboxFile, AFolderIsDeletedWithEverythingInItAndAStoreIsNot)
     EXPECT_THROW(contacts.GetObject(L"Parent").Call(L"Delete"), automation::Error);
 }
 
-TEST_F(MailboxFile, RowsAddedByHandAreItemsWithDefaultsForWhatTheyLeaveOut)
+TEST_F(MailboxFile, RowsAddedByHandAreItemsWithDefaultValues)
 {
     AddRow(L"邮箱\\Tasks", 7, L"Subject", L"Call 李雷");
     AddRow(L"邮箱\\Tasks", 7, L"Complete", L"1");

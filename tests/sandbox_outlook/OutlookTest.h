@@ -1,4 +1,4 @@
-// What the tests of the fake Outlook share: a mailbox with the default folders and its application object,
+// Fixture of the tests of the fake Outlook: a mailbox with the default folders and its application object,
 // and the description of an expected failure.
 #pragma once
 

@@ -175,7 +175,7 @@ TEST_F(RecurrencePattern, OneOfAnAllDayEventBeginsAtMidnightAndLastsWholeDays)
     EXPECT_EQ(L"2003-05-07 00:00", At(mAppointment.Get(L"End")));
 }
 
-TEST_F(RecurrencePattern, PartialRowsTakeWhatTheyLeaveOutFromTheAppointment)
+TEST_F(RecurrencePattern, PartialRowsTakeTheirMissingValuesFromTheAppointment)
 {
     mMailbox->AddItem(kCalendar, {{L"Start", Day(2003, 5, 6, 9, 30)},
                                   {L"End", Day(2003, 5, 6, 10, 0)},

@@ -79,7 +79,7 @@ TEST_F(TaskItem, ThePercentageTellsAStartedTaskFromOneThatIsNot)
     EXPECT_EQ(L"0 open 0%", State());
 }
 
-TEST_F(TaskItem, AWaitingOrDeferredTaskStaysSoWhateverItsPercentage)
+TEST_F(TaskItem, AWaitingOrDeferredTaskStaysSoAtAnyPercentage)
 {
     for (const long status : {3L, 4L})
     {

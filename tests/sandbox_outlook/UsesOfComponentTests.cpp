@@ -94,7 +94,7 @@ TEST(UsesOfComponent, ADeprecatedMemberIsUsedForAReasonOnly)
     }
 }
 
-TEST(UsesOfComponent, WhatTheSourcesUseByNameIsListed)
+TEST(UsesOfComponent, TheMembersThatTheSourcesUseAreListed)
 {
     ASSERT_GT(std::size(kMembersInSources), 100u);
     for (const MemberInSources& found : kMembersInSources)
@@ -108,7 +108,7 @@ TEST(UsesOfComponent, WhatTheSourcesUseByNameIsListed)
     }
 }
 
-TEST(UsesOfComponent, TheFakesHaveWhatTheComponentUses)
+TEST(UsesOfComponent, TheFakesHaveTheMembersThatTheComponentUses)
 {
     const auto mailbox = MakeMailbox();
     const auto outlook = MakeOutlook(mailbox);

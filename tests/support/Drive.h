@@ -19,7 +19,7 @@ void Drive(Robot::Script script, const std::function<void()>& action);
 // names; without the variable it does nothing.
 void Photograph(const ShownDialog& dialog, const std::string& name);
 
-// What every dialog owes its user, in the language and font that it is shown in: each visible text fits its
+// Checks that a dialog is readable in its language and font: each visible text fits its
 // control, each control lies inside the dialog, no two visible controls share an accelerator (letters that
 // the host contract gives twice excepted, in upper case). Failures are reported as test failures.
 void ExpectReadable(const ShownDialog& dialog, const std::wstring& sharedLetters = {});

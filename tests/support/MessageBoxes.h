@@ -1,4 +1,4 @@
-// What message boxes say during a piece of work that is not expected to be stopped by them: each is recorded
+// Records the message boxes that a piece of work shows: each is recorded
 // and answered; or every dialog is answered in a way of the test's own. For programs of tests that link
 // tools_robot.
 #pragma once

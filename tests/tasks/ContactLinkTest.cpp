@@ -151,7 +151,7 @@ TEST_F(ContactLink, ADoubleQuoteInANameEndsThePassWithNothingHalfOpen)
     }
 }
 
-TEST_F(ContactLink, ANameThatGoesOnTheSearchFindsWhomItSays)
+TEST_F(ContactLink, ANameThatContinuesTheSearchFindsItsContact)
 {
     AddContact(L"Mei", L"Li");
     AddHostTaskWith(L"'Zhang\" Or [LastName] = \"Li'", L"'Wei'");

@@ -1,4 +1,4 @@
-// What each property of an Outlook task becomes in the host.
+// The host column for each property of an Outlook task.
 #include "data/RecordMode.h"
 #include "tasks/Tasks.h"
 #include "tests/support/WithLanguage.h"

@@ -122,7 +122,7 @@ TEST_F(TaskLinks, ATaskOfAnOutlookWhoseVersionBeginsWithEightHasNoContact)
     ExpectNoContactAndNoQuestion();
 }
 
-TEST_F(TaskLinks, AnEightLaterInTheVersionIsNoMatter)
+TEST_F(TaskLinks, AnEightLaterInTheVersionHasNoEffect)
 {
     AddOutlookTask({{L"ContactNames", L"张伟"}, {L"OutlookVersion", L"10.8"}});
     Host().Find(kLookupContact, L"C1");
@@ -239,7 +239,7 @@ TEST_F(TaskLinks, AFailedLookupIsShownUnderTheNameOfItsBuilderAndIsAFailure)
     EXPECT_EQ(L"F_ACTNAME='Call'", updated.SetList());
 }
 
-TEST_F(TaskLinks, ATaskWhoseLinkFailsIsRolledBackAndThePassGoesOn)
+TEST_F(TaskLinks, ATaskWhoseLinkFailsIsRolledBackAndThePassContinues)
 {
     AddOutlookTask({{L"Subject", L"One"}, {L"ContactNames", L"张伟"}});
     AddOutlookTask({{L"Subject", L"Two"}});

@@ -1,4 +1,4 @@
-// What the tests of tasks share: a host database with relation rows, a field catalogue and a few host tasks,
+// Fixture of the task tests: a host database with relation rows, a field catalogue and a few host tasks,
 // a mailbox with Outlook's default folders, and a run over both.
 #pragma once
 

@@ -119,7 +119,7 @@ TEST_F(TasksFromOutlook, AColumnThatCannotBeFormattedAbandonsTheTaskBeforeItsTra
     EXPECT_TRUE(Host().Calls.empty());
 }
 
-TEST_F(TasksFromOutlook, AnInsertThatTheHostRefusesIsRolledBackAndThePassGoesOn)
+TEST_F(TasksFromOutlook, ARefusedInsertIsRolledBackAndThePassContinues)
 {
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddOutlookTask({{L"Subject", L"One"}});
@@ -142,7 +142,7 @@ TEST_F(TasksFromOutlook, APositiveResultOfAnInsertCountsAsWrittenOfAnUpdateAsFai
     EXPECT_EQ(L"RollbackTrans()", Host().Calls.back());
 }
 
-TEST_F(TasksFromOutlook, WithoutAPendingTransactionNeitherEndIsAsked)
+TEST_F(TasksFromOutlook, WithoutAPendingTransactionNothingIsCommittedOrRolledBack)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
     Host().BeginOpensTransaction = false;

@@ -216,7 +216,7 @@ TEST_F(TasksToOutlook, ARowThatNamesNoKnownPropertyIsSkipped)
     EXPECT_EQ(L"Phone", TextOf(task.Get(L"Categories")));
 }
 
-TEST_F(TasksToOutlook, OfTwoRowsForOnePropertyTheLaterOneStays)
+TEST_F(TasksToOutlook, TheLaterOfTwoRowsForAPropertyWins)
 {
     Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTTYPE", L"Subject"}});
     AddHostTask({{L"F_ACTNAME", L"'First'"}, {L"F_ACTTYPE", L"'Later'"}});
@@ -304,7 +304,7 @@ TEST_F(TasksToOutlook, TheStatusTextIsInTheInterfaceLanguage)
     EXPECT_EQ(L"正在进行数据传输，请稍候...", mDisplay.Events.front());
 }
 
-TEST_F(TasksToOutlook, AnErrorEndsThePassAndWhatWasWrittenStays)
+TEST_F(TasksToOutlook, AnErrorEndsThePassAndKeepsTheWrittenItems)
 {
     Relate(
         {{L"F_ACTNAME", L"Subject"}, {L"CONTACT_SURNAME", L"ContactNames"}, {L"F_ACTTYPE", L"Categories"}});

@@ -412,7 +412,7 @@ TEST(AskWhetherToWait, AsksInTheInterfacesLanguageWhetherToTryAgain)
     }
 }
 
-TEST(ProgressBar, AFractionBecomesAStepAndWhatIsNoFractionTheNearerEnd)
+TEST(ProgressBar, AFractionIsAStepAndOtherNumbersAreTheNearerEnd)
 {
     using ui::ProgressBar;
     EXPECT_EQ(0, ProgressBar::StepOf(0, 200));

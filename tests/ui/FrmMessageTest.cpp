@@ -84,7 +84,7 @@ TEST(ConfirmHeading, ASectionThatTheDirectionDoesNotShowHasNone)
     EXPECT_EQ(std::nullopt, ConfirmHeading(4, kToQuenlar, L"Task"));
 }
 
-TEST(ConfirmTexts, NoSpaceStandsBetweenTextAndCount)
+TEST(ConfirmTexts, NoSpaceIsBetweenTextAndCount)
 {
     const Interface english(Language::English);
     EXPECT_EQ(L"Addtions:12", run::AdditionsLine(12));

@@ -1,4 +1,5 @@
-// What the main dialog asks of its services when the user starts a run, and what it says about the outcome.
+// The calls of the main dialog to its services when the user starts a run, and its messages about the
+// outcome.
 #include "tests/ui/MainDialog.h"
 
 #include <memory>

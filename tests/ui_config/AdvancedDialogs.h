@@ -1,4 +1,4 @@
-// What the tests of the advanced option dialogs share: showing one, and what a robot does in it.
+// Fixture of the advanced option dialogs: showing one, and what a robot does in it.
 #pragma once
 
 #include "config/dialogs/FrmAdvanced.h"

@@ -1,4 +1,4 @@
-// What the tests of the folder picker share: showing it, and adding a folder as a robot does.
+// Fixture of the folder picker: showing it, and adding a folder as a robot does.
 #pragma once
 
 #include "config/dialogs/FrmSynContent.h"

@@ -110,7 +110,7 @@ TEST_P(FrmConfigureStore, NoneChosenAndTwiceOkTakesTheKindOutOfTheTable)
     EXPECT_EQ(L"0|Null|3|each", mGround.Translation(L"Contact"));
 }
 
-TEST_P(FrmConfigureStore, WhatHasBeenEditedIsKeptWhileAnotherRowIsSelected)
+TEST_P(FrmConfigureStore, EditsAreKeptWhileAnotherRowIsSelected)
 {
     Drive(
         [&](Robot& robot) {

@@ -81,7 +81,7 @@ TEST_P(FrmConfigure, ADialogThatCouldNotLoadSaysSoAndWritesNothing)
     EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
 }
 
-TEST_P(FrmConfigure, WithoutAHostTheUserIsToldAndTheDialogOpensWithAnEmptyList)
+TEST_P(FrmConfigure, WithoutAHostAMessageIsShownAndTheDialogOpensEmpty)
 {
     state::Shared().gDTC = {};
     Drive(
@@ -130,7 +130,7 @@ TEST_P(FrmConfigure, WhenARowIsSelectedNoLongerItsButtonsAreDisabled)
         config::ShowConfigure);
 }
 
-TEST_P(FrmConfigure, TheDirectionStandsInWordsBesideItsArrow)
+TEST_P(FrmConfigure, TheDirectionIsWrittenBesideItsArrow)
 {
     mGround.SetRow(L"Task", L"IsTrans=1");
     Drive(

@@ -281,7 +281,7 @@ TEST_P(FrmOutLookOption, AFailedWriteIsReportedWithItsCode)
 }
 
 // Outlook's session lasts as long as anybody holds it, so a new one would come with the old profile.
-TEST(ANewProfile, IsConnectedToAfterTheOldOutlookHasBeenLetGo)
+TEST(ANewProfile, IsConnectedAfterTheOldOutlookIsReleased)
 {
     const auto mailbox = sandbox::MakeMailbox();
     std::vector<bool> isOldHeld;

@@ -65,7 +65,7 @@ TEST_P(FrmSynChoose, SpeaksTheLanguageOfTheInterface)
     });
 }
 
-TEST_P(FrmSynChoose, ShowsWhatTheRecordSays)
+TEST_P(FrmSynChoose, ShowsTheValuesOfTheRecord)
 {
     Show([&](Robot&, const ShownDialog& dialog) {
         EXPECT_EQ((Texts{L"<None>", L"Ms Outlook"}), Entries(dialog, IDC_CHOOSE_TRANSLATORS));

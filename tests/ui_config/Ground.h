@@ -1,4 +1,4 @@
-// What a test of the configuration dialogs stands on: the fake host with known parameters of its first
+// Fixture of the configuration dialogs: the fake host with known parameters of its first
 // user, the fake Outlook with a mailbox, a profile in the registry, and the interface of one language.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What the tests of the dialog with the list of kinds share.
+// Fixture of the dialog with the list of kinds.
 #pragma once
 
 #include "config/dialogs/FrmConfigure.h"

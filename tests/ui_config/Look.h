@@ -1,4 +1,4 @@
-// What a robot sees of, and does to, the controls that only the configuration dialogs have.
+// Reads and operates the controls that only the configuration dialogs have.
 #pragma once
 
 #include "tools/robot/ShownDialog.h"

@@ -12,7 +12,7 @@
 namespace tools::demo
 {
 
-// What the user has seen of one run.
+// The messages and the status that one run shows.
 struct Outcome
 {
     std::vector<std::wstring> confirmation; // the lines of the confirmation dialog

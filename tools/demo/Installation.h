@@ -1,5 +1,5 @@
-// What a user's machine has besides the component: an Outlook profile, and the settings that the user has
-// made before. The demo and the end-to-end tests put them in place.
+// The set-up of a user's machine besides the component: an Outlook profile, and the settings that the user
+// has made before. The demo and the end-to-end tests put them in place.
 #pragma once
 
 #include "sandbox/database/Connection.h"

@@ -1,4 +1,4 @@
-// What the demo is asked to do: the arguments of the program, which the script `demo` has checked already.
+// The demo's options: the arguments of the program, which the script `demo` has checked already.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// What the demo prints of a run.
+// The demo's printed report of a run.
 #pragma once
 
 #include "tools/demo/Conversation.h"
@@ -13,7 +13,7 @@ namespace tools::demo
 void PrintRun(const std::wstring& category, const Outcome& outcome, const Snapshot& before,
               const Snapshot& after, long outlookCalls);
 
-// What has changed on both sides, without a conversation.
+// The changes on both sides, without a conversation.
 void PrintChanges(const Snapshot& before, const Snapshot& after);
 
 } // namespace tools::demo

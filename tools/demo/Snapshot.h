@@ -1,4 +1,4 @@
-// What stands in the host's database and in the mailbox at one moment, and what has changed since.
+// The contents of the host's database and of the mailbox at one moment, and the changes since.
 #pragma once
 
 #include "sandbox/database/Connection.h"

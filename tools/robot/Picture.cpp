@@ -45,7 +45,7 @@ struct DeletesObject
 };
 using Bitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeletesObject>;
 
-// What the window shows, frame included.
+// The window's picture, frame included.
 Bitmap Capture(HWND window)
 {
     RECT place = {};

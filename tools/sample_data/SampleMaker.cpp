@@ -29,7 +29,7 @@ Date TimeOfDay(size_t hour, size_t minute)
     return {static_cast<double>(hour * 60 + minute) / 1440};
 }
 
-// What has happened already lies before the day of the sample data.
+// Past events lie before the day of the sample data.
 Date NotAfterToday(Date day)
 {
     return {std::min(day.days, kSampleToday.days - 1)};

@@ -45,7 +45,7 @@ class SampleMaker
     automation::Date DayAround(long days);
     OptionalDate DayInYears(int first, int last, unsigned percent);
     std::optional<size_t> LinkedContact(const SampleRecords& records, unsigned percent);
-    // Gives the contact a name that nobody has, the word that goes with it and a mail address.
+    // Gives the contact a new name, the word that goes with it and a mail address.
     void Name(SampleContact& contact, const SampleAccount* account, bool isChinese);
     automation::Date WorkingDay();
     void PlanTask(SampleTask& task);

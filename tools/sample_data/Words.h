@@ -1,4 +1,4 @@
-// What the sample records are composed of: names, companies, places, subjects.
+// The parts of the sample records: names, companies, places, subjects.
 #pragma once
 
 #include <span>

@@ -14,7 +14,7 @@ namespace sandbox::outlook
 namespace
 {
 
-constexpr UINT kNobodyCameAfter = 60'000; // milliseconds
+constexpr UINT kIdleTime = 60'000; // milliseconds
 
 void Quit() noexcept
 {
@@ -51,7 +51,7 @@ void Server::Leave() noexcept
 
 void Server::Run()
 {
-    SetTimer(nullptr, 0, kNobodyCameAfter, nullptr);
+    SetTimer(nullptr, 0, kIdleTime, nullptr);
     // A request that came in while the last object went is served before the program leaves.
     do
     {

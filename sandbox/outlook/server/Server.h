@@ -21,7 +21,7 @@ class Server
     Server& operator=(const Server&) = delete;
     ~Server();
 
-    // Serves until the last object is gone, or until nobody has asked for one for a minute.
+    // Serves until the last object is gone, or until a minute has passed without a request.
     void Run();
 
     CallCounter& Calls() noexcept { return mCalls; }
