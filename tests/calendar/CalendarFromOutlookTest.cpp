@@ -1,13 +1,13 @@
 #include "calendar/Calendar.h"
 
 #include "resources/Strings.h"
-#include "tests/calendar/CalendarTest.h"
+#include "tests/calendar/CalendarFixture.h"
 #include "tests/support/WithLanguage.h"
 
 namespace test_support
 {
 
-class CalendarFromOutlook : public CalendarTest
+class CalendarFromOutlook : public CalendarFixture
 {
   protected:
     Object AddMeeting() const { return AddAppointment(Day(2003, 5, 6, 9, 30), Day(2003, 5, 6, 11, 0)); }

@@ -1,6 +1,6 @@
 #include "calendar/CalendarRange.h"
 
-#include "tests/calendar/CalendarTest.h"
+#include "tests/calendar/CalendarFixture.h"
 
 namespace test_support
 {
@@ -90,7 +90,7 @@ TEST(CalendarRange, CodeTwoCountsDaysOverTheEndOfAMonthAndAChangeOfTheClocks)
     EXPECT_FALSE(calendar::IsWithinRange(lateOnTheLongDay, parameter, Day(2003, 10, 28, 0, 0)));
 }
 
-class CalendarSpan : public CalendarTest
+class CalendarSpan : public CalendarFixture
 {
   protected:
     EntrySpan SpanOfEntry(const Pairs& columns)

@@ -1,14 +1,14 @@
 #include "calendar/Calendar.h"
 
 #include "resources/Strings.h"
-#include "tests/calendar/CalendarTest.h"
+#include "tests/calendar/CalendarFixture.h"
 #include "tests/support/CallWatch.h"
 #include "tests/support/WithLanguage.h"
 
 namespace test_support
 {
 
-using CalendarToOutlook = CalendarTest;
+using CalendarToOutlook = CalendarFixture;
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include "data/RecordMode.h"
 #include "resources/Strings.h"
-#include "tests/calendar/CalendarTest.h"
+#include "tests/calendar/CalendarFixture.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/OpenedRecordsets.h"
 #include "tests/support/WithLanguage.h"
@@ -10,7 +10,7 @@
 namespace test_support
 {
 
-class CalendarWriting : public CalendarTest
+class CalendarWriting : public CalendarFixture
 {
   protected:
     Object AddMeeting() const { return AddAppointment(Day(2003, 5, 6, 9, 30), Day(2003, 5, 6, 11, 0)); }

@@ -1,12 +1,12 @@
 // Which entries a run proposes by the range code, in both directions alike.
 #include "state/SharedState.h"
-#include "tests/calendar/ExchangeTest.h"
+#include "tests/calendar/CalendarExchange.h"
 
 namespace test_support
 {
 
 // The host's clock shows noon of 2003-05-06.
-class CalendarRangeExchange : public ExchangeTest
+class CalendarRangeExchange : public CalendarExchange
 {
   protected:
     static void UseRange(long code, short prior = 0, short after = 0)

@@ -1,7 +1,7 @@
 #include "calendar/Calendar.h"
 #include "calendar/Recurrence.h"
 #include "resources/Strings.h"
-#include "tests/calendar/CalendarTest.h"
+#include "tests/calendar/CalendarFixture.h"
 #include "tests/support/CallWatch.h"
 #include "tests/support/WithLanguage.h"
 
@@ -59,7 +59,7 @@ TEST(WeekdayToDayMask, AnyOtherNumberHasNoBit)
     }
 }
 
-class RecurrenceToOutlook : public CalendarTest
+class RecurrenceToOutlook : public CalendarFixture
 {
   protected:
     void AddRepeatingEntry(const std::wstring& rule, Pairs columns = {}) const

@@ -1,14 +1,14 @@
 // Entries that were exchanged once are the same entries on the next run, and a further run changes nothing.
 #include "resources/Strings.h"
 #include "state/SharedState.h"
-#include "tests/calendar/ExchangeTest.h"
+#include "tests/calendar/CalendarExchange.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
 
 namespace test_support
 {
 
-class CalendarRoundTrip : public ExchangeTest
+class CalendarRoundTrip : public CalendarExchange
 {
   protected:
     void ExportOnce()

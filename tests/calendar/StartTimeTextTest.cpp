@@ -1,7 +1,7 @@
 // What a recurrence pattern is given for its start time, as it is given. Outlook makes a time of it, so that
 // only a pattern that keeps what it is assigned tells.
 #include "calendar/Calendar.h"
-#include "tests/calendar/CalendarTest.h"
+#include "tests/calendar/CalendarFixture.h"
 
 namespace test_support
 {
@@ -50,7 +50,7 @@ class KeepsAssignments : public sandbox::DispatchObject
 
 } // namespace
 
-class StartTimeText : public CalendarTest
+class StartTimeText : public CalendarFixture
 {
 };
 

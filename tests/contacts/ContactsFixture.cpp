@@ -16,18 +16,6 @@ constexpr long kContactsFolder = 10; // olFolderContacts
 
 } // namespace
 
-ContactsFixture::ContactsFixture()
-{
-    state::Shared().gDTC = TheHost.Dtc();
-    state::Shared().gCnnString = TheHost.ConnectionString();
-}
-
-ContactsFixture::~ContactsFixture()
-{
-    state::Shared().gDTC = {};
-    state::Shared().gCnnString.clear();
-}
-
 long ContactsFixture::AddItem(const Properties& properties)
 {
     return Mailbox->AddItem(kFolder, properties);

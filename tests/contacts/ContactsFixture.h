@@ -1,18 +1,11 @@
-// Fixture of the contact tests: the host with its catalogue and no rows of its own, an empty mailbox, the
-// English interface, and runs over both in either direction.
+// Fixture of the contact tests: an office, and runs of contacts in either direction.
 #pragma once
 
-#include "automation/Dates.h"
 #include "contacts/Contacts.h"
 #include "exchange/Run.h"
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
 #include "tests/support/CallWatch.h"
-#include "tests/support/RecordingDisplay.h"
-#include "tests/support/WithLanguage.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/Days.h"
+#include "tests/support/OfficeFixture.h"
 
 #include <string>
 #include <utility>
@@ -21,19 +14,11 @@
 namespace test_support
 {
 
-inline automation::Date Day(int year, int month, int day, int hour = 0, int minute = 0)
-{
-    return automation::DateOf(automation::Moment{year, month, day, hour, minute});
-}
-
-class ContactsFixture : public testing::Test
+class ContactsFixture : public OfficeFixture
 {
   protected:
     using Properties = sandbox::Mailbox::NamedValues;
     using Value = automation::Value;
-
-    ContactsFixture();
-    ~ContactsFixture() override;
 
     // Adds a contact item and returns its position.
     long AddItem(const Properties& properties);
@@ -62,7 +47,6 @@ class ContactsFixture : public testing::Test
 
     // Makes these the relation rows of contacts: host column and Outlook property.
     void Relate(const std::vector<std::pair<std::wstring, std::wstring>>& rows);
-    void Execute(const std::wstring& sql) { TheHost.Database().Execute(sql); }
     // The first value of a query as text; "NULL" for Null and for no row.
     std::wstring Found(const std::wstring& sql);
     long Count(const std::wstring& table) { return std::stol(Found(L"SELECT COUNT(*) FROM " + table)); }
@@ -70,15 +54,6 @@ class ContactsFixture : public testing::Test
     bool NothingWritten();
 
     void Deny(long operationRight) { TheHost.SetRight(1, 2, operationRight, 1); }
-
-    sandbox::AdoInProcess Ado;
-    sandbox::Host TheHost;
-    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
-    automation::Object Outlook = sandbox::MakeOutlook(Mailbox);
-    RecordingDisplay Display;
-
-  private:
-    WithLanguage mEnglish{resources::Language::English};
 };
 
 } // namespace test_support

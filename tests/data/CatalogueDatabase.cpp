@@ -2,28 +2,12 @@
 
 #include "state/SharedState.h"
 
-#include <array>
-
 namespace test_support
 {
 
-namespace
+CatalogueDatabase::CatalogueDatabase()
 {
-
-std::wstring NewFile()
-{
-    std::array<wchar_t, MAX_PATH + 1> folder{};
-    std::array<wchar_t, MAX_PATH + 1> file{};
-    GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
-    GetTempFileNameW(folder.data(), L"cat", 0, file.data());
-    return file.data();
-}
-
-} // namespace
-
-CatalogueDatabase::CatalogueDatabase() : mPath(NewFile())
-{
-    state::Shared().gCnnString = sandbox::ConnectionStringOf(mPath);
+    state::Shared().gCnnString = mFile.ConnectionString();
     Execute(L"CREATE TABLE SynFields (FieldName VARCHAR(50), FieldType INTEGER, FieldSize INTEGER)");
     AddField(L"F_NUMBER", L"1", L"4");
     AddField(L"F_NAME", L"2", L"10");
@@ -38,7 +22,6 @@ CatalogueDatabase::CatalogueDatabase() : mPath(NewFile())
 CatalogueDatabase::~CatalogueDatabase()
 {
     state::Shared().gCnnString.clear();
-    DeleteFileW(mPath.c_str());
 }
 
 void CatalogueDatabase::AddField(const std::wstring& name, const std::wstring& type, const std::wstring& size)

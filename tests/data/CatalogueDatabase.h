@@ -5,6 +5,7 @@
 #include "data/FieldCatalogue.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/database/Connection.h"
+#include "tests/support/DatabaseFile.h"
 
 #include <string>
 
@@ -27,7 +28,7 @@ class CatalogueDatabase
 
   private:
     sandbox::AdoInProcess mAdo;
-    std::wstring mPath;
+    DatabaseFile mFile{L"telvix-catalogue"};
 };
 
 } // namespace test_support

@@ -5,7 +5,7 @@
 #include "exchange/Kind.h"
 #include "tasks/Tasks.h"
 #include "tests/hostile/HostileValues.h"
-#include "tests/run/CollectionTest.h"
+#include "tests/run/CollectionFixture.h"
 #include "tests/support/Thoroughness.h"
 
 #include <algorithm>
@@ -19,11 +19,11 @@ using namespace test_support;
 // A few values come again and again, so that records have partners.
 using Pool = std::vector<Value>;
 
-class HostileMatching : public CollectionTest
+class HostileMatching : public CollectionFixture
 {
   protected:
     explicit HostileMatching(const exchange::Kind& category, const char* name)
-        : CollectionTest(category), mValues(name)
+        : CollectionFixture(category), mValues(name)
     {
     }
 

@@ -1,7 +1,7 @@
 // Change collection of the calendar: the range codes against the host's clock, and the whole against the
 // plain nested walk.
 #include "calendar/Calendar.h"
-#include "tests/run/CollectionTest.h"
+#include "tests/run/CollectionFixture.h"
 
 #include "automation/Dates.h"
 #include "state/SharedState.h"
@@ -45,10 +45,10 @@ Record Entry(Value name, Date start)
             {L"F_ACTREPTEDATE", Value::Null()}};
 }
 
-class CalendarCollection : public CollectionTest
+class CalendarCollection : public CollectionFixture
 {
   protected:
-    CalendarCollection() : CollectionTest(calendar::kCalendar) { Host->Now = InDays(0.5); }
+    CalendarCollection() : CollectionFixture(calendar::kCalendar) { Host->Now = InDays(0.5); }
     ~CalendarCollection() override { Shared().gCalendarStartTime = {}; }
 
     void TakeFutureEntriesOnly() { Shared().gSynParameter.CalendarTransItem = state::kFutureEntries; }

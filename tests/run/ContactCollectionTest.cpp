@@ -1,5 +1,5 @@
 #include "contacts/Contacts.h"
-#include "tests/run/CollectionTest.h"
+#include "tests/run/CollectionFixture.h"
 
 #include "tests/support/CallWatch.h"
 #include "tests/support/Thoroughness.h"
@@ -26,10 +26,10 @@ Record ContactRow(Value surname, Value givenName, Value account)
 // A table cuts what follows.
 const std::wstring kLong(255, L'x');
 
-class ContactCollection : public CollectionTest
+class ContactCollection : public CollectionFixture
 {
   protected:
-    ContactCollection() : CollectionTest(contacts::kContacts) {}
+    ContactCollection() : CollectionFixture(contacts::kContacts) {}
 };
 
 } // namespace

@@ -4,7 +4,7 @@
 #include "contacts/Contacts.h"
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
-#include "tests/run/CollectionTest.h"
+#include "tests/run/CollectionFixture.h"
 #include "tests/support/MessageBoxes.h"
 
 namespace
@@ -26,10 +26,10 @@ const RightsOfKind kRightsOfKinds[] = {
     {calendar::kCalendar, {{6, 9, 2}, {6, 9, 4}}},
 };
 
-class RightsOfCollection : public CollectionTest
+class RightsOfCollection : public CollectionFixture
 {
   protected:
-    RightsOfCollection() : CollectionTest(contacts::kContacts)
+    RightsOfCollection() : CollectionFixture(contacts::kContacts)
     {
         *Items = {Contact(L"Li"), Contact(L"Ode")};
         *Rows = {{{L"F_SURNAME", L"Li"}, {L"F_GIVENNAME", L""}, {L"ACC_SNAME", L""}},

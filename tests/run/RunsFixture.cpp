@@ -78,19 +78,9 @@ long Confirmations(const Outcome& outcome)
 
 RunsFixture::RunsFixture()
 {
-    state::SharedState& shared = state::Shared();
-    shared.gDTC = TheHost.Dtc();
-    shared.gCnnString = TheHost.ConnectionString();
-    shared.gOlApplication = sandbox::MakeOutlook(Mailbox);
-    shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
-    shared.gFontName = L"Arial";
-    shared.gFontSize = 8;
+    state::Shared().gFontName = L"Arial";
+    state::Shared().gFontSize = 8;
     Display.Ask = run::ShowConfirmation;
-}
-
-RunsFixture::~RunsFixture()
-{
-    state::Shared() = {};
 }
 
 Outcome RunsFixture::Run(const RunKind& kind, Answer answer)

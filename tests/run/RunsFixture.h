@@ -1,16 +1,9 @@
-// Fixture of the run procedures: the fake host and an empty mailbox as a run finds them,
-// and whole runs whose dialogs a robot answers.
+// Fixture of the run procedures: an office, and whole runs whose dialogs a robot answers.
 #pragma once
 
 #include "automation/Dates.h"
 #include "run/Runs.h"
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
-#include "tests/support/RecordingDisplay.h"
-#include "tests/support/WithLanguage.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/OfficeFixture.h"
 
 #include <array>
 #include <functional>
@@ -54,11 +47,10 @@ struct Outcome
 // How often a run asked for the confirmation.
 long Confirmations(const Outcome& outcome);
 
-class RunsFixture : public testing::Test
+class RunsFixture : public OfficeFixture
 {
   protected:
     RunsFixture();
-    ~RunsFixture() override;
 
     // One run with the parameters as they are now; every dialog that it shows gets the answer.
     Outcome Run(const RunKind& kind, Answer answer = Answer::Accept);
@@ -71,14 +63,6 @@ class RunsFixture : public testing::Test
 
     long CountRows(const RunKind& kind);
     long CountItems(const RunKind& kind) { return Mailbox->ItemCount(kind.folder); }
-
-    sandbox::AdoInProcess Ado;
-    sandbox::Host TheHost;
-    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
-    RecordingDisplay Display;
-
-  private:
-    WithLanguage mEnglish{resources::Language::English};
 };
 
 } // namespace test_support

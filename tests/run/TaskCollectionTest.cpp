@@ -1,6 +1,6 @@
 // Change collection of tasks: the pending-only choice, and the whole against the plain nested walk.
 #include "tasks/Tasks.h"
-#include "tests/run/CollectionTest.h"
+#include "tests/run/CollectionFixture.h"
 
 #include "state/SharedState.h"
 #include "tests/support/CallWatch.h"
@@ -37,10 +37,10 @@ Record TaskRow(Value name, Value completed = Value::Null())
             {L"F_ACTCOMPLETED", std::move(completed)}};
 }
 
-class TaskCollection : public CollectionTest
+class TaskCollection : public CollectionFixture
 {
   protected:
-    TaskCollection() : CollectionTest(tasks::kTasks) {}
+    TaskCollection() : CollectionFixture(tasks::kTasks) {}
 
     void TakePendingTasksOnly() { Shared().gSynParameter.TaskTransItem = state::kPendingTasks; }
 };

@@ -1,7 +1,7 @@
 #include "sandbox/host/FieldRows.h"
 #include "sandbox/host/HostStatements.h"
 #include "sandbox/host/RelationRows.h"
-#include "tests/sandbox_host/HostTest.h"
+#include "tests/sandbox_host/HostFixture.h"
 
 #include <algorithm>
 #include <set>
@@ -31,7 +31,7 @@ ColumnType TypeOf(FieldRule rule)
     }
 }
 
-class HostCatalogue : public HostTest
+class HostCatalogue : public HostFixture
 {
   protected:
     std::set<std::wstring> PropertiesOf(const std::wstring& table)

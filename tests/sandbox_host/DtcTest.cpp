@@ -2,7 +2,7 @@
 #include "automation/Error.h"
 #include "sandbox/database/DatabaseFile.h"
 #include "sandbox/dispatch/DispatchObject.h"
-#include "tests/sandbox_host/HostTest.h"
+#include "tests/sandbox_host/HostFixture.h"
 #include "tests/support/LeakCheck.h"
 
 #include <set>
@@ -16,7 +16,7 @@ using sandbox::Host;
 
 const LeakCheck kObjects("fake objects", sandbox::LiveObjects);
 
-class HostObject : public HostTest
+class HostObject : public HostFixture
 {
   protected:
     long PermissionOn(long module, long function, long right)

@@ -1,6 +1,6 @@
 #include "sandbox/host/RecordSources.h"
 #include "automation/Dates.h"
-#include "tests/sandbox_host/HostTest.h"
+#include "tests/sandbox_host/HostFixture.h"
 
 namespace
 {
@@ -11,7 +11,7 @@ using automation::Formatted;
 using sandbox::Refusal;
 using Texts = std::vector<std::wstring>;
 
-class RecordSources : public HostTest
+class RecordSources : public HostFixture
 {
   protected:
     void AddContact(const std::wstring& id, const std::wstring& creator, const std::wstring& names)

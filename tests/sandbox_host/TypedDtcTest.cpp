@@ -1,5 +1,5 @@
 #include "automation/Error.h"
-#include "tests/sandbox_host/HostTest.h"
+#include "tests/sandbox_host/HostFixture.h"
 
 #include <oleauto.h>
 
@@ -9,7 +9,7 @@ namespace
 using namespace test_support;
 
 // The data-access object as a host written in Visual Basic has it.
-class TypedHostObject : public HostTest
+class TypedHostObject : public HostFixture
 {
   protected:
     Object mDtc = mHost.TypedDtc();

@@ -1,6 +1,6 @@
 #include "automation/Error.h"
 #include "sandbox/host/HostStatements.h"
-#include "tests/sandbox_host/HostTest.h"
+#include "tests/sandbox_host/HostFixture.h"
 
 namespace
 {
@@ -8,11 +8,11 @@ namespace
 using namespace test_support;
 using sandbox::Refusal;
 
-class HostWrites : public HostTest
+class HostWrites : public HostFixture
 {
 };
 
-class RefusedInsert : public HostTest,
+class RefusedInsert : public HostFixture,
                       public testing::WithParamInterface<std::tuple<const wchar_t*, const wchar_t*, Refusal>>
 {
 };

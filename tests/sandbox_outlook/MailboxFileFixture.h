@@ -1,7 +1,7 @@
 // A mailbox file of its own for each test, with folders under a Chinese store name.
 #pragma once
 
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 #include "sandbox/database/Connection.h"
 

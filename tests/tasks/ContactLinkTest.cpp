@@ -4,7 +4,7 @@
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
 #include "tests/support/CallWatch.h"
-#include "tests/tasks/TaskTest.h"
+#include "tests/tasks/TaskFixture.h"
 
 namespace
 {
@@ -15,7 +15,7 @@ using test_support::CallWatch;
 using test_support::kContacts;
 using test_support::kTasks;
 
-class ContactLink : public test_support::TaskTest
+class ContactLink : public test_support::TaskFixture
 {
   protected:
     ContactLink() { Relate({{L"F_ACTNAME", L"Subject"}, {L"CONTACT_SURNAME", L"ContactNames"}}); }

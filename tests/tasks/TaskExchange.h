@@ -3,41 +3,20 @@
 
 #include "data/Host.h"
 #include "run/ChangeCollection.h"
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
 #include "tasks/Tasks.h"
-#include "tests/support/RecordingDisplay.h"
-#include "tests/tasks/TaskTest.h"
+#include "tests/support/OfficeFixture.h"
+#include "tests/tasks/TaskFixture.h"
 
 namespace test_support
 {
 
-class TaskExchange : public testing::Test
+class TaskExchange : public OfficeFixture
 {
   protected:
     TaskExchange()
     {
-        state::Shared().gDTC = mHost.Dtc();
-        state::Shared().gCnnString = mHost.ConnectionString();
-        UseNewMailbox();
         state::Shared().gCalendarPreviewAlarmTime = 20;
         SetRule(state::kIgnoreAllConflicting);
-    }
-
-    ~TaskExchange() override
-    {
-        state::Shared().gDTC = {};
-        state::Shared().gOlNamespace = {};
-        state::Shared().gCnnString.clear();
-        state::Shared().gSynParameter = {};
-    }
-
-    void UseNewMailbox()
-    {
-        mMailbox = sandbox::MakeMailbox();
-        state::Shared().gOlNamespace = sandbox::MakeOutlook(mMailbox).GetObject(L"GetNamespace", L"MAPI");
     }
 
     static void SetRule(state::ConflictOption rule)
@@ -48,20 +27,20 @@ class TaskExchange : public testing::Test
     // columns and values after the keys of a host task.
     void AddHostTask(const std::wstring& columns, const std::wstring& values)
     {
-        mHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_CREATORID,F_ACTPRIORITY," +
-                                 columns + L") SELECT 'ACT' || (COUNT(*)+1),1,1,2," + values +
-                                 L" FROM TBLACTIVITY");
+        TheHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_CREATORID,F_ACTPRIORITY," +
+                                   columns + L") SELECT 'ACT' || (COUNT(*)+1),1,1,2," + values +
+                                   L" FROM TBLACTIVITY");
     }
 
     void AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const
     {
-        mMailbox->AddItem(kTasks, properties);
+        Mailbox->AddItem(kTasks, properties);
     }
 
     exchange::Run NewRun()
     {
         const automation::Object folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
-        exchange::Run run{.Display = mDisplay, .Folder = folder, .Items = folder.GetObject(L"Items")};
+        exchange::Run run{.Display = Display, .Folder = folder, .Items = folder.GetObject(L"Items")};
         EXPECT_LE(0, data::Host().OpenRecordset(run.HostRows, L"ActivityMyActivity"));
         return run;
     }
@@ -85,20 +64,15 @@ class TaskExchange : public testing::Test
 
     std::wstring HostValue(const std::wstring& sql)
     {
-        return automation::TextOrEmpty(mHost.Database().QueryValue(sql));
+        return automation::TextOrEmpty(TheHost.Database().QueryValue(sql));
     }
 
     std::wstring Count(const std::wstring& table) { return HostValue(L"SELECT COUNT(*) FROM " + table); }
 
     automation::Value TaskProperty(long position, const wchar_t* name) const
     {
-        return mMailbox->ItemProperty(kTasks, position, name);
+        return Mailbox->ItemProperty(kTasks, position, name);
     }
-
-    sandbox::AdoInProcess mAdo;
-    sandbox::Host mHost;
-    sandbox::MailboxRef mMailbox;
-    RecordingDisplay mDisplay;
 };
 
 } // namespace test_support

@@ -20,13 +20,13 @@ using test_support::WithLanguage;
 
 TEST_F(TaskExchange, HostTasksThatWentToOutlookMatchOnTheNextRun)
 {
-    mHost.Database().Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_ACCSNAME) VALUES ('A1','O''Brien & Co')");
+    TheHost.Database().Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_ACCSNAME) VALUES ('A1','O''Brien & Co')");
     AddHostTask(L"F_ACTNAME,F_ACTTYPE,F_ACTPSTIME,F_ACCID", L"'Call','Phone','2003-05-06 09:30:45','A1'");
     AddHostTask(L"F_ACTNAME,F_ACTTYPE,F_ACTPSTIME", L"' 电话 ',NULL,NULL");
     AddHostTask(L"F_ACTNAME,F_ACTTYPE,F_ACTSTATUS,F_ACTCTIME,F_ACTPSTIME,F_ACTPETIME",
                 L"'Done','(Unspecified)',2,'2003-05-07','2003-05-06','2003-05-05'");
     EXPECT_EQ(3, ExchangeToOutlook());
-    EXPECT_EQ(3, mMailbox->ItemCount(kTasks));
+    EXPECT_EQ(3, Mailbox->ItemCount(kTasks));
     EXPECT_EQ(0, ExchangeToOutlook());
     EXPECT_EQ(0, ExchangeFromOutlook());
 }
@@ -52,9 +52,9 @@ TEST_F(TaskExchange, OutlookTasksThatWentToTheHostMatchOnTheNextRun)
 
 TEST_F(TaskExchange, AnOutlookTaskArrivesWithItsValuesItsContactAndItsAccount)
 {
-    mHost.Database().Execute(
+    TheHost.Database().Execute(
         L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES ('C1',1,'张','伟')");
-    mHost.Database().Execute(
+    TheHost.Database().Execute(
         L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Quenlar')");
     AddOutlookTask({{L"Subject", L"Call O'Brien"},
                     {L"Categories", L"Phone"},
@@ -86,9 +86,9 @@ TEST_F(TaskExchange, AHostTaskComesBackAsItWent)
         L"||'|'||F_ACTSTATUS||'|'||F_ACTCOMPLETED||'|'||F_ACTPRIORITY||'|'||F_ACTTOTALWORK||'|'||F_"
         L"ACTACTUALWORK"
         L"||'|'||F_ACTREMIND||'|'||F_CNTCTID||'|'||F_ACCID FROM TBLACTIVITY";
-    mHost.Database().Execute(
+    TheHost.Database().Execute(
         L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES ('C1',1,'张','伟')");
-    mHost.Database().Execute(
+    TheHost.Database().Execute(
         L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Quenlar')");
     AddHostTask(
         L"F_ACTNAME,F_ACTTYPE,F_ACTPSTIME,F_ACTPETIME,F_ACTCTIME,F_ACTPERCENT,F_ACTSTATUS,F_ACTCOMPLETED,"
@@ -97,8 +97,8 @@ TEST_F(TaskExchange, AHostTaskComesBackAsItWent)
         L"'C1','A1'");
     const std::wstring before = HostValue(row);
     EXPECT_EQ(1, ExchangeToOutlook());
-    EXPECT_EQ(1, mMailbox->ItemCount(kContacts));
-    mHost.Database().Execute(
+    EXPECT_EQ(1, Mailbox->ItemCount(kContacts));
+    TheHost.Database().Execute(
         L"UPDATE TBLACTIVITY SET F_ACTPETIME=NULL,F_ACTCTIME=NULL,F_ACTPERCENT=0,F_ACTSTATUS=0,"
         L"F_ACTCOMPLETED=0,F_ACTPRIORITY=1,F_ACTTOTALWORK=0,F_ACTACTUALWORK=0,F_ACTREMIND=0,"
         L"F_CNTCTID=NULL");
@@ -119,10 +119,10 @@ TEST_F(TaskExchange, ATaskThatTheHostRefusesTakesItsNewAccountWithItAndTheNextOn
 {
     AddOutlookTask({{L"Subject", L"One"}, {L"Companies", L"Quenlar"}});
     AddOutlookTask({{L"Subject", L"Two"}});
-    const long before = mHost.Failures().CallsOf(L"Insert");
-    mHost.Failures().Order(L"Insert", 3, {-1}); // after the account and its information row
+    const long before = TheHost.Failures().CallsOf(L"Insert");
+    TheHost.Failures().Order(L"Insert", 3, {-1}); // after the account and its information row
     EXPECT_EQ(2, ExchangeFromOutlook());
-    EXPECT_EQ(4, mHost.Failures().CallsOf(L"Insert") - before);
+    EXPECT_EQ(4, TheHost.Failures().CallsOf(L"Insert") - before);
     EXPECT_EQ(L"0", Count(L"TBLACCOUNT"));
     EXPECT_EQ(L"0", Count(L"TBLACCINFO"));
     EXPECT_EQ(L"Two", HostValue(L"SELECT F_ACTNAME FROM TBLACTIVITY"));
@@ -133,7 +133,7 @@ TEST_F(TaskExchange, AnErrorThatTheHostRaisesIsTheFailureOfOneTask)
 {
     AddOutlookTask({{L"Subject", L"One"}});
     AddOutlookTask({{L"Subject", L"Two"}});
-    mHost.Failures().Order(L"Insert", 1, {std::nullopt});
+    TheHost.Failures().Order(L"Insert", 1, {std::nullopt});
     EXPECT_EQ(2, ExchangeFromOutlook());
     EXPECT_EQ(L"1", Count(L"TBLACTIVITY"));
     EXPECT_FALSE(data::Host().InTransaction());
@@ -159,25 +159,25 @@ TEST_F(TaskExchange, ACompanyWithAnApostropheIsExchangedLikeAnyOther)
     EXPECT_EQ(L"O'Brien", HostValue(L"SELECT group_concat(F_ACCSNAME) FROM TBLACCOUNT"));
     EXPECT_EQ(L"2", HostValue(L"SELECT COUNT(*) FROM TBLACTIVITY WHERE F_ACCID=(SELECT F_ACCID FROM "
                               L"TBLACCOUNT)"));
-    EXPECT_EQ(L"", mHost.LastRejection());
+    EXPECT_EQ(L"", TheHost.LastRejection());
 }
 
 TEST_F(TaskExchange, AContactsNameFindsNothingThatItHasMadeUp)
 {
     AddOutlookTask({{L"Subject", L"One"}, {L"ContactNames", L"' UNION SELECT 'C1'',F_ACTNAME=''Two"}});
     EXPECT_EQ(1, ExchangeFromOutlook());
-    EXPECT_EQ(L"", mHost.LastRejection());
+    EXPECT_EQ(L"", TheHost.LastRejection());
     EXPECT_EQ(L"One", HostValue(L"SELECT F_ACTNAME FROM TBLACTIVITY"));
     EXPECT_EQ(L"1", Count(L"TBLACTIVITY WHERE F_CNTCTID IS NULL"));
 }
 
 TEST_F(TaskExchange, WithoutRightsToAccountsAndContactsATaskIsWrittenWithoutLinks)
 {
-    mHost.Database().Execute(
+    TheHost.Database().Execute(
         L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES ('C1',1,'张','伟')");
-    mHost.SetRight(1, 2, 2, 1);
-    mHost.SetRight(1, 2, 4, 2);
-    mHost.SetRight(2, 2, 4, 1);
+    TheHost.SetRight(1, 2, 2, 1);
+    TheHost.SetRight(1, 2, 4, 2);
+    TheHost.SetRight(2, 2, 4, 1);
     AddOutlookTask({{L"Subject", L"One"}, {L"ContactNames", L"张伟"}, {L"Companies", L"Quenlar"}});
     EXPECT_TRUE(MessagesDuring([&] { EXPECT_EQ(1, ExchangeFromOutlook()); }).empty());
     EXPECT_EQ(L"1",
@@ -201,17 +201,17 @@ TEST_F(TaskExchange, OnlyPendingTasksTravelWhenOnlyThoseAreAskedFor)
 
 TEST_F(TaskExchange, ADoubleQuoteInAContactsNameLeavesNothingOpenOnEitherSide)
 {
-    mHost.Database().Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES "
-                             L"('C1',1,'Zh\"ang','Wei')");
+    TheHost.Database().Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES "
+                               L"('C1',1,'Zh\"ang','Wei')");
     AddHostTask(L"F_ACTNAME,F_CNTCTID", L"'One','C1'");
     AddHostTask(L"F_ACTNAME", L"'Two'");
     exchange::Run run = NewRun();
     EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectToOutlook());
     EXPECT_TRUE(tasks::kTasks.ToOutlook(run));
-    EXPECT_EQ(1, mMailbox->ItemCount(kTasks));
-    EXPECT_EQ(0, mMailbox->ItemCount(kContacts));
+    EXPECT_EQ(1, Mailbox->ItemCount(kTasks));
+    EXPECT_EQ(0, Mailbox->ItemCount(kContacts));
     EXPECT_FALSE(data::Host().InTransaction());
-    mHost.Database().Execute(L"UPDATE TBLCONTACT SET F_SURNAME='Zhang'");
+    TheHost.Database().Execute(L"UPDATE TBLCONTACT SET F_SURNAME='Zhang'");
     EXPECT_EQ(1, ExchangeToOutlook()); // the next run goes on where this one ended
-    EXPECT_EQ(2, mMailbox->ItemCount(kTasks));
+    EXPECT_EQ(2, Mailbox->ItemCount(kTasks));
 }

@@ -42,18 +42,18 @@ TEST_F(TaskFailure, FromOutlookEachTaskIsWrittenWholeOrNotAtAllAndTheNextRunConv
         SCOPED_TRACE(++k);
         for (const wchar_t* table : {L"TBLACTIVITY", L"TBLACCOUNT", L"TBLACCINFO"})
         {
-            mHost.Database().Execute(std::wstring(L"DELETE FROM ") + table);
+            TheHost.Database().Execute(std::wstring(L"DELETE FROM ") + table);
         }
         exchange::Run run = NewRun();
         run.Pending.NewOutlookItems.Add(L"1", 0);
         run.Pending.NewOutlookItems.Add(L"2", 0);
         MessagesDuring([&] { failed = WithFailureAt(k, [&] { tasks::kTasks.FromOutlook(run); }); });
-        EXPECT_FALSE(mHost.Database().InTransaction());
+        EXPECT_FALSE(TheHost.Database().InTransaction());
         EXPECT_EQ(Count(L"TBLACCOUNT"), Count(L"TBLACCINFO"));
         EXPECT_EQ(L"0",
                   Count(L"TBLACCOUNT WHERE F_ACCID NOT IN (SELECT F_ACCID FROM TBLACTIVITY WHERE F_ACCID "
                         L"IS NOT NULL)"));
-        EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
+        EXPECT_EQ(L"(hidden)", Display.Events.back());
         ExchangeFromOutlook();
         EXPECT_EQ(L"2", Count(L"TBLACTIVITY"));
         EXPECT_EQ(L"2", Count(L"TBLACCOUNT"));
@@ -64,7 +64,7 @@ TEST_F(TaskFailure, FromOutlookEachTaskIsWrittenWholeOrNotAtAllAndTheNextRunConv
 
 TEST_F(TaskFailure, TowardsOutlookAPassThatDoesNotReportAFailureHasWrittenEverything)
 {
-    mHost.Database().Execute(
+    TheHost.Database().Execute(
         L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES ('C1',1,'张','伟')");
     AddHostTask(L"F_ACTNAME,F_CNTCTID,F_ACTREMIND,F_ACTPSTIME", L"'One','C1',1,'2003-05-06 09:30:00'");
     AddHostTask(L"F_ACTNAME,F_ACTSTATUS,F_ACTCTIME,F_ACTCOMPLETED", L"'Two',2,'2003-05-07',1");
@@ -78,10 +78,10 @@ TEST_F(TaskFailure, TowardsOutlookAPassThatDoesNotReportAFailureHasWrittenEveryt
         run.Pending.NewHostRecords.Add(2L, 0);
         bool reported = false;
         failed = WithFailureAt(k, [&] { reported = tasks::kTasks.ToOutlook(run); });
-        EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
+        EXPECT_EQ(L"(hidden)", Display.Events.back());
         if (!reported)
         {
-            ASSERT_EQ(2, mMailbox->ItemCount(test_support::kTasks));
+            ASSERT_EQ(2, Mailbox->ItemCount(test_support::kTasks));
             EXPECT_EQ(L"张伟", automation::TextOf(TaskProperty(1, L"ContactNames")));
             EXPECT_EQ(2, automation::LongOf(TaskProperty(2, L"Status")));
             EXPECT_EQ(0, ExchangeToOutlook());

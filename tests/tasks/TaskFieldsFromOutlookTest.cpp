@@ -2,7 +2,7 @@
 #include "data/RecordMode.h"
 #include "tasks/Tasks.h"
 #include "tests/support/WithLanguage.h"
-#include "tests/tasks/TaskTest.h"
+#include "tests/tasks/TaskFixture.h"
 
 namespace
 {
@@ -13,7 +13,7 @@ using resources::Language;
 using test_support::Day;
 using test_support::WithLanguage;
 
-class TaskFieldsFromOutlook : public test_support::TaskTest
+class TaskFieldsFromOutlook : public test_support::TaskFixture
 {
   protected:
     // The literal that the task's property becomes in the host.

@@ -3,7 +3,7 @@
 #include "tasks/Tasks.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
-#include "tests/tasks/TaskTest.h"
+#include "tests/tasks/TaskFixture.h"
 #include "ui/ShowError.h"
 
 namespace
@@ -25,7 +25,7 @@ const FakeHost::Right kModifyContacts{2, 2, 4};
 const FakeHost::Right kModifyAccounts{1, 2, 4};
 const FakeHost::Right kAddAccounts{1, 2, 2};
 
-class TaskLinks : public test_support::TaskTest
+class TaskLinks : public test_support::TaskFixture
 {
   protected:
     std::wstring InsertedContact()

@@ -1,13 +1,13 @@
 // Numbers of the host that Outlook does not have.
 #include "tasks/Tasks.h"
-#include "tests/tasks/TaskTest.h"
+#include "tests/tasks/TaskFixture.h"
 
 namespace
 {
 
 using automation::Object;
 
-class TaskNumbersToOutlook : public test_support::TaskTest
+class TaskNumbersToOutlook : public test_support::TaskFixture
 {
 };
 

@@ -4,7 +4,7 @@
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/OpenedRecordsets.h"
 #include "tests/support/WithLanguage.h"
-#include "tests/tasks/TaskTest.h"
+#include "tests/tasks/TaskFixture.h"
 
 namespace
 {
@@ -15,7 +15,7 @@ using test_support::ShownMessage;
 using test_support::WithLanguage;
 using Calls = std::vector<std::wstring>;
 
-class TasksFromOutlook : public test_support::TaskTest
+class TasksFromOutlook : public test_support::TaskFixture
 {
   protected:
     // A run that inserts the folder's tasks.

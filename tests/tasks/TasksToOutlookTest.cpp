@@ -6,7 +6,7 @@
 #include "state/SharedState.h"
 #include "tests/support/CallWatch.h"
 #include "tests/support/WithLanguage.h"
-#include "tests/tasks/TaskTest.h"
+#include "tests/tasks/TaskFixture.h"
 
 namespace
 {
@@ -21,7 +21,7 @@ using resources::Language;
 using test_support::CallWatch;
 using test_support::Day;
 
-class TasksToOutlook : public test_support::TaskTest
+class TasksToOutlook : public test_support::TaskFixture
 {
 };
 

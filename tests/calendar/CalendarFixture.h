@@ -6,7 +6,7 @@
 #include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "state/SharedState.h"
-#include "tests/calendar/AppointmentsTest.h"
+#include "tests/calendar/AppointmentsFixture.h"
 #include "tests/support/DatabaseFile.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/RecordingDisplay.h"
@@ -23,7 +23,7 @@ namespace test_support
 std::wstring TimeOf(const Object& object, const wchar_t* member);
 std::wstring DayOf(const Object& object, const wchar_t* member);
 
-class CalendarTest : public AppointmentsTest
+class CalendarFixture : public AppointmentsFixture
 {
   protected:
     // Column and SQL literal, or host column and Outlook property.
@@ -31,8 +31,8 @@ class CalendarTest : public AppointmentsTest
     // What a column was written with, as its SQL literal.
     using Columns = std::map<std::wstring, std::wstring>;
 
-    CalendarTest();
-    ~CalendarTest() override;
+    CalendarFixture();
+    ~CalendarFixture() override;
 
     void Execute(const std::wstring& sql) const;
     // Makes these the relation rows of the calendar, in this order.

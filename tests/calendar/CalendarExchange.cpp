@@ -1,4 +1,4 @@
-#include "tests/calendar/ExchangeTest.h"
+#include "tests/calendar/CalendarExchange.h"
 #include "calendar/Calendar.h"
 
 #include "run/ChangeCollection.h"
@@ -26,7 +26,7 @@ std::wstring NameOfItem(const exchange::Run& run, const std::wstring& position)
 
 } // namespace
 
-ExchangeTest::ExchangeTest()
+CalendarExchange::CalendarExchange()
 {
     state::SharedState& shared = state::Shared();
     shared.gDTC = mHost.Dtc();
@@ -38,12 +38,12 @@ ExchangeTest::ExchangeTest()
     mHost.SetSysDateTime(Day(2003, 5, 6, 12, 0));
 }
 
-ExchangeTest::~ExchangeTest()
+CalendarExchange::~CalendarExchange()
 {
     state::Shared() = {};
 }
 
-void ExchangeTest::AddEntry(const std::wstring& name, const Pairs& columns)
+void CalendarExchange::AddEntry(const std::wstring& name, const Pairs& columns)
 {
     std::map<std::wstring, std::wstring> entry{
         {L"F_ACTID", L"(SELECT 'ACT' || (COUNT(*) + 1) FROM TBLACTIVITY)"},
@@ -59,15 +59,15 @@ void ExchangeTest::AddEntry(const std::wstring& name, const Pairs& columns)
     mHost.Database().Execute(InsertStatement(L"TBLACTIVITY", entry));
 }
 
-void ExchangeTest::AddRepeatingEntry(const std::wstring& name, long rule, const std::wstring& firstDay,
-                                     const std::wstring& lastDay)
+void CalendarExchange::AddRepeatingEntry(const std::wstring& name, long rule, const std::wstring& firstDay,
+                                         const std::wstring& lastDay)
 {
     AddEntry(name, {{L"F_ACTREPTIDX", std::to_wstring(rule)},
                     {L"F_ACTESDATE", L"'" + firstDay + L" 00:00:00'"},
                     {L"F_ACTREPTEDATE", lastDay.empty() ? L"NULL" : L"'" + lastDay + L" 00:00:00'"}});
 }
 
-exchange::Run ExchangeTest::OpenRun()
+exchange::Run CalendarExchange::OpenRun()
 {
     exchange::Run run{.Display = mDisplay};
     const data::Host host;
@@ -78,7 +78,7 @@ exchange::Run ExchangeTest::OpenRun()
     return run;
 }
 
-void ExchangeTest::Collect(exchange::Run& run, long transType, long conflictOption)
+void CalendarExchange::Collect(exchange::Run& run, long transType, long conflictOption)
 {
     state::Shared().gSynParameter.TransConflictOption = conflictOption;
     run::ChangeCollection collection(calendar::kCalendar, run);
@@ -92,7 +92,7 @@ void ExchangeTest::Collect(exchange::Run& run, long transType, long conflictOpti
     }
 }
 
-ExchangeTest::Proposals ExchangeTest::Propose(long transType, long conflictOption)
+CalendarExchange::Proposals CalendarExchange::Propose(long transType, long conflictOption)
 {
     exchange::Run run = OpenRun();
     Collect(run, transType, conflictOption);
@@ -114,7 +114,7 @@ ExchangeTest::Proposals ExchangeTest::Propose(long transType, long conflictOptio
     return proposals;
 }
 
-void ExchangeTest::Exchange(long transType, long conflictOption)
+void CalendarExchange::Exchange(long transType, long conflictOption)
 {
     exchange::Run run = OpenRun();
     Collect(run, transType, conflictOption);
@@ -130,7 +130,7 @@ void ExchangeTest::Exchange(long transType, long conflictOption)
     automation::CloseRecordset(run.HostRows);
 }
 
-void ExchangeTest::ExpectAllMatched()
+void CalendarExchange::ExpectAllMatched()
 {
     const Proposals proposals = Propose(state::kBothWays, state::kNotifyMe);
     EXPECT_EQ(Names{}, proposals.NewInOutlook);
@@ -139,13 +139,13 @@ void ExchangeTest::ExpectAllMatched()
     EXPECT_EQ(static_cast<size_t>(CountAppointments()), proposals.ChangedInHost.size());
 }
 
-std::wstring ExchangeTest::Stored(const std::wstring& column)
+std::wstring CalendarExchange::Stored(const std::wstring& column)
 {
     return automation::TextOrEmpty(
         mHost.Database().QueryValue(L"SELECT CAST(" + column + L" AS TEXT) FROM TBLACTIVITY"));
 }
 
-long ExchangeTest::CountEntries()
+long CalendarExchange::CountEntries()
 {
     return automation::LongOf(mHost.Database().QueryValue(L"SELECT COUNT(*) FROM TBLACTIVITY"));
 }

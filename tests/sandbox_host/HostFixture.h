@@ -25,7 +25,7 @@ inline constexpr long Refused(sandbox::Refusal refusal)
     return static_cast<long>(refusal);
 }
 
-class HostTest : public testing::Test
+class HostFixture : public testing::Test
 {
   protected:
     sandbox::Host mHost;

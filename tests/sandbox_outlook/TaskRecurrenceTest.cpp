@@ -1,10 +1,10 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 namespace sandbox
 {
 
 // A task due each week on Tuesday, from 2003-05-06.
-class RecurringTask : public OutlookTest
+class RecurringTask : public OutlookFixture
 {
   protected:
     RecurringTask()

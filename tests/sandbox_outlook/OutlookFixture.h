@@ -45,7 +45,7 @@ std::wstring FailureOf(Body&& body)
     return {};
 }
 
-class OutlookTest : public testing::Test
+class OutlookFixture : public testing::Test
 {
   protected:
     automation::Object Folder(long number) const

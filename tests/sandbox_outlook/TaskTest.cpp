@@ -1,9 +1,9 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 namespace sandbox
 {
 
-class TaskItem : public OutlookTest
+class TaskItem : public OutlookFixture
 {
   protected:
     // Status, completion and percentage in one text, and whether there is a completion date.

@@ -28,11 +28,11 @@ class RandomData
     std::mt19937 mEngine{20031};
 };
 
-class CollectionTest : public testing::Test
+class CollectionFixture : public testing::Test
 {
   protected:
-    explicit CollectionTest(const exchange::Kind& category);
-    ~CollectionTest() override;
+    explicit CollectionFixture(const exchange::Kind& category);
+    ~CollectionFixture() override;
 
     // Collects by a conflict rule and direction (1 from Outlook, 2 to Outlook, 3 both): what was proposed, as
     // "newRow2/0 changedItem1/1 ...": position and mark; "failed" when it failed.

@@ -1,9 +1,9 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 namespace sandbox
 {
 
-using Items = OutlookTest;
+using Items = OutlookFixture;
 
 TEST_F(Items, ANewItemIsInTheFolderAfterSaveAtTheEnd)
 {

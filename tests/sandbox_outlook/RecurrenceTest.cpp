@@ -1,4 +1,4 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 #include "sandbox/outlook/Recurrence.h"
 

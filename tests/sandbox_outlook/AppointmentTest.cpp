@@ -1,9 +1,9 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 namespace sandbox
 {
 
-class AppointmentItem : public OutlookTest
+class AppointmentItem : public OutlookFixture
 {
   protected:
     std::wstring Bounds() const

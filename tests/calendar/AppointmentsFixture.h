@@ -1,7 +1,7 @@
 // Appointments in the mailbox of the fake Outlook, for the tests of the calendar.
 #pragma once
 
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 #include <string>
 
@@ -16,7 +16,7 @@ using sandbox::Number;
 using sandbox::Text;
 using sandbox::Truth;
 
-class AppointmentsTest : public sandbox::OutlookTest
+class AppointmentsFixture : public sandbox::OutlookFixture
 {
   protected:
     // A saved appointment in the calendar folder with these bounds.

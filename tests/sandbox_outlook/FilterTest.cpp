@@ -1,9 +1,9 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 namespace sandbox
 {
 
-class Filter : public OutlookTest
+class Filter : public OutlookFixture
 {
   protected:
     Filter()

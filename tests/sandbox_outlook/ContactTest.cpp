@@ -1,11 +1,11 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 #include "tests/support/Fakes.h"
 
 namespace sandbox
 {
 
-using ContactItem = OutlookTest;
+using ContactItem = OutlookFixture;
 
 TEST_F(ContactItem, ATextIsKeptAsAssignedAndEmptyClearsIt)
 {

@@ -1,4 +1,4 @@
-#include "tests/calendar/CalendarTest.h"
+#include "tests/calendar/CalendarFixture.h"
 
 #include "calendar/Calendar.h"
 #include "tests/support/InsertStatement.h"
@@ -54,7 +54,7 @@ std::wstring DayOf(const Object& object, const wchar_t* member)
     return automation::Formatted(automation::DateOf(object.Get(member)), L"yyyy-mm-dd");
 }
 
-CalendarTest::CalendarTest()
+CalendarFixture::CalendarFixture()
 {
     state::SharedState& shared = state::Shared();
     shared.gCnnString = mFile.ConnectionString();
@@ -74,7 +74,7 @@ CalendarTest::CalendarTest()
             {L"F_ACTREPEATS", L"IsRecurring"}});
 }
 
-CalendarTest::~CalendarTest()
+CalendarFixture::~CalendarFixture()
 {
     state::SharedState& shared = state::Shared();
     shared.gCnnString.clear();
@@ -84,12 +84,12 @@ CalendarTest::~CalendarTest()
     shared.gCalendarPreviewAlarmTime = 0;
 }
 
-void CalendarTest::Execute(const std::wstring& sql) const
+void CalendarFixture::Execute(const std::wstring& sql) const
 {
     sandbox::Connection(state::Shared().gCnnString).Execute(sql);
 }
 
-void CalendarTest::Relate(const Pairs& rows) const
+void CalendarFixture::Relate(const Pairs& rows) const
 {
     Execute(L"DELETE FROM SynRelation");
     for (const auto& [column, property] : rows)
@@ -98,7 +98,7 @@ void CalendarTest::Relate(const Pairs& rows) const
     }
 }
 
-void CalendarTest::AddEntry(const Pairs& columns) const
+void CalendarFixture::AddEntry(const Pairs& columns) const
 {
     Columns entry{{L"F_ACTID", L"'ACT' || (SELECT COUNT(*) + 1 FROM Entries)"},
                   {L"F_ACTNAME", L"'Meeting'"},
@@ -113,7 +113,7 @@ void CalendarTest::AddEntry(const Pairs& columns) const
     Execute(InsertStatement(L"Entries", entry));
 }
 
-exchange::Run CalendarTest::NewRun()
+exchange::Run CalendarFixture::NewRun()
 {
     exchange::Run run{.Display = mDisplay};
     run.HostRows = automation::OpenRecordset(L"SELECT * FROM Entries", state::Shared().gCnnString,
@@ -123,7 +123,7 @@ exchange::Run CalendarTest::NewRun()
     return run;
 }
 
-Object CalendarTest::WriteNewAppointment()
+Object CalendarFixture::WriteNewAppointment()
 {
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
@@ -131,7 +131,7 @@ Object CalendarTest::WriteNewAppointment()
     return AppointmentAt(CountAppointments());
 }
 
-Object CalendarTest::WriteExistingAppointment()
+Object CalendarFixture::WriteExistingAppointment()
 {
     exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 1);
@@ -140,7 +140,7 @@ Object CalendarTest::WriteExistingAppointment()
     return AppointmentAt(1);
 }
 
-bool CalendarTest::WriteAllEntries()
+bool CalendarFixture::WriteAllEntries()
 {
     exchange::Run run = NewRun();
     const long count = run.HostRows.RecordCount();
@@ -151,7 +151,7 @@ bool CalendarTest::WriteAllEntries()
     return calendar::SynCalendarToOutlook(run);
 }
 
-CalendarTest::Columns CalendarTest::InsertFirstAppointment()
+CalendarFixture::Columns CalendarFixture::InsertFirstAppointment()
 {
     exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
@@ -159,7 +159,7 @@ CalendarTest::Columns CalendarTest::InsertFirstAppointment()
     return Written();
 }
 
-CalendarTest::Columns CalendarTest::UpdateFirstAppointment()
+CalendarFixture::Columns CalendarFixture::UpdateFirstAppointment()
 {
     exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 0);
@@ -168,7 +168,7 @@ CalendarTest::Columns CalendarTest::UpdateFirstAppointment()
     return Written();
 }
 
-CalendarTest::Columns CalendarTest::Written() const
+CalendarFixture::Columns CalendarFixture::Written() const
 {
     const auto isWrite = [](const std::wstring& call) {
         return call.starts_with(L"Insert(TBLACTIVITY") || call.starts_with(L"Update(TBLACTIVITY");

@@ -1,9 +1,9 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 namespace sandbox
 {
 
-using Folders = OutlookTest;
+using Folders = OutlookFixture;
 
 constexpr const wchar_t* kNotFound = L"The attempted operation failed. An object could not be found.";
 

@@ -6,7 +6,7 @@
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "state/SynParameter.h"
-#include "tests/calendar/AppointmentsTest.h"
+#include "tests/calendar/AppointmentsFixture.h"
 #include "tests/support/RecordingDisplay.h"
 
 #include <set>
@@ -17,7 +17,7 @@
 namespace test_support
 {
 
-class ExchangeTest : public AppointmentsTest
+class CalendarExchange : public AppointmentsFixture
 {
   protected:
     // Column and SQL literal.
@@ -34,8 +34,8 @@ class ExchangeTest : public AppointmentsTest
     };
 
     // The host's clock shows noon of Tuesday 2003-05-06; all entries are exchanged.
-    ExchangeTest();
-    ~ExchangeTest() override;
+    CalendarExchange();
+    ~CalendarExchange() override;
 
     // Adds a host entry of the signed-in user on 2003-05-06, 09:30 to 11:00; the pairs overwrite or add.
     void AddEntry(const std::wstring& name, const Pairs& columns = {});

@@ -1,11 +1,11 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 #include <oleauto.h>
 
 namespace sandbox
 {
 
-class FolderTable : public OutlookTest
+class FolderTable : public OutlookFixture
 {
   protected:
     FolderTable()

@@ -1,4 +1,4 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 #include "automation/Text.h"
 
@@ -7,7 +7,7 @@
 namespace sandbox
 {
 
-class Awkwardness : public OutlookTest
+class Awkwardness : public OutlookFixture
 {
   protected:
     Awkwardness()

@@ -1,4 +1,4 @@
-#include "tests/sandbox_outlook/RecurrencePatternTest.h"
+#include "tests/sandbox_outlook/RecurrencePatternFixture.h"
 
 namespace sandbox
 {

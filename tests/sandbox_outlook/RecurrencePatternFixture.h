@@ -1,12 +1,12 @@
 // An appointment of an Outlook in process, whose recurrence pattern the tests ask for.
 #pragma once
 
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 namespace sandbox
 {
 
-class RecurrencePattern : public OutlookTest
+class RecurrencePattern : public OutlookFixture
 {
   protected:
     // Tuesday 2003-05-06, 09:30 to 10:30.

@@ -1,4 +1,4 @@
-#include "tests/sandbox_outlook/OutlookTest.h"
+#include "tests/sandbox_outlook/OutlookFixture.h"
 
 #include "automation/Text.h"
 #include "sandbox/outlook/facts/Published.h"
@@ -14,7 +14,7 @@ using outlook::PublishedInterface;
 using outlook::PublishedInterfaces;
 using outlook::PublishedMember;
 
-class PublishedModel : public OutlookTest
+class PublishedModel : public OutlookFixture
 {
   protected:
     // One object of every interface that the fake has, by the interface's name.

@@ -1,11 +1,9 @@
-#include "tests/tasks/TaskTest.h"
+#include "tests/tasks/TaskFixture.h"
 
 #include "data/RecordMode.h"
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
 #include "tests/support/InsertStatement.h"
-
-#include <array>
 
 namespace test_support
 {
@@ -14,15 +12,6 @@ using automation::Object;
 
 namespace
 {
-
-std::wstring NewDatabaseFile()
-{
-    std::array<wchar_t, MAX_PATH + 1> folder{};
-    std::array<wchar_t, MAX_PATH + 1> file{};
-    GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
-    GetTempFileNameW(folder.data(), L"tsk", 0, file.data());
-    return file.data();
-}
 
 constexpr const wchar_t* kTables[] = {
     L"CREATE TABLE SynRelation (QuenlarTblName VARCHAR(50), EnglishName VARCHAR(50), OutlookName "
@@ -41,10 +30,10 @@ constexpr const wchar_t* kTables[] = {
 
 } // namespace
 
-TaskTest::TaskTest() : mPath(NewDatabaseFile())
+TaskFixture::TaskFixture()
 {
     state::SharedState& shared = state::Shared();
-    shared.gCnnString = sandbox::ConnectionStringOf(mPath);
+    shared.gCnnString = mFile.ConnectionString();
     mHost->KeyStem = L"KEY";
     mHost->Unlogged = {L"MyInfo", L"UID", L"NewGuid", L"InTransaction", L"PermissionOn"};
     shared.gOlNamespace = Namespace();
@@ -55,19 +44,18 @@ TaskTest::TaskTest() : mPath(NewDatabaseFile())
     }
 }
 
-TaskTest::~TaskTest()
+TaskFixture::~TaskFixture()
 {
     state::Shared().gCnnString.clear();
     state::Shared().gOlNamespace = {};
-    DeleteFileW(mPath.c_str());
 }
 
-void TaskTest::Execute(const std::wstring& sql) const
+void TaskFixture::Execute(const std::wstring& sql) const
 {
     sandbox::Connection(state::Shared().gCnnString).Execute(sql);
 }
 
-void TaskTest::Relate(const Pairs& rows) const
+void TaskFixture::Relate(const Pairs& rows) const
 {
     Execute(L"DELETE FROM SynRelation");
     for (const auto& [column, property] : rows)
@@ -76,19 +64,19 @@ void TaskTest::Relate(const Pairs& rows) const
     }
 }
 
-void TaskTest::AddHostTask(const Pairs& columns) const
+void TaskFixture::AddHostTask(const Pairs& columns) const
 {
     Pairs task{{L"F_ACTID", L"'ACT' || (SELECT COUNT(*) + 1 FROM Activities)"}};
     task.insert(task.end(), columns.begin(), columns.end());
     Execute(InsertStatement(L"Activities", task));
 }
 
-long TaskTest::AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const
+long TaskFixture::AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const
 {
     return mMailbox->AddItem(kTasks, properties);
 }
 
-exchange::Run TaskTest::NewRun()
+exchange::Run TaskFixture::NewRun()
 {
     const Object folder = Namespace().GetObject(L"GetDefaultFolder", 13L);
     return {.Display = mDisplay,
@@ -98,7 +86,7 @@ exchange::Run TaskTest::NewRun()
             .Items = folder.GetObject(L"Items")};
 }
 
-Object TaskTest::WriteNewTask()
+Object TaskFixture::WriteNewTask()
 {
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
@@ -106,7 +94,7 @@ Object TaskTest::WriteNewTask()
     return TaskAt(CountTasks());
 }
 
-Object TaskTest::WriteExistingTask()
+Object TaskFixture::WriteExistingTask()
 {
     exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 1);
@@ -115,14 +103,14 @@ Object TaskTest::WriteExistingTask()
     return TaskAt(1);
 }
 
-void TaskTest::InsertFirstTask()
+void TaskFixture::InsertFirstTask()
 {
     exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
 }
 
-void TaskTest::UpdateFirstTask()
+void TaskFixture::UpdateFirstTask()
 {
     exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 0);
@@ -130,17 +118,17 @@ void TaskTest::UpdateFirstTask()
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
 }
 
-Object TaskTest::Namespace() const
+Object TaskFixture::Namespace() const
 {
     return mOutlook.GetObject(L"GetNamespace", L"MAPI");
 }
 
-Object TaskTest::TaskAt(long position) const
+Object TaskFixture::TaskAt(long position) const
 {
     return Namespace().GetObject(L"GetDefaultFolder", 13L).GetObject(L"Items").GetObject(L"Item", position);
 }
 
-automation::Value TaskTest::TaskProperty(long position, const wchar_t* name) const
+automation::Value TaskFixture::TaskProperty(long position, const wchar_t* name) const
 {
     return mMailbox->ItemProperty(kTasks, position, name);
 }

@@ -1,4 +1,4 @@
-#include "tests/run/CollectionTest.h"
+#include "tests/run/CollectionFixture.h"
 
 #include "state/SharedState.h"
 #include "tests/nested_walk/NestedWalk.h"
@@ -48,19 +48,19 @@ void Fill(Records& records, RandomData& random, const std::function<Record(Rando
 
 } // namespace
 
-CollectionTest::CollectionTest(const exchange::Kind& category) : mCategory(category)
+CollectionFixture::CollectionFixture(const exchange::Kind& category) : mCategory(category)
 {
     Host->UserId = L"1";
     state::Shared().gSynParameter = {};
 }
 
-CollectionTest::~CollectionTest()
+CollectionFixture::~CollectionFixture()
 {
     state::Shared().gOlNamespace = {};
     state::Shared().gSynParameter = {};
 }
 
-exchange::Run CollectionTest::NewRun()
+exchange::Run CollectionFixture::NewRun()
 {
     exchange::Run run{.Display = Display};
     run.Items = MakeItems(Items);
@@ -68,12 +68,12 @@ exchange::Run CollectionTest::NewRun()
     return run;
 }
 
-std::string CollectionTest::Collect(long rule, long direction)
+std::string CollectionFixture::Collect(long rule, long direction)
 {
     return Collect(NewRun(), rule, direction);
 }
 
-std::string CollectionTest::CollectByTable(long rule, long direction)
+std::string CollectionFixture::CollectByTable(long rule, long direction)
 {
     exchange::Run run = NewRun();
     run.Folder = MakeFolder(Items, mCategory.Match.InTable.MessageClass);
@@ -81,7 +81,7 @@ std::string CollectionTest::CollectByTable(long rule, long direction)
     return Collect(std::move(run), rule, direction);
 }
 
-std::string CollectionTest::Collect(exchange::Run run, long rule, long direction)
+std::string CollectionFixture::Collect(exchange::Run run, long rule, long direction)
 {
     state::Shared().gSynParameter.TransConflictOption = rule;
     state::Shared().gSynParameter.TransType = direction;
@@ -91,7 +91,7 @@ std::string CollectionTest::Collect(exchange::Run run, long rule, long direction
     return failed ? "failed" : Described(run.Pending);
 }
 
-std::string CollectionTest::Walk(long rule, long direction)
+std::string CollectionFixture::Walk(long rule, long direction)
 {
     exchange::Run run = NewRun();
     const bool failed = (direction != 1 && WalkToOutlook(mCategory, run, rule)) ||
@@ -99,7 +99,7 @@ std::string CollectionTest::Walk(long rule, long direction)
     return failed ? "failed" : Described(run.Pending);
 }
 
-long CollectionTest::CompareWithTheNestedWalk(const Rounds& rounds)
+long CollectionFixture::CompareWithTheNestedWalk(const Rounds& rounds)
 {
     RandomData random;
     long proposed = 0;
@@ -117,7 +117,7 @@ long CollectionTest::CompareWithTheNestedWalk(const Rounds& rounds)
     return proposed;
 }
 
-long CollectionTest::CompareAllRulesAndDirections()
+long CollectionFixture::CompareAllRulesAndDirections()
 {
     long proposed = 0;
     for (long rule = 0; rule <= 6; ++rule)

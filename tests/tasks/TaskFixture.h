@@ -2,11 +2,12 @@
 // a mailbox with Outlook's default folders, and a run over both.
 #pragma once
 
-#include "automation/Dates.h"
 #include "exchange/Run.h"
 #include "sandbox/ado/Ado.h"
 #include "sandbox/database/Connection.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/DatabaseFile.h"
+#include "tests/support/Days.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/RecordingDisplay.h"
 
@@ -22,19 +23,14 @@ namespace test_support
 inline constexpr const wchar_t* kTasks = L"Personal Folders\\Tasks";
 inline constexpr const wchar_t* kContacts = L"Personal Folders\\Contacts";
 
-inline automation::Date Day(int year, int month, int day, int hour = 0, int minute = 0, int second = 0)
-{
-    return automation::DateOf(automation::Moment{year, month, day, hour, minute, second});
-}
-
-class TaskTest : public testing::Test
+class TaskFixture : public testing::Test
 {
   protected:
     // Column and literal, or host column and Outlook property.
     using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
 
-    TaskTest();
-    ~TaskTest() override;
+    TaskFixture();
+    ~TaskFixture() override;
 
     void Execute(const std::wstring& sql) const;
     // Makes these the relation rows of tasks, in this order.
@@ -67,7 +63,7 @@ class TaskTest : public testing::Test
 
   private:
     WithFakeHost mHost;
-    std::wstring mPath;
+    DatabaseFile mFile{L"telvix-tasks"};
 };
 
 } // namespace test_support
