@@ -12,11 +12,24 @@ namespace run
 namespace
 {
 
+constexpr ui::CaptionRow kConfirmCaptions[] = {
+    {IDC_MESSAGE_TITLE, IDS_CONFIRM_INSTRUCTION},
+    {IDOK, {L"接受(&A)", L"&Accept"}},
+    {IDCANCEL, {L"取消(&C)", L"&Cancel"}},
+    // The sections' texts for a direction that is neither.
+    {IDC_MESSAGE_TO_OL_TITLE, {L"Quenlar To Outlook", L"Quenlar To Outlook"}},
+    {IDC_MESSAGE_TO_OL_NEW, {L"Add New", L"Add New"}},
+    {IDC_MESSAGE_TO_OL_MODIFY, {L"Modify", L"Modify"}},
+    {IDC_MESSAGE_TO_SYN_TITLE, {L"Outlook To Quenlar", L"Outlook To Quenlar"}},
+    {IDC_MESSAGE_TO_SYN_NEW, {L"Add New", L"Add New"}},
+    {IDC_MESSAGE_TO_SYN_MODIFY, {L"Modify", L"Modify"}},
+};
+
 class FrmMessage : public ui::Dialog
 {
   public:
     FrmMessage(const std::wstring& categoryText, const data::Changes& changes)
-        : Dialog(IDD_MESSAGE), mCategoryText(categoryText), mChanges(changes)
+        : Dialog(IDD_MESSAGE, kConfirmCaptions), mCategoryText(categoryText), mChanges(changes)
     {
     }
 
@@ -32,28 +45,9 @@ class FrmMessage : public ui::Dialog
 
     void OnInit() override
     {
-        LblTitle.SetText(resources::String(IDS_CONFIRM_INSTRUCTION));
         ui::FitLabels(*this, {&LblTitle});
         SetCaption(ConfirmCaption(mCategoryText));
-        cmdAccept.SetText(resources::Choose(L"接受(&A)", L"&Accept"));
-        cmdCancel.SetText(resources::Choose(L"取消(&C)", L"&Cancel"));
-        WriteLayoutCaptions();
         ShowSections(state::Shared().gSynParameter.TransType);
-    }
-
-    // What the sections read for a direction that names neither.
-    void WriteLayoutCaptions()
-    {
-        LblSynToOlTitle.SetText(L"Quenlar To Outlook");
-        LblOlToSynTitle.SetText(L"Outlook To Quenlar");
-        for (ui::Label* const line : {&LblSynToOlNew, &LblOlToSynNew})
-        {
-            line->SetText(L"Add New");
-        }
-        for (ui::Label* const line : {&LblSynToOlModify, &LblOlToSynModify})
-        {
-            line->SetText(L"Modify");
-        }
     }
 
     void ShowSections(long transType)

@@ -39,36 +39,30 @@ constexpr CategoryRow kCategories[] = {
     {exchange::kContactName, &SynchronizeServices::RunContactSync},
 };
 
+constexpr ui::CaptionRow kMainCaptions[] = {
+    {ui::kDialogCaption, {L"同步", L"Synchronization"}},
+    {IDC_SYNC_CONFIGURE, {L"配置(&F)", L"Con&figuare"}},
+    {IDC_SYNC_START, {L"同步(&S)", L"&Synchronization"}},
+    {IDCANCEL, {L"关闭(&C)", L"&Close"}},
+};
+
 class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 {
   public:
     explicit FrmSynchronizeItem(const SynchronizeServices& services)
-        : Dialog(IDD_SYNCHRONIZEITEM), mServices(services)
+        : Dialog(IDD_SYNCHRONIZEITEM, kMainCaptions), mServices(services)
     {
     }
 
   private:
     void OnInit() override
     {
-        state::Trapped(true, [&] {
-            WriteCaptions();
-            FillCategories();
-            return false;
-        });
-    }
-
-    void WriteCaptions()
-    {
-        using resources::Choose;
-        SetCaption(Choose(L"同步", L"Synchronization"));
-        SstbOption.AddTab(Choose(L"同步项", L"Synchronization Item"));
-        CmdConfigure.SetText(Choose(L"配置(&F)", L"Con&figuare"));
-        CmdSynchronize.SetText(Choose(L"同步(&S)", L"&Synchronization"));
-        cmdCancel.SetText(Choose(L"关闭(&C)", L"&Close"));
+        state::Trapped([&] { FillCategories(); });
     }
 
     void FillCategories()
     {
+        SstbOption.AddTab(resources::Choose(L"同步项", L"Synchronization Item"));
         SstbOption.Fill(lvCategory, kListMargin);
         lvCategory.Prepare();
         lvCategory.AddColumn(resources::String(IDS_CATEGORY));
@@ -215,12 +209,10 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 
     ui::TabFrame SstbOption{*this, IDC_SYNC_OPTION};
     ui::ListView lvCategory{*this, IDC_SYNC_CATEGORY};
-    ui::Frame Frame1{*this, IDC_SYNC_FRAME};
     ui::Label lblState{*this, IDC_SYNC_STATE};
     ui::ProgressBar prgbarSyn{*this, IDC_SYNC_PROGRESS};
     ui::Button CmdSynchronize{*this, IDC_SYNC_START};
     ui::Button CmdConfigure{*this, IDC_SYNC_CONFIGURE};
-    ui::Button cmdCancel{*this, IDCANCEL};
 
     const SynchronizeServices& mServices;
     std::optional<int> mCurrentCategory; // the row last clicked

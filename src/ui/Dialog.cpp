@@ -227,9 +227,9 @@ void Dialog::RunHandler(Handler&& handler)
     }
 }
 
-void Dialog::WriteCaptions()
+void Dialog::WriteCaptions(std::span<const CaptionRow> captions)
 {
-    for (const CaptionRow& row : mCaptions)
+    for (const CaptionRow& row : captions)
     {
         const HWND window = row.ControlId == kDialogCaption ? mWindow : GetDlgItem(mWindow, row.ControlId);
         SetWindowTextW(window, row.Text.Text().c_str());
@@ -240,7 +240,7 @@ INT_PTR Dialog::HandleInit()
 {
     SetIcons();
     RunHandler([&] {
-        WriteCaptions();
+        WriteCaptions(mCaptions);
         OnInit();
     });
     CenterOverActiveBefore();

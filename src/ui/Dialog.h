@@ -61,6 +61,9 @@ class Dialog
     void KeepPainted();
 
   protected:
+    // Writes further captions.
+    void WriteCaptions(std::span<const CaptionRow> captions);
+
     // The window and its controls exist, nothing is shown yet.
     virtual void OnInit() {}
     // A control's notification (BN_CLICKED, ...), or a command of the keyboard (IDOK, IDCANCEL).
@@ -84,7 +87,6 @@ class Dialog
     void RunHandler(Handler&& handler);
     INT_PTR HandleInit();
     void SetIcons();
-    void WriteCaptions();
     INT_PTR HandleOrder(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR HandleNotify(LPARAM parameter);
     INT_PTR HandleNotify(const NMHDR& notification);

@@ -14,10 +14,6 @@ constexpr int kTaskRangeCount = 2;
 
 constexpr ui::CaptionRow kTaskOptionCaptions[] = {
     {ui::kDialogCaption, {L"任务高级设置", L"Advanced Settings for Activities"}},
-    {IDC_ADV_CONFLICT_EXPLANATION, IDS_CONFLICT_EXPLANATION},
-    {IDC_ADV_CONFLICT_FRAME, IDS_OPTIONS},
-    {IDOK, IDS_OK},
-    {IDCANCEL, IDS_CANCEL},
     {IDC_ADV_RANGE_EXPLANATION, IDS_RANGE_EXPLANATION},
     {IDC_ADV_RANGE_FRAME, IDS_OPTIONS},
 };

@@ -26,10 +26,6 @@ short DaysOf(Code days)
 
 constexpr ui::CaptionRow kCalendarOptionCaptions[] = {
     {ui::kDialogCaption, {L"日历高级设置", L"Advanced Settings for Calendar"}},
-    {IDC_ADV_CONFLICT_EXPLANATION, IDS_CONFLICT_EXPLANATION},
-    {IDC_ADV_CONFLICT_FRAME, IDS_OPTIONS},
-    {IDOK, IDS_OK},
-    {IDCANCEL, IDS_CANCEL},
     {IDC_ADV_RANGE_EXPLANATION, IDS_RANGE_EXPLANATION},
     {IDC_ADV_RANGE_FRAME, IDS_OPTIONS},
     {IDC_ADVCALENDAR_PRIOR_LABEL, IDS_CALENDAR_PRIOR},

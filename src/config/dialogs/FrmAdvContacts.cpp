@@ -10,10 +10,6 @@ namespace
 
 constexpr ui::CaptionRow kContactOptionCaptions[] = {
     {ui::kDialogCaption, {L"联系人高级设置", L"Advanced settings for contact"}},
-    {IDC_ADV_CONFLICT_EXPLANATION, IDS_CONFLICT_EXPLANATION},
-    {IDC_ADV_CONFLICT_FRAME, IDS_OPTIONS},
-    {IDOK, IDS_OK},
-    {IDCANCEL, IDS_CANCEL},
 };
 
 // The conflict rule alone.

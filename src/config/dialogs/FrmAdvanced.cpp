@@ -18,6 +18,13 @@ constexpr UINT kConflictCaptions[] = {IDS_CONFLICT_ADD_ALL, IDS_CONFLICT_IGNORE_
                                       IDS_CONFLICT_HOST_WINS, IDS_CONFLICT_OUTLOOK_WINS};
 static_assert(std::size(kConflictCaptions) == kConflictCount);
 
+constexpr ui::CaptionRow kAdvancedCaptions[] = {
+    {IDC_ADV_CONFLICT_EXPLANATION, IDS_CONFLICT_EXPLANATION},
+    {IDC_ADV_CONFLICT_FRAME, IDS_OPTIONS},
+    {IDOK, IDS_OK},
+    {IDCANCEL, IDS_CANCEL},
+};
+
 std::wstring WhereOf(const exchange::KindName& kind)
 {
     return L"TransObject=" + data::QuotedText(kind.TransObject);
@@ -27,12 +34,13 @@ std::wstring WhereOf(const exchange::KindName& kind)
 
 FrmAdvanced::FrmAdvanced(UINT templateId, const exchange::KindName& kind,
                          std::span<const ui::CaptionRow> captions)
-    : Dialog(templateId, captions, ui::Errors::AreTrapped), mKind(kind)
+    : Dialog(templateId, kAdvancedCaptions, ui::Errors::AreTrapped), mKind(kind), mCaptions(captions)
 {
 }
 
 void FrmAdvanced::OnInit()
 {
+    WriteCaptions(mCaptions);
     WriteConflictRules();
     SstbOption.AddPage(resources::String(IDS_CONFLICT_TAB),
                        {{IDC_ADV_CONFLICT_EXPLANATION, IDC_ADV_CONFLICT + kConflictCount - 1}});

@@ -22,6 +22,7 @@ inline constexpr int kConflictCount = 5; // option buttons
 class FrmAdvanced : public ui::Dialog
 {
   protected:
+    // captions: of the dialog and its second tab.
     FrmAdvanced(UINT templateId, const exchange::KindName& kind, std::span<const ui::CaptionRow> captions);
 
     void OnInit() override;
@@ -54,6 +55,7 @@ class FrmAdvanced : public ui::Dialog
     ui::Button CmdOk{*this, IDOK};
 
     const exchange::KindName& mKind;
+    std::span<const ui::CaptionRow> mCaptions;
     Code mConflictCode;
     bool mIsLoaded = false;
 };
