@@ -47,7 +47,7 @@ double SecondsOfProgress(exchange::RunDisplay& display, size_t count)
     for (int round = 0; round < kRounds; ++round)
     {
         best.Merge(Measure({}, Purpose::Timed, [&] {
-            const exchange::ShowsProgress shows(display);
+            const exchange::ProgressScope progress(display);
             exchange::WalkWithProgress(display, static_cast<long>(count), [](long) {});
         }));
     }

@@ -37,7 +37,7 @@ bool IsMissingMember(const Error& error) noexcept;
 // Whether the call has been denied, by the object model guard or since the member is no longer supported.
 bool IsRefusal(const Error& error) noexcept;
 
-// What Outlook and ADO answer for an item or a row that has been deleted meanwhile.
+// The codes of Outlook and ADO for an item or a row that has been deleted meanwhile.
 inline constexpr HRESULT kItemNotFound = static_cast<HRESULT>(0x8004010F); // MAPI_E_NOT_FOUND
 inline constexpr HRESULT kRowDeleted = static_cast<HRESULT>(0x80040E23);   // DB_E_DELETEDROW
 bool IsGone(const Error& error) noexcept;

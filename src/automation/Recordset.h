@@ -68,13 +68,13 @@ Recordset OpenRecordset(const std::wstring& source, const std::wstring& connecti
 void CloseRecordset(Recordset& recordset) noexcept;
 
 // Closes the recordset it names on every way out of a scope.
-class ClosesRecordset
+class RecordsetCloser
 {
   public:
-    explicit ClosesRecordset(Recordset& recordset) noexcept : mRecordset(recordset) {}
-    ClosesRecordset(const ClosesRecordset&) = delete;
-    ClosesRecordset& operator=(const ClosesRecordset&) = delete;
-    ~ClosesRecordset() { CloseRecordset(mRecordset); }
+    explicit RecordsetCloser(Recordset& recordset) noexcept : mRecordset(recordset) {}
+    RecordsetCloser(const RecordsetCloser&) = delete;
+    RecordsetCloser& operator=(const RecordsetCloser&) = delete;
+    ~RecordsetCloser() { CloseRecordset(mRecordset); }
 
   private:
     Recordset& mRecordset;

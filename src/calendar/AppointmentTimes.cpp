@@ -35,7 +35,7 @@ bool IsRecurring(ItemProperties& item)
     return automation::TruthOf(item.ValueOf(L"IsRecurring"));
 }
 
-// Of a recurring appointment only: asking another one for its pattern would give it one.
+// Call only for recurring appointments: GetRecurrencePattern makes a single appointment recurring.
 Object PatternOf(ItemProperties& item)
 {
     return automation::ObjectOf(item.ValueOf(L"GetRecurrencePattern"));

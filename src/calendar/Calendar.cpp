@@ -58,7 +58,7 @@ std::wstring KeyOfAppointment(const automation::ItemView& item)
                                exchange::ComparableDate(StartOfItem(item), L"yyyy/mm/dd hh:mm:00"));
 }
 
-// The start of a calendar row: its day and its time of day, which stand in columns of their own.
+// The start of a calendar row: its day and its time of day, which have columns of their own.
 Value StartOfRow(const Recordset& rows)
 {
     const std::optional<Date> day = automation::ReadableDate(rows.ValueOf(L"F_ACTESDATE"));
@@ -224,12 +224,12 @@ bool Reported(const exchange::Run& run, Step&& step)
 
 void AddAccount(const automation::ItemView& item, data::InsertRow& entry)
 {
-    links::ChangeAddTaskAccount(item, entry, links::UndoneBy::Hand);
+    links::ChangeAddTaskAccount(item, entry, links::Rollback::ByDeletion);
 }
 
 void AddAccount(const automation::ItemView& item, data::UpdateRow& entry)
 {
-    links::ChangeEditTaskAccount(item, entry, links::UndoneBy::Hand);
+    links::ChangeEditTaskAccount(item, entry, links::Rollback::ByDeletion);
 }
 
 void Save(const exchange::Run& /*run*/, data::InsertRow& entry)

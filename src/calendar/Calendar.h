@@ -17,7 +17,7 @@ extern const exchange::Kind kCalendar;
 extern const exchange::PassToOutlook SynCalendarToOutlook;
 extern const exchange::PassFromOutlook SynCalendarFromOutlook;
 
-// Writes the host entry on which the run's recordset stands into the appointment and saves it, once, at the
+// Writes the run's current host entry into the appointment and saves it, once, at the
 // end. An unknown mode does nothing. True when an error ended the writer; the appointment is then left
 // unsaved.
 bool SynSynCalendarToOlCalendar(exchange::Run& run, data::RecordMode mode, const automation::Object& item);

@@ -23,11 +23,11 @@ namespace
 struct Target
 {
     const Object& Pattern;
-    Puts How;
+    Writes How;
 
     void Put(const wchar_t* member, long number) const
     {
-        if (How == Puts::Everything || automation::LongOf(Pattern.Get(member)) != number)
+        if (How == Writes::Everything || automation::LongOf(Pattern.Get(member)) != number)
         {
             Pattern.Put(member, number);
         }
@@ -104,14 +104,14 @@ constexpr PatternDate kTimeAsDate{TimeToTheMinute, automation::MinuteOfDay};
 constexpr PatternDate kDayOfPattern{AsItIs, automation::DayOf};
 
 void PutWhereGiven(const Object& pattern, const wchar_t* member, const std::optional<Date>& date,
-                   const PatternDate& kind, Puts puts)
+                   const PatternDate& kind, Writes writes)
 {
     if (!date)
     {
         return;
     }
     const std::optional<Date> present =
-        puts == Puts::Changes ? ReadableDate(pattern.Get(member)) : std::nullopt;
+        writes == Writes::ChangesOnly ? ReadableDate(pattern.Get(member)) : std::nullopt;
     if (!present || !(kind.Compared(*present) == kind.Compared(*date)))
     {
         pattern.Put(member, kind.Converted(*date));
@@ -131,14 +131,15 @@ bool NeedsReferenceDate(const std::wstring& name)
     return rule != nullptr && rule->PutFurther != nullptr;
 }
 
-long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const Value& reference, Puts puts)
+long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const Value& reference,
+                         Writes writes)
 {
     const RepeatRule* const rule = FindRule(name);
     if (rule == nullptr)
     {
         return 0;
     }
-    const Target target{pattern, puts};
+    const Target target{pattern, writes};
     target.Put(L"RecurrenceType", rule->RecurrenceType);
     if (rule->Interval != kNoInterval)
     {
@@ -154,18 +155,18 @@ long SetRecurrenceByName(const Object& pattern, const std::wstring& name, const 
 void WritePattern(const Object& appointment, const automation::Recordset& rows)
 {
     const Value firstDay = rows.ValueOf(L"F_ACTESDATE");
-    const Puts puts = IsTrue(appointment.Get(L"IsRecurring")) ? Puts::Changes : Puts::Everything;
+    const Writes writes = IsTrue(appointment.Get(L"IsRecurring")) ? Writes::ChangesOnly : Writes::Everything;
     const Object pattern = appointment.GetObject(L"GetRecurrencePattern");
-    PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), kTimeAsText, puts);
-    PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), kTimeAsDate, puts);
-    PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), kDayOfPattern, puts);
-    SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay, puts);
-    if (puts == Puts::Everything || IsTrue(pattern.Get(L"NoEndDate")))
+    PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), kTimeAsText, writes);
+    PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), kTimeAsDate, writes);
+    PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), kDayOfPattern, writes);
+    SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay, writes);
+    if (writes == Writes::Everything || IsTrue(pattern.Get(L"NoEndDate")))
     {
         pattern.Put(L"NoEndDate", false);
     }
     PutWhereGiven(pattern, L"PatternEndDate", OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE")), kDayOfPattern,
-                  puts);
+                  writes);
 }
 
 } // namespace calendar

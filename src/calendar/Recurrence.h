@@ -21,21 +21,21 @@ short WeekdayToDayMask(short weekday);
 // Whether the repeat rule of this name takes a weekday, a day or a month from a reference date.
 bool NeedsReferenceDate(const std::wstring& name);
 
-// How a pattern is written. Outlook cancels the exceptions that the user has made of a series whenever its
-// pattern is written, so a series that exists gets what changes only.
-enum class Puts
+// How a pattern is written. Writing a pattern cancels the exceptions that the user has made of the series, so
+// an existing series gets changes only.
+enum class Writes
 {
     Everything,
-    Changes,
+    ChangesOnly,
 };
 
 // Makes the pattern that of the host's repeat rule of this name; what the rule leaves open (the weekday, the
 // day, the month) is the reference date's. A name that is no rule leaves the pattern as it is. Always 0;
 // throws automation::Error when Outlook refuses, or the rule needs a reference date and there is none.
 long SetRecurrenceByName(const automation::Object& pattern, const std::wstring& name,
-                         const automation::Value& reference, Puts puts = Puts::Everything);
+                         const automation::Value& reference, Writes writes = Writes::Everything);
 
-// Makes the appointment repeat as the host row says on which the recordset stands. The order of the members
+// Makes the appointment repeat as the recordset's current row says. The order of the members
 // is part of the host contract: Outlook ties them together, so that another order gives another pattern.
 // Throws automation::Error when Outlook refuses.
 void WritePattern(const automation::Object& appointment, const automation::Recordset& rows);

@@ -16,7 +16,7 @@ extern const exchange::Kind kContacts;
 extern const exchange::PassToOutlook SynContactToOutlook;
 extern const exchange::PassFromOutlook SynContactFromOutlook;
 
-// Writes the host contact on which the run's recordset stands into the item and saves it; the mode makes no
+// Writes the run's current host contact into the item and saves it; the mode makes no
 // difference. Throws automation::Error when Outlook refuses a value or the relation rows cannot be read.
 void SynSynContactToOlContact(exchange::Run& run, data::RecordMode mode, const automation::Object& item);
 

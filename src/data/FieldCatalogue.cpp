@@ -28,7 +28,7 @@ FieldCatalogue::Fields FieldCatalogue::Read()
 {
     automation::Recordset rows =
         automation::OpenRecordset(L"SynFields", state::Shared().gCnnString, kAsTable);
-    const automation::ClosesRecordset closes(rows);
+    const automation::RecordsetCloser closer(rows);
     Fields fields;
     for (; !rows.AtEnd(); rows.MoveNext())
     {

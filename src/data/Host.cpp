@@ -128,7 +128,7 @@ Transaction::~Transaction()
     }
 }
 
-// A host that cannot even be asked is told to roll back: an open transaction would swallow every later write.
+// Also rolls back when the host does not answer: an open transaction would swallow every later write.
 void Transaction::RollBack() noexcept
 {
     const bool isPending = state::Trapped(true, [&] { return mHost.InTransaction(); });

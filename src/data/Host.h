@@ -35,7 +35,7 @@ class Host
 
     // A fresh key for a new row.
     std::wstring NewGuid() const;
-    // The signed-in user's id; and as it stands without quotes in a statement.
+    // The signed-in user's id; and the same as a literal without quotes.
     std::wstring UserId() const;
     std::wstring UserIdLiteral() const;
     // The host's answer to a rights check: 0 and 3 permit.

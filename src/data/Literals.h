@@ -1,4 +1,4 @@
-// Values as they stand in SQL text. QuotedText is the only function of the component that puts a value
+// Values as literals of SQL text. QuotedText is the only function of the component that puts a value
 // between quotes; every value of a statement goes through it or through NumberOrQuotedText, so that no value
 // can change what the statement says. Used by the record writers, the lookups and the parameter store.
 #pragma once

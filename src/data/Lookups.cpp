@@ -25,7 +25,7 @@ Value FindValue(const std::wstring& table, const std::wstring& keyColumn, const 
 Value ValueInFirstRow(const std::wstring& statement, const std::wstring& column)
 {
     automation::Recordset rows;
-    const automation::ClosesRecordset closes(rows);
+    const automation::RecordsetCloser closer(rows);
     const long status = Host().OpenRecordsetByString(rows, statement);
     ThrowUnless(status >= 0, L"OpenRecordsetByString", status);
     return rows.AtEnd() ? Value(L"") : rows.ValueOf(column);

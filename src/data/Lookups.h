@@ -14,7 +14,7 @@ namespace data
 automation::Value FindValue(const std::wstring& table, const std::wstring& keyColumn, const std::wstring& key,
                             const std::wstring& resultColumn);
 
-// The same for a condition, which stands in the statement as it is.
+// The same for a condition, which goes into the statement as it is.
 automation::Value FindByCondition(const std::wstring& table, const std::wstring& condition,
                                   const std::wstring& resultColumn);
 

@@ -1,5 +1,5 @@
-// What a pass leaves out although the user has accepted it, and why. Every remark goes through here: the one
-// place where a report of the run will record them.
+// Records a value or link that a pass skips although the user has accepted it, with the reason. Every remark
+// goes through here.
 #pragma once
 
 #include <string_view>

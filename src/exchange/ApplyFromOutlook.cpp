@@ -63,7 +63,7 @@ bool PassFromOutlook::operator()(Run& run) const
 {
     return state::Failed([&] {
         run.Display.SetStatus(resources::String(IDS_RUN_APPLYING));
-        const ShowsProgress shown(run.Display);
+        const ProgressScope progress(run.Display);
         run.Relations.Use(RelationStatement, RelationOptions);
         run.Catalogue.Forget();
         WalkWithProgress(run.Display, run.Pending.NewOutlookItems.Count(),

@@ -70,7 +70,7 @@ bool PassToOutlook::operator()(Run& run) const
 {
     return state::Failed([&] {
         run.Display.SetStatus(resources::String(IDS_RUN_APPLYING));
-        const ShowsProgress showsProgress(run.Display);
+        const ProgressScope progress(run.Display);
         run.Relations.Use(RelationStatement, RelationOptions);
         WalkWithProgress(run.Display, run.Pending.NewHostRecords.Count(),
                          [&](long i) { WriteNewRecord(run, *this, i); });

@@ -15,10 +15,10 @@ struct PassToOutlook
     const wchar_t* RelationStatement;
     automation::OpenOptions RelationOptions{};
     std::span<const PropertyToOutlook> Mapping{};
-    // Why the host row on which the recordset stands cannot become an item; null for no reason. Null for a
+    // Why the recordset's current row cannot become an item; null for no reason. Null for a
     // kind whose rows all can.
     const wchar_t* (*Obstacle)(Run& run) = nullptr;
-    // Writes the host row on which the run's recordset stands into the item, and saves it. Throws when it
+    // Writes the run's current host row into the item, and saves it. Throws when it
     // cannot; the pass then ends.
     void (*Write)(Run& run, data::RecordMode mode, const automation::Object& item);
     // A new item is made before the recordset moves to its row, otherwise after.

@@ -156,7 +156,7 @@ Object ProposedItem(Run& run, const data::ClsOlRecord& record)
         const Object item = ForPass(run, ItemAt(run.Items, position));
         return HasFirstKey(run, item, record.FirstKey) ? item : Object();
     }
-    // What cannot be opened at the position may be another item by now.
+    // An item that cannot be opened at the position may be another one by now.
     const Object item = state::Trapped(Object(), [&] { return ForPass(run, ItemAt(run.Items, position)); });
     return item && EntryIdOf(item) == record.EntryId ? item : ForPass(run, ItemById(run, record.EntryId));
 }

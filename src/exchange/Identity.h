@@ -13,7 +13,7 @@ namespace exchange
 // The item's EntryID; the empty text where its store gives none. Throws automation::Error.
 std::wstring EntryIdOf(const automation::Object& item);
 
-// What a row has in its key column; the empty text for nothing.
+// The row's value in its key column; the empty text for none.
 std::wstring KeyOfRow(const automation::Recordset& rows, const std::wstring& keyColumn);
 
 // Moves to the row that was at the position: where another one is there by now, to where it is. False when it

@@ -19,7 +19,7 @@ bool IsNoColumn(const Value& value)
     return value.Type() == VT_BSTR && automation::TextOf(value) == kNoColumn;
 }
 
-// What the object model guard protects costs the column, not the record.
+// A property that the object model guard protects costs the column, not the record.
 HostValue ReadUnlessRefused(const PropertyFromOutlook& row, const SourceProperty& property)
 {
     try

@@ -40,7 +40,7 @@ HostValue ReadAsIs(const SourceProperty& property);
 HostValue ReadUnlessEmpty(const SourceProperty& property);
 HostValue ReadCategories(const SourceProperty& property);
 
-// The value that stands for "this row contributes no column".
+// The contract's marker for a row that contributes no column.
 inline constexpr wchar_t kNoColumn[] = L"Don't Addtion Field";
 
 // The column of a relation row that names no property of the mapping.

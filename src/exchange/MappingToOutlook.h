@@ -52,7 +52,7 @@ enum class Saves
     AfterEachRowToo,
 };
 
-// Writes the host row on which the run's recordset stands into the item and saves it. Throws
+// Writes the run's current host row into the item and saves it. Throws
 // automation::Error as WriteRelatedProperty, and when the relation rows cannot be read.
 void WriteRelatedProperties(Run& run, std::span<const PropertyToOutlook> mapping,
                             const automation::Object& item, Saves saves);

@@ -21,7 +21,7 @@ std::wstring ComparableDate(const automation::Value& value, const wchar_t* patte
 // Parts that are compared one by one, as one text. Their lengths keep them apart, whatever they hold.
 std::wstring JoinedKey(const std::wstring& name, const std::wstring& category, const std::wstring& date);
 
-// ACC_SNAME of the row on which the recordset stands.
+// ACC_SNAME of the recordset's current row.
 std::wstring AccountOfRow(const automation::Recordset& rows);
 
 } // namespace exchange

@@ -20,7 +20,7 @@ const std::vector<RelationRow>& RelationTable::Rows()
     if (!mRows)
     {
         Recordset relations = automation::OpenRecordset(mStatement, state::Shared().gCnnString, mOptions);
-        const automation::ClosesRecordset closes(relations);
+        const automation::RecordsetCloser closer(relations);
         std::vector<RelationRow> rows;
         for (; !relations.AtEnd(); relations.MoveNext())
         {

@@ -28,17 +28,17 @@ class RunDisplay
 };
 
 // The progress bar is shown from 0 on for the length of a scope.
-class ShowsProgress
+class ProgressScope
 {
   public:
-    explicit ShowsProgress(RunDisplay& display) : mDisplay(display)
+    explicit ProgressScope(RunDisplay& display) : mDisplay(display)
     {
         mDisplay.SetProgress(0);
         mDisplay.ShowProgress(true);
     }
-    ShowsProgress(const ShowsProgress&) = delete;
-    ShowsProgress& operator=(const ShowsProgress&) = delete;
-    ~ShowsProgress() { mDisplay.ShowProgress(false); }
+    ProgressScope(const ProgressScope&) = delete;
+    ProgressScope& operator=(const ProgressScope&) = delete;
+    ~ProgressScope() { mDisplay.ShowProgress(false); }
 
   private:
     RunDisplay& mDisplay;

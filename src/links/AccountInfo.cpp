@@ -15,7 +15,7 @@ long AddAccountInfo(const std::wstring& accountKey)
 void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey)
 {
     automation::Recordset system;
-    const automation::ClosesRecordset closes(system);
+    const automation::RecordsetCloser closer(system);
     data::ThrowUnless(host.OpenRecordsetByString(system, L"SELECT F_AITID FROM TBLSYSINFO") >= 0,
                       L"OpenRecordsetByString");
     const std::wstring type = automation::TextOf(system.ValueOf(L"F_AITID"));

@@ -14,7 +14,7 @@ namespace links
 // Adds the row of the account with this key to TBLACCINFO. Throws automation::Error when the host refuses.
 void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey);
 
-// The same as the host contract has it, for callers that do not report the error: 0, or -1 for failure.
+// The form of the host contract: returns 0, or -1 for failure.
 long AddAccountInfo(const std::wstring& accountKey);
 
 } // namespace links

@@ -106,7 +106,7 @@ Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const
     {
         return {}; // and without an account there is nothing that an address could belong to
     }
-    const std::wstring account = CreateAccount(host, catalogue, companyName, UndoneBy::Transaction);
+    const std::wstring account = CreateAccount(host, catalogue, companyName, Rollback::ByTransaction);
     return {account, CreateAddress(host, catalogue, item, account)};
 }
 
@@ -131,14 +131,14 @@ Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const au
                      const std::wstring& companyName)
 {
     automation::Recordset accounts;
-    const automation::ClosesRecordset closes(accounts);
+    const automation::RecordsetCloser closer(accounts);
     OpenAccounts(host, catalogue, companyName, accounts);
     return accounts.AtEnd() ? LinksOfNewAccount(host, catalogue, item, companyName)
                             : LinksOfFoundAccount(host, catalogue, item, accounts);
 }
 
-// A transaction that is pending all the same is the host's own, and so is the fate of the account.
-void TakeAccountBack(const Host& host, const std::wstring& key)
+// A pending transaction is the host's own: the host then decides about the account.
+void DeleteAccount(const Host& host, const std::wstring& key)
 {
     state::Trapped([&] {
         if (!host.InTransaction())
@@ -173,7 +173,7 @@ Links LinksOfPresentAccount(const Host& host, data::FieldCatalogue& catalogue,
         return {};
     }
     automation::Recordset accounts;
-    const automation::ClosesRecordset closes(accounts);
+    const automation::RecordsetCloser closer(accounts);
     OpenAccounts(host, catalogue, present.Company, accounts);
     while (!accounts.AtEnd() && TextOrEmpty(accounts.ValueOf(L"F_ACCID")) != *account)
     {
@@ -191,20 +191,20 @@ void AddLink(HostRow& contact, bool isNew, const wchar_t* column, const std::wst
     }
 }
 
-// Whether the contact goes to another account; false when the host cannot say.
-bool Leaves(const std::wstring& contactKey, const std::wstring& account)
+// Whether the contact moves to another account; false when the host cannot say.
+bool ChangesAccount(const std::wstring& contactKey, const std::wstring& account)
 {
     return PresentAccount(contactKey).value_or(account) != account;
 }
 
-// An address belongs to its account: a contact that goes to another account does not take the address along,
-// even where the user may not give it another one.
+// An address belongs to its account: a contact that moves to another account leaves the address behind, even
+// if the user may not give it another one.
 void AddLinks(HostRow& contact, const Links& links, const PresentContact* present)
 {
     AddLink(contact, present == nullptr, L"F_ACCID", links.account);
     AddLink(contact, present == nullptr, L"F_CNTADDRID", links.address);
     const bool isAccountOnly = !links.account.empty() && links.address.empty();
-    if (present != nullptr && isAccountOnly && Leaves(present->Key, links.account))
+    if (present != nullptr && isAccountOnly && ChangesAccount(present->Key, links.account))
     {
         contact.Add(L"F_CNTADDRID", Value::Null());
     }
@@ -213,7 +213,7 @@ void AddLinks(HostRow& contact, const Links& links, const PresentContact* presen
 } // namespace
 
 std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName,
-                           UndoneBy undoneBy)
+                           Rollback rollback)
 {
     InsertRow account(catalogue);
     account.Add(L"F_ACCSNAME", companyName);
@@ -227,9 +227,9 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     }
     catch (...)
     {
-        if (undoneBy == UndoneBy::Hand)
+        if (rollback == Rollback::ByDeletion)
         {
-            TakeAccountBack(host, key);
+            DeleteAccount(host, key);
         }
         throw;
     }

@@ -13,17 +13,17 @@
 namespace links
 {
 
-// How the account of a record that fails is undone.
-enum class UndoneBy
+// How a new account is rolled back when its information row cannot be written.
+enum class Rollback
 {
-    Transaction, // the record writer's
-    Hand, // appointments have none: later runs would find and use an account without its information row
+    ByTransaction, // the record writer's
+    ByDeletion,    // appointments have no transaction: later runs would find and reuse a half-created account
 };
 
 // Adds an account of this name, which is not empty, with its information row; returns its key. The caller has
 // made sure that the user may add accounts.
 std::wstring CreateAccount(const data::Host& host, data::FieldCatalogue& catalogue,
-                           const std::wstring& companyName, UndoneBy undoneBy);
+                           const std::wstring& companyName, Rollback rollback);
 
 // The contact that an item overwrites, as the host has it.
 struct PresentContact

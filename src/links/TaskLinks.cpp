@@ -97,7 +97,7 @@ struct AccountLink
 {
     const wchar_t* Builder;
     data::FieldCatalogue& Catalogue;
-    links::UndoneBy UndoneBy;
+    links::Rollback Rollback;
 
     // An account is stored under its company's name cut to the column: a longer name is looked up in its cut
     // form.
@@ -105,7 +105,7 @@ struct AccountLink
     {
         const std::wstring name = data::TextAsHeld(Catalogue, L"F_ACCSNAME", company);
         const std::wstring key = FindKey(Builder, L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn);
-        return key.empty() ? links::CreateAccount(data::Host(), Catalogue, company, UndoneBy) : key;
+        return key.empty() ? links::CreateAccount(data::Host(), Catalogue, company, Rollback) : key;
     }
 
     Link LiteralOf(const automation::ItemView& item) const
@@ -141,13 +141,13 @@ void ChangeEditTaskContact(const automation::ItemView& item, data::UpdateRow& ta
 
 void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task, UndoneBy undoneBy)
 {
-    const AccountLink link{L"ChangeAddTaskAccount", task.Catalogue(), undoneBy};
+    const AccountLink link{L"ChangeAddTaskAccount", task.Catalogue(), rollback};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
 }
 
 void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task, UndoneBy undoneBy)
 {
-    const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), undoneBy};
+    const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), rollback};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
 }
 

@@ -18,7 +18,7 @@ enum class Proposal
     Changed,
 };
 
-// What becomes of a record that has a partner, by direction and conflict rule.
+// How a record with a partner is proposed, by direction and conflict rule.
 Proposal ToOutlookByRule(long conflictOption)
 {
     switch (conflictOption)
@@ -56,7 +56,7 @@ ChangeCollection::Reading::Reading(const exchange::Kind& kind, const exchange::F
       ItemIndex(Items),
       RowIndex(Rows)
 {
-    // An item is fetched from another process; a row is at hand.
+    // Items come from another process; rows do not.
     ItemIndex.LookAheadIn(RowIndex);
 }
 
@@ -78,7 +78,7 @@ bool ChangeCollection::CollectToOutlook()
 {
     return state::Failed([&] {
         mRun.Display.SetStatus(resources::String(mKind.CollectToOutlookTextId));
-        const exchange::ShowsProgress showsProgress(mRun.Display);
+        const exchange::ProgressScope progress(mRun.Display);
         Walk([&] { WalkRows(); });
     });
 }
@@ -176,7 +176,7 @@ bool ChangeCollection::CollectFromOutlook()
 {
     return state::Failed([&] {
         mRun.Display.SetStatus(resources::String(IDS_RUN_COLLECTING));
-        const exchange::ShowsProgress showsProgress(mRun.Display);
+        const exchange::ProgressScope progress(mRun.Display);
         const bool mayAdd =
             data::CheckPermission(mKind.PermissionKind, data::kUsualScope, data::kAddOperation);
         const bool mayModify =

@@ -27,7 +27,7 @@ class ChangeCollection
     bool CollectFromOutlook();
 
   private:
-    // What has been read of both sides.
+    // The keys read so far, of both sides.
     struct Reading
     {
         Reading(const exchange::Kind& kind, const exchange::Filters& filters, exchange::Run& run,

@@ -128,7 +128,7 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
         return state::Trapped(OutcomeText(true), work);
     }
 
-    // What the status line is to say; nothing where the user has been told why there is no run.
+    // The text for the status line; empty when a message has said why there is no run.
     std::wstring Synchronize()
     {
         if (mServices.CheckOutlookProfiles())
@@ -152,8 +152,8 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
     const state::SynParameter& LoadParameters()
     {
         state::SynParameter& parameter = state::Shared().gSynParameter;
-        // What cannot be loaded stays as it is in the record, and the folder of the run before may hold
-        // another kind of items.
+        // A value that cannot be loaded keeps its content, and the folder of the last run may hold another
+        // kind of items.
         parameter.IsTrans = false;
         parameter.CurrentFolder.clear();
         mServices.SetSynParamenter(parameter, lvCategory.KeyOf(*mCurrentCategory));
@@ -183,7 +183,7 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
         shared.gOlApplication = {};
     }
 
-    // What a run shows.
+    // The run's display.
     void SetStatus(const std::wstring& text) override
     {
         lblState.SetText(text);

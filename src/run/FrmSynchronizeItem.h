@@ -11,7 +11,7 @@
 namespace run
 {
 
-// What the dialog asks of the rest of the component.
+// The services that the dialog uses of the rest of the component.
 struct SynchronizeServices
 {
     // True when there is no Outlook profile; the user has been told.

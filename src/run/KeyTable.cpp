@@ -3,7 +3,7 @@
 namespace run
 {
 
-void KeyTable::Pass()
+void KeyTable::Skip()
 {
     mLast.push_back(Count() + 1);
     mNext.push_back(0);
@@ -12,7 +12,7 @@ void KeyTable::Pass()
 void KeyTable::Add()
 {
     const long position = Count() + 1;
-    Pass();
+    Skip();
     const auto [first, isNew] = mFirsts.insert(position);
     if (!isNew)
     {

@@ -20,7 +20,7 @@ class KeyTable
     // Adds the record after the last one added, whose first key has been read.
     void Add();
     // Leaves out the record after the last one added.
-    void Pass();
+    void Skip();
     long Count() const noexcept { return static_cast<long>(mNext.size()) - 1; }
 
     // The first record with this key, and the next one with the key of a record; 0 for none.

@@ -8,10 +8,9 @@ namespace run
 namespace
 {
 
-// Reads what nobody has asked for yet, and perhaps nobody will: what fails is read again, and fails, where it
-// is needed.
+// Speculative read: errors are ignored here and reported if the key is needed.
 template<typename Read>
-void ReadEarly(Read&& read)
+void ReadSpeculatively(Read&& read)
 {
     state::Trapped(read);
 }
@@ -25,7 +24,7 @@ long LazyIndex::Find(RecordKeys& others, long position)
     if (isFirstSearch && !ReadOne())
     {
         // Still it must be known whether there is a record to propose.
-        ReadEarly([&] { others.First(position); });
+        ReadSpeculatively([&] { others.First(position); });
         return 0;
     }
     const std::wstring& key = others.First(position);
@@ -40,7 +39,7 @@ long LazyIndex::Find(RecordKeys& others, long position)
     }
     if (isFirstSearch)
     {
-        PassBy();
+        Skip();
     }
     while (ReadOne())
     {
@@ -49,7 +48,7 @@ long LazyIndex::Find(RecordKeys& others, long position)
             mRecords.Keep(mTable.Count());
             return mTable.Count();
         }
-        PassBy();
+        Skip();
     }
     return 0;
 }
@@ -65,19 +64,19 @@ bool LazyIndex::ReadOne()
             mTable.Add();
             return true;
         }
-        mTable.Pass();
+        mTable.Skip();
     }
     return false;
 }
 
 // The record that was read last is not the one looked for.
-void LazyIndex::PassBy()
+void LazyIndex::Skip()
 {
     const long position = mTable.Count();
     const bool readsMore = mRecords.HasSecond() || mRecords.KeepsLikelyOnes();
     if (mOthers != nullptr && readsMore && mOthers->Has(mRecords.First(position)))
     {
-        ReadEarly([&] {
+        ReadSpeculatively([&] {
             mRecords.Keep(position);
             if (mRecords.HasSecond())
             {
@@ -92,7 +91,7 @@ bool LazyIndex::Has(std::wstring_view firstKey)
     if (!mHasReadAhead)
     {
         mHasReadAhead = true;
-        ReadEarly([&] {
+        ReadSpeculatively([&] {
             while (ReadOne())
             {
             }

@@ -15,9 +15,9 @@ class LazyIndex
   public:
     explicit LazyIndex(RecordKeys& records) : mRecords(records), mTable(records) {}
 
-    // From now on, a record that the search passes by while a record of the other side has its first key is
-    // not left before its second key and its identity have been read as well, so that it need not be fetched
-    // again. For a side whose records are costly to fetch; the other one is read to its end then.
+    // Enables look-ahead: when the search skips a record whose first key occurs on the other side, it reads
+    // the second key and the identity at once, so that the record is not fetched twice. For a side whose
+    // records are costly to fetch; the other side is then read to its end.
     void LookAheadIn(LazyIndex& others) noexcept { mOthers = &others; }
 
     // The position of the first record that matches the other side's record at this position; 0 for none.
@@ -26,7 +26,7 @@ class LazyIndex
 
   private:
     bool ReadOne();
-    void PassBy();
+    void Skip();
     bool Has(std::wstring_view firstKey);
     long FindAmongRead(RecordKeys& others, long position, std::wstring_view key);
     bool SecondKeysAgree(RecordKeys& others, long position, long candidate);

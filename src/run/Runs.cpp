@@ -84,7 +84,7 @@ bool RunKind(const exchange::Kind& kind, exchange::RunDisplay& display)
 {
     return state::Trapped(true, [&] {
         exchange::Run run{.Display = display};
-        const automation::ClosesRecordset closes(run.HostRows);
+        const automation::RecordsetCloser closer(run.HostRows);
         const data::Host host;
         const std::wstring filter = kind.SourceFilter == nullptr ? std::wstring() : kind.SourceFilter(host);
         if (host.OpenRecordset(run.HostRows, kind.RecordSource, filter) < 0)

@@ -10,7 +10,7 @@ namespace run
 // The dialog's caption once a category is chosen; it is followed by the category's text without a blank.
 std::wstring CategoryCaption(const std::wstring& categoryText);
 
-// What the user reads when the chosen category takes no part in synchronization.
+// The message for a kind that takes no part in synchronization.
 std::wstring NotEnabledText();
 
 // The status line after a run.

@@ -16,7 +16,7 @@ extern const exchange::Kind kTasks;
 extern const exchange::PassToOutlook SynTaskToOutlook;
 extern const exchange::PassFromOutlook SynTaskFromOutlook;
 
-// Writes the host task on which the run's recordset stands into the item, which is saved after every relation
+// Writes the run's current host task into the item, which is saved after every relation
 // row, and once more: a task that fails half-way keeps what was written before. An unknown mode does nothing.
 // Throws automation::Error when Outlook refuses a value or the relation rows cannot be read.
 void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const automation::Object& item);

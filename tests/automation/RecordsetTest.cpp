@@ -104,7 +104,7 @@ TEST_F(RecordsetTest, AScopeClosesItsRecordsetOnEveryWayOut)
     Recordset rows = Open(L"SELECT 1 AS Size");
     try
     {
-        const ClosesRecordset closes(rows);
+        const RecordsetCloser closer(rows);
         throw std::runtime_error("on the way");
     }
     catch (const std::runtime_error&)

@@ -27,7 +27,7 @@ TEST_F(UserRowsTest, AStatementIsOpenedForTheCurrentUserOnly)
 {
     GiveUserRows();
     Recordset rows;
-    const automation::ClosesRecordset closes(rows);
+    const automation::RecordsetCloser closer(rows);
     EXPECT_FALSE(
         config::OpenUserRecordset(rows, L"Select * From T_POutlookSyncParam Where TransObject='Task'"));
     EXPECT_EQ(1, rows.RecordCount());
@@ -183,7 +183,7 @@ TEST_F(ParameterStoreTest, ARefusedCopyStopsAndKeepsTheRowsInsertedSoFar)
 TEST_F(ParameterStoreTest, CreatingTheRowsReturnsThemOpen)
 {
     Recordset rows = config::CreateDefaultParameters();
-    const automation::ClosesRecordset closes(rows);
+    const automation::RecordsetCloser closer(rows);
     ASSERT_TRUE(static_cast<bool>(rows));
     EXPECT_EQ(3, rows.RecordCount());
     EXPECT_EQ(7, automation::LongOf(rows.ValueOf(L"F_UID")));

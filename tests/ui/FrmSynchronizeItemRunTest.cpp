@@ -124,7 +124,7 @@ TEST(FrmSynchronizeItem, ARunShowsItsStatusAndProgressAtOnceAndNamesItsCategory)
         const ShownDialog dialog(ui::Dialog::Shown(IDD_SYNCHRONIZEITEM)->Handle());
         category = display.CategoryText();
         {
-            const exchange::ShowsProgress progress(display);
+            const exchange::ProgressScope progress(display);
             display.SetStatus(L"Collecting information...");
             display.SetProgress(0.5);
             shown = dialog.IsVisible(IDC_SYNC_PROGRESS);

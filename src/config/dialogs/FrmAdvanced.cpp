@@ -49,7 +49,7 @@ void FrmAdvanced::OnInit()
     mIsLoaded = state::Trapped(false, [&] { return Load(); });
     if (!mIsLoaded)
     {
-        TellThatNothingIsLoaded();
+        ShowNotLoaded();
         CmdOk.Enable(false);
     }
 }
@@ -80,7 +80,7 @@ void FrmAdvanced::WriteConflictRules()
 bool FrmAdvanced::Load()
 {
     automation::Recordset row;
-    const automation::ClosesRecordset closes(row);
+    const automation::RecordsetCloser closer(row);
     if (OpenUserRecordset(row,
                           L"Select * From " + std::wstring(kParameterTable) + L" Where " + WhereOf(mKind)) ||
         row.AtEnd())

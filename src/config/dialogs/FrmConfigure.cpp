@@ -93,7 +93,7 @@ void FrmConfigure::FillList()
     auto rows = LoadTranslations();
     if (!rows)
     {
-        TellThatNothingIsLoaded();
+        ShowNotLoaded();
         CmdOk.Enable(false);
     }
     mRows = std::move(rows).value_or(std::vector<Translation>());

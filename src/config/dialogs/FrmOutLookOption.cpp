@@ -30,7 +30,7 @@ bool UserWantsTheChange()
                MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
-void ConnectAnew()
+void Reconnect()
 {
     auto& shared = state::Shared();
     shared.gOlNamespace = {};
@@ -159,7 +159,7 @@ void FrmOutLookOption::ChangeProfile()
     {
         ShowRegistryFailure(L"Set value error, code ", mRegistry);
     }
-    ConnectAnew();
+    Reconnect();
     PurgeMissingFolders();
 }
 

@@ -1,5 +1,5 @@
 // The dialog "Ms Outlook Options", in which the user picks the default profile of Outlook. Opened by
-// FrmSynChoose. A change is written to the registry; the component then connects to Outlook anew, and stored
+// FrmSynChoose. A change is written to the registry; the component then reconnects to Outlook, and stored
 // folders whose store the new profile does not have are dropped.
 #pragma once
 

@@ -105,7 +105,7 @@ bool FrmSynContent::LoadChosen()
     const auto stored = LoadChosenFolders(*mKind);
     if (!stored)
     {
-        TellThatNothingIsLoaded();
+        ShowNotLoaded();
         CmdOk.Enable(false);
         return false;
     }

@@ -6,7 +6,7 @@
 namespace config
 {
 
-void TellThatNothingIsLoaded()
+void ShowNotLoaded()
 {
     ui::ShowMessage(resources::String(IDS_ERROR), 0, resources::String(IDS_NOT_LOADED));
 }

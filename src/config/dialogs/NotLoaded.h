@@ -1,11 +1,11 @@
-// The answer of the configuration dialogs to settings that they cannot load: they say so and write nothing,
-// since OK would otherwise overwrite settings that they have not read.
+// The message of a configuration dialog that could not load its settings. The dialog then writes nothing,
+// because OK would overwrite settings that it has not read.
 #pragma once
 
 namespace config
 {
 
-// Tells the user that the stored settings could not be read and that nothing will be stored.
-void TellThatNothingIsLoaded();
+// Says that the stored settings could not be read and that nothing will be stored.
+void ShowNotLoaded();
 
 } // namespace config

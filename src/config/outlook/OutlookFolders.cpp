@@ -24,7 +24,7 @@ using automation::Object;
 using automation::Recordset;
 using automation::TextOf;
 
-void TellThatNoFolderIsChosen()
+void ShowNoFolderChosen()
 {
     ui::ShowMessage(resources::String(IDS_MESSAGE), 0,
                     resources::Choose(L"没有选择同步的目录\r\n\r\n"
@@ -92,7 +92,7 @@ void DeleteFolderRow(const data::Host& host, const Recordset& rows, const std::w
     const std::wstring where = L"F_UID=" + host.UserIdLiteral() + L" And TransObjectID=" +
                                data::NumberOrQuotedText(TextOf(rows.ValueOf(L"TransObjectID"))) +
                                L" And OutlookFolder=" + data::QuotedText(folder);
-    RequireAccepted(host.Delete(kFolderTable, where), L"Delete");
+    data::ThrowUnless(host.Delete(kFolderTable, where) >= 0, L"Delete");
 }
 
 } // namespace
@@ -102,7 +102,7 @@ bool ResolveOutlookFolder(const std::wstring& folderPath, Object& folder)
     return state::Trapped(true, [&] {
         if (folderPath.empty())
         {
-            TellThatNoFolderIsChosen();
+            ShowNoFolderChosen();
             state::LogError();
             return true;
         }
@@ -114,13 +114,13 @@ bool ResolveOutlookFolder(const std::wstring& folderPath, Object& folder)
 void PurgeMissingFolders()
 {
     Recordset rows;
-    const automation::ClosesRecordset closes(rows);
+    const automation::RecordsetCloser closer(rows);
     state::Trapped([&] {
         const data::Host host;
         StoreNames stores;
         const std::wstring sql =
             L"Select * From " + std::wstring(kFolderTable) + L" Where F_UID=" + host.UserIdLiteral();
-        RequireAccepted(host.OpenRecordsetByString(rows, sql), L"OpenRecordsetByString");
+        data::ThrowUnless(host.OpenRecordsetByString(rows, sql) >= 0, L"OpenRecordsetByString");
         for (; !rows.AtEnd(); rows.MoveNext())
         {
             const std::wstring folder = TextOf(rows.ValueOf(L"OutlookFolder"));

@@ -34,7 +34,7 @@ ChosenFolders FoldersIn(const Recordset& rows)
 std::optional<ChosenFolders> LoadChosenFolders(const exchange::KindName& kind)
 {
     Recordset rows;
-    const automation::ClosesRecordset closes(rows);
+    const automation::RecordsetCloser closer(rows);
     ChosenFolders folders;
     const bool failed =
         OpenUserRecordset(rows, L"Select * From " + std::wstring(kFolderTable) + L" Where TransObjectID=" +
@@ -94,9 +94,9 @@ bool StoreChosenFolders(const exchange::KindName& kind, const ChosenFolders& fol
 {
     return state::Failed([&] {
         const data::Host host;
-        RequireAccepted(host.Delete(kFolderTable, L"TransObjectID=" + std::to_wstring(kind.TransObjectID) +
-                                                      L" And F_UID=" + host.UserIdLiteral()),
-                        L"Delete");
+        data::ThrowUnless(host.Delete(kFolderTable, L"TransObjectID=" + std::to_wstring(kind.TransObjectID) +
+                                                        L" And F_UID=" + host.UserIdLiteral()) >= 0,
+                          L"Delete");
         for (const ChosenFolder& folder : folders)
         {
             InsertUserRow(L"TransObjectID,OutlookFolder,IsDefault", FolderValueList(kind, folder),

@@ -56,8 +56,8 @@ std::wstring KindOf(const Recordset& rows)
 std::set<std::wstring> KindsOf(const data::Host& host, const std::wstring& userId)
 {
     Recordset rows;
-    const automation::ClosesRecordset closes(rows);
-    RequireAccepted(host.OpenRecordsetByString(rows, kRowsOf + userId), L"OpenRecordsetByString");
+    const automation::RecordsetCloser closer(rows);
+    data::ThrowUnless(host.OpenRecordsetByString(rows, kRowsOf + userId) >= 0, L"OpenRecordsetByString");
     std::set<std::wstring> kinds;
     for (; !rows.AtEnd(); rows.MoveNext())
     {
@@ -75,7 +75,7 @@ void CopyTemplate(const data::Host& host, const Recordset& templates, const std:
         columns += L"," + std::wstring(column.name);
         values += L"," + column.literal(templates.ValueOf(column.name));
     }
-    RequireAccepted(host.Insert(kParameterTable, columns, values), L"Insert");
+    data::ThrowUnless(host.Insert(kParameterTable, columns, values) >= 0, L"Insert");
 }
 
 } // namespace
@@ -83,13 +83,13 @@ void CopyTemplate(const data::Host& host, const Recordset& templates, const std:
 Recordset CreateDefaultParameters()
 {
     Recordset templates;
-    const automation::ClosesRecordset closes(templates);
+    const automation::RecordsetCloser closer(templates);
     return state::Trapped(Recordset(), [&] {
         const data::Host host;
         const std::wstring userId = host.UserIdLiteral();
         const std::set<std::wstring> present = KindsOf(host, userId);
-        RequireAccepted(host.OpenRecordsetByString(templates, kRowsOf + std::wstring(L"0")),
-                        L"OpenRecordsetByString");
+        data::ThrowUnless(host.OpenRecordsetByString(templates, kRowsOf + std::wstring(L"0")) >= 0,
+                          L"OpenRecordsetByString");
         for (; !templates.AtEnd(); templates.MoveNext())
         {
             if (!present.contains(KindOf(templates)))
@@ -98,7 +98,7 @@ Recordset CreateDefaultParameters()
             }
         }
         Recordset rows;
-        RequireAccepted(host.OpenRecordsetByString(rows, kRowsOf + userId), L"OpenRecordsetByString");
+        data::ThrowUnless(host.OpenRecordsetByString(rows, kRowsOf + userId) >= 0, L"OpenRecordsetByString");
         return rows;
     });
 }

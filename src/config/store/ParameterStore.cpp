@@ -13,9 +13,9 @@ namespace config
 namespace
 {
 
-using automation::ClosesRecordset;
 using automation::LongOf;
 using automation::Recordset;
+using automation::RecordsetCloser;
 using automation::ShortOf;
 using automation::TextOf;
 using automation::TextOrEmpty;
@@ -26,13 +26,13 @@ void OpenOrCreateRows(Recordset& rows, const std::wstring& objectName)
     const data::Host host;
     const std::wstring sql = L"Select * From " + std::wstring(kParameterTable) + L" Where TransObject=" +
                              data::QuotedText(objectName) + L" And F_UID=" + host.UserIdLiteral();
-    RequireAccepted(host.OpenRecordsetByString(rows, sql), L"OpenRecordsetByString");
+    data::ThrowUnless(host.OpenRecordsetByString(rows, sql) >= 0, L"OpenRecordsetByString");
     if (rows.HasNoRows())
     {
         Recordset created = CreateDefaultParameters();
         automation::CloseRecordset(created);
         automation::CloseRecordset(rows);
-        RequireAccepted(host.OpenRecordsetByString(rows, sql), L"OpenRecordsetByString");
+        data::ThrowUnless(host.OpenRecordsetByString(rows, sql) >= 0, L"OpenRecordsetByString");
     }
 }
 
@@ -93,7 +93,7 @@ void ReadValuesOfKind(SynParameter& record, const Recordset& rows, const std::ws
 bool SetSynParamenter(SynParameter& record, const std::wstring& objectName)
 {
     Recordset rows;
-    const ClosesRecordset closes(rows);
+    const RecordsetCloser closer(rows);
     return state::Trapped(true, [&] {
         OpenOrCreateRows(rows, objectName);
         if (rows.AtEnd())
@@ -112,7 +112,7 @@ bool SetSynParamenter(SynParameter& record, const std::wstring& objectName)
 std::wstring LoadDefaultFolder(SynParameter& record, const std::wstring& objectName)
 {
     Recordset rows;
-    const ClosesRecordset closes(rows);
+    const RecordsetCloser closer(rows);
     return state::Trapped(std::wstring(), [&] {
         const exchange::KindName* kind = exchange::FindKindName(objectName);
         const std::wstring sql = kind == nullptr

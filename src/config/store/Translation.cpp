@@ -53,7 +53,7 @@ void OpenTranslations(Recordset& rows)
     const data::Host host;
     const std::wstring sql =
         L"Select * From " + std::wstring(kParameterTable) + L" Where F_UID=" + host.UserIdLiteral();
-    RequireAccepted(host.OpenRecordsetByString(rows, sql), L"OpenRecordsetByString");
+    data::ThrowUnless(host.OpenRecordsetByString(rows, sql) >= 0, L"OpenRecordsetByString");
     if (rows.HasNoRows())
     {
         automation::CloseRecordset(rows);
@@ -88,7 +88,7 @@ std::optional<std::vector<Translation>> LoadTranslations()
 {
     using Result = std::optional<std::vector<Translation>>;
     Recordset rows;
-    const automation::ClosesRecordset closes(rows);
+    const automation::RecordsetCloser closer(rows);
     return state::Trapped(Result(), [&] {
         OpenTranslations(rows);
         if (!rows)

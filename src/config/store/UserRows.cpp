@@ -1,19 +1,10 @@
 #include "config/store/UserRows.h"
 
-#include "automation/Error.h"
 #include "data/Host.h"
 #include "state/Failures.h"
 
 namespace config
 {
-
-void RequireAccepted(long status, const wchar_t* member)
-{
-    if (status < 0)
-    {
-        throw automation::Error(E_FAIL, member, L"The host reports " + std::to_wstring(status) + L".");
-    }
-}
 
 bool IsSet(const automation::Value& flag)
 {
@@ -26,7 +17,7 @@ bool OpenUserRecordset(automation::Recordset& recordset, const std::wstring& whe
         const data::Host host;
         const std::wstring ofUser = L"F_UID=" + host.UserIdLiteral();
         const std::wstring sql = whereOrSql.empty() ? ofUser : whereOrSql + L" And " + ofUser;
-        RequireAccepted(host.OpenRecordsetByString(recordset, sql), L"OpenRecordsetByString");
+        data::ThrowUnless(host.OpenRecordsetByString(recordset, sql) >= 0, L"OpenRecordsetByString");
     });
 }
 
@@ -38,7 +29,7 @@ bool UpdateUserRows(const std::wstring& setClause, const std::wstring& tableName
         // Without a condition of its own the statement names P_UID, as the host expects.
         const std::wstring where = whereClause.empty() ? L"P_UID=" + host.UserIdLiteral()
                                                        : whereClause + L" And F_UID=" + host.UserIdLiteral();
-        RequireAccepted(host.Update(tableName, setClause, where), L"Update");
+        data::ThrowUnless(host.Update(tableName, setClause, where) >= 0, L"Update");
     });
 }
 
@@ -47,8 +38,8 @@ bool InsertUserRow(const std::wstring& columnList, const std::wstring& valueList
 {
     return state::Failed([&] {
         const data::Host host;
-        RequireAccepted(
-            host.Insert(tableName, columnList + L",F_UID", valueList + L"," + host.UserIdLiteral()),
+        data::ThrowUnless(
+            host.Insert(tableName, columnList + L",F_UID", valueList + L"," + host.UserIdLiteral()) >= 0,
             L"Insert");
     });
 }

@@ -15,9 +15,6 @@ inline constexpr wchar_t kParameterTable[] = L"T_POutlookSyncParam";
 // The Outlook folders chosen, any number per user and kind.
 inline constexpr wchar_t kFolderTable[] = L"T_POutlookSyncFolder";
 
-// Throws automation::Error for a negative status of the host.
-void RequireAccepted(long status, const wchar_t* member);
-
 // A stored flag; NULL is not set.
 bool IsSet(const automation::Value& flag);
 
