@@ -6,11 +6,10 @@
 #include "calendar/AppointmentTimes.h"
 #include "calendar/CalendarRange.h"
 #include "calendar/Recurrence.h"
-#include "data/Literals.h"
 #include "data/Permissions.h"
 #include "exchange/MatchKeys.h"
+#include "links/Activities.h"
 #include "links/ContactLink.h"
-#include "links/TaskLinks.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 #include "ui/ShowError.h"
@@ -28,7 +27,6 @@ using automation::OutlookDate;
 using automation::ReadableDate;
 using automation::Recordset;
 using automation::Value;
-using data::Host;
 using data::ThrowUnless;
 using exchange::PutAsIs;
 using exchange::TargetProperty;
@@ -52,10 +50,7 @@ Value StartOfItem(const automation::ItemView& item)
 
 std::wstring KeyOfAppointment(const automation::ItemView& item)
 {
-    const std::wstring subject = exchange::Comparable(item.Get(L"Subject"));
-    const std::wstring category = exchange::ComparableCategory(item.Get(L"Categories"));
-    return exchange::JoinedKey(subject, category,
-                               exchange::ComparableDate(StartOfItem(item), L"yyyy/mm/dd hh:mm:00"));
+    return exchange::JoinedKey({item.Get(L"Subject"), item.Get(L"Categories"), StartOfItem(item)}, kMinute);
 }
 
 // The start of a calendar row: its day and its time of day, which have columns of their own.
@@ -72,10 +67,8 @@ Value StartOfRow(const Recordset& rows)
 
 std::wstring KeyOfCalendarRow(const Recordset& rows)
 {
-    const std::wstring name = exchange::Comparable(rows.ValueOf(L"F_ACTNAME"));
-    const std::wstring type = exchange::ComparableCategory(rows.ValueOf(L"F_ACTTYPE"));
-    return exchange::JoinedKey(name, type,
-                               exchange::ComparableDate(StartOfRow(rows), L"yyyy/mm/dd hh:mm:00"));
+    return exchange::JoinedKey({rows.ValueOf(L"F_ACTNAME"), rows.ValueOf(L"F_ACTTYPE"), StartOfRow(rows)},
+                               kMinute);
 }
 
 constexpr const wchar_t* kKeyColumns[] = {L"Subject", L"Categories", L"Start", L"AllDayEvent"};
@@ -234,19 +227,14 @@ void AddAccount(const automation::ItemView& item, data::UpdateRow& entry)
 
 void Save(const exchange::Run& /*run*/, data::InsertRow& entry)
 {
-    const Host host;
-    const std::wstring id = host.NewGuid();
-    const std::wstring user = host.UserIdLiteral();
-    entry.AddLiteral(L"F_ACTORID,F_CREATORID,F_ACTID", user + L"," + user + L"," + data::QuotedText(id));
-    entry.Insert(host, L"TBLACTIVITY", id);
+    links::InsertActivity(data::Host(), entry, L"F_ACTORID,F_CREATORID,F_ACTID");
 }
 
 void Save(const exchange::Run& run, const data::UpdateRow& entry)
 {
     if (!entry.SetList().empty())
     {
-        entry.Update(Host(), L"TBLACTIVITY", L"F_ACTID",
-                     automation::TextOf(run.HostRows.ValueOf(L"F_ACTID")));
+        links::UpdateActivity(data::Host(), entry, run.HostRows);
     }
 }
 

@@ -22,18 +22,20 @@ std::wstring ComparableCategory(const Value& value)
     return text == L"(UNSPECIFIED)" || text == L"(未指定)" ? std::wstring() : text;
 }
 
-std::wstring JoinedKey(const std::wstring& name, const std::wstring& category, const std::wstring& date)
-{
-    return std::to_wstring(name.size()) + L' ' + std::to_wstring(category.size()) + L' ' + name + category +
-           date;
-}
-
 std::wstring ComparableDate(const Value& value, const wchar_t* pattern)
 {
     const std::optional<Date> date = automation::OutlookDate(value);
     const bool isNone =
         !date || automation::IsEmptyOrNull(automation::WithoutNoDate(automation::DayOf(*date)));
     return isNone ? std::wstring() : automation::Formatted(*date, pattern);
+}
+
+std::wstring JoinedKey(const KeyParts& parts, const wchar_t* datePattern)
+{
+    const std::wstring name = Comparable(parts.Name);
+    const std::wstring category = ComparableCategory(parts.Category);
+    return std::to_wstring(name.size()) + L' ' + std::to_wstring(category.size()) + L' ' + name + category +
+           ComparableDate(parts.Date, datePattern);
 }
 
 std::wstring AccountOfRow(const Recordset& rows)

@@ -18,8 +18,17 @@ std::wstring ComparableCategory(const automation::Value& value);
 // written there.
 std::wstring ComparableDate(const automation::Value& value, const wchar_t* pattern);
 
-// Parts that are compared one by one, as one text. Their lengths keep them apart, whatever they hold.
-std::wstring JoinedKey(const std::wstring& name, const std::wstring& category, const std::wstring& date);
+// The values that make up the key of a task or calendar entry. Their comparable forms are compared one by
+// one.
+struct KeyParts
+{
+    automation::Value Name;
+    automation::Value Category;
+    automation::Value Date;
+};
+
+// The parts as one text; their lengths keep them apart. datePattern: the part of the date that is compared.
+std::wstring JoinedKey(const KeyParts& parts, const wchar_t* datePattern);
 
 // ACC_SNAME of the recordset's current row.
 std::wstring AccountOfRow(const automation::Recordset& rows);

@@ -2,11 +2,10 @@
 
 #include "automation/Dates.h"
 #include "automation/Readable.h"
-#include "data/Literals.h"
 #include "data/Permissions.h"
 #include "exchange/MatchKeys.h"
+#include "links/Activities.h"
 #include "links/ContactLink.h"
-#include "links/TaskLinks.h"
 #include "state/Failures.h"
 #include "state/SharedState.h"
 #include "ui/ShowMessageBox.h"
@@ -41,18 +40,13 @@ constexpr long kTaskDeferred = 4; // the last one
 
 std::wstring KeyOfTaskItem(const automation::ItemView& item)
 {
-    const std::wstring subject = exchange::Comparable(item.Get(L"Subject"));
-    const std::wstring category = exchange::ComparableCategory(item.Get(L"Categories"));
-    return exchange::JoinedKey(subject, category,
-                               exchange::ComparableDate(item.Get(L"StartDate"), L"yyyy/mm/dd"));
+    return exchange::JoinedKey({item.Get(L"Subject"), item.Get(L"Categories"), item.Get(L"StartDate")}, kDay);
 }
 
 std::wstring KeyOfTaskRow(const Recordset& rows)
 {
-    const std::wstring name = exchange::Comparable(rows.ValueOf(L"F_ACTNAME"));
-    const std::wstring type = exchange::ComparableCategory(rows.ValueOf(L"F_ACTTYPE"));
-    return exchange::JoinedKey(name, type,
-                               exchange::ComparableDate(rows.ValueOf(L"F_ACTPSTIME"), L"yyyy/mm/dd"));
+    return exchange::JoinedKey(
+        {rows.ValueOf(L"F_ACTNAME"), rows.ValueOf(L"F_ACTTYPE"), rows.ValueOf(L"F_ACTPSTIME")}, kDay);
 }
 
 std::wstring CompaniesOfTask(const automation::ItemView& item)
@@ -265,11 +259,8 @@ void Insert(exchange::Run& run, const automation::ItemView& item)
     data::Transaction transaction(host);
     links::ChangeNewTaskContact(item, task);
     links::ChangeAddTaskAccount(item, task);
-    const std::wstring id = host.NewGuid();
-    const std::wstring user = host.UserIdLiteral();
-    task.AddLiteral(L"F_ACTORID ,F_CREATORID,F_ACTID", // with its space, as the contract requires
-                    user + L"," + user + L"," + data::QuotedText(id));
-    task.Insert(host, L"TBLACTIVITY", id);
+    links::InsertActivity(host, task,
+                          L"F_ACTORID ,F_CREATORID,F_ACTID"); // with its space, as in the contract
     transaction.Commit();
 }
 
@@ -281,7 +272,7 @@ void Update(exchange::Run& run, const automation::ItemView& item)
     data::Transaction transaction(host);
     links::ChangeEditTaskContact(item, task);
     links::ChangeEditTaskAccount(item, task);
-    task.Update(host, L"TBLACTIVITY", L"F_ACTID", automation::TextOf(run.HostRows.ValueOf(L"F_ACTID")));
+    links::UpdateActivity(host, task, run.HostRows);
     transaction.Commit();
 }
 

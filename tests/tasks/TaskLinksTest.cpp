@@ -1,4 +1,4 @@
-#include "links/TaskLinks.h"
+#include "links/Activities.h"
 
 #include "tasks/Tasks.h"
 #include "tests/support/MessageBoxes.h"

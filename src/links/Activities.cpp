@@ -1,9 +1,8 @@
-#include "links/TaskLinks.h"
+#include "links/Activities.h"
 
 #include "automation/Error.h"
 #include "automation/Text.h"
 #include "data/FieldFormat.h"
-#include "data/Host.h"
 #include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
@@ -149,6 +148,20 @@ void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& ta
 {
     const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), rollback};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
+}
+
+void InsertActivity(const data::Host& host, data::InsertRow& activity, const std::wstring& keyColumns)
+{
+    const std::wstring id = host.NewGuid();
+    const std::wstring user = host.UserIdLiteral();
+    activity.AddLiteral(keyColumns, user + L"," + user + L"," + data::QuotedText(id));
+    activity.Insert(host, L"TBLACTIVITY", id);
+}
+
+void UpdateActivity(const data::Host& host, const data::UpdateRow& activity,
+                    const automation::Recordset& rows)
+{
+    activity.Update(host, L"TBLACTIVITY", L"F_ACTID", automation::TextOf(rows.ValueOf(L"F_ACTID")));
 }
 
 } // namespace links

@@ -1,7 +1,7 @@
-// The links of a task or calendar entry to a host contact and a host account, as columns of its row: a link's
-// value depends on the user's rights and on the host's records. Called by the record writers. All throw
-// automation::Error when the host refuses; for a failed lookup of a key it is a ui::ShownError, after a
-// message box titled by the routine.
+// The host's activities (TBLACTIVITY), which tasks and calendar entries share: the links to a host contact
+// and a host account as columns of the row, whose values depend on the user's rights and on the host's
+// records, and the statements. Called by the record writers. All throw automation::Error when the host
+// refuses; for a failed lookup of a key it is a ui::ShownError, after a message box titled by the routine.
 #pragma once
 
 #include "automation/ItemView.h"
@@ -23,5 +23,12 @@ void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& tas
                           UndoneBy undoneBy = UndoneBy::Transaction);
 void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task,
                            UndoneBy undoneBy = UndoneBy::Transaction);
+
+// Sends a new activity of the current user under a new key. keyColumns: of the actor, the creator and the
+// key.
+void InsertActivity(const data::Host& host, data::InsertRow& activity, const std::wstring& keyColumns);
+// Sends the changes to the recordset's current row.
+void UpdateActivity(const data::Host& host, const data::UpdateRow& activity,
+                    const automation::Recordset& rows);
 
 } // namespace links
