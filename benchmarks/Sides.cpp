@@ -44,7 +44,7 @@ void AddAll(sandbox::Mailbox& mailbox, const wchar_t* folder, const std::vector<
 {
     for (const Record& record : records)
     {
-        mailbox.AddItem(folder, sandbox::PropertiesOf(record));
+        mailbox.AddItem(folder, tools::PropertiesOf(record));
     }
 }
 
