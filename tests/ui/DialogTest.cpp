@@ -174,6 +174,39 @@ TEST(Dialog, AnExceptionOfAHandlerEndsTheDialogAndComesOutOfTheCallThatShowedIt)
     EXPECT_EQ(1, probe.Unloaded);
 }
 
+TEST(Dialog, AnExceptionOfAHandlerIsTrappedWhereTheDialogAsksForIt)
+{
+    static constexpr ui::CaptionRow kCaptions[] = {{ui::kDialogCaption, {L"标题", L"Title"}}};
+    class Trapping : public ui::Dialog
+    {
+      public:
+        Trapping() : Dialog(IDD_SHOWERR, kCaptions, ui::Errors::AreTrapped) {}
+
+      private:
+        void OnInit() override { throw std::runtime_error("from the load step"); }
+        void OnCommand(int /*id*/, int /*notification*/) override
+        {
+            throw std::runtime_error("from the handler");
+        }
+        LRESULT OnNotify(const NMHDR& /*notification*/) override
+        {
+            throw std::runtime_error("from a control");
+        }
+    };
+    Trapping dialog;
+    Drive(
+        [](Robot& robot) {
+            const ShownDialog shown = robot.WaitForDialog();
+            EXPECT_EQ(resources::Choose(L"标题", L"Title"), shown.Caption());
+            NMHDR notification{};
+            shown.Ask(shown.Handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification));
+            shown.Ask(shown.Handle(), WM_COMMAND, IDOK);
+            EXPECT_TRUE(IsWindow(shown.Handle()));
+            shown.Close();
+        },
+        [&] { EXPECT_NO_THROW(dialog.ShowModal()); });
+}
+
 TEST(Dialog, AnExceptionOfTheLoadStepComesOutBeforeAnythingIsShown)
 {
     Probe probe;
