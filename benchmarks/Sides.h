@@ -30,6 +30,7 @@ class NoDisplay : public exchange::RunDisplay
     void SetProgress(double) override {}
     std::wstring CategoryText() const override { return {}; }
     void Confirm(exchange::Run&) override {}
+    void TakeReport(exchange::Report&&) override {}
 };
 
 // The files of one size, in the folder for temporary files; gone with the object.

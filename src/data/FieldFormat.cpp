@@ -5,7 +5,7 @@
 #include "automation/Text.h"
 #include "data/Literals.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "ui/ShowMessageBox.h"
 
 #include <algorithm>
@@ -137,6 +137,18 @@ bool IsText(const FieldDescription& field)
                             resources::Choose(L"SynFields 中没有该字段", L"SynFields has no such column"));
 }
 
+void TellIfCut(const std::wstring& column, const std::wstring& text, const std::wstring& literal)
+{
+    const std::wstring kept = automation::Replaced(literal.substr(1, literal.size() - 2), L"''", L"'");
+    if (kept.size() < text.size())
+    {
+        state::Tell({.Why = state::Cause::TextCut,
+                     .Field = column,
+                     .Length = static_cast<long>(text.size()),
+                     .Kept = static_cast<long>(kept.size())});
+    }
+}
+
 bool IsPair(wchar_t first, wchar_t second)
 {
     return IS_HIGH_SURROGATE(first) && IS_LOW_SURROGATE(second);
@@ -157,7 +169,12 @@ std::optional<Value> Formatted(FieldCatalogue& catalogue, const std::wstring& co
         ui::ShowMessageBox(L"Don't format:" + column, MB_OK, L"FormatFieldlValue");
         return std::nullopt;
     }
-    return kFormatters[type - 1](value, *field);
+    Value literal = kFormatters[type - 1](value, *field);
+    if (IsText(*field))
+    {
+        TellIfCut(column, automation::TextOf(value), automation::TextOf(literal));
+    }
+    return literal;
 }
 
 std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)

@@ -45,6 +45,9 @@ struct Kind
     unsigned CollectToOutlookTextId;
     long PermissionKind; // of the host's rights
     MatchRule Match;
+    // The name by which the user knows a record; throw automation::Error when it cannot be read.
+    std::wstring (*NameOfItem)(const automation::Object& item);
+    std::wstring (*NameOfRow)(const automation::Recordset& rows);
     Filters (*FiltersOf)(const state::SynParameter& parameter, const data::Host& host);
     PassToOutlook ToOutlook;
     PassFromOutlook FromOutlook;

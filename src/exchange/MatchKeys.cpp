@@ -36,6 +36,16 @@ std::wstring ComparableDate(const Value& value, const wchar_t* pattern)
     return isNone ? std::wstring() : automation::Formatted(*date, pattern);
 }
 
+std::wstring SubjectOfItem(const automation::Object& item)
+{
+    return automation::TextOrEmpty(item.Get(L"Subject"));
+}
+
+std::wstring SubjectOfRow(const Recordset& rows)
+{
+    return automation::TextOrEmpty(rows.ValueOf(L"F_ACTNAME"));
+}
+
 std::wstring AccountOfRow(const Recordset& rows)
 {
     return Comparable(rows.ValueOf(L"ACC_SNAME"));

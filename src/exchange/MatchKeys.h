@@ -21,6 +21,10 @@ std::wstring ComparableDate(const automation::Value& value, const wchar_t* patte
 // Parts that are compared one by one, as one text. Their lengths keep them apart, whatever they hold.
 std::wstring JoinedKey(const std::wstring& name, const std::wstring& category, const std::wstring& date);
 
+// The subject, by which the user knows a task and an entry of the calendar.
+std::wstring SubjectOfItem(const automation::Object& item);
+std::wstring SubjectOfRow(const automation::Recordset& rows);
+
 // ACC_SNAME of the row on which the recordset stands.
 std::wstring AccountOfRow(const automation::Recordset& rows);
 

@@ -1,5 +1,5 @@
-// The user as a run sees them: the status line and progress bar of the main dialog, and the confirmation. The
-// main dialog implements it.
+// The user as a run sees them: the status line and progress bar of the main dialog, the confirmation, and the
+// report at the end. The main dialog implements it.
 #pragma once
 
 #include <string>
@@ -7,6 +7,7 @@
 namespace exchange
 {
 
+class Report;
 struct Run;
 
 class RunDisplay
@@ -25,6 +26,8 @@ class RunDisplay
     // Asks whether the run's pending changes are to be written; the answer is the shared state's
     // gChangesAccepted, and stays as it is when the user closes the question.
     virtual void Confirm(Run& run) = 0;
+    // The run is over, and this is its report.
+    virtual void TakeReport(Report&& report) = 0;
 };
 
 // The progress bar is shown from 0 on for the length of a scope.

@@ -2,7 +2,7 @@
 
 #include "automation/Error.h"
 #include "automation/OutlookConstants.h"
-#include "data/Remark.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
 
 namespace links
@@ -44,7 +44,10 @@ void AddLink(const Object& item, const Object& contact)
         {
             throw;
         }
-        data::Remark(L"A contact has not been linked: Outlook refuses links");
+        state::Tell({.Why = state::Cause::LinkRefused,
+                     .Field = error.Member(),
+                     .Words = error.Description(),
+                     .Code = error.Code()});
     }
 }
 

@@ -7,8 +7,8 @@
 #include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
-#include "data/Remark.h"
 #include "links/ContactLink.h"
+#include "state/Remarks.h"
 #include "ui/ShowError.h"
 
 #include <optional>
@@ -45,6 +45,7 @@ std::wstring FindKey(const wchar_t* builder, const wchar_t* table, const wchar_t
     }
     catch (const automation::Error& error)
     {
+        state::TellFailure(error, keyColumn, static_cast<long>(name.size()));
         ui::ShowAndThrow(error, std::to_wstring(NumberOf(error)), MB_ICONERROR, builder);
     }
 }
@@ -67,15 +68,28 @@ std::optional<std::wstring> ContactNamesOf(const Object& item)
         {
             throw;
         }
-        data::Remark(L"The contact has been left as it is: Outlook refuses to tell it");
+        state::Tell({.Why = state::Cause::ReadRefused,
+                     .Field = L"ContactNames",
+                     .Words = error.Description(),
+                     .Code = error.Code()});
         return std::nullopt;
     }
 }
 
+// Without a message: the report of the run tells the missing right.
+bool HasRight(long kind, long operation)
+{
+    const bool has = data::HasPermission(kind, data::kUsualScope, operation);
+    if (!has)
+    {
+        data::TellMissingRight(kind, operation);
+    }
+    return has;
+}
+
 Link LiteralOfContact(const wchar_t* builder, const Object& item)
 {
-    if (!data::HasPermission(data::kContactRecord, data::kUsualScope, data::kModifyOperation) ||
-        IsOfOutlook8(item))
+    if (!HasRight(data::kContactRecord, data::kModifyOperation) || IsOfOutlook8(item))
     {
         return kNull;
     }
@@ -85,11 +99,6 @@ Link LiteralOfContact(const wchar_t* builder, const Object& item)
         return names ? Link(kNull) : Link();
     }
     return LiteralOfKey(FindKey(builder, L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", *names, kContactColumn));
-}
-
-bool UserMayChangeAccounts(long operation)
-{
-    return data::HasPermission(data::kAccountRecord, data::kUsualScope, operation);
 }
 
 // The data that the account builders share.
@@ -113,9 +122,12 @@ struct AccountLink
         const std::wstring company = automation::Trimmed(TextOrEmpty(item.Get(L"Companies")));
         if (company.empty())
         {
-            return UserMayChangeAccounts(data::kModifyOperation) ? Link(kNull) : Link();
+            return data::HasPermission(data::kAccountRecord, data::kUsualScope, data::kModifyOperation)
+                       ? Link(kNull)
+                       : Link();
         }
-        return UserMayChangeAccounts(data::kAddOperation) ? Link(LiteralOfKey(KeyOf(company))) : Link();
+        return HasRight(data::kAccountRecord, data::kAddOperation) ? Link(LiteralOfKey(KeyOf(company)))
+                                                                   : Link();
     }
 };
 

@@ -2,6 +2,8 @@
 
 #include "exchange/KindName.h"
 #include "exchange/Run.h"
+#include "report/FrmReport.h"
+#include "report/RunLog.h"
 #include "resources/Strings.h"
 #include "run/FrmMessage.h"
 #include "run/SynchronizeTexts.h"
@@ -24,7 +26,8 @@ namespace run
 namespace
 {
 
-constexpr int kListMargin = 4; // dialog units between the tabbed frame and the list
+constexpr int kListMargin = 4;   // dialog units between the tabbed frame and the list
+constexpr int kReportMargin = 6; // pixels between the status line and the button beside it
 
 struct CategoryRow
 {
@@ -65,6 +68,7 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
         CmdConfigure.SetText(Choose(L"配置(&F)", L"Con&figuare"));
         CmdSynchronize.SetText(Choose(L"同步(&S)", L"&Synchronization"));
         cmdCancel.SetText(Choose(L"关闭(&C)", L"&Close"));
+        cmdReport.SetText(resources::String(IDS_REPORT_OPEN));
     }
 
     void FillCategories()
@@ -102,6 +106,7 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
         {
         case IDC_SYNC_CONFIGURE: OnConfigure(); break;
         case IDC_SYNC_START: OnSynchronize(); break;
+        case IDC_SYNC_REPORT: report::ShowReport(*mLastRun); break;
         default: Dialog::OnCommand(id, notification);
         }
     }
@@ -118,11 +123,28 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 
     void OnSynchronize()
     {
+        mLastRun.reset();
+        ShowReportButton(false);
         const std::wstring outcome = AtWork([&] { return Synchronize(); });
+        if (mLastRun)
+        {
+            mLastRun->Outcome = outcome;
+            report::LogRun(*mLastRun);
+            ShowReportButton(mLastRun->Report.HasSomethingToTell());
+        }
         if (!outcome.empty())
         {
             SetStatus(outcome);
         }
+    }
+
+    // Beside the status line, which makes room for it.
+    void ShowReportButton(bool visible)
+    {
+        RECT line = lblState.Place();
+        line.right = visible ? cmdReport.Place().left - kReportMargin : cmdReport.Place().right;
+        lblState.MoveTo(line);
+        cmdReport.Show(visible);
     }
 
     // The dialog takes no input from before the first thing is read. That is over before the outcome is
@@ -213,10 +235,17 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 
     void Confirm(exchange::Run& run) override { ShowConfirmation(CategoryText(), run.Pending); }
 
+    void TakeReport(exchange::Report&& taken) override
+    {
+        mLastRun.emplace(report::FinishedRun{.Category = CategoryText(), .Report = std::move(taken)});
+        GetLocalTime(&mLastRun->EndedAt);
+    }
+
     ui::TabFrame SstbOption{*this, IDC_SYNC_OPTION};
     ui::ListView lvCategory{*this, IDC_SYNC_CATEGORY};
     ui::Frame Frame1{*this, IDC_SYNC_FRAME};
     ui::Label lblState{*this, IDC_SYNC_STATE};
+    ui::Button cmdReport{*this, IDC_SYNC_REPORT};
     ui::ProgressBar prgbarSyn{*this, IDC_SYNC_PROGRESS};
     ui::Button CmdSynchronize{*this, IDC_SYNC_START};
     ui::Button CmdConfigure{*this, IDC_SYNC_CONFIGURE};
@@ -224,6 +253,7 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 
     const SynchronizeServices& mServices;
     std::optional<int> mCurrentCategory; // the row last clicked
+    std::optional<report::FinishedRun> mLastRun;
 };
 
 } // namespace

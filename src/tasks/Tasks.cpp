@@ -7,7 +7,7 @@
 #include "exchange/MatchKeys.h"
 #include "links/ContactLink.h"
 #include "links/TaskLinks.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
 #include "ui/ShowMessageBox.h"
 
@@ -306,7 +306,7 @@ void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const Object&
 
 long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
-    const bool failed = state::Failed([&] {
+    const bool failed = state::FailedAndTold([&] {
         switch (mode)
         {
         case data::kNewRecord: Insert(run, item); break;
@@ -350,6 +350,8 @@ constexpr exchange::Kind kTasks{
               KeyOfTaskRow,
               exchange::AccountOfRow,
               {L"IPM.Task", kKeyColumns, false}},
+    .NameOfItem = exchange::SubjectOfItem,
+    .NameOfRow = exchange::SubjectOfRow,
     .FiltersOf = PendingOnly,
     .ToOutlook = SynTaskToOutlook,
     .FromOutlook = SynTaskFromOutlook,

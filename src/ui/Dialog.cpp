@@ -204,6 +204,11 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_COMMAND:
     case WM_CLOSE: return HandleOrder(message, wParam, lParam);
     case WM_NOTIFY: return HandleNotify(lParam);
+    case WM_SIZE:
+        mAnchors.Place();
+        OnSize();
+        return FALSE;
+    case WM_GETMINMAXINFO: mAnchors.Limit(*reinterpret_cast<MINMAXINFO*>(lParam)); return FALSE;
     case WM_SETCURSOR: return HandleSetCursor(LOWORD(lParam));
     case WM_DESTROY:
         RemovePropW(mWindow, kDialogProperty);
@@ -242,6 +247,7 @@ INT_PTR Dialog::HandleInit()
     RunHandler([&] {
         WriteCaptions();
         OnInit();
+        mAnchors.Attach(mWindow, AnchoredControls());
     });
     CenterOverActiveBefore();
     if (const int first = FirstFocus(); first != 0)

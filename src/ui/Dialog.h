@@ -3,6 +3,7 @@
 // shown.
 #pragma once
 
+#include "ui/Anchors.h"
 #include "ui/Caption.h"
 #include "ui/ModalScope.h"
 
@@ -73,6 +74,10 @@ class Dialog
     virtual void OnUnload() {}
     // The control that has the focus at first; 0 for the first one in tab order.
     virtual int FirstFocus() const { return 0; }
+    // How the controls of a resizable dialog follow its edges; asked once, after OnInit.
+    virtual std::span<const AnchoredControl> AnchoredControls() const { return {}; }
+    // The controls have followed the dialog's new size.
+    virtual void OnSize() {}
 
   private:
     friend class Busy;
@@ -98,6 +103,7 @@ class Dialog
     HWND mWindow = nullptr;
     std::optional<ModalScope> mModal;
     Busy* mBusy = nullptr;
+    Anchors mAnchors;
     std::exception_ptr mFailure;
 };
 

@@ -38,9 +38,11 @@ class RecordingDisplay : public exchange::RunDisplay
     }
     std::wstring CategoryText() const override { return L"Contact"; }
     void Confirm(exchange::Run& run) override { Ask(CategoryText(), run.Pending); }
+    void TakeReport(exchange::Report&& report) override { Report = std::move(report); }
 
     // How the user is asked; run::ShowConfirmation is the component's own way.
     std::function<void(const std::wstring& categoryText, const data::Changes& changes)> Ask;
+    exchange::Report Report;
 };
 
 } // namespace test_support

@@ -45,6 +45,17 @@ bool Has(const ShownDialog& dialog, int control)
     return dialog.Control(control) != nullptr;
 }
 
+std::wstring RowOfReport(const ShownDialog& report, int row)
+{
+    constexpr int kColumns = 6;
+    std::wstring text = report.Row(IDC_REPORT_LIST, row);
+    for (int column = 1; column < kColumns; ++column)
+    {
+        text += L"|" + report.Row(IDC_REPORT_LIST, row, column);
+    }
+    return text;
+}
+
 } // namespace
 
 Conversation::Conversation(Robot& robot, const Options& options)
@@ -81,7 +92,26 @@ Outcome Conversation::RunCategory(const std::wstring& category)
     outcome.seconds = std::chrono::duration<double>(Clock::now() - start).count();
     outcome.succeeded = outcome.status == resources::String(IDS_RUN_SUCCEEDED);
     SavePictureOf(mMain, L"main-" + category + L"-done");
+    if (mOptions.Details)
+    {
+        LookAtReport(category, outcome);
+    }
     return outcome;
+}
+
+void Conversation::LookAtReport(const std::wstring& category, Outcome& outcome)
+{
+    if (mMain.IsVisible(IDC_SYNC_REPORT))
+    {
+        const ShownDialog report = OpenedBy(mMain, IDC_SYNC_REPORT);
+        outcome.reportSummary = report.Text(IDC_REPORT_SUMMARY);
+        for (int row = 0; row < report.Rows(IDC_REPORT_LIST); ++row)
+        {
+            outcome.reportRows.push_back(RowOfReport(report, row));
+        }
+        SavePictureOf(report, L"report-" + category);
+        Leave(report);
+    }
 }
 
 void Conversation::Answer(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome)
