@@ -41,15 +41,17 @@ Report SomeReport()
                          .Words = L"Disk full\r\nwhile writing",
                          .Code = E_FAIL});
     record(Change::ChangeInOutlook, L"王芳", state::Remark{.Why = Cause::Vanished});
-    state::Tell({.Why = Cause::RightMissing, .Words = L"You are not permit to add account record(s)!"});
+    state::Tell({.Why = Cause::RightMissing,
+                 .Words = resources::Choose(L"你没有添加单位的权限!",
+                                            L"You are not permit to add account record(s)!")});
     report.CountOtherItems(2);
     return report;
 }
 
 report::FinishedRun FinishedRun(Report data)
 {
-    return {.Category = L"Contact",
-            .Outcome = L"Synchronize Succeed.",
+    return {.Category = resources::String(IDS_CATEGORY_CONTACT),
+            .Outcome = resources::String(IDS_RUN_SUCCEEDED),
             .EndedAt = {2026, 11, 6, 21, 21, 40, 5, 0},
             .Report = std::move(data)};
 }
