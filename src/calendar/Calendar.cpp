@@ -4,6 +4,7 @@
 #include "automation/Error.h"
 #include "automation/Readable.h"
 #include "calendar/AppointmentTimes.h"
+#include "calendar/CalendarPreview.h"
 #include "calendar/CalendarRange.h"
 #include "calendar/Recurrence.h"
 #include "data/Literals.h"
@@ -332,6 +333,7 @@ constexpr exchange::Kind kCalendar{
     .FiltersOf = WithinCalendarRange,
     .ToOutlook = SynCalendarToOutlook,
     .FromOutlook = SynCalendarFromOutlook,
+    .Preview = kCalendarPreview,
 };
 
 } // namespace calendar

@@ -3,6 +3,7 @@
 #include "automation/Dates.h"
 #include "automation/Readable.h"
 #include "automation/Text.h"
+#include "contacts/ContactPreview.h"
 #include "data/Literals.h"
 #include "data/Permissions.h"
 #include "exchange/MatchKeys.h"
@@ -311,6 +312,7 @@ constexpr exchange::Kind kContacts{
     .FiltersOf = exchange::KeepAll,
     .ToOutlook = SynContactToOutlook,
     .FromOutlook = SynContactFromOutlook,
+    .Preview = kContactPreview,
 };
 
 } // namespace contacts

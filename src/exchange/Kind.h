@@ -6,6 +6,7 @@
 #include "exchange/ApplyFromOutlook.h"
 #include "exchange/ApplyToOutlook.h"
 #include "exchange/KindName.h"
+#include "exchange/KindPreview.h"
 #include "exchange/MatchRule.h"
 #include "state/SynParameter.h"
 
@@ -51,6 +52,7 @@ struct Kind
     Filters (*FiltersOf)(const state::SynParameter& parameter, const data::Host& host);
     PassToOutlook ToOutlook;
     PassFromOutlook FromOutlook;
+    const KindPreview& Preview;
 };
 
 } // namespace exchange

@@ -8,6 +8,7 @@ namespace exchange
 {
 
 class Report;
+struct Kind;
 struct Run;
 
 class RunDisplay
@@ -24,8 +25,9 @@ class RunDisplay
     // The text of the category row that the run is for.
     virtual std::wstring CategoryText() const = 0;
     // Asks whether the run's pending changes are to be written; the answer is the shared state's
-    // gChangesAccepted, and stays as it is when the user closes the question.
-    virtual void Confirm(Run& run) = 0;
+    // gChangesAccepted, and stays as it is when the user closes the question. Changes that the user leaves
+    // out are pending no longer.
+    virtual void Confirm(const Kind& kind, Run& run) = 0;
     // The run is over, and this is its report.
     virtual void TakeReport(Report&& report) = 0;
 };

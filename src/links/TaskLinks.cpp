@@ -87,18 +87,39 @@ bool HasRight(long kind, long operation)
     return has;
 }
 
+// Whom a record is to be linked to: nothing where its link stays as the host has it, the empty text for no
+// one.
+std::optional<std::wstring> ContactToLink(const Object& item)
+{
+    const bool mayLink = HasRight(data::kContactRecord, data::kModifyOperation) && !IsOfOutlook8(item);
+    return mayLink ? ContactNamesOf(item) : std::wstring();
+}
+
 Link LiteralOfContact(const wchar_t* builder, const Object& item)
 {
-    if (!HasRight(data::kContactRecord, data::kModifyOperation) || IsOfOutlook8(item))
-    {
-        return kNull;
-    }
-    const auto names = ContactNamesOf(item);
+    const auto names = ContactToLink(item);
     if (!names || names->empty())
     {
         return names ? Link(kNull) : Link();
     }
     return LiteralOfKey(FindKey(builder, L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", *names, kContactColumn));
+}
+
+// The same for the company.
+std::optional<std::wstring> CompanyToLink(const Object& item)
+{
+    std::wstring company = automation::Trimmed(TextOrEmpty(item.Get(L"Companies")));
+    const bool mayLink =
+        company.empty() ? data::HasPermission(data::kAccountRecord, data::kUsualScope, data::kModifyOperation)
+                        : HasRight(data::kAccountRecord, data::kAddOperation);
+    return mayLink ? std::optional(std::move(company)) : std::nullopt;
+}
+
+// An account is stored under its company's name cut to the column: a longer name is looked up in its cut
+// form.
+std::wstring NameOfAccount(data::FieldCatalogue& catalogue, const std::wstring& company)
+{
+    return data::TextAsHeld(catalogue, L"F_ACCSNAME", company);
 }
 
 // The data that the account builders share.
@@ -108,26 +129,21 @@ struct AccountLink
     data::FieldCatalogue& Catalogue;
     links::UndoneBy UndoneBy;
 
-    // An account is stored under its company's name cut to the column: a longer name is looked up in its cut
-    // form.
     std::wstring KeyOf(const std::wstring& company) const
     {
-        const std::wstring name = data::TextAsHeld(Catalogue, L"F_ACCSNAME", company);
-        const std::wstring key = FindKey(Builder, L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn);
+        const std::wstring key =
+            FindKey(Builder, L"TBLACCOUNT", L"F_ACCSNAME", NameOfAccount(Catalogue, company), kAccountColumn);
         return key.empty() ? links::CreateAccount(data::Host(), Catalogue, company, UndoneBy) : key;
     }
 
     Link LiteralOf(const Object& item) const
     {
-        const std::wstring company = automation::Trimmed(TextOrEmpty(item.Get(L"Companies")));
-        if (company.empty())
+        const auto company = CompanyToLink(item);
+        if (!company)
         {
-            return data::HasPermission(data::kAccountRecord, data::kUsualScope, data::kModifyOperation)
-                       ? Link(kNull)
-                       : Link();
+            return {};
         }
-        return HasRight(data::kAccountRecord, data::kAddOperation) ? Link(LiteralOfKey(KeyOf(company)))
-                                                                   : Link();
+        return company->empty() ? kNull : LiteralOfKey(KeyOf(*company));
     }
 };
 
@@ -161,6 +177,33 @@ void ChangeEditTaskAccount(const Object& item, data::UpdateRow& task, UndoneBy u
 {
     const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), undoneBy};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
+}
+
+std::optional<LinkPreview> PreviewTaskContact(const Object& item)
+{
+    const auto names = ContactToLink(item);
+    if (!names)
+    {
+        return std::nullopt;
+    }
+    const bool isKnown =
+        !names->empty() &&
+        !TextOrEmpty(data::FindValue(L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", *names, kContactColumn))
+             .empty();
+    return LinkPreview{isKnown ? *names : std::wstring()};
+}
+
+std::optional<LinkPreview> PreviewTaskAccount(data::FieldCatalogue& catalogue, const Object& item)
+{
+    const auto company = CompanyToLink(item);
+    if (!company || company->empty())
+    {
+        return company ? std::optional(LinkPreview()) : std::nullopt;
+    }
+    const std::wstring name = NameOfAccount(catalogue, *company);
+    const bool isKnown =
+        !TextOrEmpty(data::FindValue(L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn)).empty();
+    return LinkPreview{name, !isKnown};
 }
 
 } // namespace links

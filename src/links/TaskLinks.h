@@ -8,6 +8,9 @@
 #include "data/HostRow.h"
 #include "links/Accounts.h"
 
+#include <optional>
+#include <string>
+
 namespace links
 {
 
@@ -23,5 +26,17 @@ void ChangeAddTaskAccount(const automation::Object& item, data::InsertRow& task,
                           UndoneBy undoneBy = UndoneBy::Transaction);
 void ChangeEditTaskAccount(const automation::Object& item, data::UpdateRow& task,
                            UndoneBy undoneBy = UndoneBy::Transaction);
+
+// The same without writing anything and without a message: the contact's or the company's name that the link
+// would lead to, the empty text for no link; nothing where the link stays as it is. Throw automation::Error
+// when the host refuses a lookup.
+struct LinkPreview
+{
+    std::wstring Name{};
+    bool IsNew = false; // the account would be added
+};
+std::optional<LinkPreview> PreviewTaskContact(const automation::Object& item);
+std::optional<LinkPreview> PreviewTaskAccount(data::FieldCatalogue& catalogue,
+                                              const automation::Object& item);
 
 } // namespace links

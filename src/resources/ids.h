@@ -145,6 +145,7 @@
 #define IDC_MESSAGE_TO_SYN_TITLE 2106  // LblOlToSynTitle
 #define IDC_MESSAGE_TO_SYN_NEW 2107    // LblOlToSynNew
 #define IDC_MESSAGE_TO_SYN_MODIFY 2108 // LblOlToSynModify
+#define IDC_MESSAGE_DETAILS 2109       // cmdDetails
 
 #define IDD_SHOWERR 2200             // FrmShowErr
 #define IDC_SHOWERR_PICTURE 2201     // the error icon
@@ -213,3 +214,22 @@
 #define IDC_REPORT_DETAILS 3205 // txtDetails
 #define IDC_REPORT_COPY 3206    // cmdCopy
 #define IDC_REPORT_SAVE 3207    // cmdSave
+
+#define IDD_CHANGES 3300 // FrmChanges
+#define IDC_CHANGES_SEARCH_LABEL 3301
+#define IDC_CHANGES_SEARCH 3302 // txtSearch
+#define IDC_CHANGES_COLUMN_LABEL 3303
+#define IDC_CHANGES_COLUMN 3304 // cmbColumn
+#define IDC_CHANGES_ORDER_LABEL 3305
+#define IDC_CHANGES_ORDER 3306 // cmbOrder
+#define IDC_CHANGES_LIST_LABEL 3307
+#define IDC_CHANGES_LIST 3308     // lvChanges
+#define IDC_CHANGES_COUNT 3309    // lblCount
+#define IDC_CHANGES_PROGRESS 3310 // prgbarReading
+#define IDC_CHANGES_STOP 3311     // cmdStop
+#define IDC_CHANGES_FIELDS_LABEL 3312
+#define IDC_CHANGES_FIELDS 3313  // lvFields
+#define IDC_CHANGES_NOTES 3314   // txtNotes
+#define IDC_CHANGES_CHECK 3315   // cmdCheckAll
+#define IDC_CHANGES_UNCHECK 3316 // cmdUncheckAll
+#define IDC_CHANGES_SAVE 3317    // cmdSave

@@ -233,7 +233,10 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 
     std::wstring CategoryText() const override { return lvCategory.TextOf(*mCurrentCategory); }
 
-    void Confirm(exchange::Run& run) override { ShowConfirmation(CategoryText(), run.Pending); }
+    void Confirm(const exchange::Kind& kind, exchange::Run& run) override
+    {
+        ConfirmChanges(kind, run, CategoryText());
+    }
 
     void TakeReport(exchange::Report&& taken) override
     {

@@ -40,7 +40,7 @@ long CountChanges(const data::Changes& changes, long transType)
     return count;
 }
 
-bool UserAccepts(exchange::Run& run)
+bool UserAccepts(const exchange::Kind& kind, exchange::Run& run)
 {
     // A dialog that is closed by neither button leaves the flag alone; an answer to an earlier run is no
     // consent to this one.
@@ -48,7 +48,7 @@ bool UserAccepts(exchange::Run& run)
     // Whatever the user looks at meanwhile is not written by this run.
     exchange::Report dropped;
     const state::CollectsRemarks drops(dropped);
-    run.Display.Confirm(run);
+    run.Display.Confirm(kind, run);
     return Shared().gChangesAccepted;
 }
 
@@ -84,7 +84,7 @@ bool Exchange(const exchange::Kind& kind, exchange::Run& run)
     {
         return true;
     }
-    if (!UserAccepts(run) || CountChanges(run.Pending, transType) == 0)
+    if (!UserAccepts(kind, run) || CountChanges(run.Pending, transType) == 0)
     {
         return false;
     }

@@ -9,6 +9,7 @@
 #include "links/TaskLinks.h"
 #include "state/Remarks.h"
 #include "state/SharedState.h"
+#include "tasks/TaskPreview.h"
 #include "ui/ShowMessageBox.h"
 
 #include <limits>
@@ -355,6 +356,7 @@ constexpr exchange::Kind kTasks{
     .FiltersOf = PendingOnly,
     .ToOutlook = SynTaskToOutlook,
     .FromOutlook = SynTaskFromOutlook,
+    .Preview = kTaskPreview,
 };
 
 } // namespace tasks

@@ -209,6 +209,7 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         OnSize();
         return FALSE;
     case WM_GETMINMAXINFO: mAnchors.Limit(*reinterpret_cast<MINMAXINFO*>(lParam)); return FALSE;
+    case WM_TIMER: OnTimer(wParam); return TRUE;
     case WM_SETCURSOR: return HandleSetCursor(LOWORD(lParam));
     case WM_DESTROY:
         RemovePropW(mWindow, kDialogProperty);
@@ -248,6 +249,11 @@ INT_PTR Dialog::HandleInit()
         WriteCaptions();
         OnInit();
         mAnchors.Attach(mWindow, AnchoredControls());
+        if (const auto size = OpeningSize())
+        {
+            SetWindowPos(mWindow, nullptr, 0, 0, size->cx, size->cy,
+                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        }
     });
     CenterOverActiveBefore();
     if (const int first = FirstFocus(); first != 0)

@@ -76,8 +76,12 @@ class Dialog
     virtual int FirstFocus() const { return 0; }
     // How the controls of a resizable dialog follow its edges; asked once, after OnInit.
     virtual std::span<const AnchoredControl> AnchoredControls() const { return {}; }
+    // The size in pixels that the dialog opens with; nothing for the template's, which is its least.
+    virtual std::optional<SIZE> OpeningSize() const { return std::nullopt; }
     // The controls have followed the dialog's new size.
     virtual void OnSize() {}
+    // A timer that SetTimer has set for the dialog's window.
+    virtual void OnTimer(UINT_PTR /*id*/) {}
 
   private:
     friend class Busy;

@@ -183,7 +183,7 @@ FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
     if (trial.phase == Phase::Whole)
     {
         *mFaults = {trial.fault, trial.at, 0, {}};
-        mDisplay.Ask = run::ShowConfirmation;
+        mDisplay.Ask = run::ConfirmChanges;
         outcome.reportedFailure = trial.what.kind.run(mDisplay);
     }
     else

@@ -85,7 +85,7 @@ RunsFixture::RunsFixture()
     shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
     shared.gFontName = L"Arial";
     shared.gFontSize = 8;
-    Display.Ask = run::ShowConfirmation;
+    Display.Ask = run::ConfirmChanges;
 }
 
 RunsFixture::~RunsFixture()
