@@ -36,7 +36,7 @@ constexpr ui::AnchoredControl kAnchors[] = {
 };
 
 // Of the list's width, in percent; the last column takes the rest.
-constexpr int kWidths[] = {22, 34, 24, 0};
+constexpr int kWidths[] = {27, 32, 24, 0};
 constexpr int kFieldWidths[] = {26, 37, 0};
 
 constexpr UINT_PTR kNow = 1;       // work that waits until the window has been painted
@@ -138,11 +138,26 @@ class FrmChanges : public ui::Dialog
         {
             lvFields.AddColumn(headers[i], PartOf(lvFields, kFieldWidths[i]));
         }
-        lvFields.FillWidth();
-        if (!areKnown)
+        FillLastColumns();
+    }
+
+    // The last column takes the rest, without the scroll bar.
+    void FillLastColumns()
+    {
+        FillLastColumn(lvChanges, static_cast<int>(kColumns.size()));
+        FillLastColumn(lvFields, static_cast<int>(std::size(kFieldWidths)));
+    }
+
+    static void FillLastColumn(ui::VirtualListView& list, int columns)
+    {
+        const RECT place = list.Place();
+        int rest =
+            place.right - place.left - GetSystemMetrics(SM_CXVSCROLL) - 2 * GetSystemMetrics(SM_CXEDGE);
+        for (int column = 0; column < columns - 1; ++column)
         {
-            lvChanges.FillWidth();
+            rest -= list.ColumnWidth(column);
         }
+        list.SetColumnWidth(columns - 1, std::max(rest, list.ColumnWidth(columns - 1)));
     }
 
     static int PartOf(const ui::Control& list, int percent)
@@ -286,6 +301,7 @@ class FrmChanges : public ui::Dialog
         });
         InvalidateRect(lvFields.Handle(), nullptr, TRUE);
         txtNotes.SetText(notes);
+        txtNotes.Show(!notes.empty());
     }
 
     // The fields that change come first. The notes on the record.
@@ -545,6 +561,7 @@ class FrmChanges : public ui::Dialog
         RECT fields = lvFields.Place();
         fields.top -= share;
         lvFields.MoveTo(fields);
+        FillLastColumns();
         InvalidateRect(Handle(), nullptr, TRUE);
         Later();
     }

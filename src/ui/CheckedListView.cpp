@@ -78,7 +78,10 @@ void CheckedListView::SelectFirst()
 {
     LVITEMW item = {};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), &item);
+    for (const int row : SelectedRows()) // a few, where all of them would take long
+    {
+        SendPointer(LVM_SETITEMSTATE, static_cast<WPARAM>(row), &item);
+    }
     if (Count() > 0)
     {
         Select(0);
@@ -122,14 +125,9 @@ std::vector<int> CheckedListView::ColumnWidths() const
     std::vector<int> widths;
     for (int column = 0; column < count; ++column)
     {
-        widths.push_back(static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column))));
+        widths.push_back(ColumnWidth(column));
     }
     return widths;
-}
-
-void CheckedListView::SetColumnWidth(int column, int pixels)
-{
-    Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), pixels);
 }
 
 LRESULT CALLBACK CheckedListView::HandleInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam,

@@ -43,7 +43,6 @@ class CheckedListView : public VirtualListView
     void ShowOrder(int column, bool isDescending);
 
     std::vector<int> ColumnWidths() const;
-    void SetColumnWidth(int column, int pixels);
 
   private:
     static LRESULT CALLBACK HandleInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

@@ -20,6 +20,8 @@ class ListView : public Control
     // Adds a column of a width in pixels; FillWidth gives the last one the remaining width.
     void AddColumn(const std::wstring& header, int width = 0);
     void FillWidth();
+    int ColumnWidth(int column) const;
+    void SetColumnWidth(int column, int pixels);
 
     // Adds a row at the end; its index, from 0.
     int Add(const std::wstring& text, const std::wstring& key = {});

@@ -172,6 +172,8 @@ TEST_F(FrmChanges, SortsByTheChosenOrderAndRemembersItWithSizeAndWidths)
         EXPECT_EQ(before.cx, place.right - place.left);
         EXPECT_EQ(before.cy, place.bottom - place.top);
         EXPECT_EQ(77, again.Ask(again.Control(IDC_CHANGES_LIST), LVM_GETCOLUMNWIDTH, 1));
+        again.Click(IDCANCEL);
+        robot.WaitUntilClosed(again);
     });
 }
 
@@ -182,6 +184,7 @@ TEST_F(FrmChanges, IsReadableInBothLanguagesAtEveryScale)
         const bool isChinese = language == resources::Language::Chinese;
         for (const double scale : {1.0, 1.5, 2.0})
         {
+            Forget();
             RandomSides sides(kRandomContacts, 4);
             sides.Add(4, 4, 4);
             const WithLanguage with(language);
@@ -219,6 +222,7 @@ Accessible AccessibleOf(HWND window)
     const HRESULT found =
         AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
                                    reinterpret_cast<void**>(object.GetAddressOf()));
+    EXPECT_EQ(S_OK, found);
     Accessible result;
     if (FAILED(found) || object == nullptr)
     {
