@@ -10,6 +10,7 @@
 #include "tests/support/MessageBoxes.h"
 
 #include <array>
+#include <cmath>
 #include <iostream>
 
 #include <commctrl.h>
@@ -220,7 +221,7 @@ Accessible AccessibleOf(HWND window)
 {
     Microsoft::WRL::ComPtr<IAccessible> object;
     const HRESULT found =
-        AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+        AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
                                    reinterpret_cast<void**>(object.GetAddressOf()));
     EXPECT_EQ(S_OK, found);
     Accessible result;
@@ -262,15 +263,15 @@ TEST_F(FrmChanges, TellsAScreenReaderTheNamesAndRolesOfItsControls)
     });
 }
 
-TEST_F(FrmChanges, OpensWithFiftyThousandChangesInATwinkling)
+// Milliseconds from the click to the painted window; the last row can be reached.
+double TimeToOpen(long records)
 {
-    constexpr long kRecords = 50000;
     constexpr long kRows = 100;
     RandomSides sides(kRandomTasks, 2);
     sides.Add(kRows, 0, 0);
     exchange::Run& run = sides.Collect(2);
     run.Pending = {};
-    for (long i = 0; i < kRecords; ++i)
+    for (long i = 0; i < records; ++i)
     {
         run.Pending.NewHostRecords.Add(i % kRows + 1, 0);
     }
@@ -281,20 +282,30 @@ TEST_F(FrmChanges, OpensWithFiftyThousandChangesInATwinkling)
             const auto start = std::chrono::steady_clock::now();
             confirmation.Click(IDC_MESSAGE_DETAILS);
             const ShownDialog changes = robot.WaitForDialogAfter(confirmation);
-            changes.Ask(changes.Handle(), WM_NULL); // answered when it has been painted
+            changes.Ask(changes.Handle(), WM_NULL);
             milliseconds =
                 std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-            EXPECT_EQ(kRecords, changes.Rows(IDC_CHANGES_LIST));
-            changes.Ask(changes.Control(IDC_CHANGES_LIST), LVM_ENSUREVISIBLE, kRecords - 1, FALSE);
+            EXPECT_EQ(records, changes.Rows(IDC_CHANGES_LIST));
+            const auto last = static_cast<int>(records) - 1;
+            changes.Ask(changes.Control(IDC_CHANGES_LIST), LVM_ENSUREVISIBLE, static_cast<WPARAM>(last),
+                        FALSE);
             robot.WaitUntil("the last row can be read",
-                            [&] { return !changes.Row(IDC_CHANGES_LIST, kRecords - 1, 1).empty(); });
+                            [&] { return !changes.Row(IDC_CHANGES_LIST, last, 1).empty(); });
             changes.Click(IDCANCEL);
             robot.WaitUntilClosed(changes);
             confirmation.Click(IDCANCEL);
         },
         [&] { sides.Confirm(); });
-    std::cout << "Figure: the list of " << kRecords << " changes opened in "
-              << static_cast<long>(milliseconds) << " ms\n";
+    return milliseconds;
+}
+
+TEST_F(FrmChanges, ReachesTheLastOfFiftyThousandChanges)
+{
+    constexpr long kRecords = 50000;
+    const double few = TimeToOpen(100);
+    const double many = TimeToOpen(kRecords);
+    std::cout << "Figure: the list of changes opened in " << std::lround(few) << " ms with 100 records, in "
+              << std::lround(many) << " ms with " << kRecords << '\n';
 }
 
 } // namespace
