@@ -94,7 +94,19 @@ class Comparison
         {
             return item.GetObject(L"GetRecurrencePattern").Get(field.substr(kPattern.size()).c_str());
         }
-        return item.Get(field.c_str());
+        return field == L"Links" ? LinksOf(item) : item.Get(field.c_str());
+    }
+
+    static Value LinksOf(const Object& item)
+    {
+        const Object links = item.GetObject(L"Links");
+        std::wstring names;
+        for (long place = 1; place <= automation::LongOf(links.Get(L"Count")); ++place)
+        {
+            names +=
+                (place > 1 ? L"; " : L"") + automation::TextOf(links.GetObject(L"Item", place).Get(L"Name"));
+        }
+        return names;
     }
 
     Value InRow(const std::wstring& field)

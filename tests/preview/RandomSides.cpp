@@ -212,6 +212,14 @@ void RandomSides::AddRow(size_t number)
         add(L"F_ACTORID", 1L);
         add(L"F_ACTNAME", Numbered(L"Subject ", number));
         add(L"F_ACTTYPE", L"Phone");
+        if (number % 4 == 0)
+        {
+            TheHost.Database().Execute(
+                L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                L"VALUES (?,1,?,'Ann')",
+                {Numbered(L"P", number), Numbered(L"Linked", number)});
+            add(L"F_CNTCTID", Numbered(L"P", number));
+        }
     }
     if (Kind.Fields.data() == std::data(kTaskFields))
     {

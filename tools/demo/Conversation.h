@@ -41,6 +41,8 @@ class Conversation
   private:
     void Answer(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
     bool AnswerConfirmation(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
+    // Opens the list of changes from the confirmation.
+    void LookAtChanges(const ShownDialog& confirmation, const std::wstring& category);
     // Opens the report, if the run has something to tell.
     void LookAtReport(const std::wstring& category, Outcome& outcome);
     void TourKind(const ShownDialog& configure, int row, const std::wstring& kind);
