@@ -29,7 +29,8 @@ class NoDisplay : public exchange::RunDisplay
     void ShowProgress(bool) override {}
     void SetProgress(double) override {}
     std::wstring CategoryText() const override { return {}; }
-    void Confirm(exchange::Run&) override {}
+    void Confirm(const exchange::Kind&, exchange::Run&) override {}
+    void TakeReport(exchange::Report&&) override {}
 };
 
 // The files of one size, in the folder for temporary files; gone with the object.

@@ -177,6 +177,11 @@ void Object::ShareMembers(InterfaceIds& interfaces) const
     }
 }
 
+Value Object::Property(const wchar_t* member) const
+{
+    return Invoke(member, DISPATCH_PROPERTYGET, nullptr, 0);
+}
+
 void Object::Put(const wchar_t* member, const Value& value) const
 {
     Argument argument(value);

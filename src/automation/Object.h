@@ -54,6 +54,8 @@ class Object
     // The same where the result is an object.
     template<typename... Arguments>
     Object GetObject(const wchar_t* member, Arguments&&... arguments) const;
+    // The value of a property: a member that is a method is not called, but fails.
+    Value Property(const wchar_t* member) const;
 
     void Put(const wchar_t* member, const Value& value) const;
     // Sets a member that holds a reference to an object ("Set x.member = object").

@@ -155,6 +155,18 @@ VARIANT Value::Detach() noexcept
     return result;
 }
 
+long LengthOf(const Value& value) noexcept
+{
+    try
+    {
+        return static_cast<long>(TextOrEmpty(value).size());
+    }
+    catch (const std::exception&)
+    {
+        return 0;
+    }
+}
+
 bool IsEmptyOrNull(const Value& value)
 {
     return value.Type() == VT_EMPTY || value.Type() == VT_NULL;

@@ -65,6 +65,8 @@ class Value
 };
 
 bool IsEmptyOrNull(const Value& value);
+// The characters of the value as a text; 0 for what is none.
+long LengthOf(const Value& value) noexcept;
 // Empty, Null or the empty text: no value, wherever a host or Outlook may give any of the three.
 bool IsAbsent(const Value& value);
 bool IsMissing(const Value& value);

@@ -4,13 +4,14 @@
 #include "automation/Error.h"
 #include "automation/Readable.h"
 #include "calendar/AppointmentTimes.h"
+#include "calendar/CalendarPreview.h"
 #include "calendar/CalendarRange.h"
 #include "calendar/Recurrence.h"
 #include "data/Permissions.h"
 #include "exchange/MatchKeys.h"
 #include "links/Activities.h"
 #include "links/ContactLink.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
 #include "ui/ShowError.h"
 
@@ -80,23 +81,22 @@ std::wstring EntriesOfUser(const data::Host& host)
 
 // Towards Outlook
 
-constexpr wchar_t kNoDate[] = L"A calendar entry without a date has been left out";
-constexpr wchar_t kEndsTooEarly[] = L"A repeating entry that ends before it begins has been left out";
-
-// Why an entry that repeats cannot become an appointment; null for no reason.
-const wchar_t* ObstacleToRepetition(const automation::Recordset& rows)
+// Why an entry that repeats cannot become an appointment; nothing for no reason.
+exchange::Obstacle ObstacleToRepetition(const automation::Recordset& rows)
 {
     const std::optional<Date> firstDay = OutlookDate(rows.ValueOf(L"F_ACTESDATE"));
     const std::optional<Date> lastDay = OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE"));
     if (!firstDay)
     {
-        return NeedsReferenceDate(automation::TextOrEmpty(rows.ValueOf(L"FR_NAME"))) ? kNoDate : nullptr;
+        const bool isNeeded = NeedsReferenceDate(automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")));
+        return isNeeded ? exchange::Obstacle(state::Cause::NoDate) : std::nullopt;
     }
-    return lastDay && automation::DayOf(*lastDay) < automation::DayOf(*firstDay) ? kEndsTooEarly : nullptr;
+    const bool endsTooEarly = lastDay && automation::DayOf(*lastDay) < automation::DayOf(*firstDay);
+    return endsTooEarly ? exchange::Obstacle(state::Cause::EndsTooEarly) : std::nullopt;
 }
 
 // The same for any entry, by the relation rows that it depends on.
-const wchar_t* Obstacle(exchange::Run& run)
+exchange::Obstacle ObstacleTo(exchange::Run& run)
 {
     const automation::Recordset& rows = run.HostRows;
     for (const exchange::RelationRow& relation : run.Relations.Rows())
@@ -104,17 +104,17 @@ const wchar_t* Obstacle(exchange::Run& run)
         const bool isStart = relation.OutlookName == L"Start";
         if (isStart && !OutlookDate(rows.ValueOf(relation.EnglishName)))
         {
-            return kNoDate;
+            return state::Cause::NoDate;
         }
         const bool repeats =
             relation.OutlookName == L"IsRecurring" && IsTrue(rows.ValueOf(relation.EnglishName));
-        const wchar_t* const obstacle = repeats ? ObstacleToRepetition(rows) : nullptr;
-        if (obstacle != nullptr)
+        const exchange::Obstacle obstacle = repeats ? ObstacleToRepetition(rows) : std::nullopt;
+        if (obstacle)
         {
             return obstacle;
         }
     }
-    return nullptr;
+    return std::nullopt;
 }
 
 // A column that holds a time of day, to the minute; midnight where it holds none.
@@ -203,7 +203,7 @@ std::wstring ColumnOf(const automation::Error& error, const exchange::Run& run)
 template<typename Step>
 bool Reported(const exchange::Run& run, Step&& step)
 {
-    return state::Failed([&] {
+    return state::FailedAndTold([&] {
         try
         {
             step();
@@ -269,7 +269,7 @@ long WriteEntry(exchange::Run& run, const automation::ItemView& item)
 
 bool SynSynCalendarToOlCalendar(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
-    return state::Failed([&] {
+    return state::FailedAndTold([&] {
         if (mode == data::kNewRecord || mode == data::kExistingRecord)
         {
             exchange::WriteRelatedProperties(run, kEntryToAppointment, item, exchange::Saves::OnceAtTheEnd);
@@ -294,7 +294,7 @@ constexpr exchange::PassToOutlook SynCalendarToOutlook{
     .RelationStatement = kRelationStatement,
     .RelationOptions = exchange::kOnTheClient,
     .Mapping = kEntryToAppointment,
-    .Obstacle = Obstacle,
+    .ObstacleTo = ObstacleTo,
     .Write = WriteAppointment,
     .AddsItemFirst = true,
 };
@@ -316,9 +316,12 @@ constexpr exchange::Kind kCalendar{
     .CollectToOutlookTextId = IDS_RUN_APPLYING,
     .PermissionKind = data::kAccountCalendarRecord,
     .Match = {KeyOfAppointment, nullptr, KeyOfCalendarRow, nullptr, {L"IPM.Appointment", kKeyColumns, false}},
+    .NameOfItem = exchange::SubjectOfItem,
+    .NameOfRow = exchange::SubjectOfRow,
     .FiltersOf = WithinCalendarRange,
     .ToOutlook = SynCalendarToOutlook,
     .FromOutlook = SynCalendarFromOutlook,
+    .Preview = kCalendarPreview,
 };
 
 } // namespace calendar

@@ -2,12 +2,14 @@
 
 #include "automation/Dates.h"
 #include "automation/Readable.h"
+#include "automation/Text.h"
+#include "contacts/ContactPreview.h"
 #include "data/Literals.h"
 #include "data/Permissions.h"
 #include "exchange/MatchKeys.h"
 #include "links/Accounts.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "ui/ShowMessageBox.h"
 
 namespace contacts
@@ -53,6 +55,23 @@ std::wstring CompanyOfContact(const automation::ItemView& item)
 }
 
 constexpr const wchar_t* kKeyColumns[] = {L"LastName", L"FirstName", L"CompanyName"};
+
+std::wstring FullName(const Value& last, const Value& first)
+{
+    const std::wstring surname = automation::TextOrEmpty(last);
+    const std::wstring givenName = automation::TextOrEmpty(first);
+    return resources::IsChinese() ? surname + givenName : automation::Trimmed(givenName + L" " + surname);
+}
+
+std::wstring NameOfItem(const Object& item)
+{
+    return FullName(item.Get(L"LastName"), item.Get(L"FirstName"));
+}
+
+std::wstring NameOfRow(const Recordset& rows)
+{
+    return FullName(rows.ValueOf(L"F_SURNAME"), rows.ValueOf(L"F_GIVENNAME"));
+}
 
 // Towards Outlook
 
@@ -248,7 +267,7 @@ void SynSynContactToOlContact(exchange::Run& run, data::RecordMode /*mode*/, con
 
 long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
-    const bool failed = state::Failed([&] {
+    const bool failed = state::FailedAndTold([&] {
         switch (mode)
         {
         case data::kNewRecord: Insert(run, item); break;
@@ -288,9 +307,12 @@ constexpr exchange::Kind kContacts{
               ContactNameOfRow,
               exchange::AccountOfRow,
               {L"IPM.Contact", kKeyColumns, true}},
+    .NameOfItem = NameOfItem,
+    .NameOfRow = NameOfRow,
     .FiltersOf = exchange::KeepAll,
     .ToOutlook = SynContactToOutlook,
     .FromOutlook = SynContactFromOutlook,
+    .Preview = kContactPreview,
 };
 
 } // namespace contacts

@@ -5,7 +5,7 @@
 #include "automation/Text.h"
 #include "data/Literals.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "ui/ShowMessageBox.h"
 
 #include <algorithm>
@@ -43,10 +43,20 @@ bool IsNumber(const Value& value)
     return std::find(std::begin(kNumbers), std::end(kNumbers), value.Type()) != std::end(kNumbers);
 }
 
+Value AsItIs(const Value& held)
+{
+    return held;
+}
+
+Value InQuotes(const Value& held)
+{
+    return QuotedText(automation::TextOf(held));
+}
+
 // A number stands for itself, and so does a text that is one. Automation would read other texts as numbers as
 // well, but as other ones than SQL ("1,5", "(12)", "&H10"): no text is interpreted. What automation calls a
 // number and SQL does not (infinity) is a word there, not a literal.
-Value NumberLiteral(const Value& value, const FieldDescription& /*field*/)
+Value HeldNumber(const Value& value, const FieldDescription& /*field*/)
 {
     if (value.Type() == VT_BSTR)
     {
@@ -79,47 +89,84 @@ std::wstring CutAsDoubled(const std::wstring& text, long size)
     return automation::Replaced(cut, L"''", L"'");
 }
 
-Value TextLiteral(const Value& value, const FieldDescription& field)
+Value HeldText(const Value& value, const FieldDescription& field)
 {
-    return QuotedText(CutAsDoubled(automation::TextOf(value), LongOf(field.FieldSize)));
+    return CutAsDoubled(automation::TextOf(value), LongOf(field.FieldSize));
 }
 
 // What has no truth value does not equal False either.
-Value FlagLiteral(const Value& value, const FieldDescription& /*field*/)
+Value HeldFlag(const Value& value, const FieldDescription& /*field*/)
 {
     try
     {
-        return automation::TruthOf(value) ? L"1" : L"0";
+        return automation::TruthOf(value);
     }
     catch (const automation::Error&)
     {
-        return L"1";
+        return true;
     }
 }
 
-Value DateLiteral(const Value& value, const FieldDescription& /*field*/)
+Value FlagLiteral(const Value& held)
 {
-    return QuotedText(automation::Formatted(Clamped(automation::DateOf(value), kLastDay), L"mm/dd/yyyy"));
+    return automation::TruthOf(held) ? L"1" : L"0";
 }
 
-Value TimeLiteral(const Value& value, const FieldDescription& /*field*/)
+Value HeldDate(const Value& value, const FieldDescription& /*field*/)
 {
-    return QuotedText(automation::Formatted(automation::DateOf(value), L"hh:mm:00"));
+    return automation::DayOf(Clamped(automation::DateOf(value), kLastDay));
 }
 
-Value DateTimeLiteral(const Value& value, const FieldDescription& /*field*/)
+Value HeldTime(const Value& value, const FieldDescription& /*field*/)
 {
-    const Date date = Clamped(automation::DateOf(value), kLastMoment);
-    return QuotedText(automation::Formatted(date, L"mm/dd/yyyy hh:mm:00"));
+    return automation::MinuteOfDay(automation::DateOf(value));
 }
 
-using Formatter = Value (*)(const Value& value, const FieldDescription& field);
+Value HeldDateTime(const Value& value, const FieldDescription& /*field*/)
+{
+    return automation::ToTheMinute(Clamped(automation::DateOf(value), kLastMoment));
+}
+
+template<const wchar_t* pattern>
+Value DateLiteral(const Value& held)
+{
+    return QuotedText(automation::Formatted(automation::DateOf(held), pattern));
+}
+
+constexpr wchar_t kDatePattern[] = L"mm/dd/yyyy";
+constexpr wchar_t kTimePattern[] = L"hh:mm:00";
+constexpr wchar_t kDateTimePattern[] = L"mm/dd/yyyy hh:mm:00";
+
+struct Formatter
+{
+    // The value as the column holds it once it has been written.
+    Value (*Held)(const Value& value, const FieldDescription& field);
+    // That value as a literal.
+    Value (*Literal)(const Value& held);
+};
+
+constexpr Formatter kAsNumber{HeldNumber, AsItIs};
+constexpr Formatter kAsText{HeldText, InQuotes};
 
 // By FieldType, from 1 on.
 constexpr Formatter kFormatters[] = {
-    NumberLiteral, TextLiteral,     FlagLiteral,   DateLiteral,
-    TimeLiteral,   DateTimeLiteral, NumberLiteral, TextLiteral,
+    kAsNumber,
+    kAsText,
+    {HeldFlag, FlagLiteral},
+    {HeldDate, DateLiteral<kDatePattern>},
+    {HeldTime, DateLiteral<kTimePattern>},
+    {HeldDateTime, DateLiteral<kDateTimePattern>},
+    kAsNumber,
+    kAsText,
 };
+
+// Null for a type that is none.
+const Formatter* FormatterOf(const FieldDescription& field)
+{
+    const long type = LongOf(field.FieldType);
+    const bool isKnown = type >= 1 && type <= static_cast<long>(std::size(kFormatters));
+    return isKnown ? &kFormatters[type - 1] : nullptr;
+}
 
 bool IsText(const FieldDescription& field)
 {
@@ -129,12 +176,39 @@ bool IsText(const FieldDescription& field)
     return type == kText || type == kLongText;
 }
 
+automation::Error UnknownColumn(const std::wstring& column)
+{
+    return {DISP_E_UNKNOWNNAME, column,
+            resources::Choose(L"SynFields 中没有该字段", L"SynFields has no such column")};
+}
+
 [[noreturn]] void ReportUnknownColumn(const std::wstring& column)
 {
     ui::ShowMessageBox(L"Don't find " + column + L"field in table 'SynFields', can't format ", MB_ICONERROR,
                        L"GetFieldType");
-    throw automation::Error(DISP_E_UNKNOWNNAME, column,
-                            resources::Choose(L"SynFields 中没有该字段", L"SynFields has no such column"));
+    throw UnknownColumn(column);
+}
+
+void TellIfCut(const std::wstring& column, const std::wstring& text, const std::wstring& kept)
+{
+    if (kept.size() < text.size())
+    {
+        state::Tell({.Why = state::Cause::TextCut,
+                     .Field = column,
+                     .Length = static_cast<long>(text.size()),
+                     .Kept = static_cast<long>(kept.size())});
+    }
+}
+
+Value HeldBy(const Formatter& formatter, const std::wstring& column, const FieldDescription& field,
+             const Value& value)
+{
+    Value held = formatter.Held(value, field);
+    if (IsText(field))
+    {
+        TellIfCut(column, automation::TextOf(value), automation::TextOf(held));
+    }
+    return held;
 }
 
 bool IsPair(wchar_t first, wchar_t second)
@@ -151,13 +225,13 @@ std::optional<Value> Formatted(FieldCatalogue& catalogue, const std::wstring& co
     {
         ReportUnknownColumn(column);
     }
-    const long type = LongOf(field->FieldType);
-    if (type < 1 || type > static_cast<long>(std::size(kFormatters)))
+    const Formatter* const formatter = FormatterOf(*field);
+    if (formatter == nullptr)
     {
         ui::ShowMessageBox(L"Don't format:" + column, MB_OK, L"FormatFieldlValue");
         return std::nullopt;
     }
-    return kFormatters[type - 1](value, *field);
+    return formatter->Literal(HeldBy(*formatter, column, *field, value));
 }
 
 std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)
@@ -177,6 +251,21 @@ std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, co
                                 column + resources::Choose(L" 无法格式化: ", L" cannot be formatted: ") +
                                     error.Description());
     }
+}
+
+Value HeldValueOf(FieldCatalogue& catalogue, const std::wstring& column, const Value& value)
+{
+    if (automation::IsAbsent(value))
+    {
+        return Value::Null();
+    }
+    const FieldDescription* const field = catalogue.Find(column);
+    if (field == nullptr)
+    {
+        throw UnknownColumn(column);
+    }
+    const Formatter* const formatter = FormatterOf(*field);
+    return formatter == nullptr ? value : HeldBy(*formatter, column, *field, value);
 }
 
 std::wstring TextAsHeld(FieldCatalogue& catalogue, const std::wstring& column, const std::wstring& text)

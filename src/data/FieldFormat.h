@@ -22,6 +22,11 @@ std::optional<automation::Value> Formatted(FieldCatalogue& catalogue, const std:
 // the column.
 std::wstring LiteralOf(FieldCatalogue& catalogue, const std::wstring& column, const automation::Value& value);
 
+// The value as the column holds it once LiteralOf's literal has been written there: Null, a number, a text of
+// the column's size, a flag or a date. Shows no message. Throws automation::Error where LiteralOf does.
+automation::Value HeldValueOf(FieldCatalogue& catalogue, const std::wstring& column,
+                              const automation::Value& value);
+
 // The text as the column holds it once it has been written there: cut to the column's size. The whole of it
 // for a column that the catalogue does not describe as a text of some size. Throws automation::Error when the
 // catalogue cannot be read.

@@ -2,7 +2,7 @@
 
 #include "data/Host.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "ui/ShowMessageBox.h"
 
 #include <algorithm>
@@ -133,11 +133,20 @@ bool HasPermission(long kind, long scope, long operation)
     });
 }
 
+void TellMissingRight(long kind, long operation) noexcept
+{
+    state::Trapped(false, [=] {
+        state::Tell({.Why = state::Cause::RightMissing, .Words = RefusalOf(kind, operation)});
+        return true;
+    });
+}
+
 bool CheckPermission(long kind, long scope, long operation)
 {
     const bool permitted = HasPermission(kind, scope, operation);
     if (!permitted)
     {
+        TellMissingRight(kind, operation);
         ui::ShowMessageBox(RefusalOf(kind, operation), MB_ICONEXCLAMATION);
     }
     return permitted;

@@ -22,7 +22,11 @@ inline constexpr long kAlwaysPermitted = 7; // passes without asking the host
 // Asks the host, without any message. An error that the host raises means that the right is missing.
 bool HasPermission(long kind, long scope, long operation);
 
-// As HasPermission; where the right is missing, a message box in the interface language says which.
+// Tells the run's report that a right is missing, in the words of the message.
+void TellMissingRight(long kind, long operation) noexcept;
+
+// As HasPermission; where the right is missing, a message box in the interface language says which, and the
+// run's report.
 bool CheckPermission(long kind, long scope, long operation);
 
 } // namespace data

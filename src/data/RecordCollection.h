@@ -29,6 +29,9 @@ class RecordCollection
         return mRecords.emplace_back(std::move(first), recordState);
     }
 
+    // A copy of a record of another collection, without a key.
+    void Append(Record record) { mRecords.push_back(std::move(record)); }
+
     // The record at a position from 1 to Count, or under a key. Throws automation::Error where there is none.
     Record& Item(long position) { return mRecords[Checked(position)]; }
     const Record& Item(long position) const { return mRecords[Checked(position)]; }

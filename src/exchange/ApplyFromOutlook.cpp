@@ -2,7 +2,9 @@
 
 #include "exchange/Identity.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
+
+#include <algorithm>
 
 namespace exchange
 {
@@ -19,15 +21,21 @@ void Insert(Run& run, const PassFromOutlook& pass, long position)
     {
         return;
     }
-    if (const Object item = ProposedItem(run, record))
-    {
-        ItemProperties properties(item);
-        pass.Write(run, data::kNewRecord, properties);
-    }
-    else
-    {
-        Skip(run);
-    }
+    Object item;
+    run.Report.Record(
+        Change::AddToHost, [&] { return NameOf(run, item); },
+        [&] {
+            item = ProposedItem(run, record);
+            if (item)
+            {
+                ItemProperties properties(item);
+                pass.Write(run, data::kNewRecord, properties);
+            }
+            else
+            {
+                Skip();
+            }
+        });
 }
 
 // An item that this run has written may have other keys by Outlook's own rules.
@@ -43,25 +51,41 @@ void Update(Run& run, const PassFromOutlook& pass, long position)
     {
         return;
     }
-    const Object item = ProposedItem(run, record);
-    const data::ClsSalesRecord& row = run.Pending.ChangedHostRecords.Item(position);
-    // The writer gets the match keys as they have been read for the comparison.
-    ItemProperties properties(item);
-    if (!item || !MoveToProposedRow(run, row) || !IsPairOf(run, record, properties))
-    {
-        Skip(run);
-    }
-    else if (pass.Write(run, data::kExistingRecord, properties) == 0)
-    {
-        run.OverwrittenRows.insert(row.RecordBookmark);
-    }
+    Object item;
+    run.Report.Record(
+        Change::ChangeInHost, [&] { return NameOf(run, item); },
+        [&] {
+            item = ProposedItem(run, record);
+            const data::ClsSalesRecord& row = run.Pending.ChangedHostRecords.Item(position);
+            // The writer gets the match keys as they have been read for the comparison.
+            ItemProperties properties(item);
+            if (!item || !MoveToProposedRow(run, row) || !IsPairOf(run, record, properties))
+            {
+                Skip();
+            }
+            else if (pass.Write(run, data::kExistingRecord, properties) == 0)
+            {
+                run.OverwrittenRows.insert(row.RecordBookmark);
+            }
+        });
 }
 
 } // namespace
 
+void PassFromOutlook::Announce(Run& run)
+{
+    const auto hasItem = [](const data::ClsOlRecord& record) { return !record.ItemIndex.empty(); };
+    const auto isMarked = [&](const data::ClsOlRecord& record) {
+        return record.RecordState == data::kWritesHost && hasItem(record);
+    };
+    run.Report.Accept(Change::AddToHost, std::ranges::count_if(run.Pending.NewOutlookItems, hasItem));
+    run.Report.Accept(Change::ChangeInHost, std::ranges::count_if(run.Pending.ChangedOutlookItems, isMarked));
+}
+
 bool PassFromOutlook::operator()(Run& run) const
 {
     return state::Failed([&] {
+        const state::CollectsRemarks collects(run.Report);
         run.Display.SetStatus(resources::String(IDS_RUN_APPLYING));
         const ProgressScope progress(run.Display);
         run.Relations.Use(RelationStatement, RelationOptions);

@@ -20,6 +20,8 @@ struct PassFromOutlook
     // Returns -1 for failure, 0 otherwise; the pass goes on with the next record in either case.
     long (*Write)(Run& run, data::RecordMode mode, const automation::ItemView& item);
 
+    // Tells the report how many records this pass is to write.
+    static void Announce(Run& run);
     // Writes the run's pending changes. True when an error ended the pass, False when both collections were
     // walked to their end.
     bool operator()(Run& run) const;

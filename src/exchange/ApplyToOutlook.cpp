@@ -1,9 +1,10 @@
 #include "exchange/ApplyToOutlook.h"
 
-#include "data/Remark.h"
 #include "exchange/Identity.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
+
+#include <algorithm>
 
 namespace exchange
 {
@@ -16,10 +17,10 @@ namespace
 // A row that cannot become an item is skipped before anything of it is written.
 void Write(Run& run, const PassToOutlook& pass, data::RecordMode mode, const Object& item)
 {
-    const wchar_t* const obstacle = pass.Obstacle == nullptr ? nullptr : pass.Obstacle(run);
-    if (obstacle != nullptr)
+    const Obstacle obstacle = pass.ObstacleTo == nullptr ? std::nullopt : pass.ObstacleTo(run);
+    if (obstacle)
     {
-        data::Remark(obstacle);
+        state::Tell({.Why = *obstacle});
     }
     else
     {
@@ -30,45 +31,69 @@ void Write(Run& run, const PassToOutlook& pass, data::RecordMode mode, const Obj
 void WriteNewRecord(Run& run, const PassToOutlook& pass, long i)
 {
     const data::ClsSalesRecord& row = run.Pending.NewHostRecords.Item(i);
-    const bool isThere = pass.AddsItemFirst || MoveToProposedRow(run, row);
-    const Object item = isThere ? ForPass(run, run.Items.GetObject(L"Add", pass.ItemType)) : Object();
-    // An item that is not saved leaves nothing behind.
-    if (isThere && (!pass.AddsItemFirst || MoveToProposedRow(run, row)))
-    {
-        Write(run, pass, data::kNewRecord, item);
-    }
-    else
-    {
-        Skip(run);
-    }
+    run.Report.Record(
+        Change::AddToOutlook, [&] { return NameOf(run, row); },
+        [&] {
+            const bool isThere = pass.AddsItemFirst || MoveToProposedRow(run, row);
+            const Object item = isThere ? ForPass(run, run.Items.GetObject(L"Add", pass.ItemType)) : Object();
+            // An item that is not saved leaves nothing behind.
+            if (isThere && (!pass.AddsItemFirst || MoveToProposedRow(run, row)))
+            {
+                Write(run, pass, data::kNewRecord, item);
+            }
+            else
+            {
+                Skip();
+            }
+        });
 }
 
 void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
 {
     const data::ClsSalesRecord& record = run.Pending.ChangedHostRecords.Item(i);
     // A row that the pass from Outlook has just overwritten is known only as it was before.
-    if (record.RecordState != data::kWritesOutlook || run.OverwrittenRows.contains(record.RecordBookmark))
+    if (record.RecordState != data::kWritesOutlook)
     {
         return;
     }
-    const data::ClsOlRecord& partner = run.Pending.ChangedOutlookItems.Item(i);
-    const Object item = MoveToProposedRow(run, record) ? ProposedItem(run, partner) : Object();
-    if (item && AreStillAPair(run, item))
+    if (run.OverwrittenRows.contains(record.RecordBookmark))
     {
-        Write(run, pass, data::kExistingRecord, item);
-        run.OverwrittenItems.insert(partner.ItemIndex);
+        run.Report.LeaveAlone(Change::ChangeInOutlook);
+        return;
     }
-    else
-    {
-        Skip(run);
-    }
+    run.Report.Record(
+        Change::ChangeInOutlook, [&] { return NameOf(run, record); },
+        [&] {
+            const data::ClsOlRecord& partner = run.Pending.ChangedOutlookItems.Item(i);
+            const Object item = MoveToProposedRow(run, record) ? ProposedItem(run, partner) : Object();
+            if (item && AreStillAPair(run, item))
+            {
+                Write(run, pass, data::kExistingRecord, item);
+                run.OverwrittenItems.insert(partner.ItemIndex);
+            }
+            else
+            {
+                Skip();
+            }
+        });
 }
 
 } // namespace
 
+void PassToOutlook::Announce(Run& run)
+{
+    const auto isMarked = [](const data::ClsSalesRecord& record) {
+        return record.RecordState == data::kWritesOutlook;
+    };
+    run.Report.Accept(Change::AddToOutlook, run.Pending.NewHostRecords.Count());
+    run.Report.Accept(Change::ChangeInOutlook,
+                      std::ranges::count_if(run.Pending.ChangedHostRecords, isMarked));
+}
+
 bool PassToOutlook::operator()(Run& run) const
 {
     return state::Failed([&] {
+        const state::CollectsRemarks collects(run.Report);
         run.Display.SetStatus(resources::String(IDS_RUN_APPLYING));
         const ProgressScope progress(run.Display);
         run.Relations.Use(RelationStatement, RelationOptions);

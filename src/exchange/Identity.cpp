@@ -2,8 +2,8 @@
 
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "data/Remark.h"
 #include "state/Failures.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
 
 namespace exchange
@@ -171,10 +171,20 @@ bool AreStillAPair(const Run& run, const automation::ItemView& item)
     return !run.Identity.Matches || run.Identity.Matches(item, run.HostRows);
 }
 
-void Skip(Run& run)
+std::wstring NameOf(const Run& run, const Object& item)
 {
-    ++run.Skipped;
-    data::Remark(L"A record has been left out: it is gone, or no longer what was proposed");
+    return item && run.Identity.NameOfItem ? run.Identity.NameOfItem(item) : std::wstring();
+}
+
+std::wstring NameOf(Run& run, const data::ClsSalesRecord& record)
+{
+    return run.Identity.NameOfRow && MoveToProposedRow(run, record) ? run.Identity.NameOfRow(run.HostRows)
+                                                                    : std::wstring();
+}
+
+void Skip()
+{
+    state::Tell({.Why = state::Cause::Vanished});
 }
 
 } // namespace exchange

@@ -35,7 +35,11 @@ bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record);
 // Whether the two are the same record still.
 bool AreStillAPair(const Run& run, const automation::ItemView& item);
 
-// A record that the user has accepted is not written.
-void Skip(Run& run);
+// The names of an item and of the row that was proposed; empty where there is none any more.
+std::wstring NameOf(const Run& run, const automation::Object& item);
+std::wstring NameOf(Run& run, const data::ClsSalesRecord& record);
+
+// A record that the user has accepted is gone, or no longer what was proposed: it is not written.
+void Skip();
 
 } // namespace exchange

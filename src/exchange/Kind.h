@@ -6,6 +6,7 @@
 #include "exchange/ApplyFromOutlook.h"
 #include "exchange/ApplyToOutlook.h"
 #include "exchange/KindName.h"
+#include "exchange/KindPreview.h"
 #include "exchange/MatchRule.h"
 #include "state/SynParameter.h"
 
@@ -45,9 +46,13 @@ struct Kind
     unsigned CollectToOutlookTextId;
     long PermissionKind; // of the host's rights
     MatchRule Match;
+    // The name by which the user knows a record; throw automation::Error when it cannot be read.
+    std::wstring (*NameOfItem)(const automation::Object& item);
+    std::wstring (*NameOfRow)(const automation::Recordset& rows);
     Filters (*FiltersOf)(const state::SynParameter& parameter, const data::Host& host);
     PassToOutlook ToOutlook;
     PassFromOutlook FromOutlook;
+    const KindPreview& Preview;
 };
 
 } // namespace exchange

@@ -1,8 +1,8 @@
 #include "exchange/MappingFromOutlook.h"
 
 #include "automation/Error.h"
-#include "data/Remark.h"
 #include "resources/Strings.h"
+#include "state/Remarks.h"
 
 #include <algorithm>
 
@@ -32,8 +32,24 @@ HostValue ReadUnlessRefused(const PropertyFromOutlook& row, const SourceProperty
         {
             throw;
         }
-        data::Remark(property.Name + L" has been left out: Outlook refuses to tell it");
+        state::Tell({.Why = state::Cause::ReadRefused,
+                     .Field = property.Name,
+                     .Words = error.Description(),
+                     .Code = error.Code()});
         return Value(kNoColumn);
+    }
+}
+
+void AddColumn(data::HostRow& record, const std::wstring& column, const Value& value)
+{
+    try
+    {
+        record.Add(column, value);
+    }
+    catch (const automation::Error& error)
+    {
+        state::TellFailure(error, column, automation::LengthOf(value));
+        throw;
     }
 }
 
@@ -47,9 +63,13 @@ bool AddRelatedColumn(const RelationRow& relation, std::span<const PropertyFromO
     const Value unmapped = others == Unmapped::LeftOut ? Value(kNoColumn) : Value();
     const HostValue value =
         row == mapping.end() ? unmapped : ReadUnlessRefused(*row, {item, relation.OutlookName, record});
-    if (value && !IsNoColumn(*value))
+    if (!value)
     {
-        record.Add(relation.EnglishName, *value);
+        state::Tell({.Why = state::Cause::EmptyField, .Field = relation.OutlookName});
+    }
+    else if (!IsNoColumn(*value))
+    {
+        AddColumn(record, relation.EnglishName, *value);
     }
     return value.has_value();
 }

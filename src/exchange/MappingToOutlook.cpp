@@ -1,8 +1,9 @@
 #include "exchange/MappingToOutlook.h"
 
 #include "automation/Dates.h"
+#include "automation/Error.h"
 #include "automation/Readable.h"
-#include "data/Remark.h"
+#include "state/Remarks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,8 +35,9 @@ void PutWhere(bool isKnown, const TargetProperty& property, const Value& value)
     }
     else
     {
-        data::Remark(std::wstring(property.Name) +
-                     L" has been left as it is: Outlook does not know the value");
+        state::Tell({.Why = state::Cause::UnknownValue,
+                     .Field = property.Name,
+                     .Length = automation::LengthOf(property.HostValue)});
     }
 }
 
@@ -75,9 +77,18 @@ void WriteRelatedProperty(const RelationRow& relation, std::span<const PropertyT
     const auto row = std::ranges::find_if(mapping, [&](const PropertyToOutlook& candidate) {
         return relation.OutlookName == candidate.OutlookName;
     });
-    if (row != mapping.end())
+    if (row == mapping.end())
+    {
+        return;
+    }
+    try
     {
         row->Write({hostRows, item, row->OutlookName, value});
+    }
+    catch (const automation::Error& error)
+    {
+        state::TellFailure(error, row->OutlookName, automation::LengthOf(value));
+        throw;
     }
 }
 

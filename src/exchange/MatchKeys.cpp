@@ -38,6 +38,16 @@ std::wstring JoinedKey(const KeyParts& parts, const wchar_t* datePattern)
            ComparableDate(parts.Date, datePattern);
 }
 
+std::wstring SubjectOfItem(const automation::Object& item)
+{
+    return automation::TextOrEmpty(item.Get(L"Subject"));
+}
+
+std::wstring SubjectOfRow(const Recordset& rows)
+{
+    return automation::TextOrEmpty(rows.ValueOf(L"F_ACTNAME"));
+}
+
 std::wstring AccountOfRow(const Recordset& rows)
 {
     return Comparable(rows.ValueOf(L"ACC_SNAME"));

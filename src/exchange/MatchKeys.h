@@ -30,6 +30,10 @@ struct KeyParts
 // The parts as one text; their lengths keep them apart. datePattern: the part of the date that is compared.
 std::wstring JoinedKey(const KeyParts& parts, const wchar_t* datePattern);
 
+// The subject, by which the user knows a task and an entry of the calendar.
+std::wstring SubjectOfItem(const automation::Object& item);
+std::wstring SubjectOfRow(const automation::Recordset& rows);
+
 // ACC_SNAME of the recordset's current row.
 std::wstring AccountOfRow(const automation::Recordset& rows);
 

@@ -8,6 +8,7 @@
 #include "data/ChangeRecords.h"
 #include "data/FieldCatalogue.h"
 #include "exchange/RelationTable.h"
+#include "exchange/Report.h"
 #include "exchange/RunDisplay.h"
 
 #include <functional>
@@ -25,6 +26,9 @@ struct Identification
     // The first match key of an item, and whether an item and the current row are the same record.
     std::function<std::wstring(const automation::ItemView& item)> FirstKeyOf{};
     std::function<bool(const automation::ItemView& item, const automation::Recordset& rows)> Matches{};
+    // The name by which the user knows an item, and the current row.
+    std::function<std::wstring(const automation::Object& item)> NameOfItem{};
+    std::function<std::wstring(const automation::Recordset& rows)> NameOfRow{};
 };
 
 // What Outlook tells the folder of a run by.
@@ -51,7 +55,7 @@ struct Run
     std::set<std::wstring> OverwrittenItems{};
     Identification Identity{};
     std::optional<FolderIds> KnownFolderIds{}; // read on first use
-    long Skipped = 0; // accepted records that were gone, or another pair, when it came to writing them
+    exchange::Report Report{};
 };
 
 // An item as an apply pass uses it: with many members, and after others of its class, so that the members are

@@ -1,5 +1,5 @@
-// The user as a run sees them: the status line and progress bar of the main dialog, and the confirmation. The
-// main dialog implements it.
+// The user as a run sees them: the status line and progress bar of the main dialog, the confirmation, and the
+// report at the end. The main dialog implements it.
 #pragma once
 
 #include <string>
@@ -7,6 +7,8 @@
 namespace exchange
 {
 
+class Report;
+struct Kind;
 struct Run;
 
 class RunDisplay
@@ -23,8 +25,11 @@ class RunDisplay
     // The text of the category row that the run is for.
     virtual std::wstring CategoryText() const = 0;
     // Asks whether the run's pending changes are to be written; the answer is the shared state's
-    // gChangesAccepted, and stays as it is when the user closes the question.
-    virtual void Confirm(Run& run) = 0;
+    // gChangesAccepted, and stays as it is when the user closes the question. Changes that the user leaves
+    // out are pending no longer.
+    virtual void Confirm(const Kind& kind, Run& run) = 0;
+    // The run is over, and this is its report.
+    virtual void TakeReport(Report&& report) = 0;
 };
 
 // The progress bar is shown from 0 on for the length of a scope.

@@ -2,6 +2,7 @@
 
 #include "automation/Text.h"
 #include "data/FieldFormat.h"
+#include "data/KeptRow.h"
 #include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
@@ -9,7 +10,9 @@
 #include "resources/Strings.h"
 #include "state/Failures.h"
 
+#include <algorithm>
 #include <optional>
+#include <vector>
 
 namespace links
 {
@@ -49,11 +52,6 @@ struct Links
     std::wstring address;
 };
 
-bool MayChangeAccounts(long operation)
-{
-    return data::CheckPermission(data::kAccountRecord, data::kUsualScope, operation);
-}
-
 void AddAddressColumns(const automation::ItemView& item, HostRow& address)
 {
     for (const AddressColumn& one : kAddressColumns)
@@ -63,33 +61,126 @@ void AddAddressColumns(const automation::ItemView& item, HostRow& address)
     address.Add(L"F_ISPRIMARY", true);
 }
 
-// The key of the account's new primary address, empty where the user may not add it.
-std::wstring CreateAddress(const Host& host, data::FieldCatalogue& catalogue,
-                           const automation::ItemView& item, const std::wstring& account)
+// What the links of a contact change in other tables.
+class AccountTables
 {
-    if (!MayChangeAccounts(data::kAddOperation))
+  public:
+    AccountTables(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item)
+        : mHost(host), mCatalogue(catalogue), mItem(item)
     {
-        return {};
     }
-    InsertRow address(catalogue);
-    AddAddressColumns(item, address);
-    std::wstring key = host.NewGuid();
-    address.PutFirst(L"F_ADDRID,F_ACCID", QuotedText(key) + L"," + QuotedText(account));
-    address.Insert(host, L"TBLADDRESS");
-    return key;
+    AccountTables(const AccountTables&) = delete;
+    AccountTables& operator=(const AccountTables&) = delete;
+    virtual ~AccountTables() = default;
+
+    const Host& TheHost() const noexcept { return mHost; }
+    data::FieldCatalogue& Catalogue() const noexcept { return mCatalogue; }
+    const automation::ItemView& Item() const noexcept { return mItem; }
+
+    // The user's right.
+    virtual bool May(long operation) = 0;
+    // Give the keys of the new rows.
+    virtual std::wstring AddAccount(const std::wstring& companyName) = 0;
+    virtual std::wstring AddAddress(const std::wstring& account) = 0;
+    virtual void OverwriteAddress(const std::wstring& key) = 0;
+
+  private:
+    const Host& mHost;
+    data::FieldCatalogue& mCatalogue;
+    const automation::ItemView& mItem;
+};
+
+class WrittenTables : public AccountTables
+{
+  public:
+    using AccountTables::AccountTables;
+
+    bool May(long operation) override
+    {
+        return data::CheckPermission(data::kAccountRecord, data::kUsualScope, operation);
+    }
+
+    std::wstring AddAccount(const std::wstring& companyName) override
+    {
+        return CreateAccount(TheHost(), Catalogue(), companyName, Rollback::ByTransaction);
+    }
+
+    std::wstring AddAddress(const std::wstring& account) override
+    {
+        InsertRow address(Catalogue());
+        AddAddressColumns(Item(), address);
+        std::wstring key = TheHost().NewGuid();
+        address.PutFirst(L"F_ADDRID,F_ACCID", QuotedText(key) + L"," + QuotedText(account));
+        address.Insert(TheHost(), L"TBLADDRESS");
+        return key;
+    }
+
+    void OverwriteAddress(const std::wstring& key) override
+    {
+        data::UpdateRow address(Catalogue());
+        AddAddressColumns(Item(), address);
+        address.Update(TheHost(), L"TBLADDRESS", L"F_ADDRID", key);
+    }
+};
+
+// For a preview: keeps what would be written.
+class KeptTables : public AccountTables
+{
+  public:
+    using AccountTables::AccountTables;
+
+    bool May(long operation) override
+    {
+        const bool may = data::HasPermission(data::kAccountRecord, data::kUsualScope, operation);
+        if (!may)
+        {
+            data::TellMissingRight(data::kAccountRecord, operation);
+        }
+        return may;
+    }
+
+    std::wstring AddAccount(const std::wstring& companyName) override
+    {
+        NewCompany = data::TextAsHeld(Catalogue(), L"F_ACCSNAME", companyName);
+        return kNewKey;
+    }
+
+    std::wstring AddAddress(const std::wstring& /*account*/) override
+    {
+        KeepAddress();
+        return kNewKey;
+    }
+
+    void OverwriteAddress(const std::wstring& /*key*/) override { KeepAddress(); }
+
+    std::wstring NewCompany;
+    std::vector<data::HeldColumn> Address; // empty where none is written
+
+  private:
+    static constexpr wchar_t kNewKey[] = L"new";
+
+    void KeepAddress()
+    {
+        data::KeptRow address(Catalogue());
+        AddAddressColumns(Item(), address);
+        Address = address.Columns();
+    }
+};
+
+// The key of the account's new primary address, empty where the user may not add it.
+std::wstring CreateAddress(AccountTables& tables, const std::wstring& account)
+{
+    return tables.May(data::kAddOperation) ? tables.AddAddress(account) : std::wstring();
 }
 
 // The key of the address, empty where the user may not change it.
-std::wstring OverwriteAddress(const Host& host, data::FieldCatalogue& catalogue,
-                              const automation::ItemView& item, const std::wstring& key)
+std::wstring OverwriteAddress(AccountTables& tables, const std::wstring& key)
 {
-    if (!MayChangeAccounts(data::kModifyOperation))
+    if (!tables.May(data::kModifyOperation))
     {
         return {};
     }
-    data::UpdateRow address(catalogue);
-    AddAddressColumns(item, address);
-    address.Update(host, L"TBLADDRESS", L"F_ADDRID", key);
+    tables.OverwriteAddress(key);
     return key;
 }
 
@@ -99,42 +190,36 @@ std::wstring AccountFilter(data::FieldCatalogue& catalogue, const std::wstring& 
     return L"F_ACCSNAME=" + QuotedText(data::TextAsHeld(catalogue, L"F_ACCSNAME", companyName));
 }
 
-Links LinksOfNewAccount(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item,
-                        const std::wstring& companyName)
+Links LinksOfNewAccount(AccountTables& tables, const std::wstring& companyName)
 {
-    if (!MayChangeAccounts(data::kAddOperation))
+    if (!tables.May(data::kAddOperation))
     {
         return {}; // and without an account there is nothing that an address could belong to
     }
-    const std::wstring account = CreateAccount(host, catalogue, companyName, Rollback::ByTransaction);
-    return {account, CreateAddress(host, catalogue, item, account)};
+    const std::wstring account = tables.AddAccount(companyName);
+    return {account, CreateAddress(tables, account)};
 }
 
-Links LinksOfFoundAccount(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item,
-                          const automation::Recordset& accounts)
+Links LinksOfFoundAccount(AccountTables& tables, const automation::Recordset& accounts)
 {
     const std::wstring account = automation::TextOf(accounts.ValueOf(L"F_ACCID"));
     const std::wstring address = TextOrEmpty(accounts.ValueOf(L"M_ADDR_ID"));
-    return {account, address.empty() ? CreateAddress(host, catalogue, item, account)
-                                     : OverwriteAddress(host, catalogue, item, address)};
+    return {account, address.empty() ? CreateAddress(tables, account) : OverwriteAddress(tables, address)};
 }
 
-void OpenAccounts(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName,
-                  automation::Recordset& accounts)
+void OpenAccounts(AccountTables& tables, const std::wstring& companyName, automation::Recordset& accounts)
 {
-    data::ThrowUnless(
-        host.OpenRecordset(accounts, L"AccountMyAccount", AccountFilter(catalogue, companyName)) >= 0,
-        L"OpenRecordset");
+    data::ThrowUnless(tables.TheHost().OpenRecordset(accounts, L"AccountMyAccount",
+                                                     AccountFilter(tables.Catalogue(), companyName)) >= 0,
+                      L"OpenRecordset");
 }
 
-Links LinksOfCompany(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item,
-                     const std::wstring& companyName)
+Links LinksOfCompany(AccountTables& tables, const std::wstring& companyName)
 {
     automation::Recordset accounts;
     const automation::RecordsetCloser closer(accounts);
-    OpenAccounts(host, catalogue, companyName, accounts);
-    return accounts.AtEnd() ? LinksOfNewAccount(host, catalogue, item, companyName)
-                            : LinksOfFoundAccount(host, catalogue, item, accounts);
+    OpenAccounts(tables, companyName, accounts);
+    return accounts.AtEnd() ? LinksOfNewAccount(tables, companyName) : LinksOfFoundAccount(tables, accounts);
 }
 
 // A pending transaction is the host's own: the host then decides about the account.
@@ -164,8 +249,7 @@ bool IsSameCompany(const std::wstring& one, const std::wstring& other)
 
 // Looks under the name that the host has, for the account that the contact has: another one may have the same
 // name. No links where that account is not to be seen, so that the contact stays with it.
-Links LinksOfPresentAccount(const Host& host, data::FieldCatalogue& catalogue,
-                            const automation::ItemView& item, const PresentContact& present)
+Links LinksOfPresentAccount(AccountTables& tables, const PresentContact& present)
 {
     const auto account = PresentAccount(present.Key);
     if (!account)
@@ -174,12 +258,12 @@ Links LinksOfPresentAccount(const Host& host, data::FieldCatalogue& catalogue,
     }
     automation::Recordset accounts;
     const automation::RecordsetCloser closer(accounts);
-    OpenAccounts(host, catalogue, present.Company, accounts);
+    OpenAccounts(tables, present.Company, accounts);
     while (!accounts.AtEnd() && TextOrEmpty(accounts.ValueOf(L"F_ACCID")) != *account)
     {
         accounts.MoveNext();
     }
-    return accounts.AtEnd() ? Links() : LinksOfFoundAccount(host, catalogue, item, accounts);
+    return accounts.AtEnd() ? Links() : LinksOfFoundAccount(tables, accounts);
 }
 
 // If the user may not make the link, keep the existing contact's one.
@@ -207,6 +291,41 @@ void AddLinks(HostRow& contact, const Links& links, const PresentContact* presen
     if (present != nullptr && isAccountOnly && ChangesAccount(present->Key, links.account))
     {
         contact.Add(L"F_CNTADDRID", Value::Null());
+    }
+}
+
+// present: null for a new contact.
+void AddLinksOf(AccountTables& tables, HostRow& contact, const PresentContact* present)
+{
+    const std::wstring companyName = Trimmed(TextOrEmpty(tables.Item().Get(L"CompanyName")));
+    if (companyName.empty())
+    {
+        contact.Add(L"F_ACCID", Value::Null());
+        contact.Add(L"F_CNTADDRID", Value::Null());
+        return;
+    }
+    const bool stays = present != nullptr && IsSameCompany(companyName, present->Company);
+    AddLinks(contact, stays ? LinksOfPresentAccount(tables, *present) : LinksOfCompany(tables, companyName),
+             present);
+}
+
+const Value* FindColumn(const std::vector<data::HeldColumn>& columns, std::wstring_view name)
+{
+    const auto found = std::ranges::find(columns, name, &data::HeldColumn::Column);
+    return found == columns.end() ? nullptr : &found->Value;
+}
+
+std::wstring NameOfAccount(const std::wstring& key)
+{
+    return TextOrEmpty(data::FindValue(L"TBLACCOUNT", L"F_ACCID", key, L"F_ACCSNAME"));
+}
+
+void AddAddress(bool hasNone, const std::vector<data::HeldColumn>& address, AccountPreview& preview)
+{
+    for (const AddressColumn& one : kAddressColumns)
+    {
+        const Value* const value = hasNone ? nullptr : FindColumn(address, one.column);
+        preview.Address.push_back({one.property, value == nullptr ? Value::Null() : *value});
     }
 }
 
@@ -239,18 +358,29 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
 void AddAccountLinks(const Host& host, const automation::ItemView& item, HostRow& contact,
                      const PresentContact* present)
 {
-    const std::wstring companyName = Trimmed(TextOrEmpty(item.Get(L"CompanyName")));
-    if (companyName.empty())
+    WrittenTables tables(host, contact.Catalogue(), item);
+    AddLinksOf(tables, contact, present);
+}
+
+AccountPreview PreviewAccountLinks(const Host& host, data::FieldCatalogue& catalogue,
+                                   const automation::ItemView& item, const PresentContact* present)
+{
+    KeptTables tables(host, catalogue, item);
+    data::KeptRow contact(catalogue);
+    AddLinksOf(tables, contact, present);
+    AccountPreview preview;
+    if (const Value* const account = FindColumn(contact.Columns(), L"F_ACCID"))
     {
-        contact.Add(L"F_ACCID", Value::Null());
-        contact.Add(L"F_CNTADDRID", Value::Null());
-        return;
+        preview.IsNewCompany = !tables.NewCompany.empty();
+        preview.Company = preview.IsNewCompany                  ? tables.NewCompany
+                          : automation::IsEmptyOrNull(*account) ? L""
+                                                                : NameOfAccount(automation::TextOf(*account));
     }
-    const bool stays = present != nullptr && IsSameCompany(companyName, present->Company);
-    AddLinks(contact,
-             stays ? LinksOfPresentAccount(host, contact.Catalogue(), item, *present)
-                   : LinksOfCompany(host, contact.Catalogue(), item, companyName),
-             present);
+    if (const Value* const address = FindColumn(contact.Columns(), L"F_CNTADDRID"))
+    {
+        AddAddress(automation::IsEmptyOrNull(*address), tables.Address, preview);
+    }
+    return preview;
 }
 
 } // namespace links

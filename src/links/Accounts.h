@@ -8,7 +8,9 @@
 #include "data/Host.h"
 #include "data/HostRow.h"
 
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace links
 {
@@ -39,5 +41,22 @@ struct PresentContact
 // account. A contact keeps its account while the two companies are equal by the rule that matches contacts.
 void AddAccountLinks(const data::Host& host, const automation::ItemView& item, data::HostRow& contact,
                      const PresentContact* present = nullptr);
+
+// AddAccountLinks without writing anything: the company and the business address that the contact would have
+// afterwards.
+struct AccountPreview
+{
+    struct AddressValue
+    {
+        const wchar_t* Property; // of the item
+        automation::Value Value; // as the host would hold it
+    };
+
+    std::optional<std::wstring> Company; // nothing where the contact keeps its account
+    bool IsNewCompany = false;
+    std::vector<AddressValue> Address; // empty where the contact keeps its address
+};
+AccountPreview PreviewAccountLinks(const data::Host& host, data::FieldCatalogue& catalogue,
+                                   const automation::ItemView& item, const PresentContact* present = nullptr);
 
 } // namespace links

@@ -6,8 +6,8 @@
 #include "data/Literals.h"
 #include "data/Lookups.h"
 #include "data/Permissions.h"
-#include "data/Remark.h"
 #include "links/ContactLink.h"
+#include "state/Remarks.h"
 #include "ui/ShowError.h"
 
 #include <optional>
@@ -15,7 +15,6 @@
 namespace links
 {
 
-using automation::Object;
 using automation::TextOrEmpty;
 
 namespace
@@ -44,6 +43,7 @@ std::wstring FindKey(const wchar_t* builder, const wchar_t* table, const wchar_t
     }
     catch (const automation::Error& error)
     {
+        state::TellFailure(error, keyColumn, static_cast<long>(name.size()));
         ui::ShowAndThrow(error, std::to_wstring(NumberOf(error)), MB_ICONERROR, builder);
     }
 }
@@ -66,19 +66,36 @@ std::optional<std::wstring> ContactNamesOf(const automation::ItemView& item)
         {
             throw;
         }
-        data::Remark(L"The contact has been left as it is: Outlook refuses to tell it");
+        state::Tell({.Why = state::Cause::ReadRefused,
+                     .Field = L"ContactNames",
+                     .Words = error.Description(),
+                     .Code = error.Code()});
         return std::nullopt;
     }
 }
 
+// Without a message: the report of the run tells the missing right.
+bool HasRight(long kind, long operation)
+{
+    const bool has = data::HasPermission(kind, data::kUsualScope, operation);
+    if (!has)
+    {
+        data::TellMissingRight(kind, operation);
+    }
+    return has;
+}
+
+// Whom a record is to be linked to: nothing where its link stays as the host has it, the empty text for no
+// one.
+std::optional<std::wstring> ContactToLink(const automation::ItemView& item)
+{
+    const bool mayLink = HasRight(data::kContactRecord, data::kModifyOperation) && !IsOfOutlook8(item.Item());
+    return mayLink ? ContactNamesOf(item) : std::wstring();
+}
+
 Link LiteralOfContact(const wchar_t* builder, const automation::ItemView& item)
 {
-    if (!data::HasPermission(data::kContactRecord, data::kUsualScope, data::kModifyOperation) ||
-        IsOfOutlook8(item.Item()))
-    {
-        return kNull;
-    }
-    const auto names = ContactNamesOf(item);
+    const auto names = ContactToLink(item);
     if (!names || names->empty())
     {
         return names ? Link(kNull) : Link();
@@ -86,9 +103,21 @@ Link LiteralOfContact(const wchar_t* builder, const automation::ItemView& item)
     return LiteralOfKey(FindKey(builder, L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", *names, kContactColumn));
 }
 
-bool UserMayChangeAccounts(long operation)
+// The same for the company.
+std::optional<std::wstring> CompanyToLink(const automation::ItemView& item)
 {
-    return data::HasPermission(data::kAccountRecord, data::kUsualScope, operation);
+    std::wstring company = automation::Trimmed(TextOrEmpty(item.Get(L"Companies")));
+    const bool mayLink =
+        company.empty() ? data::HasPermission(data::kAccountRecord, data::kUsualScope, data::kModifyOperation)
+                        : HasRight(data::kAccountRecord, data::kAddOperation);
+    return mayLink ? std::optional(std::move(company)) : std::nullopt;
+}
+
+// An account is stored under its company's name cut to the column: a longer name is looked up in its cut
+// form.
+std::wstring NameOfAccount(data::FieldCatalogue& catalogue, const std::wstring& company)
+{
+    return data::TextAsHeld(catalogue, L"F_ACCSNAME", company);
 }
 
 // The data that the account builders share.
@@ -98,23 +127,21 @@ struct AccountLink
     data::FieldCatalogue& Catalogue;
     links::Rollback Rollback;
 
-    // An account is stored under its company's name cut to the column: a longer name is looked up in its cut
-    // form.
     std::wstring KeyOf(const std::wstring& company) const
     {
-        const std::wstring name = data::TextAsHeld(Catalogue, L"F_ACCSNAME", company);
-        const std::wstring key = FindKey(Builder, L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn);
+        const std::wstring key =
+            FindKey(Builder, L"TBLACCOUNT", L"F_ACCSNAME", NameOfAccount(Catalogue, company), kAccountColumn);
         return key.empty() ? links::CreateAccount(data::Host(), Catalogue, company, Rollback) : key;
     }
 
     Link LiteralOf(const automation::ItemView& item) const
     {
-        const std::wstring company = automation::Trimmed(TextOrEmpty(item.Get(L"Companies")));
-        if (company.empty())
+        const auto company = CompanyToLink(item);
+        if (!company)
         {
-            return UserMayChangeAccounts(data::kModifyOperation) ? Link(kNull) : Link();
+            return {};
         }
-        return UserMayChangeAccounts(data::kAddOperation) ? Link(LiteralOfKey(KeyOf(company))) : Link();
+        return company->empty() ? kNull : LiteralOfKey(KeyOf(*company));
     }
 };
 
@@ -138,13 +165,13 @@ void ChangeEditTaskContact(const automation::ItemView& item, data::UpdateRow& ta
     AddLink(task, kContactColumn, LiteralOfContact(L"ChangeEditTaskContact", item));
 }
 
-void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task, UndoneBy undoneBy)
+void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task, Rollback rollback)
 {
     const AccountLink link{L"ChangeAddTaskAccount", task.Catalogue(), rollback};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
 }
 
-void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task, UndoneBy undoneBy)
+void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task, Rollback rollback)
 {
     const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), rollback};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
@@ -162,6 +189,34 @@ void UpdateActivity(const data::Host& host, const data::UpdateRow& activity,
                     const automation::Recordset& rows)
 {
     activity.Update(host, L"TBLACTIVITY", L"F_ACTID", automation::TextOf(rows.ValueOf(L"F_ACTID")));
+}
+
+std::optional<LinkPreview> PreviewTaskContact(const automation::ItemView& item)
+{
+    const auto names = ContactToLink(item);
+    if (!names)
+    {
+        return std::nullopt;
+    }
+    const bool isKnown =
+        !names->empty() &&
+        !TextOrEmpty(data::FindValue(L"TBLCONTACT", L"F_SURNAME+F_GIVENNAME", *names, kContactColumn))
+             .empty();
+    return LinkPreview{isKnown ? *names : std::wstring()};
+}
+
+std::optional<LinkPreview> PreviewTaskAccount(data::FieldCatalogue& catalogue,
+                                              const automation::ItemView& item)
+{
+    const auto company = CompanyToLink(item);
+    if (!company || company->empty())
+    {
+        return company ? std::optional(LinkPreview()) : std::nullopt;
+    }
+    const std::wstring name = NameOfAccount(catalogue, *company);
+    const bool isKnown =
+        !TextOrEmpty(data::FindValue(L"TBLACCOUNT", L"F_ACCSNAME", name, kAccountColumn)).empty();
+    return LinkPreview{name, !isKnown};
 }
 
 } // namespace links

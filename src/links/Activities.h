@@ -8,6 +8,9 @@
 #include "data/HostRow.h"
 #include "links/Accounts.h"
 
+#include <optional>
+#include <string>
+
 namespace links
 {
 
@@ -20,9 +23,21 @@ void ChangeEditTaskContact(const automation::ItemView& item, data::UpdateRow& ta
 // user who may add accounts; NULL for an item without a company, for a user who may modify them. Otherwise
 // nothing is added.
 void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task,
-                          UndoneBy undoneBy = UndoneBy::Transaction);
+                          Rollback rollback = Rollback::ByTransaction);
 void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task,
-                           UndoneBy undoneBy = UndoneBy::Transaction);
+                           Rollback rollback = Rollback::ByTransaction);
+
+// The same without writing anything and without a message: the contact's or the company's name that the link
+// would lead to, the empty text for no link; nothing where the link stays as it is. Throw automation::Error
+// when the host refuses a lookup.
+struct LinkPreview
+{
+    std::wstring Name{};
+    bool IsNew = false; // the account would be added
+};
+std::optional<LinkPreview> PreviewTaskContact(const automation::ItemView& item);
+std::optional<LinkPreview> PreviewTaskAccount(data::FieldCatalogue& catalogue,
+                                              const automation::ItemView& item);
 
 // Sends a new activity of the current user under a new key. keyColumns: of the actor, the creator and the
 // key.

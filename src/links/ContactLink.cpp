@@ -1,8 +1,10 @@
 #include "links/ContactLink.h"
 
 #include "automation/Error.h"
+#include "automation/LateBound.h"
 #include "automation/OutlookConstants.h"
-#include "data/Remark.h"
+#include "resources/Strings.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
 
 namespace links
@@ -32,7 +34,7 @@ Object CreateContact(const Object& items, const std::wstring& surname, const std
 }
 
 // Links are deprecated: an Outlook that refuses them costs the link, not the record.
-void AddLink(const Object& item, const Object& contact)
+void AddLink(const Object& item, const Value& contact)
 {
     try
     {
@@ -44,7 +46,10 @@ void AddLink(const Object& item, const Object& contact)
         {
             throw;
         }
-        data::Remark(L"A contact has not been linked: Outlook refuses links");
+        state::Tell({.Why = state::Cause::LinkRefused,
+                     .Field = error.Member(),
+                     .Words = error.Description(),
+                     .Code = error.Code()});
     }
 }
 
@@ -66,16 +71,17 @@ void LinkContact(const Object& item, const Value& surname, const Value& givenNam
     const Object folder =
         state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", automation::kContactsFolder);
     const Object items = folder.GetObject(L"Items");
-    Object contact = FindContact(items, last, first);
+    const Object contact = FindContact(items, last, first);
     if (contact && accepts != nullptr && !accepts(contact))
     {
         return;
     }
-    if (!contact)
+    if (!contact && automation::LateBound::Is(item))
     {
-        contact = CreateContact(items, last, first);
+        AddLink(item, resources::IsChinese() ? last + first : first + L" " + last); // of a preview
+        return;
     }
-    AddLink(item, contact);
+    AddLink(item, contact ? contact : CreateContact(items, last, first));
 }
 
 } // namespace links

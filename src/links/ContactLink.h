@@ -17,7 +17,8 @@ using AcceptsContact = bool (*)(const automation::Object& contact);
 // a second call adds a second link. Does nothing when either name is Null, Empty or the empty text, or when
 // accepts (null for no condition) refuses the contact found; a contact that is not found is created. An
 // Outlook without links costs the link, with a remark. Throws automation::Error when Outlook refuses anything
-// else, as it does for a name with a double quote.
+// else, as it does for a name with a double quote. An item of the component's own, which a preview records,
+// takes the name of a contact that would be created.
 void LinkContact(const automation::Object& item, const automation::Value& surname,
                  const automation::Value& givenName, AcceptsContact accepts = nullptr);
 

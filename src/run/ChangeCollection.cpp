@@ -2,7 +2,7 @@
 
 #include "data/Permissions.h"
 #include "resources/Strings.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
 
 namespace run
@@ -71,15 +71,18 @@ ChangeCollection::ChangeCollection(const exchange::Kind& kind, exchange::Run& ru
         .KeyColumn = kind.KeyColumn,
         .FirstKeyOf = rule.FirstKeyOfItem,
         .Matches = [&rule](const auto& item, const auto& rows) { return rule.Matches(item, rows); },
+        .NameOfItem = kind.NameOfItem,
+        .NameOfRow = kind.NameOfRow,
     };
 }
 
 bool ChangeCollection::CollectToOutlook()
 {
-    return state::Failed([&] {
+    return state::FailedAndTold([&] {
         mRun.Display.SetStatus(resources::String(mKind.CollectToOutlookTextId));
         const exchange::ProgressScope progress(mRun.Display);
         Walk([&] { WalkRows(); });
+        mRun.Report.CountOtherItems(mReading->Items.OtherKinds());
     });
 }
 
@@ -174,7 +177,7 @@ std::optional<std::wstring> ChangeCollection::EntryIdOf(long item)
 
 bool ChangeCollection::CollectFromOutlook()
 {
-    return state::Failed([&] {
+    return state::FailedAndTold([&] {
         mRun.Display.SetStatus(resources::String(IDS_RUN_COLLECTING));
         const exchange::ProgressScope progress(mRun.Display);
         const bool mayAdd =
@@ -182,6 +185,7 @@ bool ChangeCollection::CollectFromOutlook()
         const bool mayModify =
             data::CheckPermission(mKind.PermissionKind, data::kUsualScope, data::kModifyOperation);
         Walk([&] { WalkItems(mayAdd, mayModify); });
+        mRun.Report.CountOtherItems(mReading->Items.OtherKinds());
     });
 }
 

@@ -1,5 +1,6 @@
 #include "run/FrmMessage.h"
 
+#include "preview/FrmChanges.h"
 #include "resources/Strings.h"
 #include "state/SharedState.h"
 #include "ui/Control.h"
@@ -16,6 +17,7 @@ constexpr ui::CaptionRow kConfirmCaptions[] = {
     {IDC_MESSAGE_TITLE, IDS_CONFIRM_INSTRUCTION},
     {IDOK, {L"接受(&A)", L"&Accept"}},
     {IDCANCEL, {L"取消(&C)", L"&Cancel"}},
+    {IDC_MESSAGE_DETAILS, {L"详细(&D)...", L"&Details..."}},
     // The sections' texts for a direction that is neither.
     {IDC_MESSAGE_TO_OL_TITLE, {L"Quenlar To Outlook", L"Quenlar To Outlook"}},
     {IDC_MESSAGE_TO_OL_NEW, {L"Add New", L"Add New"}},
@@ -28,8 +30,11 @@ constexpr ui::CaptionRow kConfirmCaptions[] = {
 class FrmMessage : public ui::Dialog
 {
   public:
-    FrmMessage(const std::wstring& categoryText, const data::Changes& changes)
-        : Dialog(IDD_MESSAGE, kConfirmCaptions), mCategoryText(categoryText), mChanges(changes)
+    FrmMessage(const std::wstring& categoryText, const data::Changes& changes, const ShowDetails& details)
+        : Dialog(IDD_MESSAGE, kConfirmCaptions),
+          mCategoryText(categoryText),
+          mChanges(&changes),
+          mDetails(details)
     {
     }
 
@@ -47,21 +52,29 @@ class FrmMessage : public ui::Dialog
     {
         ui::FitLabels(*this, {&LblTitle});
         SetCaption(ConfirmCaption(mCategoryText));
+        cmdDetails.Show(static_cast<bool>(mDetails));
         ShowSections(state::Shared().gSynParameter.TransType);
     }
 
     void ShowSections(long transType)
     {
-        const bool toOutlook =
-            Fill({ConfirmSection::QuenlarToOutlook, LblSynToOlTitle, LblSynToOlNew, LblSynToOlModify},
-                 transType, mChanges.NewHostRecords.Count(), mChanges.ChangedHostRecords.Count());
-        const bool toHost =
-            Fill({ConfirmSection::OutlookToQuenlar, LblOlToSynTitle, LblOlToSynNew, LblOlToSynModify},
-                 transType, mChanges.NewOutlookItems.Count(), mChanges.ChangedOutlookItems.Count());
+        const auto [toOutlook, toHost] = FillSections(transType);
         if (toOutlook != toHost)
         {
             KeepOneSection(toOutlook);
         }
+    }
+
+    // Which of the two are shown.
+    std::pair<bool, bool> FillSections(long transType)
+    {
+        const bool toOutlook =
+            Fill({ConfirmSection::QuenlarToOutlook, LblSynToOlTitle, LblSynToOlNew, LblSynToOlModify},
+                 transType, mChanges->NewHostRecords.Count(), mChanges->ChangedHostRecords.Count());
+        const bool toHost =
+            Fill({ConfirmSection::OutlookToQuenlar, LblOlToSynTitle, LblOlToSynNew, LblOlToSynModify},
+                 transType, mChanges->NewOutlookItems.Count(), mChanges->ChangedOutlookItems.Count());
+        return {toOutlook, toHost};
     }
 
     // True when the section is shown for this direction.
@@ -96,6 +109,7 @@ class FrmMessage : public ui::Dialog
         Picture1.MoveTo(frame);
         cmdAccept.MoveBy(0, -height);
         cmdCancel.MoveBy(0, -height);
+        cmdDetails.MoveBy(0, -height);
         GrowBy(-height);
     }
 
@@ -105,6 +119,12 @@ class FrmMessage : public ui::Dialog
         {
             state::Shared().gChangesAccepted = id == IDOK;
             Unload(id);
+        }
+        else if (id == IDC_MESSAGE_DETAILS)
+        {
+            mKept = mDetails(*this);
+            mChanges = &mKept;
+            FillSections(state::Shared().gSynParameter.TransType);
         }
     }
 
@@ -118,16 +138,37 @@ class FrmMessage : public ui::Dialog
     ui::Label LblOlToSynModify{*this, IDC_MESSAGE_TO_SYN_MODIFY};
     ui::Button cmdAccept{*this, IDOK};
     ui::Button cmdCancel{*this, IDCANCEL};
+    ui::Button cmdDetails{*this, IDC_MESSAGE_DETAILS};
 
     const std::wstring& mCategoryText;
-    const data::Changes& mChanges;
+    const data::Changes* mChanges;
+    const ShowDetails& mDetails;
+    data::Changes mKept; // after the details
 };
 
 } // namespace
 
-void ShowConfirmation(const std::wstring& categoryText, const data::Changes& changes)
+void ShowConfirmation(const std::wstring& categoryText, const data::Changes& changes,
+                      const ShowDetails& details)
 {
-    FrmMessage(categoryText, changes).ShowModal();
+    FrmMessage(categoryText, changes, details).ShowModal();
+}
+
+void ConfirmChanges(const exchange::Kind& kind, exchange::Run& run, const std::wstring& categoryText)
+{
+    std::optional<preview::ChangeList> list;
+    ShowConfirmation(categoryText, run.Pending, [&](const ui::Dialog& confirmation) {
+        if (!list)
+        {
+            list.emplace(kind, run, state::Shared().gSynParameter.TransType);
+        }
+        preview::ShowChanges(confirmation, *list, categoryText);
+        return list->Kept();
+    });
+    if (list && state::Shared().gChangesAccepted)
+    {
+        run.Pending = list->Kept();
+    }
 }
 
 } // namespace run

@@ -4,15 +4,36 @@
 
 #include "data/ChangeRecords.h"
 
+#include <functional>
 #include <optional>
 #include <string>
+
+namespace exchange
+{
+struct Kind;
+struct Run;
+} // namespace exchange
+
+namespace ui
+{
+class Dialog;
+}
 
 namespace run
 {
 
+// Asks the user whether the run's pending changes are to be written, and lets them look at each one first.
+// Changes that the user leaves out are pending no longer. The answer is that of ShowConfirmation.
+void ConfirmChanges(const exchange::Kind& kind, exchange::Run& run, const std::wstring& categoryText);
+
+// Lets the user look at the changes, over the confirmation; the changes that are left.
+using ShowDetails = std::function<data::Changes(const ui::Dialog& confirmation)>;
+
 // Shows the dialog for the direction of the loaded parameters (gSynParameter), even when every count is 0.
-// Accept sets gChangesAccepted, Cancel clears it; closing the dialog any other way leaves it as it was.
-void ShowConfirmation(const std::wstring& categoryText, const data::Changes& changes);
+// Accept sets gChangesAccepted, Cancel clears it; closing the dialog any other way leaves it as it was. With
+// details there is a button that shows them, and the counts follow.
+void ShowConfirmation(const std::wstring& categoryText, const data::Changes& changes,
+                      const ShowDetails& details = {});
 
 // The two halves of the dialog.
 enum class ConfirmSection

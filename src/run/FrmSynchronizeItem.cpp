@@ -2,6 +2,8 @@
 
 #include "exchange/KindName.h"
 #include "exchange/Run.h"
+#include "report/FrmReport.h"
+#include "report/RunLog.h"
 #include "resources/Strings.h"
 #include "run/FrmMessage.h"
 #include "run/SynchronizeTexts.h"
@@ -24,7 +26,8 @@ namespace run
 namespace
 {
 
-constexpr int kListMargin = 4; // dialog units between the tabbed frame and the list
+constexpr int kListMargin = 4;   // dialog units between the tabbed frame and the list
+constexpr int kReportMargin = 6; // pixels between the status line and the button beside it
 
 struct CategoryRow
 {
@@ -44,6 +47,7 @@ constexpr ui::CaptionRow kMainCaptions[] = {
     {IDC_SYNC_CONFIGURE, {L"配置(&F)", L"Con&figuare"}},
     {IDC_SYNC_START, {L"同步(&S)", L"&Synchronization"}},
     {IDCANCEL, {L"关闭(&C)", L"&Close"}},
+    {IDC_SYNC_REPORT, IDS_REPORT_OPEN},
 };
 
 class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
@@ -96,6 +100,7 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
         {
         case IDC_SYNC_CONFIGURE: OnConfigure(); break;
         case IDC_SYNC_START: OnSynchronize(); break;
+        case IDC_SYNC_REPORT: report::ShowReport(*mLastRun); break;
         default: Dialog::OnCommand(id, notification);
         }
     }
@@ -112,11 +117,28 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 
     void OnSynchronize()
     {
+        mLastRun.reset();
+        ShowReportButton(false);
         const std::wstring outcome = AtWork([&] { return Synchronize(); });
+        if (mLastRun)
+        {
+            mLastRun->Outcome = outcome;
+            report::LogRun(*mLastRun);
+            ShowReportButton(mLastRun->Report.HasSomethingToTell());
+        }
         if (!outcome.empty())
         {
             SetStatus(outcome);
         }
+    }
+
+    // Beside the status line, which makes room for it.
+    void ShowReportButton(bool visible)
+    {
+        RECT line = lblState.Place();
+        line.right = visible ? cmdReport.Place().left - kReportMargin : cmdReport.Place().right;
+        lblState.MoveTo(line);
+        cmdReport.Show(visible);
     }
 
     // The dialog takes no input from before the first thing is read. That is over before the outcome is
@@ -205,17 +227,28 @@ class FrmSynchronizeItem : public ui::Dialog, private exchange::RunDisplay
 
     std::wstring CategoryText() const override { return lvCategory.TextOf(*mCurrentCategory); }
 
-    void Confirm(exchange::Run& run) override { ShowConfirmation(CategoryText(), run.Pending); }
+    void Confirm(const exchange::Kind& kind, exchange::Run& run) override
+    {
+        ConfirmChanges(kind, run, CategoryText());
+    }
+
+    void TakeReport(exchange::Report&& taken) override
+    {
+        mLastRun.emplace(report::FinishedRun{.Category = CategoryText(), .Report = std::move(taken)});
+        GetLocalTime(&mLastRun->EndedAt);
+    }
 
     ui::TabFrame SstbOption{*this, IDC_SYNC_OPTION};
     ui::ListView lvCategory{*this, IDC_SYNC_CATEGORY};
     ui::Label lblState{*this, IDC_SYNC_STATE};
+    ui::Button cmdReport{*this, IDC_SYNC_REPORT};
     ui::ProgressBar prgbarSyn{*this, IDC_SYNC_PROGRESS};
     ui::Button CmdSynchronize{*this, IDC_SYNC_START};
     ui::Button CmdConfigure{*this, IDC_SYNC_CONFIGURE};
 
     const SynchronizeServices& mServices;
     std::optional<int> mCurrentCategory; // the row last clicked
+    std::optional<report::FinishedRun> mLastRun;
 };
 
 } // namespace

@@ -35,6 +35,8 @@ class RecordKeys
     // False for what has turned out to be no record of the kind: an item of another kind, a record that is
     // gone, one that has been met before at another position. It has no keys then.
     bool IsRecord(long position) const { return !mNone.contains(position); }
+    // The items of other kinds among those that have been read.
+    long OtherKinds() const noexcept { return mOtherKinds; }
 
     // Whether records whose first keys agree are compared by a second one.
     bool HasSecond() const noexcept { return mHasSecond; }
@@ -67,6 +69,7 @@ class RecordKeys
     Keys mFirst;
     Keys mSecond;
     std::unordered_set<long> mNone;
+    long mOtherKinds = 0;
     std::unordered_set<std::wstring> mIdentities;
     bool mHasMetOneTwice = false;
 };
@@ -84,7 +87,8 @@ Result RecordKeys::ReadRecord(long position, Result otherwise, Read&& read)
         {
             throw;
         }
-        mNone.insert(position);
+        const bool isNew = mNone.insert(position).second;
+        mOtherKinds += isNew && automation::IsMissingMember(error) ? 1 : 0;
         return otherwise;
     }
 }

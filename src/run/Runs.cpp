@@ -4,7 +4,7 @@
 #include "config/outlook/OutlookFolders.h"
 #include "contacts/Contacts.h"
 #include "run/ChangeCollection.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
 
@@ -40,12 +40,15 @@ long CountChanges(const data::Changes& changes, long transType)
     return count;
 }
 
-bool UserAccepts(exchange::Run& run)
+bool UserAccepts(const exchange::Kind& kind, exchange::Run& run)
 {
     // A dialog that is closed by neither button leaves the flag alone; an answer to an earlier run is no
     // consent to this one.
     Shared().gChangesAccepted = false;
-    run.Display.Confirm(run);
+    // Whatever the user looks at meanwhile is not written by this run.
+    exchange::Report dropped;
+    const state::CollectsRemarks drops(dropped);
+    run.Display.Confirm(kind, run);
     return Shared().gChangesAccepted;
 }
 
@@ -54,6 +57,14 @@ bool Apply(const exchange::Kind& kind, exchange::Run& run, long transType)
 {
     const bool toOutlook = state::WritesToOutlook(transType);
     const bool fromOutlook = state::WritesToHost(transType);
+    if (toOutlook)
+    {
+        kind.ToOutlook.Announce(run);
+    }
+    if (fromOutlook)
+    {
+        kind.FromOutlook.Announce(run);
+    }
     if (kind.AppliesFromOutlookFirst)
     {
         return (fromOutlook && kind.FromOutlook(run)) || (toOutlook && kind.ToOutlook(run));
@@ -73,31 +84,61 @@ bool Exchange(const exchange::Kind& kind, exchange::Run& run)
     {
         return true;
     }
-    if (!UserAccepts(run) || CountChanges(run.Pending, transType) == 0)
+    if (!UserAccepts(kind, run) || CountChanges(run.Pending, transType) == 0)
     {
         return false;
     }
     return Apply(kind, run, transType);
 }
 
+bool HasFolder(exchange::Run& run)
+{
+    const bool failed = config::ResolveOutlookFolder(Shared().gSynParameter.CurrentFolder, run.Folder);
+    if (failed)
+    {
+        state::Tell({.Why = state::Cause::NoFolder});
+    }
+    return !failed;
+}
+
+// True when the run failed.
+bool OpenAndExchange(const exchange::Kind& kind, exchange::Run& run)
+{
+    const automation::RecordsetCloser closer(run.HostRows);
+    const data::Host host;
+    const std::wstring filter = kind.SourceFilter == nullptr ? std::wstring() : kind.SourceFilter(host);
+    if (host.OpenRecordset(run.HostRows, kind.RecordSource, filter) < 0)
+    {
+        state::LogError();
+        state::Tell({.Why = state::Cause::NoHostRows, .Field = kind.RecordSource});
+        return !kind.SucceedsWithoutHostRows;
+    }
+    const bool failed = !HasFolder(run) || Exchange(kind, run);
+    if (failed)
+    {
+        state::LogError();
+    }
+    return failed;
+}
+
+// The same, with an error as a reason in the run's report.
+bool Execute(const exchange::Kind& kind, exchange::Run& run)
+{
+    const state::CollectsRemarks collects(run.Report);
+    bool failed = false;
+    return state::FailedAndTold([&] { failed = OpenAndExchange(kind, run); }) || failed;
+}
+
 bool RunKind(const exchange::Kind& kind, exchange::RunDisplay& display)
 {
     return state::Trapped(true, [&] {
         exchange::Run run{.Display = display};
-        const automation::RecordsetCloser closer(run.HostRows);
-        const data::Host host;
-        const std::wstring filter = kind.SourceFilter == nullptr ? std::wstring() : kind.SourceFilter(host);
-        if (host.OpenRecordset(run.HostRows, kind.RecordSource, filter) < 0)
-        {
-            state::LogError();
-            return !kind.SucceedsWithoutHostRows;
-        }
-        const bool failed = config::ResolveOutlookFolder(Shared().gSynParameter.CurrentFolder, run.Folder) ||
-                            Exchange(kind, run);
+        const bool failed = Execute(kind, run);
         if (failed)
         {
-            state::LogError();
+            run.Report.Fail();
         }
+        display.TakeReport(std::move(run.Report));
         return failed;
     });
 }

@@ -11,6 +11,8 @@
 namespace state
 {
 
+class RemarkSink;
+
 struct SharedState
 {
     automation::Object gDTC; // the host's data-access object
@@ -31,6 +33,8 @@ struct SharedState
     bool gChangesAccepted = false;    // the user's answer to the confirmation dialog
 
     bool isLoading = false; // a call of SynLoad has not returned yet
+
+    RemarkSink* remarks = nullptr; // of the run that is under way
 };
 
 // The calling thread's state, made on first use.

@@ -6,8 +6,9 @@
 #include "exchange/MatchKeys.h"
 #include "links/Activities.h"
 #include "links/ContactLink.h"
-#include "state/Failures.h"
+#include "state/Remarks.h"
 #include "state/SharedState.h"
+#include "tasks/TaskPreview.h"
 #include "ui/ShowMessageBox.h"
 
 #include <limits>
@@ -297,7 +298,7 @@ void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const Object&
 
 long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
-    const bool failed = state::Failed([&] {
+    const bool failed = state::FailedAndTold([&] {
         switch (mode)
         {
         case data::kNewRecord: Insert(run, item); break;
@@ -341,9 +342,12 @@ constexpr exchange::Kind kTasks{
               KeyOfTaskRow,
               exchange::AccountOfRow,
               {L"IPM.Task", kKeyColumns, false}},
+    .NameOfItem = exchange::SubjectOfItem,
+    .NameOfRow = exchange::SubjectOfRow,
     .FiltersOf = PendingOnly,
     .ToOutlook = SynTaskToOutlook,
     .FromOutlook = SynTaskFromOutlook,
+    .Preview = kTaskPreview,
 };
 
 } // namespace tasks

@@ -26,6 +26,17 @@ void ComboBox::Add(const std::wstring& text)
     SendPointer(CB_ADDSTRING, 0, text.c_str());
 }
 
+std::optional<int> ComboBox::Selected() const
+{
+    const auto row = static_cast<int>(Send(CB_GETCURSEL));
+    return row >= 0 ? std::optional(row) : std::nullopt;
+}
+
+void ComboBox::Select(int row)
+{
+    Send(CB_SETCURSEL, static_cast<WPARAM>(row));
+}
+
 void OptionGroup::SetText(long index, const std::wstring& text)
 {
     SetDlgItemTextW(mDialog.Handle(), mFirstId + static_cast<int>(index - mFirstIndex), text.c_str());

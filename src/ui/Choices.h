@@ -25,6 +25,9 @@ class ComboBox : public Control
     using Control::Control;
 
     void Add(const std::wstring& text);
+    // For one that takes its own texts only.
+    std::optional<int> Selected() const; // from 0
+    void Select(int row);
 };
 
 // Buttons with consecutive numbers in the dialog and consecutive indexes in the program, which need not start

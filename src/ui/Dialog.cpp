@@ -204,6 +204,12 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_COMMAND:
     case WM_CLOSE: return HandleOrder(message, wParam, lParam);
     case WM_NOTIFY: return HandleNotify(lParam);
+    case WM_SIZE:
+        mAnchors.Place();
+        OnSize();
+        return FALSE;
+    case WM_GETMINMAXINFO: mAnchors.Limit(*reinterpret_cast<MINMAXINFO*>(lParam)); return FALSE;
+    case WM_TIMER: OnTimer(wParam); return TRUE;
     case WM_SETCURSOR: return HandleSetCursor(LOWORD(lParam));
     case WM_DESTROY:
         RemovePropW(mWindow, kDialogProperty);
@@ -242,6 +248,12 @@ INT_PTR Dialog::HandleInit()
     RunHandler([&] {
         WriteCaptions(mCaptions);
         OnInit();
+        mAnchors.Attach(mWindow, AnchoredControls());
+        if (const auto size = OpeningSize())
+        {
+            SetWindowPos(mWindow, nullptr, 0, 0, size->cx, size->cy,
+                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        }
     });
     CenterOverActiveBefore();
     if (const int first = FirstFocus(); first != 0)

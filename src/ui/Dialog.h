@@ -3,6 +3,7 @@
 // shown.
 #pragma once
 
+#include "ui/Anchors.h"
 #include "ui/Caption.h"
 #include "ui/ModalScope.h"
 
@@ -76,6 +77,14 @@ class Dialog
     virtual void OnUnload() {}
     // The control that has the focus at first; 0 for the first one in tab order.
     virtual int FirstFocus() const { return 0; }
+    // How the controls of a resizable dialog follow its edges; asked once, after OnInit.
+    virtual std::span<const AnchoredControl> AnchoredControls() const { return {}; }
+    // The size in pixels that the dialog opens with; nothing for the template's, which is its least.
+    virtual std::optional<SIZE> OpeningSize() const { return std::nullopt; }
+    // The controls have followed the dialog's new size.
+    virtual void OnSize() {}
+    // A timer that SetTimer has set for the dialog's window.
+    virtual void OnTimer(UINT_PTR /*id*/) {}
 
   private:
     friend class Busy;
@@ -100,6 +109,7 @@ class Dialog
     HWND mWindow = nullptr;
     std::optional<ModalScope> mModal;
     Busy* mBusy = nullptr;
+    Anchors mAnchors;
     std::exception_ptr mFailure;
 };
 

@@ -44,6 +44,16 @@ void ListView::FillWidth()
     Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(mColumns) - 1, LVSCW_AUTOSIZE_USEHEADER);
 }
 
+int ListView::ColumnWidth(int column) const
+{
+    return static_cast<int>(Send(LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
+}
+
+void ListView::SetColumnWidth(int column, int pixels)
+{
+    Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), pixels);
+}
+
 int ListView::Add(const std::wstring& text, const std::wstring& key)
 {
     std::wstring copy = text;

@@ -13,12 +13,15 @@ class ListView : public Control
 {
   public:
     using Control::Control;
+    using Control::SetText; // which nobody sees: screen readers tell it as the list's name
 
     // Selects whole rows, and has the looks of the system's own lists. Call once, before the rows are added.
     void Prepare();
     // Adds a column of a width in pixels; FillWidth gives the last one the remaining width.
     void AddColumn(const std::wstring& header, int width = 0);
     void FillWidth();
+    int ColumnWidth(int column) const;
+    void SetColumnWidth(int column, int pixels);
 
     // Adds a row at the end; its index, from 0.
     int Add(const std::wstring& text, const std::wstring& key = {});

@@ -310,7 +310,7 @@ TEST_F(CalendarWriting, AnItemThatIsGoneIsSkippedAndCounted)
     exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
-    EXPECT_EQ(1, run.Skipped);
+    EXPECT_EQ(1, run.Report.Vanished());
     EXPECT_FALSE(mDisplay.IsShown);
 }
 

@@ -99,7 +99,7 @@ TEST_F(IdentityOfRecords, AnItemAndARowThatHaveMovedAreFoundAgainInBothDirection
     Propose(9, IdOf(2), 9, L"b", 1);
     EXPECT_FALSE(Export());
     EXPECT_EQ((Pairs{L"c c", L"b b"}), gPairs);
-    EXPECT_EQ(0, TheRun.Skipped);
+    EXPECT_EQ(0, TheRun.Report.Vanished());
 }
 
 TEST_F(IdentityOfRecords, ANewItemThatHasMovedIsFoundAgain)
@@ -120,7 +120,7 @@ TEST_F(IdentityOfRecords, ADeletedRecordIsSkippedAndCounted)
     TheRun.Pending.NewHostRecords.Add(1, 0).Key = L"x";
     EXPECT_FALSE(Export());
     EXPECT_EQ(Pairs{}, gPairs);
-    EXPECT_EQ(4, TheRun.Skipped);
+    EXPECT_EQ(4, TheRun.Report.Vanished());
 }
 
 TEST_F(IdentityOfRecords, APairThatIsOneNoLongerIsNotWritten)
@@ -131,7 +131,7 @@ TEST_F(IdentityOfRecords, APairThatIsOneNoLongerIsNotWritten)
     Propose(1, IdOf(1), 2, L"b", 1);
     EXPECT_FALSE(Export());
     EXPECT_EQ(Pairs{}, gPairs);
-    EXPECT_EQ(2, TheRun.Skipped);
+    EXPECT_EQ(2, TheRun.Report.Vanished());
 }
 
 TEST_F(IdentityOfRecords, TheFolderIsAskedForItsOwnIdentityOnce)
@@ -157,7 +157,7 @@ TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsIdentifiedByItsKey)
     TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = L"a";
     EXPECT_FALSE(Import());
     EXPECT_EQ((Pairs{L"a"}), gPairs);
-    EXPECT_EQ(1, TheRun.Skipped);
+    EXPECT_EQ(1, TheRun.Report.Vanished());
 }
 
 TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
@@ -168,5 +168,5 @@ TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
         exchange::EntryIdOf(tasks.GetObject(L"Items").GetObject(L"Item", 1L));
     EXPECT_FALSE(Import());
     EXPECT_EQ(Pairs{}, gPairs);
-    EXPECT_EQ(1, TheRun.Skipped);
+    EXPECT_EQ(1, TheRun.Report.Vanished());
 }

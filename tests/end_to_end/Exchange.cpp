@@ -68,6 +68,7 @@ Outcome Exchange::Run(const std::wstring& category, long direction, long rule, b
     options.TransType = direction;
     options.ConflictOption = rule;
     options.Decline = decline;
+    options.Details = LooksAtReport;
     StoreSettings(mHost->Database(), std::to_wstring(mHost->UserId()), options);
     Outcome outcome;
     Robot robot(

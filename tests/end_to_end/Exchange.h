@@ -30,6 +30,9 @@ class Exchange : public testing::Test
     long Count(const std::wstring& sqlOfHost);
     long CountItems(const std::wstring& sqlOfMailbox);
 
+    // Whether the user opens the report after each run.
+    bool LooksAtReport = false;
+
     sandbox::Host& HostSide() { return *mHost; }
     sandbox::Connection& MailboxSide() { return *mMailbox; }
 

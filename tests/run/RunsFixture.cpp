@@ -80,7 +80,7 @@ RunsFixture::RunsFixture()
 {
     state::Shared().gFontName = L"Arial";
     state::Shared().gFontSize = 8;
-    Display.Ask = run::ShowConfirmation;
+    Display.Ask = run::ConfirmChanges;
 }
 
 Outcome RunsFixture::Run(const RunKind& kind, Answer answer)

@@ -37,10 +37,12 @@ class RecordingDisplay : public exchange::RunDisplay
         Events.push_back(std::to_wstring(static_cast<int>(fraction * 100)) + L"%");
     }
     std::wstring CategoryText() const override { return L"Contact"; }
-    void Confirm(exchange::Run& run) override { Ask(CategoryText(), run.Pending); }
+    void Confirm(const exchange::Kind& kind, exchange::Run& run) override { Ask(kind, run, CategoryText()); }
+    void TakeReport(exchange::Report&& report) override { Report = std::move(report); }
 
-    // How the user is asked; run::ShowConfirmation is the component's own way.
-    std::function<void(const std::wstring& categoryText, const data::Changes& changes)> Ask;
+    // How the user is asked; run::ConfirmChanges is the component's own way.
+    std::function<void(const exchange::Kind& kind, exchange::Run& run, const std::wstring& categoryText)> Ask;
+    exchange::Report Report;
 };
 
 } // namespace test_support

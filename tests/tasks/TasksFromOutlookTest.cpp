@@ -213,7 +213,7 @@ TEST_F(TasksFromOutlook, AnItemThatIsGoneIsSkippedAndTheOthersAreWritten)
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
     EXPECT_FALSE(Host().Calls.empty());
-    EXPECT_EQ(1, run.Skipped);
+    EXPECT_EQ(1, run.Report.Vanished());
     EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
 }
 

@@ -45,6 +45,26 @@ bool Has(const ShownDialog& dialog, int control)
     return dialog.Control(control) != nullptr;
 }
 
+std::wstring RowOfReport(const ShownDialog& report, int row)
+{
+    constexpr int kColumns = 6;
+    std::wstring text = report.Row(IDC_REPORT_LIST, row);
+    for (int column = 1; column < kColumns; ++column)
+    {
+        text += L"|" + report.Row(IDC_REPORT_LIST, row, column);
+    }
+    return text;
+}
+
+// Whether the list of changes shows what the search is for, or nothing.
+bool IsShown(const ShownDialog& changes, const std::wstring& search)
+{
+    const bool isEmpty = changes.Rows(IDC_CHANGES_LIST) == 0;
+    const bool isFound = changes.Row(IDC_CHANGES_LIST, 0).find(search) != std::wstring::npos &&
+                         !changes.Row(IDC_CHANGES_LIST, 0, 1).empty() && changes.Rows(IDC_CHANGES_FIELDS) > 0;
+    return isEmpty || isFound;
+}
+
 } // namespace
 
 Conversation::Conversation(Robot& robot, const Options& options)
@@ -81,7 +101,45 @@ Outcome Conversation::RunCategory(const std::wstring& category)
     outcome.seconds = std::chrono::duration<double>(Clock::now() - start).count();
     outcome.succeeded = outcome.status == resources::String(IDS_RUN_SUCCEEDED);
     SavePictureOf(mMain, L"main-" + category + L"-done");
+    if (mOptions.Details)
+    {
+        LookAtReport(category, outcome);
+    }
     return outcome;
+}
+
+// Looks at a pair first, if there is one: its fields have two sides.
+void Conversation::LookAtChanges(const ShownDialog& confirmation, const std::wstring& category)
+{
+    const ShownDialog changes = OpenedBy(confirmation, IDC_MESSAGE_DETAILS);
+    const auto isRead = [&](int row) { return !changes.Row(IDC_CHANGES_LIST, row, 1).empty(); };
+    if (changes.Rows(IDC_CHANGES_LIST) > 0)
+    {
+        mRobot.WaitUntil("the changes are shown", [&] { return isRead(0); });
+        mRobot.WaitUntil("the fields are shown", [&] { return changes.Rows(IDC_CHANGES_FIELDS) > 0; });
+    }
+    SavePictureOf(changes, L"changes-" + category);
+    const std::wstring search = resources::Choose(L"修改", L"Change in");
+    SetWindowTextW(changes.Control(IDC_CHANGES_SEARCH), search.c_str());
+    mRobot.WaitUntil("the search is over",
+                     [&] { return !changes.IsVisible(IDC_CHANGES_STOP) && IsShown(changes, search); });
+    SavePictureOf(changes, L"changes-" + category + L"-pairs");
+    Leave(changes);
+}
+
+void Conversation::LookAtReport(const std::wstring& category, Outcome& outcome)
+{
+    if (mMain.IsVisible(IDC_SYNC_REPORT))
+    {
+        const ShownDialog report = OpenedBy(mMain, IDC_SYNC_REPORT);
+        outcome.reportSummary = report.Text(IDC_REPORT_SUMMARY);
+        for (int row = 0; row < report.Rows(IDC_REPORT_LIST); ++row)
+        {
+            outcome.reportRows.push_back(RowOfReport(report, row));
+        }
+        SavePictureOf(report, L"report-" + category);
+        Leave(report);
+    }
 }
 
 void Conversation::Answer(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome)
@@ -113,6 +171,10 @@ bool Conversation::AnswerConfirmation(const ShownDialog& dialog, const std::wstr
         }
     }
     SavePictureOf(dialog, L"confirm-" + category);
+    if (mOptions.Details)
+    {
+        LookAtChanges(dialog, category);
+    }
     dialog.Click(mOptions.Decline ? IDCANCEL : IDOK);
     mRobot.WaitUntilClosed(dialog);
     return true;

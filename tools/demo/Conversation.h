@@ -18,7 +18,11 @@ struct Outcome
     std::vector<std::wstring> confirmation; // the lines of the confirmation dialog
     std::vector<std::wstring> messages;     // of the message boxes and message dialogs
     std::wstring status;                    // the status line afterwards
-    bool succeeded = false;                 // the status is the success text
+    // With Options::Details, of a run that has something to tell: the summary, and the rows of the list,
+    // cells separated by "|".
+    std::wstring reportSummary;
+    std::vector<std::wstring> reportRows;
+    bool succeeded = false; // the status is the success text
     double seconds = 0;
 };
 
@@ -37,6 +41,10 @@ class Conversation
   private:
     void Answer(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
     bool AnswerConfirmation(const ShownDialog& dialog, const std::wstring& category, Outcome& outcome);
+    // Opens the list of changes from the confirmation.
+    void LookAtChanges(const ShownDialog& confirmation, const std::wstring& category);
+    // Opens the report, if the run has something to tell.
+    void LookAtReport(const std::wstring& category, Outcome& outcome);
     void TourKind(const ShownDialog& configure, int row, const std::wstring& kind);
     // The dialog that a button opens.
     ShownDialog OpenedBy(const ShownDialog& dialog, int control);

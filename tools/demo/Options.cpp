@@ -21,10 +21,9 @@ Options ParseOptions(const std::vector<std::wstring>& arguments)
         {L"--screens", [&](const auto& value) { options.ScreensFolder = value; }},
     };
     const std::map<std::wstring, bool Options::*> flags{
-        {L"--prepare", &Options::Prepare},
-        {L"--decline", &Options::Decline},
-        {L"--interactive", &Options::Interactive},
-        {L"--tour", &Options::Tour},
+        {L"--prepare", &Options::Prepare},         {L"--decline", &Options::Decline},
+        {L"--interactive", &Options::Interactive}, {L"--tour", &Options::Tour},
+        {L"--details", &Options::Details},
     };
     for (size_t i = 0; i < arguments.size(); ++i)
     {

@@ -20,6 +20,7 @@ struct Options
     bool Decline = false;                 // press Cancel in the confirmation
     bool Interactive = false;             // leave the dialogs to the user
     bool Tour = false;                    // walk through the configuration, changing nothing
+    bool Details = false;                 // open what a run tells in detail; Outlook refuses a few things
 };
 
 // Throws std::invalid_argument for arguments that the program does not know.

@@ -94,6 +94,10 @@ bool Converse(Robot& robot, const Options& options)
     for (const std::wstring& category : options.Categories)
     {
         control.Call(L"Reset");
+        for (const wchar_t* const refusal : {L"Guard", L"LinksRaise", L"ForeignItems"})
+        {
+            control.Call(L"Switch", refusal, options.Details);
+        }
         const Outcome outcome = conversation.RunCategory(category);
         const long calls = automation::LongOf(control.Get(L"CallCount"));
         Snapshot after = TakeSnapshot(host, mailbox);

@@ -1,0 +1,351 @@
+#include "tests/preview/RandomSides.h"
+
+#include "automation/Dates.h"
+#include "calendar/Calendar.h"
+#include "contacts/Contacts.h"
+#include "run/ChangeCollection.h"
+#include "run/FrmMessage.h"
+#include "run/Runs.h"
+#include "state/SharedState.h"
+#include "tasks/Tasks.h"
+
+namespace test_support
+{
+
+using automation::Date;
+using automation::Value;
+
+namespace
+{
+
+using enum RandomField::Sort;
+
+constexpr RandomField kContactFields[] = {
+    {L"F_NICKNAME", L"NickName"},
+    {L"F_TITLE", L"Title"},
+    {L"F_SUFFIX", L"Suffix"},
+    {L"F_SPOUSE", L"Spouse"},
+    {L"F_BIRTHDAY", L"Birthday", Day},
+    {L"F_ANNIVERSARY", L"Anniversary", Day},
+    {L"F_JOBTITLE", L"JobTitle"},
+    {L"F_DEPARTMENT", L"Department"},
+    {L"F_EMAIL", L"Email1Address"},
+    {L"F_BUSINESSPHONE", L"BusinessTelephoneNumber"},
+    {L"F_BUSINESSFAX", L"BusinessFaxNumber"},
+    {L"F_MOBILEPHONE", L"MobileTelephoneNumber"},
+    {L"F_HOMEPHONE", L"HomeTelephoneNumber"},
+    {L"F_ASSISTANT", L"AssistantName"},
+    {L"F_ASSISTANTPHONE", L"AssistantTelephoneNumber"},
+    {L"F_HOMECOUNTRY", L"HomeAddressCountry"},
+    {L"F_HOMEPROVINCE", L"HomeAddressState"},
+    {L"F_HOMECITY", L"HomeAddressCity"},
+    {L"F_HOMESTREET", L"HomeAddressStreet"},
+    {L"F_HOMEPOSTALCODE", L"HomeAddressPostalCode"},
+    {nullptr, L"BusinessAddressCity"},
+    {nullptr, L"BusinessAddressStreet"},
+};
+
+constexpr RandomField kTaskFields[] = {
+    {L"F_ACTPETIME", L"DueDate", Day},          {L"F_ACTPERCENT", L"PercentComplete", Percent},
+    {L"F_ACTSTATUS", L"Status", Status},        {L"F_ACTCTIME", L"DateCompleted", Day},
+    {L"F_ACTCOMPLETED", L"Complete", Flag},     {L"F_ACTPRIORITY", L"Importance", Priority},
+    {L"F_ACTTOTALWORK", L"TotalWork", Minutes}, {L"F_ACTACTUALWORK", L"ActualWork", Minutes},
+    {L"F_ACTREMIND", L"ReminderSet", Flag},
+};
+
+constexpr RandomField kCalendarFields[] = {
+    {L"F_ACTREMIND", L"ReminderSet", Flag},
+    {nullptr, L"AllDayEvent", Flag},
+};
+
+constexpr const wchar_t* kTexts[] = {
+    L"",           L"Smith & Sons",
+    L"O'Neill",    L"=cmd()",
+    L"李明",       L"  x",
+    L"Größe",      L"\"q\"",
+    L"line\nline", L"A rather long text that no column of forty characters can hold"};
+
+// A Tuesday.
+constexpr double kDay = 37747;
+
+} // namespace
+
+const RandomKind kRandomContacts{
+    .Kind = contacts::kContacts,
+    .Folder = L"Personal Folders\\Contacts",
+    .Table = L"TBLCONTACT",
+    .View = L"VW_CONTACT",
+    .OrderColumn = L"F_CNTCTNO",
+    .Run = run::RunContactSync,
+    .Fields = kContactFields,
+};
+const RandomKind kRandomTasks{
+    .Kind = tasks::kTasks,
+    .Folder = L"Personal Folders\\Tasks",
+    .Table = L"TBLACTIVITY",
+    .View = L"VW_ACTIVITY",
+    .OrderColumn = L"F_ACTNO",
+    .Run = run::RunTaskSync,
+    .Fields = kTaskFields,
+};
+const RandomKind kRandomCalendar{
+    .Kind = calendar::kCalendar,
+    .Folder = L"Personal Folders\\Calendar",
+    .Table = L"TBLACTIVITY",
+    .View = L"VW_CALENDAR",
+    .OrderColumn = L"F_ACTNO",
+    .Run = run::RunCalendarSync,
+    .Fields = kCalendarFields,
+};
+
+RandomSides::RandomSides(const RandomKind& kind, unsigned seed) : Kind(kind), mEngine(seed)
+{
+    state::SharedState& shared = state::Shared();
+    shared.gDTC = TheHost.Dtc();
+    shared.gCnnString = TheHost.ConnectionString();
+    shared.gOlApplication = sandbox::MakeOutlook(Mailbox);
+    shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
+    shared.gCalendarStartTime = {9.0 / 24};
+    shared.gCalendarEndTime = {18.0 / 24};
+    shared.gCalendarPreviewAlarmTime = 20;
+    shared.gFontName = L"Arial";
+    shared.gFontSize = 8;
+}
+
+RandomSides::~RandomSides()
+{
+    mRun.reset();
+    state::Shared() = {};
+}
+
+Value RandomSides::RandomValue(RandomField::Sort sort)
+{
+    switch (sort)
+    {
+    case Text: return Below(4) == 0 ? std::to_wstring(Below(100000)) : kTexts[Below(std::size(kTexts))];
+    case Day: return Below(4) == 0 ? Value() : Value(Date{kDay + static_cast<double>(Below(400)) - 200});
+    case Flag: return Below(2) == 0;
+    case Percent: return static_cast<long>(Below(5) * 25);
+    case Status: return static_cast<long>(Below(5));
+    case Priority: return static_cast<long>(Below(3));
+    default: return static_cast<long>(Below(600));
+    }
+}
+
+namespace
+{
+
+// The host's form of a value of Outlook.
+Value OfHost(const RandomField& field, const Value& value)
+{
+    switch (field.Is)
+    {
+    case Percent: return automation::DoubleOf(value) / 100;
+    case Priority: return automation::LongOf(value) + 1;
+    case Flag: return automation::TruthOf(value) ? 1L : 0L;
+    case Day:
+        return automation::IsAbsent(value)
+                   ? Value::Null()
+                   : Value(automation::Formatted(automation::DateOf(value), L"yyyy-mm-dd 00:00:00"));
+    case Text: return automation::TextOf(value).substr(0, 16);
+    default: return value;
+    }
+}
+
+std::wstring Numbered(const wchar_t* name, size_t number)
+{
+    return name + std::to_wstring(number);
+}
+
+} // namespace
+
+void RandomSides::Add(size_t rows, size_t items, size_t pairs)
+{
+    for (size_t i = 0; i < rows + items + pairs; ++i)
+    {
+        ++mNumber;
+        const bool isPair = i >= rows + items;
+        if (i < rows || isPair)
+        {
+            AddRow(mNumber);
+        }
+        if (i >= rows)
+        {
+            AddItem(mNumber);
+        }
+    }
+}
+
+void RandomSides::AddRow(size_t number)
+{
+    std::wstring columns;
+    std::wstring marks;
+    sandbox::Row values;
+    const auto add = [&](const std::wstring& column, const Value& value) {
+        columns += (columns.empty() ? L"" : L",") + column;
+        marks += marks.empty() ? L"?" : L",?";
+        values.push_back(value);
+    };
+    const bool hasCompany = number % 3 == 0;
+    if (hasCompany)
+    {
+        TheHost.Database().Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES (?,1,?)",
+                                   {Numbered(L"A", number), Numbered(L"Company ", number)});
+        add(L"F_ACCID", Numbered(L"A", number));
+    }
+    if (hasCompany && number % 2 == 0)
+    {
+        TheHost.Database().Execute(L"INSERT INTO TBLADDRESS (F_ADDRID,F_ACCID,F_ADDRCITY,F_ISPRIMARY) VALUES "
+                                   L"(?,?,'Harbin',1)",
+                                   {Numbered(L"D", number), Numbered(L"A", number)});
+    }
+    add(L"F_CREATORID", 1L);
+    if (Kind.Table == kRandomContacts.Table)
+    {
+        add(L"F_CNTCTID", Numbered(L"C", number));
+        add(L"F_SURNAME", Numbered(L"Last", number));
+        add(L"F_GIVENNAME", Numbered(L"First", number));
+    }
+    else
+    {
+        add(L"F_ACTID", Numbered(L"T", number));
+        add(L"F_ACTORID", 1L);
+        add(L"F_ACTNAME", Numbered(L"Subject ", number));
+        add(L"F_ACTTYPE", L"Phone");
+        if (number % 4 == 0)
+        {
+            TheHost.Database().Execute(
+                L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                L"VALUES (?,1,?,'Ann')",
+                {Numbered(L"P", number), Numbered(L"Linked", number)});
+            add(L"F_CNTCTID", Numbered(L"P", number));
+        }
+    }
+    if (Kind.Fields.data() == std::data(kTaskFields))
+    {
+        add(L"F_ACTPSTIME", L"2003-05-06 00:00:00");
+    }
+    if (Kind.Fields.data() == std::data(kCalendarFields))
+    {
+        add(L"F_ACTESDATE", L"2003-05-06 00:00:00");
+        add(L"F_ACTESTIME", L"1899-12-30 09:30:00");
+        add(L"F_ACTEETIME", Numbered(L"1899-12-30 1", Below(8)) + L":15:00");
+        if (Below(2) == 0)
+        {
+            add(L"F_ACTREPTIDX", static_cast<long>(1 + Below(6)));
+            add(L"F_ACTREPTEDATE", L"2004-05-06 00:00:00");
+        }
+    }
+    for (const RandomField& field : Kind.Fields)
+    {
+        if (field.Column != nullptr)
+        {
+            add(field.Column, Below(6) == 0 ? Value::Null() : OfHost(field, RandomValue(field.Is)));
+        }
+    }
+    TheHost.Database().Execute(
+        L"INSERT INTO " + std::wstring(Kind.Table) + L" (" + columns + L") VALUES (" + marks + L")", values);
+}
+
+void RandomSides::AddItem(size_t number)
+{
+    sandbox::Mailbox::NamedValues values;
+    const bool hasCompany = number % 3 == 0;
+    if (Kind.Table == kRandomContacts.Table)
+    {
+        values.emplace_back(L"LastName", Numbered(L"Last", number));
+        values.emplace_back(L"FirstName", Numbered(L"First", number));
+        values.emplace_back(L"CompanyName", hasCompany ? Numbered(L"Company ", number) : L"");
+    }
+    else
+    {
+        values.emplace_back(L"Subject", Numbered(L"Subject ", number));
+        values.emplace_back(L"Categories", L"Phone");
+        values.emplace_back(L"Companies", hasCompany ? Numbered(L"Company ", number) : L"");
+    }
+    if (Kind.Fields.data() == std::data(kTaskFields))
+    {
+        values.emplace_back(L"StartDate", Date{kDay});
+    }
+    if (Kind.Fields.data() == std::data(kCalendarFields))
+    {
+        values.emplace_back(L"Start", automation::DateOf(automation::Moment{2003, 5, 6, 9, 30}));
+        values.emplace_back(
+            L"End", automation::DateOf(automation::Moment{2003, 5, 6, 10 + static_cast<int>(Below(9)), 0}));
+    }
+    for (const RandomField& field : Kind.Fields)
+    {
+        const Value value = RandomValue(field.Is);
+        const bool isAllDay = std::wstring_view(field.Property) == L"AllDayEvent";
+        if (Below(6) != 0 && !(field.Is == Day && automation::IsAbsent(value)) && !isAllDay)
+        {
+            values.emplace_back(field.Property, value);
+        }
+    }
+    Mailbox->AddItem(Kind.Folder, values);
+}
+
+void RandomSides::SetParameter(long transType)
+{
+    state::SynParameter& parameter = state::Shared().gSynParameter;
+    parameter.TransType = transType;
+    parameter.TransConflictOption = state::kNotifyMe;
+    parameter.CurrentFolder = Kind.Folder;
+}
+
+bool RandomSides::Run(long transType)
+{
+    SetParameter(transType);
+    mDisplay.Ask = run::ConfirmChanges;
+    return Kind.Run(mDisplay);
+}
+
+exchange::Run& RandomSides::Collect(long transType)
+{
+    SetParameter(transType);
+    mRun = std::make_unique<exchange::Run>(exchange::Run{.Display = mDisplay});
+    ReopenRows();
+    mRun->Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder",
+                                                          Kind.Kind.Name.OutlookItemType == 2   ? 10L
+                                                          : Kind.Kind.Name.OutlookItemType == 3 ? 13L
+                                                                                                : 9L);
+    mRun->Items = mRun->Folder.GetObject(L"Items");
+    run::ChangeCollection collection(Kind.Kind, *mRun);
+    EXPECT_FALSE(transType != state::kOutlookToQuenlar && collection.CollectToOutlook());
+    EXPECT_FALSE(transType != state::kQuenlarToOutlook && collection.CollectFromOutlook());
+    return *mRun;
+}
+
+void RandomSides::Confirm()
+{
+    run::ConfirmChanges(Kind.Kind, *mRun, L"Task");
+}
+
+void RandomSides::Apply(long transType)
+{
+    const bool toOutlook = transType != state::kOutlookToQuenlar;
+    const bool fromOutlook = transType != state::kQuenlarToOutlook;
+    if (fromOutlook && Kind.Kind.AppliesFromOutlookFirst)
+    {
+        EXPECT_FALSE(Kind.Kind.FromOutlook(*mRun));
+    }
+    if (toOutlook)
+    {
+        EXPECT_FALSE(Kind.Kind.ToOutlook(*mRun));
+    }
+    if (fromOutlook && !Kind.Kind.AppliesFromOutlookFirst)
+    {
+        EXPECT_FALSE(Kind.Kind.FromOutlook(*mRun));
+    }
+}
+
+void RandomSides::ReopenRows()
+{
+    automation::CloseRecordset(mRun->HostRows);
+    const data::Host host;
+    const std::wstring filter =
+        Kind.Kind.SourceFilter == nullptr ? std::wstring() : Kind.Kind.SourceFilter(host);
+    ASSERT_GE(host.OpenRecordset(mRun->HostRows, Kind.Kind.RecordSource, filter), 0);
+}
+
+} // namespace test_support
