@@ -48,6 +48,8 @@ Value StartOfItem(const automation::ItemView& item)
                : *start;
 }
 
+constexpr wchar_t kMinute[] = L"yyyy/mm/dd hh:mm:00";
+
 std::wstring KeyOfAppointment(const automation::ItemView& item)
 {
     return exchange::JoinedKey({item.Get(L"Subject"), item.Get(L"Categories"), StartOfItem(item)}, kMinute);

@@ -138,13 +138,13 @@ void ChangeEditTaskContact(const automation::ItemView& item, data::UpdateRow& ta
     AddLink(task, kContactColumn, LiteralOfContact(L"ChangeEditTaskContact", item));
 }
 
-void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task, UndoneBy undoneBy)
+void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task, Rollback rollback)
 {
     const AccountLink link{L"ChangeAddTaskAccount", task.Catalogue(), rollback};
     AddLink(task, kAccountColumn, link.LiteralOf(item));
 }
 
-void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task, UndoneBy undoneBy)
+void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task, Rollback rollback)
 {
     const AccountLink link{L"ChangeEditTaskAccount", task.Catalogue(), rollback};
     AddLink(task, kAccountColumn, link.LiteralOf(item));

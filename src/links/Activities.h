@@ -20,9 +20,9 @@ void ChangeEditTaskContact(const automation::ItemView& item, data::UpdateRow& ta
 // user who may add accounts; NULL for an item without a company, for a user who may modify them. Otherwise
 // nothing is added.
 void ChangeAddTaskAccount(const automation::ItemView& item, data::InsertRow& task,
-                          UndoneBy undoneBy = UndoneBy::Transaction);
+                          Rollback rollback = Rollback::ByTransaction);
 void ChangeEditTaskAccount(const automation::ItemView& item, data::UpdateRow& task,
-                           UndoneBy undoneBy = UndoneBy::Transaction);
+                           Rollback rollback = Rollback::ByTransaction);
 
 // Sends a new activity of the current user under a new key. keyColumns: of the actor, the creator and the
 // key.

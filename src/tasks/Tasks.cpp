@@ -38,6 +38,8 @@ constexpr long kTaskDeferred = 4; // the last one
 
 // Match keys and filters
 
+constexpr wchar_t kDay[] = L"yyyy/mm/dd";
+
 std::wstring KeyOfTaskItem(const automation::ItemView& item)
 {
     return exchange::JoinedKey({item.Get(L"Subject"), item.Get(L"Categories"), item.Get(L"StartDate")}, kDay);

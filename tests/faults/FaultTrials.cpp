@@ -142,7 +142,7 @@ bool FaultTrials::ExchangeInSteps(const Trial& trial)
 {
     const exchange::Kind& category = trial.what.kind.category;
     exchange::Run run = OpenRun(trial.what.kind);
-    const automation::ClosesRecordset closes(run.HostRows);
+    const automation::RecordsetCloser closer(run.HostRows);
     const auto startCounting = [&] { mFaults->Order(trial.fault, trial.at); };
     if (trial.phase == Phase::Collection)
     {
