@@ -1,5 +1,5 @@
-// A host row that a preview collects: its columns as the host would hold them. Nothing is written and no literal is
-// made.
+// A host row that a preview collects: its columns as the host would hold them. Nothing is written and no
+// literal is made.
 #pragma once
 
 #include "data/HostRow.h"

@@ -28,7 +28,7 @@ struct Arrangement
 {
     std::optional<Column> SortedBy{}; // nothing: as they were proposed
     bool IsDescending = false;
-    std::wstring Search{};          // in any letter case; empty for all entries
+    std::wstring Search{};            // in any letter case; empty for all entries
     std::optional<Column> SearchIn{}; // nothing: in every column
 
     bool operator==(const Arrangement&) const = default;
