@@ -87,8 +87,8 @@ void ItemKeys::TryTable()
         return;
     }
     mHasTriedTable = true;
-    static const exchange::Filters kNone{};
-    std::optional<TableKeys> keys = ReadTable(mRule, mKeepsAll ? mFilters : kNone, mRun, mCount);
+    const exchange::Filters none;
+    std::optional<TableKeys> keys = ReadTable(mRule, mKeepsAll ? mFilters : none, mRun, mCount);
     mUsesTable = keys.has_value();
     if (keys)
     {

@@ -25,7 +25,7 @@ namespace
 {
 
 constexpr size_t kRecordsOfKind = 4;
-constexpr long kBriefRuns = 16;
+constexpr long kBriefRuns = 24;
 constexpr long kBoundedRuns = 60;
 constexpr long kLongRuns = 1000;
 

@@ -164,6 +164,13 @@ inline constexpr const wchar_t* kOfOthers[] = {
 
 // Rows of mappings that are named after a member and write others.
 inline constexpr const wchar_t* kWritesOthers[] = {
+    // Values of the registry.
+    L"Descending",
+    L"Dpi",
+    L"Height",
+    L"SortedBy",
+    L"Width",
+    // Members of Outlook's objects.
     L"IsRecurring", // writes the recurrence pattern
 };
 
