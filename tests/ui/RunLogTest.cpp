@@ -43,11 +43,16 @@ class RunLog : public testing::Test
         RemoveDirectoryW(mData.c_str());
     }
 
+    // The key may hold other settings.
     static void ForgetSettings()
     {
         for (HKEY const root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER})
         {
-            RegDeleteKeyExW(root, report::kSettingsKey, KEY_WOW64_64KEY, 0);
+            HKEY key = nullptr;
+            RegOpenKeyExW(root, report::kSettingsKey, 0, KEY_SET_VALUE | KEY_WOW64_64KEY, &key);
+            RegDeleteValueW(key, report::kLogsRuns);
+            RegDeleteValueW(key, report::kLogsValues);
+            RegCloseKey(key);
         }
     }
 
