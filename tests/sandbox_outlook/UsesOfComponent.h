@@ -160,17 +160,16 @@ inline constexpr const wchar_t* kOfOthers[] = {
     L"UID",
     L"Update",
     L"Value",
-};
-
-// Rows of mappings that are named after a member and write others.
-inline constexpr const wchar_t* kWritesOthers[] = {
     // Values of the registry.
     L"Descending",
     L"Dpi",
     L"Height",
     L"SortedBy",
     L"Width",
-    // Members of Outlook's objects.
+};
+
+// Rows of mappings that are named after a member and write others.
+inline constexpr const wchar_t* kWritesOthers[] = {
     L"IsRecurring", // writes the recurrence pattern
 };
 
