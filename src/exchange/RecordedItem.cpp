@@ -83,7 +83,7 @@ RecordedItem::RecordedItem(Object item, const ItemBehaviour& behaviour)
 {
 }
 
-Value RecordedItem::Before(const std::wstring& property)
+Value RecordedItem::Real(const std::wstring& property)
 {
     const auto known = mBefore.find(property);
     if (known != mBefore.end())
@@ -93,10 +93,26 @@ Value RecordedItem::Before(const std::wstring& property)
     return mBefore.emplace(property, mItem ? mItem.Property(property.c_str()) : Value()).first->second;
 }
 
+Value RecordedItem::Before(const std::wstring& property)
+{
+    try
+    {
+        return Real(property);
+    }
+    catch (const automation::Error& error)
+    {
+        if (!automation::IsRefusal(error))
+        {
+            throw;
+        }
+        return {};
+    }
+}
+
 Value RecordedItem::Get(const std::wstring& property)
 {
     const auto put = mAfter.find(property);
-    return put != mAfter.end() ? put->second : Before(property);
+    return put != mAfter.end() ? put->second : Real(property);
 }
 
 void RecordedItem::Put(const std::wstring& property, const Value& value)

@@ -56,7 +56,8 @@ class RecordedItem : public automation::LateBound
     // A link to this contact is added.
     void AddLink(const std::wstring& contact);
 
-    // The property as the real item has it; Empty where there is none.
+    // The property as the real item has it; Empty where there is none, or Outlook refuses to tell it: what a
+    // client may not read it may still write.
     automation::Value Before(const std::wstring& property);
     // The properties that have been put, in the order of their first values.
     const std::vector<std::wstring>& Changed() const noexcept { return mOrder; }
@@ -67,6 +68,8 @@ class RecordedItem : public automation::LateBound
   private:
     automation::Value Read(const std::wstring& member, std::span<const automation::Value> arguments) override;
     void Write(const std::wstring& member, const automation::Value& value) override { Put(member, value); }
+    // Throws automation::Error when Outlook refuses.
+    automation::Value Real(const std::wstring& property);
     automation::Object PatternOf();
     void StartPattern();
 

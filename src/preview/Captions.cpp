@@ -22,7 +22,7 @@ struct Caption
 constexpr Caption kCaptions[] = {
     {L"Subject", L"主题", L"Subject"},
     {L"Categories", L"类别", L"Category"},
-    {L"Companies", L"单位", L"Company"},
+    {L"Companies", L"单位列表", L"Companies"},
     {L"CompanyName", L"单位", L"Company"},
     {L"ContactNames", L"联系人", L"Contact"},
     {L"Links", L"联系人", L"Linked contacts"},

@@ -214,6 +214,20 @@ TEST(ChangeList, ReadingEveryFieldWritesNothing)
     }
 }
 
+TEST(ChangeList, AFieldThatOutlookRefusesToTellIsShownAsItWillBeWritten)
+{
+    RandomSides sides(kRandomContacts, 4);
+    sides.Add(1, 0, 0);
+    sides.TheHost.Database().Execute(L"UPDATE TBLCONTACT SET F_EMAIL='a@b'");
+    ChangeList list(sides.Kind.Kind, sides.Collect(2), 2);
+    sides.Mailbox->Switch(L"Guard", true);
+    const exchange::RecordPreview preview = list.FieldsOf(0);
+    EXPECT_TRUE(preview.IsWritten());
+    const auto mail = std::ranges::find(preview.Fields, L"Email1Address", &exchange::Difference::Field);
+    ASSERT_NE(preview.Fields.end(), mail);
+    EXPECT_EQ(L"a@b", automation::TextOf(mail->After));
+}
+
 TEST(CsvCell, IsQuotedAndNeverAFormula)
 {
     EXPECT_EQ(L"\"\"", preview::CsvCell(L""));
