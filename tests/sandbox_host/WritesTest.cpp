@@ -194,7 +194,7 @@ TEST(HostDialect, APlusBetweenTextsJoinsThemAndOneBetweenNumbersAdds)
     EXPECT_EQ(L"x=+1", InDatabaseDialect(L"x=+1"));
 }
 
-TEST_F(HostTest, AHostOfIdentifiersAndFixedWidthsTakesBracesAndBlanksInItsStatements)
+TEST_F(HostWrites, AHostOfIdentifiersAndFixedWidthsTakesBracesAndBlanksInItsStatements)
 {
     mHost.Recordsets().guids = true;
     mHost.Recordsets().charWidth = 20;
@@ -205,7 +205,7 @@ TEST_F(HostTest, AHostOfIdentifiersAndFixedWidthsTakesBracesAndBlanksInItsStatem
     EXPECT_EQ(1, Delete(L"TBLACCOUNT", L"F_ACCID='{0f8fad5b}'"));
 }
 
-TEST_F(HostTest, ItsOwnerSortsAndFiltersTheSourcesThatHaveTheColumn)
+TEST_F(HostWrites, ItsOwnerSortsAndFiltersTheSourcesThatHaveTheColumn)
 {
     Insert(L"TBLACCOUNT", L"F_ACCID,F_ACCSNAME", L"'a','Acme'");
     Insert(L"TBLACCOUNT", L"F_ACCID,F_ACCSNAME", L"'b','Contoso'");
