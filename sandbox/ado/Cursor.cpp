@@ -4,6 +4,7 @@
 #include "sandbox/ado/Recordset.h"
 
 #include <algorithm>
+#include <atomic>
 
 namespace sandbox
 {
@@ -20,6 +21,8 @@ constexpr long kBehindLast = -3;  // adPosEOF
 // Opaque bookmarks: far from any position.
 constexpr double kOpaqueBase = 1'000'000;
 constexpr double kOpaqueStep = 17;
+
+std::atomic<long> gOpen{0};
 
 [[noreturn]] void RefuseArgument()
 {
@@ -38,11 +41,17 @@ constexpr double kOpaqueStep = 17;
 
 } // namespace
 
+long OpenRecordsets() noexcept
+{
+    return gOpen;
+}
+
 void Cursor::Open(ResultSet rows, bool isForwardOnly, Requery requery)
 {
     mResult = std::move(rows);
     mIsForwardOnly = isForwardOnly;
     mIsOpen = true;
+    ++gOpen;
     mMoves = 0;
     KeepKeys(std::move(requery));
     mSort = mAwkward.atMove == 0 ? mAwkward.sort : L"";
@@ -54,6 +63,7 @@ void Cursor::Close() noexcept
 {
     mResult = {};
     mOrder.clear();
+    gOpen -= mIsOpen ? 1 : 0;
     mIsOpen = false;
 }
 

@@ -21,6 +21,10 @@ inline constexpr HRESULT kNoConnection = static_cast<HRESULT>(0x800A0E7D);    //
 inline constexpr HRESULT kInvalidArgument = static_cast<HRESULT>(0x800A0BB9); // 3001
 inline constexpr HRESULT kRowDeleted = static_cast<HRESULT>(0x80040E23);      // DB_E_DELETEDROW
 
+// Recordsets of this process that have been opened and not closed; one that is released without having been
+// closed stays among them.
+long OpenRecordsets() noexcept;
+
 // A closed recordset, as CreateObject("ADODB.Recordset") gives it.
 automation::Object MakeRecordset(AwkwardAdo awkward = RecordsetsOfProcess());
 

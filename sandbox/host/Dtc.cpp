@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "sandbox/ado/Recordset.h"
+#include "sandbox/host/ColumnTypes.h"
 #include "sandbox/host/HostStatements.h"
 #include "sandbox/host/RecordSources.h"
 #include "sandbox/host/Rejection.h"
@@ -36,6 +37,11 @@ automation::Date LocalClock()
         automation::Moment{now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond});
 }
 
+std::wstring FirstWord(const std::wstring& text)
+{
+    return text.substr(0, text.find(L' '));
+}
+
 class Dtc : public DispatchObject
 {
   public:
@@ -58,7 +64,7 @@ class Dtc : public DispatchObject
 
     long OpenRecordset(const Call& call)
     {
-        const std::wstring filter = automation::IsMissing(call.At(3)) ? L"" : TextOf(call.At(3));
+        const std::wstring filter = automation::IsMissing(call.At(3)) ? L"" : Sql(call, 3);
         return Open(call, [state = mState, source = TextOf(call.At(1)), filter] {
             return OpenSource(state->database, state->userId, source, filter);
         });
@@ -66,28 +72,36 @@ class Dtc : public DispatchObject
 
     long OpenRecordsetByString(const Call& call)
     {
-        return Open(call, [state = mState, sql = TextOf(call.At(1))] {
+        return Open(call, [state = mState, sql = Sql(call, 1)] {
             return HostStatements(state->database).Select(sql);
         });
     }
 
+    // The host sorts and filters its record sources, those that have the column that it names.
     long Open(const Call& call, const Requery& query)
     {
-        call.Write(0, MakeRecordset(query(), mState->recordsets, query));
+        ResultSet rows = query();
+        AwkwardAdo awkward = mState->recordsets;
+        if (rows.IndexOf(FirstWord(awkward.sort + awkward.filter)) == ResultSet::npos)
+        {
+            awkward.sort.clear();
+            awkward.filter.clear();
+        }
+        call.Write(0, MakeRecordset(std::move(rows), std::move(awkward), query));
         return kSuccess;
     }
 
     long Insert(const Call& call)
     {
-        return Statements().Insert(TextOf(call.At(0)), TextOf(call.At(1)), TextOf(call.At(2)));
+        return Statements().Insert(TextOf(call.At(0)), TextOf(call.At(1)), Sql(call, 2));
     }
 
     long Update(const Call& call)
     {
-        return Statements().Update(TextOf(call.At(0)), TextOf(call.At(1)), TextOf(call.At(3)));
+        return Statements().Update(TextOf(call.At(0)), Sql(call, 1), Sql(call, 3));
     }
 
-    long Delete(const Call& call) { return Statements().Delete(TextOf(call.At(0)), TextOf(call.At(1))); }
+    long Delete(const Call& call) { return Statements().Delete(TextOf(call.At(0)), Sql(call, 1)); }
 
     Value NewGuid() { return FreshGuid(); }
     Value MyInfo() { return MakeMyInfo(mState); }
@@ -121,6 +135,12 @@ class Dtc : public DispatchObject
         {
             throw Error(E_FAIL, L"DTC", complaint);
         }
+    }
+
+    // An argument that is a part of a statement.
+    std::wstring Sql(const Call& call, size_t argument) const
+    {
+        return InColumnTypes(TextOf(call.At(argument)), mState->recordsets);
     }
 
     HostStatements Statements() { return HostStatements(mState->database); }

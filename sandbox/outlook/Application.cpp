@@ -153,10 +153,15 @@ Value NameSpaceObject::GetDefaultFolder(const Call& call)
     return ObjectOfFolder(Box(), *folder);
 }
 
+// "EntryIDStore usually must be provided when retrieving an item based on its MAPI IDs" (GetItemFromID
+// method): without it an item of the first store is found.
 Value NameSpaceObject::GetItemFromId(const Call& call)
 {
+    const Value store = call.At(1);
+    const std::wstring storeId =
+        automation::IsMissing(store) ? Box()->Stores().front()->Path() : automation::TextOf(store);
     const StoredItemRef item = Box()->FindEntry(automation::TextOf(call.At(0)));
-    if (!item)
+    if (!item || item->folder->Store().Path() != storeId)
     {
         FailNotFound(L"GetItemFromID");
     }

@@ -8,6 +8,8 @@ namespace
 
 // MAPI's "not found", which Outlook hands through.
 constexpr HRESULT kNotFound = static_cast<HRESULT>(0x8004010F);
+// MAPI_E_OBJECT_DELETED.
+constexpr HRESULT kDeleted = static_cast<HRESULT>(0x8004010A);
 // Visual Basic's error 13, as an object raises it: unlike DISP_E_TYPEMISMATCH it carries a description.
 constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
 // MAPI_E_OFFLINE ("What is MAPI_E_RECONNECTED?").
@@ -19,6 +21,11 @@ void FailNotFound(const wchar_t* member)
 {
     throw automation::Error(kNotFound, member,
                             L"The attempted operation failed. An object could not be found.");
+}
+
+void FailDeleted(const wchar_t* member)
+{
+    throw automation::Error(kDeleted, member, L"The item has been moved or deleted.");
 }
 
 void FailOutOfBounds(const wchar_t* member)

@@ -11,6 +11,7 @@ namespace sandbox::outlook
 // An item, folder or link that is not there.
 [[noreturn]] void FailNotFound(const wchar_t* member);
 // An index outside a collection.
+[[noreturn]] void FailDeleted(const wchar_t* member);
 [[noreturn]] void FailOutOfBounds(const wchar_t* member);
 // A value of a type that the member does not take.
 [[noreturn]] void FailTypeMismatch(const wchar_t* member);

@@ -175,7 +175,7 @@ Value FolderObject::EntryId(const Call&)
 
 Value FolderObject::StoreId(const Call&)
 {
-    return mFolder.Path().substr(0, mFolder.Path().find(L'\\'));
+    return mFolder.Store().Path();
 }
 
 Value FolderObject::Delete(const Call&)

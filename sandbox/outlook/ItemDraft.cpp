@@ -137,7 +137,7 @@ void ItemDraft::FailIfGone() const
     mMailbox.FailIfOffline(mFolder, L"Save");
     if (mStored && mStored->folder == nullptr)
     {
-        FailInvalid(L"Save", L"The item has been moved or deleted.");
+        FailDeleted(L"Save");
     }
 }
 

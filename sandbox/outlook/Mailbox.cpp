@@ -228,7 +228,9 @@ StoredItemRef Mailbox::Save(MailFolder& folder, StoredItemRef item, ItemKind kin
                             const PropertyBag& properties, const std::vector<std::wstring>* links)
 {
     const auto& items = Items(folder);
-    const long index = item ? item->index : items.empty() ? 1 : items.back()->index + 1;
+    // An EntryID is not given a second time (EntryID property: unique).
+    folder.mLastIndex = std::max(folder.mLastIndex, items.empty() ? 0 : items.back()->index);
+    const long index = item ? item->index : folder.mLastIndex + 1;
     if (mStore)
     {
         mStore->WriteItem(folder.Path(), index, RowsOf(properties), links);
@@ -240,6 +242,7 @@ StoredItemRef Mailbox::Save(MailFolder& folder, StoredItemRef item, ItemKind kin
         item->index = index;
         item->kind = kind;
         folder.mItems.push_back(item);
+        folder.mLastIndex = index;
     }
     ++mSaves;
     ForgetOrders();

@@ -58,6 +58,7 @@ class MailFolder
     bool mIsPopulated = false;            // whether the switches have added to the items what they add
     std::map<long, StoredItemRef> mStale; // by index: copies of the items as tables show them
     long mFetches = 0;
+    long mLastIndex = 0; // of the items that are or were there
 };
 
 class Mailbox

@@ -46,6 +46,13 @@ bool IsRefusal(const Error& error) noexcept
            IsMissingMember(error);
 }
 
+bool IsUnreachable(const Error& error) noexcept
+{
+    constexpr HRESULT kNetworkError = static_cast<HRESULT>(0x80040115); // MAPI_E_NETWORK_ERROR
+    constexpr HRESULT kOffline = static_cast<HRESULT>(0x80040126);      // MAPI_E_OFFLINE
+    return error.Code() == kNetworkError || error.Code() == kOffline;
+}
+
 bool IsGone(const Error& error) noexcept
 {
     constexpr HRESULT kInvalidEntryId = static_cast<HRESULT>(0x80040107); // MAPI_E_INVALID_ENTRYID

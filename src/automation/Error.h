@@ -37,6 +37,9 @@ bool IsMissingMember(const Error& error) noexcept;
 // Whether the call has been denied, by the object model guard or since the member is no longer supported.
 bool IsRefusal(const Error& error) noexcept;
 
+// Whether a store cannot be reached: it is offline, or its server is.
+bool IsUnreachable(const Error& error) noexcept;
+
 // The codes of Outlook and ADO for an item or a row that has been deleted meanwhile.
 inline constexpr HRESULT kItemNotFound = static_cast<HRESULT>(0x8004010F); // MAPI_E_NOT_FOUND
 inline constexpr HRESULT kRowDeleted = static_cast<HRESULT>(0x80040E23);   // DB_E_DELETEDROW

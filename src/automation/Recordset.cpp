@@ -1,6 +1,7 @@
 #include "automation/Recordset.h"
 
 #include "automation/Error.h"
+#include "automation/Text.h"
 
 namespace automation
 {
@@ -52,12 +53,30 @@ long Recordset::RecordCount() const
 
 Value Recordset::ValueOf(const std::wstring& column) const
 {
+    return FieldOf(column).Get(L"Value");
+}
+
+std::wstring Recordset::NameIn(const std::wstring& column) const
+{
+    constexpr long kChar = 129;  // adChar
+    constexpr long kWChar = 130; // adWChar
+    std::wstring text = TextOrEmpty(ValueOf(column));
+    if (!text.ends_with(L' '))
+    {
+        return text;
+    }
+    const long type = LongOf(FieldOf(column).Get(L"Type"));
+    return type == kChar || type == kWChar ? Trimmed(text) : text;
+}
+
+const Object& Recordset::FieldOf(const std::wstring& column) const
+{
     auto field = mFields.find(column);
     if (field == mFields.end())
     {
         field = mFields.emplace(column, mObject.GetObject(L"Fields", column)).first;
     }
-    return field->second.Get(L"Value");
+    return field->second;
 }
 
 Recordset OpenRecordset(const std::wstring& source, const std::wstring& connection,

@@ -46,8 +46,13 @@ class Recordset
     long RecordCount() const;
     // The value of a column of the current row; the name in any letter case.
     Value ValueOf(const std::wstring& column) const;
+    // The same as text, empty for Empty and Null, without the blanks that pad it in a column of a fixed
+    // width.
+    std::wstring NameIn(const std::wstring& column) const;
 
   private:
+    const Object& FieldOf(const std::wstring& column) const;
+
     Object mObject;
     mutable std::map<std::wstring, Object, std::less<>> mFields;
 };

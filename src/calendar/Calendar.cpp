@@ -90,7 +90,7 @@ exchange::Obstacle ObstacleToRepetition(const automation::Recordset& rows)
     const std::optional<Date> lastDay = OutlookDate(rows.ValueOf(L"F_ACTREPTEDATE"));
     if (!firstDay)
     {
-        const bool isNeeded = NeedsReferenceDate(automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")));
+        const bool isNeeded = NeedsReferenceDate(rows.NameIn(L"FR_NAME"));
         return isNeeded ? exchange::Obstacle(state::Cause::NoDate) : std::nullopt;
     }
     const bool endsTooEarly = lastDay && automation::DayOf(*lastDay) < automation::DayOf(*firstDay);

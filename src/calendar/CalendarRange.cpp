@@ -84,7 +84,7 @@ EntrySpan SpanOfRow(const Recordset& rows)
 {
     const Date day = DayOrZero(rows.ValueOf(L"F_ACTESDATE"));
     const Date start = automation::PlusTime(day, TimeOrZero(rows.ValueOf(L"F_ACTESTIME")));
-    const bool repeats = !automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")).empty();
+    const bool repeats = !rows.NameIn(L"FR_NAME").empty();
     return {start, repeats ? EndOfRepetition(rows.ValueOf(L"F_ACTREPTEDATE")) : EndOfSingleRow(rows, start)};
 }
 

@@ -160,7 +160,7 @@ void WritePattern(const Object& appointment, const automation::Recordset& rows)
     PutWhereGiven(pattern, L"StartTime", ReadableDate(rows.ValueOf(L"F_ACTESTIME")), kTimeAsText, writes);
     PutWhereGiven(pattern, L"EndTime", ReadableDate(rows.ValueOf(L"F_ACTEETIME")), kTimeAsDate, writes);
     PutWhereGiven(pattern, L"PatternStartDate", OutlookDate(firstDay), kDayOfPattern, writes);
-    SetRecurrenceByName(pattern, automation::TextOrEmpty(rows.ValueOf(L"FR_NAME")), firstDay, writes);
+    SetRecurrenceByName(pattern, rows.NameIn(L"FR_NAME"), firstDay, writes);
     if (writes == Writes::Everything || IsTrue(pattern.Get(L"NoEndDate")))
     {
         pattern.Put(L"NoEndDate", false);

@@ -32,7 +32,7 @@ FieldCatalogue::Fields FieldCatalogue::Read()
     Fields fields;
     for (; !rows.AtEnd(); rows.MoveNext())
     {
-        fields.emplace(automation::TextOrEmpty(rows.ValueOf(L"FieldName")),
+        fields.emplace(rows.NameIn(L"FieldName"),
                        FieldDescription{rows.ValueOf(L"FieldType"), rows.ValueOf(L"FieldSize")});
     }
     return fields;

@@ -25,16 +25,18 @@ void Insert(Run& run, const PassFromOutlook& pass, long position)
     run.Report.Record(
         Change::AddToHost, [&] { return NameOf(run, item); },
         [&] {
-            item = ProposedItem(run, record);
-            if (item)
-            {
-                ItemProperties properties(item);
-                pass.Write(run, data::kNewRecord, properties);
-            }
-            else
-            {
-                Skip();
-            }
+            UnlessGone(run, nullptr, &record, [&] {
+                item = ProposedItem(run, record);
+                if (item)
+                {
+                    ItemProperties properties(item);
+                    pass.Write(run, data::kNewRecord, properties);
+                }
+                else
+                {
+                    Skip();
+                }
+            });
         });
 }
 
@@ -51,22 +53,24 @@ void Update(Run& run, const PassFromOutlook& pass, long position)
     {
         return;
     }
+    const data::ClsSalesRecord& row = run.Pending.ChangedHostRecords.Item(position);
     Object item;
     run.Report.Record(
         Change::ChangeInHost, [&] { return NameOf(run, item); },
         [&] {
-            item = ProposedItem(run, record);
-            const data::ClsSalesRecord& row = run.Pending.ChangedHostRecords.Item(position);
-            // The writer gets the match keys as they have been read for the comparison.
-            ItemProperties properties(item);
-            if (!item || !MoveToProposedRow(run, row) || !IsPairOf(run, record, properties))
-            {
-                Skip();
-            }
-            else if (pass.Write(run, data::kExistingRecord, properties) == 0)
-            {
-                run.OverwrittenRows.insert(row.RecordBookmark);
-            }
+            UnlessGone(run, &row, &record, [&] {
+                item = ProposedItem(run, record);
+                // The writer gets the match keys as they have been read for the comparison.
+                ItemProperties properties(item);
+                if (!item || !MoveToProposedRow(run, row) || !IsPairOf(run, record, properties))
+                {
+                    Skip();
+                }
+                else if (pass.Write(run, data::kExistingRecord, properties) == 0)
+                {
+                    run.OverwrittenRows.insert(row.RecordBookmark);
+                }
+            });
         });
 }
 

@@ -28,27 +28,45 @@ void Write(Run& run, const PassToOutlook& pass, data::RecordMode mode, const Obj
     }
 }
 
-void WriteNewRecord(Run& run, const PassToOutlook& pass, long i)
+void WriteNewRecord(Run& run, const PassToOutlook& pass, const data::ClsSalesRecord& row)
+{
+    const bool isThere = pass.AddsItemFirst || MoveToProposedRow(run, row);
+    const Object item = isThere ? ForPass(run, run.Items.GetObject(L"Add", pass.ItemType)) : Object();
+    // An item that is not saved leaves nothing behind.
+    if (isThere && (!pass.AddsItemFirst || MoveToProposedRow(run, row)))
+    {
+        Write(run, pass, data::kNewRecord, item);
+    }
+    else
+    {
+        Skip();
+    }
+}
+
+void AddRecord(Run& run, const PassToOutlook& pass, long i)
 {
     const data::ClsSalesRecord& row = run.Pending.NewHostRecords.Item(i);
     run.Report.Record(
         Change::AddToOutlook, [&] { return NameOf(run, row); },
-        [&] {
-            const bool isThere = pass.AddsItemFirst || MoveToProposedRow(run, row);
-            const Object item = isThere ? ForPass(run, run.Items.GetObject(L"Add", pass.ItemType)) : Object();
-            // An item that is not saved leaves nothing behind.
-            if (isThere && (!pass.AddsItemFirst || MoveToProposedRow(run, row)))
-            {
-                Write(run, pass, data::kNewRecord, item);
-            }
-            else
-            {
-                Skip();
-            }
-        });
+        [&] { UnlessGone(run, &row, nullptr, [&] { WriteNewRecord(run, pass, row); }); });
 }
 
-void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
+void WriteChangedRecord(Run& run, const PassToOutlook& pass, const data::ClsSalesRecord& record,
+                        const data::ClsOlRecord& partner)
+{
+    const Object item = MoveToProposedRow(run, record) ? ProposedItem(run, partner) : Object();
+    if (item && AreStillAPair(run, item))
+    {
+        Write(run, pass, data::kExistingRecord, item);
+        run.OverwrittenItems.insert(partner.ItemIndex);
+    }
+    else
+    {
+        Skip();
+    }
+}
+
+void ChangeRecord(Run& run, const PassToOutlook& pass, long i)
 {
     const data::ClsSalesRecord& record = run.Pending.ChangedHostRecords.Item(i);
     // A row that the pass from Outlook has just overwritten is known only as it was before.
@@ -61,21 +79,10 @@ void WriteChangedRecord(Run& run, const PassToOutlook& pass, long i)
         run.Report.LeaveAlone(Change::ChangeInOutlook);
         return;
     }
+    const data::ClsOlRecord& partner = run.Pending.ChangedOutlookItems.Item(i);
     run.Report.Record(
         Change::ChangeInOutlook, [&] { return NameOf(run, record); },
-        [&] {
-            const data::ClsOlRecord& partner = run.Pending.ChangedOutlookItems.Item(i);
-            const Object item = MoveToProposedRow(run, record) ? ProposedItem(run, partner) : Object();
-            if (item && AreStillAPair(run, item))
-            {
-                Write(run, pass, data::kExistingRecord, item);
-                run.OverwrittenItems.insert(partner.ItemIndex);
-            }
-            else
-            {
-                Skip();
-            }
-        });
+        [&] { UnlessGone(run, &record, &partner, [&] { WriteChangedRecord(run, pass, record, partner); }); });
 }
 
 } // namespace
@@ -98,9 +105,9 @@ bool PassToOutlook::operator()(Run& run) const
         const ProgressScope progress(run.Display);
         run.Relations.Use(RelationStatement, RelationOptions);
         WalkWithProgress(run.Display, run.Pending.NewHostRecords.Count(),
-                         [&](long i) { WriteNewRecord(run, *this, i); });
+                         [&](long i) { AddRecord(run, *this, i); });
         WalkWithProgress(run.Display, run.Pending.ChangedHostRecords.Count(),
-                         [&](long i) { WriteChangedRecord(run, *this, i); });
+                         [&](long i) { ChangeRecord(run, *this, i); });
     });
 }
 

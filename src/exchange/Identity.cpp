@@ -187,4 +187,14 @@ void Skip()
     state::Tell({.Why = state::Cause::Vanished});
 }
 
+bool IsGoneMeanwhile(Run& run, const Error& error, const data::ClsSalesRecord* row,
+                     const data::ClsOlRecord* item)
+{
+    const auto areThere = [&] {
+        return (row == nullptr || MoveToProposedRow(run, *row)) &&
+               (item == nullptr || item->EntryId.empty() || ItemById(run, item->EntryId));
+    };
+    return automation::IsGone(error) || !state::Trapped(true, areThere);
+}
+
 } // namespace exchange

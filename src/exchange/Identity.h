@@ -3,6 +3,7 @@
 // passes.
 #pragma once
 
+#include "automation/Error.h"
 #include "exchange/Run.h"
 
 #include <string>
@@ -41,5 +42,28 @@ std::wstring NameOf(Run& run, const data::ClsSalesRecord& record);
 
 // A record that the user has accepted is gone, or no longer what was proposed: it is not written.
 void Skip();
+
+// Whether a record could not be written because the row or the item has gone meanwhile, however the failure
+// is named. Null for a side that the record does not have.
+bool IsGoneMeanwhile(Run& run, const automation::Error& error, const data::ClsSalesRecord* row,
+                     const data::ClsOlRecord* item);
+
+// Writes a record; skips it where the row or the item is gone, and throws any other error on.
+template<typename Write>
+void UnlessGone(Run& run, const data::ClsSalesRecord* row, const data::ClsOlRecord* item, Write&& write)
+{
+    try
+    {
+        write();
+    }
+    catch (const automation::Error& error)
+    {
+        if (!IsGoneMeanwhile(run, error, row, item))
+        {
+            throw;
+        }
+        Skip();
+    }
+}
 
 } // namespace exchange

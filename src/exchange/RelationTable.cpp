@@ -6,7 +6,6 @@ namespace exchange
 {
 
 using automation::Recordset;
-using automation::TextOrEmpty;
 
 void RelationTable::Use(std::wstring statement, const automation::OpenOptions& options)
 {
@@ -24,8 +23,7 @@ const std::vector<RelationRow>& RelationTable::Rows()
         std::vector<RelationRow> rows;
         for (; !relations.AtEnd(); relations.MoveNext())
         {
-            RelationRow row{TextOrEmpty(relations.ValueOf(L"EnglishName")),
-                            TextOrEmpty(relations.ValueOf(L"OutlookName"))};
+            RelationRow row{relations.NameIn(L"EnglishName"), relations.NameIn(L"OutlookName")};
             if (!row.EnglishName.empty() && !row.OutlookName.empty())
             {
                 rows.push_back(std::move(row));

@@ -266,10 +266,15 @@ Links LinksOfPresentAccount(AccountTables& tables, const PresentContact& present
     return accounts.AtEnd() ? Links() : LinksOfFoundAccount(tables, accounts);
 }
 
-// If the user may not make the link, keep the existing contact's one.
+// If the user may not make the link, keep the existing contact's one. A key is written whole: cut to the size
+// of its column it would name no row, and a driver may put braces around a GUID.
 void AddLink(HostRow& contact, bool isNew, const wchar_t* column, const std::wstring& key)
 {
-    if (isNew || !key.empty())
+    if (!key.empty())
+    {
+        contact.AddLiteral(column, QuotedText(key));
+    }
+    else if (isNew)
     {
         contact.Add(column, key);
     }

@@ -33,6 +33,35 @@ Object CreateContact(const Object& items, const std::wstring& surname, const std
     return contact;
 }
 
+void TellRefusal(const automation::Error& error)
+{
+    state::Tell({.Why = state::Cause::LinkRefused,
+                 .Field = error.Member(),
+                 .Words = error.Description(),
+                 .Code = error.Code()});
+}
+
+// The items of the default contacts folder; nothing when its store cannot be reached. The record's own folder
+// may be in another one.
+Object ContactItems()
+{
+    try
+    {
+        return state::Shared()
+            .gOlNamespace.GetObject(L"GetDefaultFolder", automation::kContactsFolder)
+            .GetObject(L"Items");
+    }
+    catch (const automation::Error& error)
+    {
+        if (!automation::IsUnreachable(error))
+        {
+            throw;
+        }
+        TellRefusal(error);
+        return {};
+    }
+}
+
 // Links are deprecated: an Outlook that refuses them costs the link, not the record.
 void AddLink(const Object& item, const Value& contact)
 {
@@ -46,10 +75,7 @@ void AddLink(const Object& item, const Value& contact)
         {
             throw;
         }
-        state::Tell({.Why = state::Cause::LinkRefused,
-                     .Field = error.Member(),
-                     .Words = error.Description(),
-                     .Code = error.Code()});
+        TellRefusal(error);
     }
 }
 
@@ -68,9 +94,11 @@ void LinkContact(const Object& item, const Value& surname, const Value& givenNam
     }
     const std::wstring last = automation::TextOf(surname);
     const std::wstring first = automation::TextOf(givenName);
-    const Object folder =
-        state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", automation::kContactsFolder);
-    const Object items = folder.GetObject(L"Items");
+    const Object items = ContactItems();
+    if (!items)
+    {
+        return;
+    }
     const Object contact = FindContact(items, last, first);
     if (contact && accepts != nullptr && !accepts(contact))
     {

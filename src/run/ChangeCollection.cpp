@@ -120,7 +120,7 @@ void ChangeCollection::ReadAgain()
 void ChangeCollection::WalkRows()
 {
     RowKeys& rows = mReading->Rows;
-    const long all = mRun.HostRows.RecordCount();
+    const long all = rows.Count();
     for (long row = 1; rows.Exists(row); ++row)
     {
         if (KeepsRow(row))

@@ -193,27 +193,79 @@ RowKeys::RowKeys(const exchange::MatchRule& rule, const automation::Recordset& r
 {
 }
 
+long RowKeys::Count()
+{
+    if (!mCount)
+    {
+        mCount = mRows.RecordCount();
+    }
+    return *mCount;
+}
+
+// A walk that ends early has passed rows by. A cursor that does not count its rows tells -1.
+bool RowKeys::HasMoved()
+{
+    if (HasMetOneTwice() || !mIsComplete)
+    {
+        return HasMetOneTwice();
+    }
+    const long count = mRows.RecordCount();
+    return count >= 0 && (count != mKnown || Count() != mKnown);
+}
+
 bool RowKeys::Exists(long position)
 {
     if (position <= mKnown || mIsComplete)
     {
         return position <= mKnown;
     }
-    // The one after the last known row: step there from its neighbour.
     if (position > 1)
     {
-        Reach(position - 1);
-        mCurrentPosition = 0; // whatever becomes of the step
-        mRows.MoveNext();
+        mIsComplete = !StepBehind(position - 1);
     }
-    else if (!mRows.HasNoRows())
+    else
     {
-        mRows.MoveFirst();
+        Count();
+        mIsComplete = mRows.HasNoRows();
+        if (!mIsComplete)
+        {
+            mRows.MoveFirst();
+        }
     }
-    mIsComplete = mRows.AtEnd();
+    mIsComplete = mIsComplete || mRows.AtEnd();
     mCurrentPosition = mIsComplete ? 0 : position;
     mKnown = mIsComplete ? mKnown : position;
     return !mIsComplete;
+}
+
+// From the last known row to the one after it. Where that row is gone, its place in a keyset may still be
+// there.
+bool RowKeys::StepBehind(long position)
+{
+    const bool isThere =
+        position == mCurrentPosition || exchange::GoToRow(mRows, mKeyColumn, position, KnownKey(position));
+    mCurrentPosition = 0; // whatever becomes of the step
+    if (!isThere && position > mRows.RecordCount())
+    {
+        return false;
+    }
+    if (!isThere)
+    {
+        mRows.GoTo(position);
+    }
+    try
+    {
+        mRows.MoveNext();
+    }
+    catch (const automation::Error&)
+    {
+        // The host may have taken rows away, so that the step begins behind the last one.
+        if (!mRows.AtEnd())
+        {
+            throw;
+        }
+    }
+    return true;
 }
 
 void RowKeys::Reach(long position)

@@ -149,8 +149,10 @@ class RowKeys : public RecordKeys
   public:
     RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows, std::wstring keyColumn);
 
+    // RecordCount when the walk began.
+    long Count();
     // Whether the host has sorted or filtered its rows while they were read.
-    bool HasMoved() const noexcept { return HasMetOneTwice(); }
+    bool HasMoved();
 
     bool Exists(long position) override;
     void Reach(long position) override;
@@ -165,6 +167,7 @@ class RowKeys : public RecordKeys
         return automation::IsGone(error);
     }
     std::wstring KnownKey(long position) const;
+    bool StepBehind(long position);
 
     const exchange::MatchRule& mRule;
     const automation::Recordset& mRows;
@@ -173,6 +176,7 @@ class RowKeys : public RecordKeys
     long mCurrentPosition = 0; // 0 before the first row has been reached
     long mKnown = 0;           // rows that are known to exist
     bool mIsComplete = false;  // the end has been seen: there are no others
+    std::optional<long> mCount;
 };
 
 } // namespace run

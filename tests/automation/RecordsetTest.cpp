@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "sandbox/ado/Ado.h"
+#include "sandbox/ado/AwkwardAdo.h"
 #include "tests/automation/ScriptedObject.h"
 #include "tests/support/CallWatch.h"
 #include "tests/support/DatabaseFile.h"
@@ -58,6 +59,15 @@ TEST_F(RecordsetTest, AColumnThatIsNotThereIsAnErrorEachTime)
     EXPECT_THROW(rows.ValueOf(L"Weight"), Error);
     EXPECT_THROW(rows.ValueOf(L"Weight"), Error);
     EXPECT_EQ(1, LongOf(rows.ValueOf(L"SIZE")));
+}
+
+TEST_F(RecordsetTest, ANameHasNoBlanksAtItsEndInAColumnOfAFixedWidthOnly)
+{
+    sandbox::RecordsetsOfProcess().charWidth = 8;
+    EXPECT_EQ(L"abc", Open(L"SELECT 'abc' AS Name").NameIn(L"Name"));
+    sandbox::RecordsetsOfProcess() = {};
+    EXPECT_EQ(L"abc ", Open(L"SELECT 'abc ' AS Name").NameIn(L"Name"));
+    EXPECT_EQ(L"", Open(L"SELECT NULL AS Name").NameIn(L"Name"));
 }
 
 TEST_F(RecordsetTest, ARowIsFoundAgainByThePositionItHad)

@@ -66,6 +66,15 @@ TEST_F(AccountLinks, ANewCompanyBecomesAnAccountWithItsInformationRowAndPrimaryA
     EXPECT_EQ(Found(kAddressOfContact), L"Bonn/53111");
 }
 
+TEST_F(AccountLinks, AKeyThatADriverPutsIntoBracesIsWrittenWhole)
+{
+    const std::wstring key = L"6D1F0A52-7B7E-4C1B-9B0B-0B8F5A3C2E11";
+    AddAccount(key, L"Acme");
+    TheHost.Recordsets().guids = true;
+    EXPECT_FALSE(Import({AddEmployee(L"Acme", L"Bonn")}));
+    EXPECT_EQ(Found(L"SELECT F_ACCID FROM TBLCONTACT"), key);
+}
+
 TEST_F(AccountLinks, TheCurrencyOfANewAccountFollowsTheInterfaceLanguage)
 {
     Import({AddEmployee(L"English", L"Bonn")});

@@ -1,6 +1,7 @@
 // A position is confirmed before anything is written: items and rows change places while a run works.
 #include "exchange/Identity.h"
 
+#include "automation/Error.h"
 #include "automation/OutlookConstants.h"
 #include "automation/Text.h"
 #include "exchange/ApplyFromOutlook.h"
@@ -27,6 +28,24 @@ void Note(exchange::Run& run, data::RecordMode mode, const Object& item)
 {
     const std::wstring row = mode == data::kNewRecord ? L"" : L" " + TextOf(run.HostRows.ValueOf(L"Id"));
     gPairs.push_back(TextOf(item.Get(L"LastName")) + row);
+}
+
+sandbox::Mailbox* gMailbox = nullptr;
+
+// While "b" is written, another program deletes it, and Outlook says so in a way of its own.
+void NoteUnlessDeleted(exchange::Run& run, data::RecordMode mode, const Object& item)
+{
+    if (TextOf(item.Get(L"LastName")) == L"b")
+    {
+        gMailbox->RemoveItem(kFolder, 2);
+        throw automation::Error(E_FAIL, L"Save");
+    }
+    Note(run, mode, item);
+}
+
+void Refuse(exchange::Run& /*run*/, data::RecordMode /*mode*/, const Object& /*item*/)
+{
+    throw automation::Error(E_FAIL, L"Save");
 }
 
 long NoteRow(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
@@ -169,4 +188,37 @@ TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
     EXPECT_FALSE(Import());
     EXPECT_EQ(Pairs{}, gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
+}
+
+TEST_F(IdentityOfRecords, AnItemThatVanishesWhileItIsWrittenIsSkippedAndThePassGoesOn)
+{
+    gMailbox = Mailbox.get();
+    Propose(1, IdOf(1), 1, L"a", 1);
+    Propose(2, IdOf(2), 2, L"b", 1);
+    Propose(3, IdOf(3), 3, L"c", 1);
+    EXPECT_FALSE((exchange::PassToOutlook{.ItemType = automation::kContactItem,
+                                          .RelationStatement = L"SELECT",
+                                          .Write = NoteUnlessDeleted}(TheRun)));
+    EXPECT_EQ((Pairs{L"a a", L"c c"}), gPairs);
+    EXPECT_EQ(1, TheRun.Report.Vanished());
+}
+
+TEST_F(IdentityOfRecords, AnItemThatIsRefusedAndStillThereEndsThePass)
+{
+    Propose(1, IdOf(1), 1, L"a", 1);
+    EXPECT_TRUE((exchange::PassToOutlook{
+        .ItemType = automation::kContactItem, .RelationStatement = L"SELECT", .Write = Refuse}(TheRun)));
+    EXPECT_EQ(0, TheRun.Report.Vanished());
+}
+
+TEST_F(IdentityOfRecords, AnItemOfAnotherStoreIsFoundAgainInThatStore)
+{
+    Mailbox->AddFolder(L"Archive\\People", sandbox::ItemKind::Contact);
+    Mailbox->AddItem(L"Archive\\People", {{L"LastName", L"a"}});
+    TheRun.Folder =
+        state::Shared().gOlNamespace.GetObject(L"Folders", L"Archive").GetObject(L"Folders", L"People");
+    TheRun.Items = TheRun.Folder.GetObject(L"Items");
+    TheRun.Pending.NewOutlookItems.Add(L"9", 0).EntryId = IdOf(1);
+    EXPECT_FALSE(Import());
+    EXPECT_EQ((Pairs{L"a"}), gPairs);
 }

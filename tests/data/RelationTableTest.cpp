@@ -1,6 +1,7 @@
 #include "exchange/RelationTable.h"
 
 #include "automation/Error.h"
+#include "sandbox/ado/AwkwardAdo.h"
 #include "tests/data/CatalogueDatabase.h"
 
 #include <gtest/gtest.h>
@@ -62,6 +63,15 @@ TEST_F(Relations, ARowWithANullOrEmptyCellIsLeftOutAndTheOthersStay)
                      L"('TBLCONTACT', 'F_SPOUSE', NULL), ('TBLCONTACT', '', 'Title'), "
                      L"('TBLCONTACT', 'F_SUFFIX', ''), ('TBLCONTACT', 'F_EMAIL', 'Email1Address')");
     EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;F_EMAIL=Email1Address;");
+}
+
+TEST_F(Relations, BlanksOfAColumnOfAFixedWidthAreNoPartOfAName)
+{
+    sandbox::RecordsetsOfProcess().charWidth = 20;
+    EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;");
+    Database.AddField(L"F_PADDED", L"8", L"5");
+    EXPECT_NE(nullptr, Database.Catalogue.Find(L"F_PADDED"));
+    sandbox::RecordsetsOfProcess() = {};
 }
 
 TEST_F(Relations, NoRowsAreNoFailure)

@@ -170,6 +170,17 @@ TEST_F(AwkwardRecordset, GuidsComeInBracesAndTextsPaddedWithBlanks)
     EXPECT_EQ(VT_NULL, Field(rows, L"Id").Type());
 }
 
+TEST_F(AwkwardRecordset, IsCountedFromItsOpeningUntilItIsClosedAlsoWhenItIsReleased)
+{
+    const long before = sandbox::OpenRecordsets();
+    const Object rows = Rows();
+    EXPECT_EQ(before + 1, sandbox::OpenRecordsets());
+    rows.Call(L"Close");
+    EXPECT_EQ(before, sandbox::OpenRecordsets());
+    Rows();
+    EXPECT_EQ(before + 1, sandbox::OpenRecordsets());
+}
+
 TEST_F(AwkwardRecordset, OneThatAClientCreatesTakesTheSwitchesOfTheProcess)
 {
     sandbox::RecordsetsOfProcess().sort = L"Name";

@@ -194,4 +194,27 @@ TEST(HostDialect, APlusBetweenTextsJoinsThemAndOneBetweenNumbersAdds)
     EXPECT_EQ(L"x=+1", InDatabaseDialect(L"x=+1"));
 }
 
+TEST_F(HostWrites, AHostOfIdentifiersAndFixedWidthsTakesBracesAndBlanksInItsStatements)
+{
+    mHost.Recordsets().guids = true;
+    mHost.Recordsets().charWidth = 20;
+    Insert(L"TBLACCOUNT", L"F_ACCID,F_ACCSNAME", L"'{0f8fad5b}','Contoso  '");
+    EXPECT_EQ(L"0f8fad5b", Stored(L"TBLACCOUNT", L"F_ACCID"));
+    EXPECT_EQ(0, Update(L"TBLACCOUNT", L"F_ACCSNAME='It ''s '", L"F_ACCSNAME='Contoso '"));
+    EXPECT_EQ(L"It 's", Stored(L"TBLACCOUNT", L"F_ACCSNAME"));
+    EXPECT_EQ(1, Delete(L"TBLACCOUNT", L"F_ACCID='{0f8fad5b}'"));
+}
+
+TEST_F(HostWrites, ItsOwnerSortsAndFiltersTheSourcesThatHaveTheColumn)
+{
+    Insert(L"TBLACCOUNT", L"F_ACCID,F_ACCSNAME", L"'a','Acme'");
+    Insert(L"TBLACCOUNT", L"F_ACCID,F_ACCSNAME", L"'b','Contoso'");
+    mHost.Recordsets().filter = L"F_ACCID <> 'a'";
+    Recordset rows;
+    EXPECT_EQ(0, Open(rows, L"AccountMyAccount"));
+    EXPECT_EQ(1, rows.RecordCount());
+    EXPECT_EQ(0, OpenByString(rows, L"SELECT F_ACCSNAME FROM TBLACCOUNT"));
+    EXPECT_EQ(2, rows.RecordCount());
+}
+
 } // namespace

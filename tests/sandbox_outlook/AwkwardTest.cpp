@@ -224,9 +224,9 @@ TEST_F(Awkwardness, ASearchByNameFindsATwinInFront)
     const auto contact = New(twin);
     contact.Put(L"LastName", L"Twin");
     contact.Call(L"Save");
-    EXPECT_EQ(L"Twin",
-              Text(mOutlook.GetObject(L"Session").GetObject(L"GetItemFromID", Text(contact, L"EntryID")),
-                   L"LastName"));
+    EXPECT_EQ(L"Twin", Text(mOutlook.GetObject(L"Session")
+                                .GetObject(L"GetItemFromID", Text(contact, L"EntryID"), twin.Get(L"StoreID")),
+                            L"LastName"));
     EXPECT_EQ(5, mMailbox->ItemCount(kContacts));
 }
 

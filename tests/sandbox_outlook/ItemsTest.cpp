@@ -87,6 +87,29 @@ TEST_F(Items, ADeletedItemLeavesTheFolderAndCannotBeSaved)
     EXPECT_EQ(L"The item has been moved or deleted.", FailureOf([&] { mary.Call(L"Save"); }));
 }
 
+TEST_F(Items, TheEntryIdOfADeletedItemIsNotGivenAgain)
+{
+    SavedContact(L"Mary", L"Smith");
+    const auto items = Contacts().GetObject(L"Items");
+    const std::wstring entryId = Text(items.GetObject(L"Item", 1), L"EntryID");
+    items.Call(L"Remove", 1);
+    SavedContact(L"John", L"Jones");
+    EXPECT_NE(entryId, Text(items.GetObject(L"Item", 1), L"EntryID"));
+}
+
+TEST_F(Items, AnEntryIdLeadsToAnItemInTheStoreThatIsNamedOrElseInTheFirstOne)
+{
+    mMailbox->AddFolder(L"Archive\\People", ItemKind::Contact);
+    mMailbox->AddItem(L"Archive\\People", {{L"LastName", L"Smith"}});
+    const auto session = mOutlook.GetObject(L"Session");
+    const auto folder = session.GetObject(L"Folders", L"Archive").GetObject(L"Folders", L"People");
+    const std::wstring entryId = Text(folder.GetObject(L"Items").GetObject(L"Item", 1), L"EntryID");
+    EXPECT_EQ(L"Smith",
+              Text(session.GetObject(L"GetItemFromID", entryId, folder.Get(L"StoreID")), L"LastName"));
+    EXPECT_THROW(session.GetObject(L"GetItemFromID", entryId), automation::Error);
+    EXPECT_THROW(session.GetObject(L"GetItemFromID", entryId, Contacts().Get(L"StoreID")), automation::Error);
+}
+
 TEST_F(Items, AnItemOfAnotherTypeKeepsItsOwnType)
 {
     const auto task = Contacts().GetObject(L"Items").GetObject(L"Add", 3);

@@ -157,6 +157,7 @@ inline constexpr const wchar_t* kOfOthers[] = {
     L"Size",
     L"State",
     L"SysDateTime",
+    L"Type",
     L"UID",
     L"Update",
     L"Value",

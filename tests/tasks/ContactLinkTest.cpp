@@ -74,6 +74,19 @@ TEST_F(ContactLink, AnOutlookWithoutLinksCostsTheLinkAndNotTheTask)
     EXPECT_TRUE(Links(1).empty());
 }
 
+TEST_F(ContactLink, AContactsFolderThatCannotBeReachedCostsTheLinkAlone)
+{
+    mMailbox->AddFolder(L"Archive\\Tasks", sandbox::ItemKind::Task);
+    const Object task = state::Shared()
+                            .gOlNamespace.GetObject(L"Folders", L"Archive")
+                            .GetObject(L"Folders", L"Tasks")
+                            .GetObject(L"Items")
+                            .GetObject(L"Add");
+    mMailbox->Switch(L"OfflineStore", L"Personal Folders");
+    links::LinkContact(task, L"Zhang", L"Wei");
+    EXPECT_EQ(0, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
+}
+
 TEST_F(ContactLink, AContactThatIsNotFoundIsCreatedWithJustItsNameAndLinked)
 {
     AddContact(L"Zhang", L"Wei"); // the other way round is another person
