@@ -61,6 +61,8 @@ class FrmChanges : public ui::Dialog
     }
 
   private:
+    using Fields = std::vector<std::array<std::wstring, 3>>; // field, now, after
+
     void OnInit() override
     {
         WriteCaptions();
@@ -290,14 +292,13 @@ class FrmChanges : public ui::Dialog
             return;
         }
         mShownFields = entry;
-        mFields.clear();
-        std::wstring notes;
-        if (entry)
-        {
-            notes = ReadFields(*entry);
-        }
+        // Outlook's answers let the window paint meanwhile, which shows the fields of the row before.
+        Fields fields;
+        const std::wstring notes = entry ? ReadFields(*entry, fields) : std::wstring();
+        mFields = std::move(fields);
         lvFields.Show(static_cast<int>(mFields.size()), [this](int line, int column) {
-            return mFields.at(static_cast<size_t>(line)).at(static_cast<size_t>(column));
+            const auto place = static_cast<size_t>(line);
+            return place < mFields.size() ? mFields[place].at(static_cast<size_t>(column)) : std::wstring();
         });
         InvalidateRect(lvFields.Handle(), nullptr, TRUE);
         txtNotes.SetText(notes);
@@ -305,7 +306,7 @@ class FrmChanges : public ui::Dialog
     }
 
     // The fields that change come first. The notes on the record.
-    std::wstring ReadFields(size_t entry)
+    std::wstring ReadFields(size_t entry, Fields& fields)
     {
         try
         {
@@ -313,7 +314,7 @@ class FrmChanges : public ui::Dialog
             std::ranges::stable_partition(preview.Fields, &exchange::Difference::IsChanged);
             for (const exchange::Difference& field : preview.Fields)
             {
-                AddField(field, mList.At(entry).IsInBoth());
+                AddField(fields, field, mList.At(entry).IsInBoth());
             }
             return NotesOf(preview);
         }
@@ -323,7 +324,7 @@ class FrmChanges : public ui::Dialog
         }
     }
 
-    void AddField(const exchange::Difference& field, bool namesSide)
+    static void AddField(Fields& fields, const exchange::Difference& field, bool namesSide)
     {
         const std::wstring now = OnOneLine(TextOfValue(field, field.Now));
         const std::wstring after = OnOneLine(TextAfter(field));
@@ -334,9 +335,9 @@ class FrmChanges : public ui::Dialog
         const wchar_t* const side = field.Where == exchange::Side::Outlook
                                         ? Choose(L"Outlook：", L"Outlook: ")
                                         : Choose(L"本系统：", L"Sales system: ");
-        mFields.push_back({(field.IsChanged() ? kChangedMark : kUnchangedMark) +
-                               std::wstring(namesSide ? side : L"") + CaptionOf(field),
-                           now, after});
+        fields.push_back({(field.IsChanged() ? kChangedMark : kUnchangedMark) +
+                              std::wstring(namesSide ? side : L"") + CaptionOf(field),
+                          now, after});
     }
 
     // --- Order and search.
@@ -419,12 +420,9 @@ class FrmChanges : public ui::Dialog
         {
             return;
         }
-        const bool isDone = StepOrTell();
-        if (mWork != nullptr)
-        {
-            prgbarReading.SetFraction(mWork->Fraction());
-        }
-        if (isDone)
+        const bool isDone = mIsStopped || StepOrTell();
+        prgbarReading.SetFraction(mWork->Fraction());
+        if (isDone || mIsStopped)
         {
             EndWork();
         }
@@ -450,6 +448,7 @@ class FrmChanges : public ui::Dialog
     void EndWork()
     {
         mWork.reset();
+        mIsStopped = false;
         EnableChoices(true);
         prgbarReading.Show(false);
         if (mFocusBefore != nullptr && IsWindowEnabled(mFocusBefore))
@@ -527,7 +526,10 @@ class FrmChanges : public ui::Dialog
                 SetTimer(Handle(), kSearch, USER_TIMER_MINIMUM, nullptr);
             }
             break;
-        case IDC_CHANGES_STOP: EndWork(); break;
+        case IDC_CHANGES_STOP:
+            mIsStopped = true; // the work may be waiting for Outlook at this moment
+            Later();
+            break;
         case IDC_CHANGES_CHECK: CheckShown(true); break;
         case IDC_CHANGES_UNCHECK: CheckShown(false); break;
         case IDC_CHANGES_SAVE: Save(); break;
@@ -612,8 +614,9 @@ class FrmChanges : public ui::Dialog
     std::unique_ptr<Work> mWork;
     HWND mFocusBefore = nullptr;
     bool mIsWorking = false;
-    std::optional<size_t> mShownFields;               // the entry whose fields are shown
-    std::vector<std::array<std::wstring, 3>> mFields; // field, now, after
+    bool mIsStopped = false;
+    std::optional<size_t> mShownFields; // the entry whose fields are shown
+    Fields mFields;
 };
 
 } // namespace

@@ -56,15 +56,6 @@ std::wstring RowOfReport(const ShownDialog& report, int row)
     return text;
 }
 
-// Whether the list of changes shows what the search is for, or nothing.
-bool IsShown(const ShownDialog& changes, const std::wstring& search)
-{
-    const bool isEmpty = changes.Rows(IDC_CHANGES_LIST) == 0;
-    const bool isFound = changes.Row(IDC_CHANGES_LIST, 0).find(search) != std::wstring::npos &&
-                         !changes.Row(IDC_CHANGES_LIST, 0, 1).empty() && changes.Rows(IDC_CHANGES_FIELDS) > 0;
-    return isEmpty || isFound;
-}
-
 } // namespace
 
 Conversation::Conversation(Robot& robot, const Options& options)
@@ -108,7 +99,6 @@ Outcome Conversation::RunCategory(const std::wstring& category)
     return outcome;
 }
 
-// Looks at a pair first, if there is one: its fields have two sides.
 void Conversation::LookAtChanges(const ShownDialog& confirmation, const std::wstring& category)
 {
     const ShownDialog changes = OpenedBy(confirmation, IDC_MESSAGE_DETAILS);
@@ -119,11 +109,6 @@ void Conversation::LookAtChanges(const ShownDialog& confirmation, const std::wst
         mRobot.WaitUntil("the fields are shown", [&] { return changes.Rows(IDC_CHANGES_FIELDS) > 0; });
     }
     SavePictureOf(changes, L"changes-" + category);
-    const std::wstring search = resources::Choose(L"修改", L"Change in");
-    SetWindowTextW(changes.Control(IDC_CHANGES_SEARCH), search.c_str());
-    mRobot.WaitUntil("the search is over",
-                     [&] { return !changes.IsVisible(IDC_CHANGES_STOP) && IsShown(changes, search); });
-    SavePictureOf(changes, L"changes-" + category + L"-pairs");
     Leave(changes);
 }
 
