@@ -1,6 +1,7 @@
-// The names of the fields.
+// The names of the fields and of the columns.
 #include "preview/Texts.h"
 
+#include "exchange/KindName.h"
 #include "resources/Strings.h"
 
 #include <algorithm>
@@ -97,6 +98,19 @@ std::wstring CaptionOf(const exchange::Difference& field)
     const auto* const caption =
         std::ranges::find_if(kCaptions, [&](const Caption& one) { return name == one.Field; });
     return caption == std::end(kCaptions) ? name : resources::Choose(caption->Chinese, caption->English);
+}
+
+std::wstring HeaderOf(Column column, const exchange::Kind& kind)
+{
+    using resources::Choose;
+    const bool isContact = kind.Name.TransObjectID == exchange::kContactName.TransObjectID;
+    switch (column)
+    {
+    case Column::Change: return Choose(L"更改", L"Change");
+    case Column::Name: return isContact ? Choose(L"姓名", L"Name") : Choose(L"主题", L"Subject");
+    case Column::Group: return isContact ? Choose(L"单位", L"Company") : Choose(L"类别", L"Category");
+    default: return isContact ? Choose(L"生日", L"Birthday") : Choose(L"开始", L"Start");
+    }
 }
 
 } // namespace preview

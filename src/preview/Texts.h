@@ -1,7 +1,7 @@
 // The words of the list of changes, in the interface language: changes, fields, values.
 #pragma once
 
-#include "exchange/Preview.h"
+#include "preview/ChangeList.h"
 
 #include <string>
 
@@ -11,6 +11,9 @@ namespace preview
 std::wstring TextOfChange(const exchange::Proposal& proposal);
 // The place of a change among the changes, for the order.
 int PlaceOfChange(const exchange::Proposal& proposal);
+
+// The header of a column of the list of changes, in the words of the kind.
+std::wstring HeaderOf(Column column, const exchange::Kind& kind);
 
 // By the user's regional settings; the empty text for no date.
 std::wstring TextOfDate(const automation::Value& value);
