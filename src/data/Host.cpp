@@ -102,8 +102,7 @@ void ThrowUnless(bool accepted, const wchar_t* member, long code)
 {
     if (!accepted)
     {
-        throw automation::Error(code, member,
-                                resources::Choose(L"主系统报告操作失败", L"The host reported a failure"));
+        throw Refusal(code, member, resources::Choose(L"主系统报告操作失败", L"The host reported a failure"));
     }
 }
 

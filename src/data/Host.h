@@ -4,6 +4,7 @@
 // state at the time it is made.
 #pragma once
 
+#include "automation/Error.h"
 #include "automation/Recordset.h"
 
 #include <string>
@@ -52,9 +53,37 @@ class Host
     automation::Object mDtc;
 };
 
-// Throws automation::Error unless the host has accepted a call of this member, so that a refused call and one
-// that raises an error are handled in one way. code: the error's number.
+// The host has answered that it has not made a call. A call that raises another error may have been made.
+class Refusal : public automation::Error
+{
+  public:
+    using Error::Error;
+};
+
+// Throws Refusal unless the host has accepted a call of this member, so that a refused call and one that
+// raises an error are handled in one way. code: the error's number.
 void ThrowUnless(bool accepted, const wchar_t* member, long code = E_FAIL);
+
+// Makes an insert outside a transaction. When it raises an error, its answer may be lost and the row be there
+// all the same: undo takes the row back, and the error is passed on. After a refusal there is nothing to
+// undo.
+template<typename Insert, typename Undo>
+void InsertOrUndo(const Insert& insert, const Undo& undo)
+{
+    try
+    {
+        insert();
+    }
+    catch (const Refusal&)
+    {
+        throw;
+    }
+    catch (...)
+    {
+        undo();
+        throw;
+    }
+}
 
 // One host transaction, begun with the object: Commit ends it well, any other way out of the scope rolls it
 // back. Neither is asked of the host when the host says that no transaction is pending.

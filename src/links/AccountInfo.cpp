@@ -12,7 +12,8 @@ long AddAccountInfo(const std::wstring& accountKey)
     return state::Failed([&] { InsertAccountInfo(data::Host(), accountKey); }) ? -1 : 0;
 }
 
-void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey)
+void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey,
+                       const std::function<void()>& undo)
 {
     automation::Recordset system;
     const automation::RecordsetCloser closer(system);
@@ -21,7 +22,12 @@ void InsertAccountInfo(const data::Host& host, const std::wstring& accountKey)
     const std::wstring type = automation::TextOf(system.ValueOf(L"F_AITID"));
     const std::wstring values = data::QuotedText(host.NewGuid()) + L", " + data::QuotedText(type) + L", " +
                                 data::QuotedText(accountKey);
-    data::ThrowUnless(host.Insert(L"TBLACCINFO", L"F_AIID, F_AITID, F_ACCID", values) >= 0, L"Insert");
+    data::InsertOrUndo(
+        [&] {
+            data::ThrowUnless(host.Insert(L"TBLACCINFO", L"F_AIID, F_AITID, F_ACCID", values) >= 0,
+                              L"Insert");
+        },
+        undo);
 }
 
 } // namespace links

@@ -222,13 +222,14 @@ Links LinksOfCompany(AccountTables& tables, const std::wstring& companyName)
     return accounts.AtEnd() ? LinksOfNewAccount(tables, companyName) : LinksOfFoundAccount(tables, accounts);
 }
 
-// A pending transaction is the host's own: the host then decides about the account.
-void DeleteAccount(const Host& host, const std::wstring& key)
+// table: of the account or its information. A pending transaction is the host's own: the host then decides
+// about the rows.
+void DeleteOf(const std::wstring& key, const wchar_t* table, const Host& host)
 {
     state::Trapped([&] {
         if (!host.InTransaction())
         {
-            host.Delete(L"TBLACCOUNT", L"F_ACCID=" + QuotedText(key));
+            host.Delete(table, L"F_ACCID=" + QuotedText(key));
         }
     });
 }
@@ -344,17 +345,20 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     account.Add(L"F_ACCCURRIDX", resources::IsChinese() ? kChineseCurrency : kOtherCurrency);
     std::wstring key = host.NewGuid();
     account.PutFirst(L"F_ACCID", QuotedText(key));
-    account.Insert(host, L"TBLACCOUNT");
+    const auto undo = [&](const wchar_t* table) {
+        if (rollback == Rollback::ByDeletion)
+        {
+            DeleteOf(key, table, host);
+        }
+    };
+    data::InsertOrUndo([&] { account.Insert(host, L"TBLACCOUNT"); }, [&] { undo(L"TBLACCOUNT"); });
     try
     {
-        links::InsertAccountInfo(host, key);
+        links::InsertAccountInfo(host, key, [&] { undo(L"TBLACCINFO"); });
     }
     catch (...)
     {
-        if (rollback == Rollback::ByDeletion)
-        {
-            DeleteAccount(host, key);
-        }
+        undo(L"TBLACCOUNT");
         throw;
     }
     return key;
