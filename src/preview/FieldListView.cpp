@@ -75,7 +75,8 @@ std::wstring FieldListView::ReadFields(size_t entry, Fields& fields)
     try
     {
         exchange::RecordPreview preview = mList.FieldsOf(entry);
-        std::ranges::stable_partition(preview.Fields, &exchange::Difference::IsChanged);
+        std::stable_partition(preview.Fields.begin(), preview.Fields.end(),
+                              [](const exchange::Difference& field) { return field.IsChanged(); });
         for (const exchange::Difference& field : preview.Fields)
         {
             AddField(fields, field, mList.At(entry).IsInBoth());

@@ -131,7 +131,7 @@ std::wstring WeekdayText(const Difference& /*field*/, const Value& value)
         // The system counts from Monday, the mask from Sunday.
         GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SDAYNAME1 + static_cast<LCTYPE>((day + 6) % 7),
                        name.data(), static_cast<int>(name.size()));
-        text += (mask & 1 << day) != 0 ? (text.empty() ? L"" : L", ") + std::wstring(name.data()) : L"";
+        text += (mask & 1L << day) != 0 ? (text.empty() ? L"" : L", ") + std::wstring(name.data()) : L"";
     }
     return text.empty() ? automation::TextOrEmpty(value) : text;
 }
