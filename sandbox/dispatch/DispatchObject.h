@@ -80,7 +80,7 @@ CallObserver* Observe(CallObserver* observer) noexcept;
 long LiveObjects() noexcept;
 
 // Called whenever the last of them has gone, on the thread that released it: a server program ends then. Null
-// for nobody.
+// removes the handler.
 void WhenLastObjectGoes(void (*handler)()) noexcept;
 
 class DispatchObject : public IDispatch

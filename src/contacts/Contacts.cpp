@@ -75,8 +75,7 @@ std::wstring NameOfRow(const Recordset& rows)
 
 // Towards Outlook
 
-// Outside the Chinese interface the host's and Outlook's first and last names are exchanged, deliberately;
-// both directions do it.
+// The host contract exchanges first and last names outside the Chinese interface, in both directions.
 const wchar_t* ExchangedName(std::wstring_view name)
 {
     const bool isLastName = name == L"LastName";

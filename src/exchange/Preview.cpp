@@ -114,7 +114,7 @@ void TellingErrors(Write&& write)
     }
 }
 
-// What is told meanwhile belongs to the preview, and not to the run's report.
+// Keeps the preview's remarks out of the run's report.
 class Collector : public state::RemarkSink
 {
   public:

@@ -57,7 +57,7 @@ void Report::Take(Remark remark)
     }
 }
 
-// A right is told once, however many records it would have been for.
+// The report has one row for each missing right, with the number of records that need it.
 bool Report::Counted(const Remark& missingRight)
 {
     const auto known = std::ranges::find_if(mRows, [&](const ReportRow& row) {

@@ -45,9 +45,9 @@ class Report : public state::RemarkSink
     // The user has accepted so many changes of a kind.
     void Accept(Change change, std::ptrdiff_t records) { Of(change).Accepted += static_cast<long>(records); }
 
-    // Calls write, which handles one record; what is told meanwhile concerns that record. An error ends the
-    // record, and goes on to the caller. nameOf: the record's name, asked for only when there is something
-    // to tell of it, during the call; it may throw.
+    // Calls write, which handles one record; remarks during the call belong to that record. An error ends the
+    // record and passes on to the caller. nameOf: the record's name, read during the call and only if the
+    // record gets a remark; it may throw.
     void Record(Change change, std::function<std::wstring()> nameOf, const std::function<void()>& write);
     void LeaveAlone(Change change) { ++Of(change).LeftAlone; }
 

@@ -79,7 +79,7 @@ void Tell(Remark remark) noexcept;
 void TellFailure(const std::exception& error, const std::wstring& field = {},
                  long length = Remark::kNoLength) noexcept;
 
-// As Failed, and the error is told as a remark.
+// As Failed; also reports the error as a remark.
 template<typename Body>
 bool FailedAndTold(Body&& body)
 {

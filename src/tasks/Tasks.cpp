@@ -215,7 +215,7 @@ HostValue ReadImportance(const SourceProperty& property)
     return Value(automation::DoubleOf(property.Item.ValueOf(property.Name)) + 1);
 }
 
-// The host's flag is kept as the status number itself, deliberately.
+// The host contract stores Outlook's status number in the flag.
 HostValue ReadStatus(const SourceProperty& property)
 {
     return property.Item.ValueOf(L"Status");

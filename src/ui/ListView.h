@@ -13,7 +13,7 @@ class ListView : public Control
 {
   public:
     using Control::Control;
-    using Control::SetText; // which nobody sees: screen readers tell it as the list's name
+    using Control::SetText; // not visible: screen readers read it as the list's name
 
     // Selects whole rows, and has the looks of the system's own lists. Call once, before the rows are added.
     void Prepare();

@@ -27,7 +27,7 @@ struct Way
     bool isDisturbed = false;
     bool mayPassBy = false; // see Interference
     int hiddenNumber = 0;   // of the row that the host's filter leaves out
-    // Before the next run, which nobody disturbs.
+    // Before the next run, which is undisturbed.
     std::function<void(World& world)> settle = [](World&) {};
 };
 

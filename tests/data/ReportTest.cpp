@@ -20,7 +20,7 @@ class ReportOfARun : public testing::Test
   protected:
     ~ReportOfARun() override { state::Shared() = {}; }
 
-    // A record with this name, about which so much is told.
+    // A record with this name and these remarks.
     void Record(const wchar_t* name, std::initializer_list<state::Remark> remarks)
     {
         TheReport.Record(
