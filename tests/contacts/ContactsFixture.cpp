@@ -120,8 +120,10 @@ void ContactsFixture::Relate(const std::vector<std::pair<std::wstring, std::wstr
     Execute(L"DELETE FROM SynRelation WHERE QuenlarTblName='TBLCONTACT'");
     for (const auto& [column, property] : rows)
     {
-        Execute(L"INSERT INTO SynRelation (QuenlarTblName, EnglishName, OutlookName) VALUES ('TBLCONTACT','" +
-                column + L"','" + property + L"')");
+        std::wstring values = L"'TBLCONTACT','";
+        values.append(column).append(L"','").append(property).append(L"'");
+        Execute(L"INSERT INTO SynRelation (QuenlarTblName, EnglishName, OutlookName) VALUES (" + values +
+                L")");
     }
 }
 

@@ -127,6 +127,7 @@ class HostileExport : public testing::Test
     std::vector<std::wstring> TextsOf(const Kind& kind, long position)
     {
         std::vector<std::wstring> texts;
+        texts.reserve(kTexts.size());
         for (const std::wstring& property : kTexts)
         {
             texts.push_back(property + L"=" + TextIn(kind, position, property));
