@@ -23,7 +23,7 @@ constexpr const wchar_t* kDefaultStore = L"Personal Folders";
 
 std::wstring PathOf(const std::wstring& store, const NumberedKind& kind)
 {
-    return store + sandbox::outlook::kPathSeparator + kind.folder;
+    return store + sandbox::outlook::kPathSeparator + kind.folderName;
 }
 
 } // namespace
