@@ -28,13 +28,13 @@ bool IsQuestionOfRights(const std::wstring& member)
 // The contract saves a task after every relation row, so a fault may leave one that is written in part.
 bool MayLeavePart(const Exchanged& what)
 {
-    return what.IsToOutlook() && &what.kind.tested == &tasks::kTasks;
+    return what.IsToOutlook() && !what.kind.savesItemOnce;
 }
 
 // A contact whose present account cannot be queried is written with the account and the address that it has.
 bool MayKeepAddress(const Exchanged& what)
 {
-    return !what.IsToOutlook() && &what.kind.tested == &contacts::kContacts;
+    return !what.IsToOutlook() && what.kind.itemKind == sandbox::ItemKind::Contact;
 }
 
 Records WithoutAddresses(const Records& records)
@@ -51,7 +51,7 @@ Records WithoutAddresses(const Records& records)
 bool IsPassedOver(const Trial& trial, const std::wstring& struck)
 {
     return trial.fault == Fault::Refuses && struck == L"OpenRecordset" &&
-           trial.what.kind.tested.SucceedsWithoutHostRows;
+           trial.what.kind.succeedsWithoutHostRows;
 }
 
 Records Union(const Records& left, const Records& right)
@@ -105,8 +105,7 @@ FaultTrials::FaultTrials()
       })
 {
     state::Shared().gSynParameter.TransConflictOption = state::kNotifyMe;
-    state::Shared().gOlApplication = {};
-    state::Shared().gOlNamespace = {};
+    CloseOutlook();
     mLiveObjects = sandbox::LiveObjects();
 }
 
@@ -166,8 +165,7 @@ FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
     outcome.struck = mFaults->StruckMember();
     mFaults->OrderNone();
     shared.gDTC = {};
-    shared.gOlApplication = {};
-    shared.gOlNamespace = {};
+    CloseOutlook();
     return outcome;
 }
 

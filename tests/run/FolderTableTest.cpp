@@ -247,9 +247,9 @@ TEST_F(RunFromOutlook, APairsPropertiesAreReadOnceInTheApplyPass)
     {
         const std::wstring name = L"Name" + std::to_wstring(i);
         Mailbox->AddItem(kContactRun.folder, {{L"LastName", name}, {L"FirstName", L"Ann"}});
-        TheHost.Database().Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
-                                   L"VALUES (hex(randomblob(16)),1,'" +
-                                   name + L"','Ann')");
+        Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                L"VALUES (hex(randomblob(16)),1,'" +
+                name + L"','Ann')");
     }
     const CallWatch calls;
     EXPECT_FALSE(Run(kContactRun, 1, Answer::Accept).failed);

@@ -51,7 +51,7 @@ class RunsFixture : public OfficeFixture
     Outcome Run(const RunKind& kind, long transType, Answer answer);
 
     // A record of the kind that the other side does not have.
-    void AddHostRecord(const RunKind& kind) { TheHost.Database().Execute(kind.row); }
+    void AddHostRecord(const RunKind& kind) { Execute(kind.row); }
     void AddItem(const RunKind& kind) { Mailbox->AddItem(kind.folder, kind.item); }
 
     long CountRows(const RunKind& kind);

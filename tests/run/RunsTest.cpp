@@ -153,8 +153,8 @@ TEST_F(Runs, AnErrorThatTheHostRaisesInsteadOfRowsFailsEveryKind)
 TEST_F(Runs, TheCalendarTakesTheEntriesOfTheSignedInUserOnly)
 {
     AddHostRecord(kCalendarRun);
-    TheHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE) VALUES "
-                               L"('B',99,'Of somebody else','2003-05-06 00:00:00')");
+    Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE) VALUES "
+            L"('B',99,'Of somebody else','2003-05-06 00:00:00')");
     EXPECT_FALSE(Run(kCalendarRun, 2, Answer::Accept).failed);
     ASSERT_EQ(1, CountItems(kCalendarRun));
     EXPECT_EQ(L"Host", automation::TextOf(Mailbox->ItemProperty(kCalendarRun.folder, 1, L"Subject")));

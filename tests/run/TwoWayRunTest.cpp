@@ -135,8 +135,8 @@ TEST_F(TwoWayRun, TasksEndAsOutlookHasThemAndTheOthersAsTheHostDoesAndNothingMov
     for (const DifferingPair* const pair : kPairs)
     {
         SCOPED_TRACE(pair->kind.name);
-        TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
-        TheHost.Database().Execute(pair->row);
+        Execute(L"DELETE FROM TBLACTIVITY");
+        Execute(pair->row);
         Mailbox->AddItem(pair->kind.folder, pair->item);
         for (int run = 1; run <= 3; ++run)
         {
@@ -154,8 +154,8 @@ TEST_F(TwoWayRun, ATaskThatCameFromOutlookIsNotSavedThereAgain)
 {
     for (const DifferingPair* const pair : kPairs)
     {
-        TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
-        TheHost.Database().Execute(pair->row);
+        Execute(L"DELETE FROM TBLACTIVITY");
+        Execute(pair->row);
         Mailbox->AddItem(pair->kind.folder, pair->item);
         const CallWatch calls;
         Exchange(*pair);
@@ -166,7 +166,7 @@ TEST_F(TwoWayRun, ATaskThatCameFromOutlookIsNotSavedThereAgain)
 
 TEST_F(TwoWayRun, ATaskThatTheHostRefusesIsWrittenToOutlookAsTheHostHasIt)
 {
-    TheHost.Database().Execute(kTaskPair.row);
+    Execute(kTaskPair.row);
     Mailbox->AddItem(kTaskPair.kind.folder, kTaskPair.item);
     TheHost.Failures().Order(L"Update", 1, {1});
     EXPECT_FALSE(Run(kTaskRun, kBothDirections, Answer::Accept).failed);
@@ -176,9 +176,9 @@ TEST_F(TwoWayRun, ATaskThatTheHostRefusesIsWrittenToOutlookAsTheHostHasIt)
 
 TEST_F(TwoWayRun, OnlyTheOverwrittenRowsAreLeftOutOfTheSecondPassOfTasks)
 {
-    TheHost.Database().Execute(kTaskPair.row);
-    TheHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTPRIORITY) VALUES "
-                               L"('T2',1,'Host only',1)");
+    Execute(kTaskPair.row);
+    Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTPRIORITY) VALUES "
+            L"('T2',1,'Host only',1)");
     Mailbox->AddItem(kTaskPair.kind.folder, kTaskPair.item);
     Exchange(kTaskPair);
     ASSERT_EQ(2, CountItems(kTaskRun));
@@ -192,7 +192,7 @@ TEST_F(TwoWayRun, ANewItemIsMadeBeforeOrAfterTheRecordsetMovesByItsKind)
     const std::vector<std::wstring> rowFirst{L"Recordset.Move", L"Items.Add"};
     for (const RunKind& kind : kRuns)
     {
-        TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
+        Execute(L"DELETE FROM TBLACTIVITY");
         AddHostRecord(kind);
         const CallWatch watch;
         EXPECT_FALSE(Run(kind, 2, Answer::Accept).failed);

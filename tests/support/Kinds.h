@@ -24,6 +24,8 @@ struct RecordKind
     const wchar_t* relationTable; // names the kind in SynRelation
     bool writesHostFirst;         // in a two-way run
     bool succeedsWithoutHostRows; // a run whose rows cannot be opened
+    bool savesItemOnce;           // and not after each property
+    bool hasTransaction;          // around the statements of a row
 };
 
 inline constexpr RecordKind kContactRecords{
@@ -40,6 +42,8 @@ inline constexpr RecordKind kContactRecords{
     .relationTable = L"TBLCONTACT",
     .writesHostFirst = false,
     .succeedsWithoutHostRows = false,
+    .savesItemOnce = true,
+    .hasTransaction = true,
 };
 inline constexpr RecordKind kTaskRecords{
     .name = "tasks",
@@ -55,6 +59,8 @@ inline constexpr RecordKind kTaskRecords{
     .relationTable = L"TBLACTIVITY",
     .writesHostFirst = true,
     .succeedsWithoutHostRows = true,
+    .savesItemOnce = false,
+    .hasTransaction = true,
 };
 inline constexpr RecordKind kCalendarRecords{
     .name = "calendar",
@@ -70,6 +76,8 @@ inline constexpr RecordKind kCalendarRecords{
     .relationTable = L"VW_CALENDAR",
     .writesHostFirst = false,
     .succeedsWithoutHostRows = false,
+    .savesItemOnce = true,
+    .hasTransaction = false,
 };
 
 inline constexpr std::array<const RecordKind*, 3> kRecordKinds{&kContactRecords, &kTaskRecords,

@@ -9,11 +9,13 @@
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
+#include "tests/support/Kinds.h"
 #include "tests/support/RecordingDisplay.h"
 #include "tests/support/WithLanguage.h"
 
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace test_support
 {
@@ -42,12 +44,39 @@ class TestOffice
     void UseNewMailbox()
     {
         Mailbox = sandbox::MakeMailbox();
+        OpenOutlook();
+    }
+    // The application over the mailbox, and its release by everything that the office holds.
+    void OpenOutlook()
+    {
         Outlook = sandbox::MakeOutlook(Mailbox);
         state::Shared().gOlApplication = Outlook;
         state::Shared().gOlNamespace = Outlook.GetObject(L"GetNamespace", L"MAPI");
     }
+    void CloseOutlook()
+    {
+        state::Shared().gOlNamespace = {};
+        state::Shared().gOlApplication = {};
+        Outlook = {};
+    }
 
-    void Execute(const std::wstring& sql) { TheHost.Database().Execute(sql); }
+    void Execute(const std::wstring& sql, const sandbox::Row& values = {})
+    {
+        TheHost.Database().Execute(sql, values);
+    }
+
+    using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
+
+    // Makes these the relation rows of a kind, in this order: host column and Outlook property.
+    void Relate(const RecordKind& kind, const Pairs& rows)
+    {
+        Execute(L"DELETE FROM SynRelation WHERE QuenlarTblName=?", {kind.relationTable});
+        for (const auto& [column, property] : rows)
+        {
+            Execute(L"INSERT INTO SynRelation (QuenlarTblName,EnglishName,OutlookName) VALUES (?,?,?)",
+                    {kind.relationTable, column, property});
+        }
+    }
 
     sandbox::AdoInProcess Ado;
     sandbox::Host TheHost;
