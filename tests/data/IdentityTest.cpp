@@ -7,12 +7,8 @@
 #include "exchange/ApplyFromOutlook.h"
 #include "exchange/ApplyToOutlook.h"
 #include "sandbox/ado/Recordset.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
 #include "tests/support/CallWatch.h"
-#include "tests/support/RecordingDisplay.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/OfficeFixture.h"
 
 namespace
 {
@@ -20,7 +16,7 @@ namespace
 using automation::Object;
 using automation::TextOf;
 
-constexpr const wchar_t* kFolder = L"Personal Folders\\Contacts";
+constexpr const wchar_t* kFolder = test_support::kContactRecords.folder;
 
 std::vector<std::wstring> gPairs; // item and row
 
@@ -54,7 +50,7 @@ long NoteRow(exchange::Run& run, data::RecordMode mode, const automation::ItemVi
     return 0;
 }
 
-class IdentityOfRecords : public testing::Test
+class IdentityOfRecords : public test_support::OfficeFixture
 {
   protected:
     IdentityOfRecords()
@@ -64,8 +60,6 @@ class IdentityOfRecords : public testing::Test
         {
             Mailbox->AddItem(kFolder, {{L"LastName", name}});
         }
-        state::Shared().gOlApplication = sandbox::MakeOutlook(Mailbox);
-        state::Shared().gOlNamespace = state::Shared().gOlApplication.GetObject(L"GetNamespace", L"MAPI");
         TheRun.Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 10L);
         TheRun.Items = TheRun.Folder.GetObject(L"Items");
         TheRun.HostRows =
@@ -75,7 +69,6 @@ class IdentityOfRecords : public testing::Test
             return TextOf(item.Get(L"LastName")) == TextOf(rows.ValueOf(L"Id"));
         };
     }
-    ~IdentityOfRecords() override { state::Shared() = {}; }
 
     std::wstring IdOf(long position)
     {
@@ -99,8 +92,6 @@ class IdentityOfRecords : public testing::Test
             .ItemType = automation::kContactItem, .RelationStatement = L"SELECT", .Write = Note}(TheRun);
     }
 
-    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
-    test_support::RecordingDisplay Display;
     exchange::Run TheRun{.Display = Display};
 };
 
@@ -181,7 +172,7 @@ TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsIdentifiedByItsKey)
 
 TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
 {
-    Mailbox->AddItem(L"Personal Folders\\Tasks", {{L"Subject", L"elsewhere"}});
+    Mailbox->AddItem(test_support::kTaskRecords.folder, {{L"Subject", L"elsewhere"}});
     const Object tasks = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId =
         exchange::EntryIdOf(tasks.GetObject(L"Items").GetObject(L"Item", 1L));

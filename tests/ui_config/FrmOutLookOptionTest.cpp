@@ -152,7 +152,7 @@ TEST_P(FrmOutLookOption, NoKeepsTheProfileAndClosesTheDialog)
 
 TEST_P(FrmOutLookOption, YesWritesTheProfileConnectsAnewAndDropsStaleFolders)
 {
-    mGround.AddFolderRow(10, L"Personal Folders\\Contacts", true);
+    mGround.AddFolderRow(10, test_support::kContactRecords.folder, true);
     mGround.AddFolderRow(10, L"Old store\\Contacts", false);
     const automation::Object before = state::Shared().gOlNamespace;
     Show([&](Robot& robot, const ShownDialog& dialog) {
