@@ -5,6 +5,7 @@
 
 #include "tests/support/CallWatch.h"
 #include "tests/support/MessageBoxes.h"
+#include "tests/support/Thoroughness.h"
 
 namespace
 {
@@ -28,6 +29,12 @@ class TaskFailure : public test_support::TaskExchange
         pass();
         return watch.HasFailed();
     }
+
+    // From one failing call to the next.
+    static long Step()
+    {
+        return test_support::ByThoroughness(8, 1, 1);
+    }
 };
 
 } // namespace
@@ -39,7 +46,7 @@ TEST_F(TaskFailure, FromOutlookEachTaskIsWrittenWholeOrNotAtAllAndTheNextRunConv
     long k = 0;
     for (bool failed = true; failed;)
     {
-        SCOPED_TRACE(++k);
+        SCOPED_TRACE(k += Step());
         for (const wchar_t* table : {L"TBLACTIVITY", L"TBLACCOUNT", L"TBLACCINFO"})
         {
             Execute(std::wstring(L"DELETE FROM ") + table);
@@ -71,7 +78,7 @@ TEST_F(TaskFailure, TowardsOutlookAPassThatDoesNotReportAFailureHasWrittenEveryt
     long k = 0;
     for (bool failed = true; failed;)
     {
-        SCOPED_TRACE(++k);
+        SCOPED_TRACE(k += Step());
         UseNewMailbox();
         exchange::Run run = NewRun();
         run.Pending.NewHostRecords.Add(1L, 0);
