@@ -95,7 +95,7 @@ class IdentityOfRecords : public test_support::OfficeFixture
     exchange::Run TheRun{.Display = Display};
 };
 
-using Pairs = std::vector<std::wstring>;
+using Written = std::vector<std::wstring>;
 
 } // namespace
 
@@ -103,12 +103,12 @@ TEST_F(IdentityOfRecords, AnItemAndARowThatHaveMovedAreFoundAgainInBothDirection
 {
     Propose(1, IdOf(3), 1, L"c", 0);
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"c c"}), gPairs);
+    EXPECT_EQ((Written{L"c c"}), gPairs);
     TheRun.Pending = {};
     TheRun.OverwrittenRows.clear();
     Propose(9, IdOf(2), 9, L"b", 1);
     EXPECT_FALSE(Export());
-    EXPECT_EQ((Pairs{L"c c", L"b b"}), gPairs);
+    EXPECT_EQ((Written{L"c c", L"b b"}), gPairs);
     EXPECT_EQ(0, TheRun.Report.Vanished());
 }
 
@@ -116,7 +116,7 @@ TEST_F(IdentityOfRecords, ANewItemThatHasMovedIsFoundAgain)
 {
     TheRun.Pending.NewOutlookItems.Add(L"2", 0).EntryId = IdOf(1);
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"a"}), gPairs);
+    EXPECT_EQ((Written{L"a"}), gPairs);
 }
 
 TEST_F(IdentityOfRecords, ADeletedRecordIsSkippedAndCounted)
@@ -129,7 +129,7 @@ TEST_F(IdentityOfRecords, ADeletedRecordIsSkippedAndCounted)
     EXPECT_FALSE(Import());
     TheRun.Pending.NewHostRecords.Add(1, 0).Key = L"x";
     EXPECT_FALSE(Export());
-    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(4, TheRun.Report.Vanished());
 }
 
@@ -140,7 +140,7 @@ TEST_F(IdentityOfRecords, APairThatIsOneNoLongerIsNotWritten)
     TheRun.Pending = {};
     Propose(1, IdOf(1), 2, L"b", 1);
     EXPECT_FALSE(Export());
-    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(2, TheRun.Report.Vanished());
 }
 
@@ -152,7 +152,7 @@ TEST_F(IdentityOfRecords, TheFolderIsAskedForItsOwnIdentityOnce)
     }
     const test_support::CallWatch calls;
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"b", L"c", L"a"}), gPairs);
+    EXPECT_EQ((Written{L"b", L"c", L"a"}), gPairs);
     EXPECT_EQ(3, calls.Of(L"NameSpace.GetItemFromID"));
     EXPECT_EQ(1, calls.Of(L"MAPIFolder.StoreID"));
     EXPECT_EQ(1 + 3, calls.Of(L"MAPIFolder.EntryID")); // its own, and those of the items' parents
@@ -166,7 +166,7 @@ TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsIdentifiedByItsKey)
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).FirstKey = L"a";
     TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = L"a";
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"a"}), gPairs);
+    EXPECT_EQ((Written{L"a"}), gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
 }
 
@@ -177,7 +177,7 @@ TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId =
         exchange::EntryIdOf(tasks.GetObject(L"Items").GetObject(L"Item", 1L));
     EXPECT_FALSE(Import());
-    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
 }
 
@@ -190,7 +190,7 @@ TEST_F(IdentityOfRecords, AnItemThatVanishesWhileItIsWrittenIsSkippedAndThePassG
     EXPECT_FALSE((exchange::PassToOutlook{.ItemType = automation::kContactItem,
                                           .RelationStatement = L"SELECT",
                                           .Write = NoteUnlessDeleted}(TheRun)));
-    EXPECT_EQ((Pairs{L"a a", L"c c"}), gPairs);
+    EXPECT_EQ((Written{L"a a", L"c c"}), gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
 }
 
@@ -211,5 +211,5 @@ TEST_F(IdentityOfRecords, AnItemOfAnotherStoreIsFoundAgainInThatStore)
     TheRun.Items = TheRun.Folder.GetObject(L"Items");
     TheRun.Pending.NewOutlookItems.Add(L"9", 0).EntryId = IdOf(1);
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"a"}), gPairs);
+    EXPECT_EQ((Written{L"a"}), gPairs);
 }
