@@ -104,7 +104,8 @@ TEST(EveryDialog, FreesEveryByteThatItAllocates)
     const StaticTexts texts;
     const ProcessLanguage language(Language::English);
     Office office(Edition::English, kRecordsOfKind);
-    const test_support::Use use = {.kind = &test_support::kKinds[0], .direction = 3, .rule = 4, .tour = true};
+    const test_support::Use use = {
+        .kind = &test_support::kContactRecords, .direction = 3, .rule = 4, .tour = true};
     const auto useSeveralTimes = [&](int times) {
         for (int i = 0; i < times; ++i)
         {
