@@ -1,169 +1,17 @@
 // The collection where the folder has a table that is honest, or lies: what is proposed is the same as
 // without a table, and an honest table saves nearly all calls.
-#include "calendar/Calendar.h"
-#include "contacts/Contacts.h"
-#include "run/ChangeCollection.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
-#include "tasks/Tasks.h"
+#include "tests/run/FolderTableFixture.h"
 #include "tests/run/RunsFixture.h"
-#include "tests/run/Sides.h"
 #include "tests/support/CallWatch.h"
-#include "tests/support/FakeHost.h"
-
-#include "automation/Dates.h"
 
 namespace
 {
 
 using namespace test_support;
-using automation::Date;
 using automation::Object;
-using automation::Value;
 using state::Shared;
-using NamedValues = sandbox::Mailbox::NamedValues;
 
-constexpr Date kStart{37747.375}; // 2003-05-06 09:00
-
-struct TableKind
-{
-    const exchange::Kind& kind;
-    const wchar_t* folder;
-    long number; // OlDefaultFolders
-    NamedValues (*item)(const std::wstring& name);
-    Record (*row)(const std::wstring& name);
-};
-
-NamedValues Contact(const std::wstring& name)
-{
-    return {{L"LastName", name}, {L"FirstName", L"Ann"}, {L"CompanyName", L"Harbour"}};
-}
-
-Record ContactRow(const std::wstring& name)
-{
-    return {{L"F_SURNAME", name}, {L"F_GIVENNAME", L"Ann"}, {L"ACC_SNAME", L"Harbour"}};
-}
-
-NamedValues Task(const std::wstring& name)
-{
-    return {{L"Subject", name},
-            {L"Categories", L"Phone"},
-            {L"StartDate", Date{automation::DayOf(kStart)}},
-            {L"Companies", L"Harbour"}};
-}
-
-Record TaskRow(const std::wstring& name)
-{
-    return {{L"F_ACTNAME", name},
-            {L"F_ACTTYPE", L"Phone"},
-            {L"F_ACTPSTIME", Date{automation::DayOf(kStart)}},
-            {L"ACC_SNAME", L"Harbour"}};
-}
-
-NamedValues Appointment(const std::wstring& name)
-{
-    return {{L"Subject", name},
-            {L"Categories", L"Meeting"},
-            {L"Start", kStart},
-            {L"End", automation::PlusMinutes(kStart, 60)}};
-}
-
-Record Entry(const std::wstring& name)
-{
-    return {{L"F_ACTNAME", name},
-            {L"F_ACTTYPE", L"Meeting"},
-            {L"F_ACTESDATE", Date{automation::DayOf(kStart)}},
-            {L"F_ACTESTIME", Date{0.375}},
-            {L"F_ACTEETIME", Value::Null()},
-            {L"FR_NAME", Value::Null()}};
-}
-
-const TableKind kContactTable{contacts::kContacts, L"Personal Folders\\Contacts", 10, Contact, ContactRow};
-const TableKind kTaskTable{tasks::kTasks, L"Personal Folders\\Tasks", 13, Task, TaskRow};
-const TableKind kCalendarTable{calendar::kCalendar, L"Personal Folders\\Calendar", 9, Appointment, Entry};
-const std::array<std::reference_wrapper<const TableKind>, 3> kTables = {kContactTable, kTaskTable,
-                                                                        kCalendarTable};
-
-class TableOfFolder : public testing::Test
-{
-  protected:
-    TableOfFolder()
-    {
-        Host->UserId = L"1";
-        Shared().gSynParameter = {};
-        Shared().gSynParameter.TransConflictOption = state::kNotifyMe;
-        Shared().gSynParameter.TransType = state::kBothWays;
-        StartAgain();
-    }
-    ~TableOfFolder() override { Shared() = {}; }
-
-    // A mailbox without items and switches.
-    void StartAgain()
-    {
-        Mailbox = sandbox::MakeMailbox();
-        Shared().gOlApplication = sandbox::MakeOutlook(Mailbox);
-        Shared().gOlNamespace = Shared().gOlApplication.GetObject(L"GetNamespace", L"MAPI");
-    }
-
-    // Items 1 to count; of every second one there is a row as well, and of some that Outlook does not have.
-    void Fill(const TableKind& kind, long count)
-    {
-        Rows->clear();
-        for (long i = 1; i <= count; ++i)
-        {
-            const std::wstring name = L"Record with number " + std::to_wstring(i);
-            Mailbox->AddItem(kind.folder, kind.item(name));
-            Rows->push_back(kind.row(i % 2 == 0 ? name : name + L" of the host"));
-        }
-    }
-
-    static Object Folder(const TableKind& kind)
-    {
-        return Shared().gOlNamespace.GetObject(L"GetDefaultFolder", kind.number);
-    }
-
-    // What is proposed, in order.
-    std::wstring Collect(const TableKind& kind)
-    {
-        exchange::Run run{.Display = Display, .Folder = Folder(kind)};
-        run.Items = run.Folder.GetObject(L"Items");
-        run.HostRows = MakeRows(Rows);
-        run::ChangeCollection collection(kind.kind, run);
-        EXPECT_FALSE(collection.CollectToOutlook() || collection.CollectFromOutlook());
-        std::wstring text;
-        const auto add = [&](const std::wstring& word) { text += word + L" "; };
-        for (const auto& row : run.Pending.NewHostRecords)
-        {
-            add(L"+" + std::to_wstring(row.RecordBookmark) + L"=" + row.Key);
-        }
-        for (const auto& row : run.Pending.ChangedHostRecords)
-        {
-            add(std::to_wstring(row.RecordBookmark) + L"=" + row.Key);
-        }
-        for (const auto& item : run.Pending.ChangedOutlookItems)
-        {
-            add(item.ItemIndex + L"=" + item.EntryId);
-        }
-        for (const auto& item : run.Pending.NewOutlookItems)
-        {
-            add(L"+" + item.ItemIndex + L"=" + item.EntryId);
-        }
-        return text;
-    }
-
-    std::wstring CollectByItems(const TableKind& kind)
-    {
-        Mailbox->Switch(L"NoTable", true);
-        const std::wstring proposed = Collect(kind);
-        Mailbox->Switch(L"NoTable", false);
-        return proposed;
-    }
-
-    WithFakeHost Host;
-    RecordingDisplay Display;
-    sandbox::MailboxRef Mailbox;
-    std::shared_ptr<Records> Rows = std::make_shared<Records>();
-};
+using TableOfFolder = FolderTableFixture;
 
 constexpr long kFew = 12;
 
@@ -171,7 +19,7 @@ TEST_F(TableOfFolder, ProposesWhatTheItemsDo)
 {
     for (const TableKind& kind : kTables)
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, kFew);
         const std::wstring expected = CollectByItems(kind);
         const CallWatch calls;
@@ -194,7 +42,7 @@ TEST_F(TableOfFolder, TakesTheArraysOfEitherOrientation)
     {
         for (long count = 1; count <= kFew; ++count)
         {
-            StartAgain();
+            UseNewMailbox();
             Fill(kind, count);
             const std::wstring expected = CollectByItems(kind);
             for (const bool isByRow : {false, true})
@@ -220,7 +68,7 @@ TEST_F(TableOfFolder, OneThatLiesIsLeftForTheItems)
     {
         for (const std::vector<Lie>& lies : all)
         {
-            StartAgain();
+            UseNewMailbox();
             Fill(kind, kFew);
             const std::wstring expected = CollectByItems(kind);
             for (const Lie& lie : lies)
@@ -238,7 +86,7 @@ TEST_F(TableOfFolder, DatesInUtcAreLeftForTheItems)
 {
     for (const TableKind& kind : {std::cref(kTaskTable), std::cref(kCalendarTable)})
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, kFew);
         const std::wstring expected = CollectByItems(kind);
         Mailbox->Switch(L"TableUtcMinutes", 480L);
@@ -250,10 +98,11 @@ TEST_F(TableOfFolder, StaleRowsAtItsStartAreLeftForTheItems)
 {
     for (const TableKind& kind : kTables)
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, kFew);
-        const Object item = Folder(kind).GetObject(L"Items").GetObject(L"Item", 2L);
-        const wchar_t* const property = kind.number == 10 ? L"LastName" : L"Subject";
+        const Object item = DefaultFolder(kind).GetObject(L"Items").GetObject(L"Item", 2L);
+        const wchar_t* const property =
+            kind.itemKind == sandbox::ItemKind::Contact ? L"LastName" : L"Subject";
         const auto rename = [&](const Value& name) {
             item.Put(property, name);
             item.Call(L"Save");
@@ -272,9 +121,9 @@ TEST_F(TableOfFolder, ARecordWithALongTextIsReadFromItsItem)
 {
     Fill(kContactTable, kFew);
     const std::wstring common(255, L'x');
-    Mailbox->AddItem(kContactTable.folder, Contact(common + L"a"));
-    Mailbox->AddItem(kContactTable.folder, Contact(common + L"b"));
-    Rows->push_back(ContactRow(common + L"b"));
+    Mailbox->AddItem(kContactTable.folder, kContactTable.item(common + L"a"));
+    Mailbox->AddItem(kContactTable.folder, kContactTable.item(common + L"b"));
+    Rows->push_back(kContactTable.row(common + L"b"));
     const std::wstring expected = CollectByItems(kContactTable);
     const CallWatch calls;
     EXPECT_EQ(expected, Collect(kContactTable));
@@ -288,8 +137,8 @@ TEST_F(TableOfFolder, ATextOf255BytesIsTakenForCutAsWellAsOneOf255Characters)
     Fill(kContactTable, kFew);
     const std::wstring common(127, L'中');
     Mailbox->Switch(L"TableTextLength", 127L);
-    Mailbox->AddItem(kContactTable.folder, Contact(common + L"a"));
-    Rows->push_back(ContactRow(common));
+    Mailbox->AddItem(kContactTable.folder, kContactTable.item(common + L"a"));
+    Rows->push_back(kContactTable.row(common));
     EXPECT_EQ(CollectByItems(kContactTable), Collect(kContactTable));
 }
 
@@ -297,7 +146,7 @@ TEST_F(TableOfFolder, ItemsOfOtherKindsAmongTheRowsAreNoRecords)
 {
     for (const TableKind& kind : kTables)
     {
-        StartAgain();
+        UseNewMailbox();
         Mailbox->Switch(L"ForeignItems", true);
         Fill(kind, kFew);
         Rows->push_back(kind.row(L""));
@@ -310,7 +159,7 @@ TEST_F(TableOfFolder, ItemsOfOtherKindsAmongTheRowsAreNoRecords)
 
 TEST_F(TableOfFolder, ItemsOfDerivedClassesAreReadFromIt)
 {
-    NamedValues derived = Contact(L"Ode");
+    auto derived = kContactTable.item(L"Ode");
     derived.emplace_back(L"MessageClass", L"ipm.contact.Acme");
     Mailbox->AddItem(kContactTable.folder, derived);
     Fill(kContactTable, kFew);
@@ -324,9 +173,9 @@ TEST_F(TableOfFolder, TwoThousandContactsOrEntriesTakeFortyCallsToOutlook)
 {
     for (const TableKind& kind : {std::cref(kContactTable), std::cref(kCalendarTable)})
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, 2000);
-        Folder(kind).GetObject(L"Items").Get(L"Count");
+        DefaultFolder(kind).GetObject(L"Items").Get(L"Count");
         const CallWatch calls;
         Collect(kind);
         const long ofOutlook = calls.CountIf([](const std::wstring& name) {
@@ -353,7 +202,7 @@ TEST_F(TableOfFolder, ARangeOfTheCalendarOpensTheRecurringEntriesAlone)
     Shared().gSynParameter.CalendarTransItem = state::kFutureEntries;
     for (const long position : {10L, 20L})
     {
-        const Object item = Folder(kCalendarTable).GetObject(L"Items").GetObject(L"Item", position);
+        const Object item = DefaultFolder(kCalendarTable).GetObject(L"Items").GetObject(L"Item", position);
         item.GetObject(L"GetRecurrencePattern").Put(L"NoEndDate", true);
         item.Call(L"Save");
     }
@@ -375,7 +224,7 @@ TEST_F(RunOverStaleTable, WritesNoPairThatTheItemsDoNotMake)
                          {{L"LastName", i == kStale ? L"Host" : L"Other"}, {L"FirstName", L"Ann"}});
     }
     AddHostRecord(kContactRun);
-    const Object items = Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 10L).GetObject(L"Items");
+    const Object items = DefaultFolder(kContactKind).GetObject(L"Items");
     const Object item = items.GetObject(L"Item", kStale);
     Mailbox->Switch(L"TableStale", true);
     item.Put(L"LastName", L"Renamed");
@@ -398,9 +247,9 @@ TEST_F(RunFromOutlook, APairsPropertiesAreReadOnceInTheApplyPass)
     {
         const std::wstring name = L"Name" + std::to_wstring(i);
         Mailbox->AddItem(kContactRun.folder, {{L"LastName", name}, {L"FirstName", L"Ann"}});
-        TheHost.Database().Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
-                                   L"VALUES (hex(randomblob(16)),1,'" +
-                                   name + L"','Ann')");
+        Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                L"VALUES (hex(randomblob(16)),1,'" +
+                name + L"','Ann')");
     }
     const CallWatch calls;
     EXPECT_FALSE(Run(kContactRun, 1, Answer::Accept).failed);
