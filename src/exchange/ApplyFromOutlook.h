@@ -32,7 +32,8 @@ struct RecordWriter
 {
     void (*Insert)(Run& run, const automation::ItemView& item);
     void (*Update)(Run& run, const automation::ItemView& item);
-    // Tells the user of a mode that is neither; called within a transaction, where the host contract reports it.
+    // Tells the user of a mode that is neither; called within a transaction, where the host contract reports
+    // it.
     void (*ShowInvalidMode)();
 };
 

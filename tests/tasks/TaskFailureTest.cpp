@@ -31,10 +31,7 @@ class TaskFailure : public test_support::TaskExchange
     }
 
     // From one failing call to the next.
-    static long Step()
-    {
-        return test_support::ByThoroughness(8, 1, 1);
-    }
+    static long Step() { return test_support::ByThoroughness(8, 1, 1); }
 };
 
 } // namespace
