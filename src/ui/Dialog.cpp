@@ -256,12 +256,11 @@ INT_PTR Dialog::HandleInit()
         }
     });
     CenterOverActiveBefore();
-    if (const int first = FirstFocus(); first != 0)
-    {
-        SetFocus(GetDlgItem(mWindow, first));
-        return FALSE; // keeps that focus
-    }
-    return TRUE;
+    // Windows would take the first control of the template, whatever OnInit has made of the tab order.
+    const int first = FirstFocus();
+    const HWND focused = first != 0 ? GetDlgItem(mWindow, first) : GetNextDlgTabItem(mWindow, nullptr, FALSE);
+    SendMessageW(mWindow, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(focused), TRUE);
+    return FALSE; // keeps that focus
 }
 
 // Shown before the caption and, since the dialogs have no owner, in the task bar.
