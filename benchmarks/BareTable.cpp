@@ -91,7 +91,7 @@ void ReadSecondKeys(const Kind& kind, const exchange::Run& run,
     const Value store = folder.Get(folder.IdOf(L"StoreID"));
     for (long position = 0; position < partners; ++position)
     {
-        const Value entryId = blocks[static_cast<size_t>(position / kBlock)].At(0, position % kBlock);
+        const Value entryId(blocks[static_cast<size_t>(position / kBlock)].At(0, position % kBlock));
         VARIANT reversed[] = {store.Raw(), entryId.Raw()};
         const RawObject item(session.Invoke(openId, DISPATCH_METHOD | DISPATCH_PROPERTYGET, reversed, 2));
         item.Get(item.IdOf(kind.SecondItemKey));

@@ -114,11 +114,13 @@ endfunction()
 set(telvix_longest_tests boundary_tests endurance_tests faults_tests hostile_tests end_to_end_tests
   end_to_end_tests_zh ui_config_tests ui_tests)
 
-# telvix_add_test(NAME [COMMAND arg...] [LOCALE name] [TIMEOUT seconds] [FILES file...] [USES target...]): a test
-# that ctest runs, in a lane of its own. Without COMMAND it runs the program of that name. ./test --changed runs it
-# when one of its files, or a file of the targets that it loads at run time, is newer than its last success.
+# telvix_add_test(NAME [COMMAND arg...] [LOCALE name] [TIMEOUT seconds] [FILES file...] [USES target...]
+# [TESTS filter] [BRIEF filter]): a test that ctest runs, in a lane of its own. Without COMMAND it runs the program of
+# that name. TESTS is the part of a GoogleTest program that runs, as a filter; all of it by default. ./test --changed
+# runs a test when one of its files, or a file of the targets that it loads at run time, is newer than its last
+# success, and of it only the part that BRIEF names.
 function(telvix_add_test name)
-  cmake_parse_arguments(arg "" "LOCALE;TIMEOUT" "COMMAND;FILES;USES" ${ARGN})
+  cmake_parse_arguments(arg "" "LOCALE;TIMEOUT;TESTS;BRIEF" "COMMAND;FILES;USES" ${ARGN})
   if(NOT arg_COMMAND)
     set(arg_COMMAND $<TARGET_FILE:${name}>)
     list(APPEND arg_USES ${name})
@@ -132,9 +134,16 @@ function(telvix_add_test name)
   endif()
   add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/scripts/in_lane ${arg_COMMAND})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
-  if(arg_LOCALE)
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT LC_ALL=${arg_LOCALE})
-  endif()
+  set(environment)
+  foreach(pair "LOCALE=LC_ALL" "TESTS=GTEST_FILTER" "BRIEF=TELVIX_BRIEF_TESTS")
+    string(REPLACE "=" ";" pair ${pair})
+    list(GET pair 0 argument)
+    list(GET pair 1 variable)
+    if(arg_${argument})
+      list(APPEND environment "${variable}=${arg_${argument}}")
+    endif()
+  endforeach()
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}")
   list(FIND telvix_longest_tests ${name} place)
   if(place GREATER_EQUAL 0)
     math(EXPR cost "100 - ${place}")

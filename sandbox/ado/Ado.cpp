@@ -2,10 +2,14 @@
 
 #include "sandbox/ado/Recordset.h"
 
+#include <utility>
+
 namespace sandbox
 {
 
-AdoInProcess::AdoInProcess() : mClass(kRecordsetClass, CLSCTX_INPROC_SERVER, [] { return MakeRecordset(); })
+AdoInProcess::AdoInProcess() : AdoInProcess([] { return MakeRecordset(); }) {}
+
+AdoInProcess::AdoInProcess(Creator create) : mClass(kRecordsetClass, CLSCTX_INPROC_SERVER, std::move(create))
 {
     RegisterProgId(kRecordsetProgId, kRecordsetClass);
 }

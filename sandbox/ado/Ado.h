@@ -16,6 +16,8 @@ class AdoInProcess
 {
   public:
     AdoInProcess();
+    // With recordsets that are made like this.
+    explicit AdoInProcess(Creator create);
 
   private:
     RegisteredClass mClass;

@@ -144,8 +144,11 @@ void Cursor::GoToBookmark(double bookmark)
         RefuseWithoutRecord();
     }
     const double row = mAwkward.opaqueBookmarks ? (bookmark - kOpaqueBase) / kOpaqueStep : bookmark;
-    const auto found =
-        std::ranges::find_if(mOrder, [&](size_t one) { return static_cast<double>(one + 1) == row; });
+    const auto isIt = [&](size_t one) { return static_cast<double>(one + 1) == row; };
+    // A real cursor goes there at once. Rows that nothing sorts or filters are at the place of their number.
+    const auto start = row >= 1 && row <= RowCount() ? mOrder.begin() + static_cast<std::ptrdiff_t>(row - 1)
+                                                     : mOrder.begin();
+    const auto found = isIt(*start) ? start : std::ranges::find_if(mOrder, isIt);
     if (found == mOrder.end())
     {
         RefuseArgument();

@@ -21,12 +21,11 @@ ValueGrid::ValueGrid(Value array) : mArray(std::move(array))
     mSecond = static_cast<long>(mArray.Raw().parray->rgsabound[0].cElements);
 }
 
-Value ValueGrid::At(long first, long second) const
+const VARIANT& ValueGrid::At(long first, long second) const
 {
     // The first index moves fastest through the memory.
     const VARIANT* const elements = static_cast<const VARIANT*>(mArray.Raw().parray->pvData);
-    return Value(
-        elements[static_cast<size_t>(second) * static_cast<size_t>(mFirst) + static_cast<size_t>(first)]);
+    return elements[static_cast<size_t>(second) * static_cast<size_t>(mFirst) + static_cast<size_t>(first)];
 }
 
 } // namespace automation

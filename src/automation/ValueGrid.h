@@ -18,8 +18,8 @@ class ValueGrid
     long First() const noexcept { return mFirst; }
     long Second() const noexcept { return mSecond; }
 
-    // A copy of the element (first, second), which exists.
-    Value At(long first, long second) const;
+    // The element (first, second), which exists; it lives as long as the grid.
+    const VARIANT& At(long first, long second) const;
 
   private:
     Value mArray;

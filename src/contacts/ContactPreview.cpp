@@ -1,6 +1,6 @@
 #include "contacts/ContactPreview.h"
 
-#include "links/Accounts.h"
+#include "links/AccountLinks.h"
 
 namespace contacts
 {

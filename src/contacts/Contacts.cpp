@@ -7,7 +7,7 @@
 #include "data/Literals.h"
 #include "data/Permissions.h"
 #include "exchange/MatchKeys.h"
-#include "links/Accounts.h"
+#include "links/AccountLinks.h"
 #include "resources/Strings.h"
 #include "state/Remarks.h"
 #include "ui/ShowMessageBox.h"
@@ -248,13 +248,9 @@ void Update(exchange::Run& run, const automation::ItemView& item)
     }
 }
 
-// The contract reports another mode within a transaction.
 void ShowInvalidMode()
 {
-    const Host host;
-    data::Transaction transaction(host);
     ui::ShowMessageBox(L"Error: Invalid Operation", MB_ICONERROR, L"SynOlContactToSynContact");
-    transaction.Commit();
 }
 
 } // namespace
@@ -266,15 +262,7 @@ void SynSynContactToOlContact(exchange::Run& run, data::RecordMode /*mode*/, con
 
 long SynOlContactToSynContact(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
-    const bool failed = state::FailedAndTold([&] {
-        switch (mode)
-        {
-        case data::kNewRecord: Insert(run, item); break;
-        case data::kExistingRecord: Update(run, item); break;
-        default: ShowInvalidMode(); break;
-        }
-    });
-    return failed ? -1 : 0;
+    return exchange::WriteRecord({Insert, Update, ShowInvalidMode}, run, mode, item);
 }
 
 constexpr exchange::PassToOutlook SynContactToOutlook{

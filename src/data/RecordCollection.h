@@ -6,6 +6,7 @@
 #include "automation/Text.h"
 
 #include <algorithm>
+#include <deque>
 #include <string>
 #include <utility>
 #include <vector>
@@ -89,7 +90,7 @@ class RecordCollection
         }
     }
 
-    std::vector<Record> mRecords;
+    std::deque<Record> mRecords; // one stays where it is while others come
     std::vector<std::wstring>
         mKeys; // upper case, empty for none; of the records up to the last one with a key
 };

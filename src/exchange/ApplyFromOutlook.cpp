@@ -1,5 +1,6 @@
 #include "exchange/ApplyFromOutlook.h"
 
+#include "data/Host.h"
 #include "exchange/Identity.h"
 #include "resources/Strings.h"
 #include "state/Remarks.h"
@@ -99,6 +100,25 @@ bool PassFromOutlook::operator()(Run& run) const
         WalkWithProgress(run.Display, run.Pending.ChangedOutlookItems.Count(),
                          [&](long position) { Update(run, *this, position); });
     });
+}
+
+long WriteRecord(const RecordWriter& writer, Run& run, data::RecordMode mode,
+                 const automation::ItemView& item)
+{
+    const bool failed = state::FailedAndTold([&] {
+        switch (mode)
+        {
+        case data::kNewRecord: writer.Insert(run, item); break;
+        case data::kExistingRecord: writer.Update(run, item); break;
+        default: {
+            const data::Host host;
+            data::Transaction transaction(host);
+            writer.ShowInvalidMode();
+            transaction.Commit();
+        }
+        }
+    });
+    return failed ? -1 : 0;
 }
 
 } // namespace exchange

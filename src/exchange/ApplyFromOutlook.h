@@ -27,4 +27,18 @@ struct PassFromOutlook
     bool operator()(Run& run) const;
 };
 
+// The functions of a kind that write an item, each in its own transaction; they throw to report a failure.
+struct RecordWriter
+{
+    void (*Insert)(Run& run, const automation::ItemView& item);
+    void (*Update)(Run& run, const automation::ItemView& item);
+    // Tells the user of a mode that is neither; called within a transaction, where the host contract reports
+    // it.
+    void (*ShowInvalidMode)();
+};
+
+// Writes one item in its mode, as PassFromOutlook::Write; an error is reported as a remark and as -1.
+long WriteRecord(const RecordWriter& writer, Run& run, data::RecordMode mode,
+                 const automation::ItemView& item);
+
 } // namespace exchange

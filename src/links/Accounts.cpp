@@ -1,29 +1,15 @@
 #include "links/Accounts.h"
 
-#include "automation/Text.h"
-#include "data/FieldFormat.h"
-#include "data/KeptRow.h"
+#include "data/HostRow.h"
 #include "data/Literals.h"
-#include "data/Lookups.h"
-#include "data/Permissions.h"
 #include "links/AccountInfo.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
 
-#include <algorithm>
-#include <optional>
-#include <vector>
-
 namespace links
 {
 
-using automation::Object;
-using automation::TextOrEmpty;
-using automation::Trimmed;
-using automation::Value;
 using data::Host;
-using data::HostRow;
-using data::InsertRow;
 using data::QuotedText;
 
 namespace
@@ -32,195 +18,6 @@ namespace
 // F_ACCCURRIDX of a new account, by interface language.
 constexpr long kChineseCurrency = 1;
 constexpr long kOtherCurrency = 2;
-
-struct AddressColumn
-{
-    const wchar_t* column;
-    const wchar_t* property;
-};
-
-constexpr AddressColumn kAddressColumns[] = {
-    {L"F_ADDRCOUNTRY", L"BusinessAddressCountry"},   {L"F_ADDRPROVINCE", L"BusinessAddressState"},
-    {L"F_ADDRCITY", L"BusinessAddressCity"},         {L"F_ADDRDETAIL", L"BusinessAddressStreet"},
-    {L"F_POSTALCODE", L"BusinessAddressPostalCode"},
-};
-
-// A company's account as the host knows it; empty keys where it has none, or the user may not make one.
-struct Links
-{
-    std::wstring account;
-    std::wstring address;
-};
-
-void AddAddressColumns(const automation::ItemView& item, HostRow& address)
-{
-    for (const AddressColumn& one : kAddressColumns)
-    {
-        address.Add(one.column, item.Get(one.property));
-    }
-    address.Add(L"F_ISPRIMARY", true);
-}
-
-// What the links of a contact change in other tables.
-class AccountTables
-{
-  public:
-    AccountTables(const Host& host, data::FieldCatalogue& catalogue, const automation::ItemView& item)
-        : mHost(host), mCatalogue(catalogue), mItem(item)
-    {
-    }
-    AccountTables(const AccountTables&) = delete;
-    AccountTables& operator=(const AccountTables&) = delete;
-    virtual ~AccountTables() = default;
-
-    const Host& TheHost() const noexcept { return mHost; }
-    data::FieldCatalogue& Catalogue() const noexcept { return mCatalogue; }
-    const automation::ItemView& Item() const noexcept { return mItem; }
-
-    // The user's right.
-    virtual bool May(long operation) = 0;
-    // Give the keys of the new rows.
-    virtual std::wstring AddAccount(const std::wstring& companyName) = 0;
-    virtual std::wstring AddAddress(const std::wstring& account) = 0;
-    virtual void OverwriteAddress(const std::wstring& key) = 0;
-
-  private:
-    const Host& mHost;
-    data::FieldCatalogue& mCatalogue;
-    const automation::ItemView& mItem;
-};
-
-class WrittenTables : public AccountTables
-{
-  public:
-    using AccountTables::AccountTables;
-
-    bool May(long operation) override
-    {
-        return data::CheckPermission(data::kAccountRecord, data::kUsualScope, operation);
-    }
-
-    std::wstring AddAccount(const std::wstring& companyName) override
-    {
-        return CreateAccount(TheHost(), Catalogue(), companyName, Rollback::ByTransaction);
-    }
-
-    std::wstring AddAddress(const std::wstring& account) override
-    {
-        InsertRow address(Catalogue());
-        AddAddressColumns(Item(), address);
-        std::wstring key = TheHost().NewGuid();
-        address.PutFirst(L"F_ADDRID,F_ACCID", QuotedText(key) + L"," + QuotedText(account));
-        address.Insert(TheHost(), L"TBLADDRESS");
-        return key;
-    }
-
-    void OverwriteAddress(const std::wstring& key) override
-    {
-        data::UpdateRow address(Catalogue());
-        AddAddressColumns(Item(), address);
-        address.Update(TheHost(), L"TBLADDRESS", L"F_ADDRID", key);
-    }
-};
-
-// For a preview: keeps what would be written.
-class KeptTables : public AccountTables
-{
-  public:
-    using AccountTables::AccountTables;
-
-    bool May(long operation) override
-    {
-        const bool may = data::HasPermission(data::kAccountRecord, data::kUsualScope, operation);
-        if (!may)
-        {
-            data::TellMissingRight(data::kAccountRecord, operation);
-        }
-        return may;
-    }
-
-    std::wstring AddAccount(const std::wstring& companyName) override
-    {
-        NewCompany = data::TextAsHeld(Catalogue(), L"F_ACCSNAME", companyName);
-        return kNewKey;
-    }
-
-    std::wstring AddAddress(const std::wstring& /*account*/) override
-    {
-        KeepAddress();
-        return kNewKey;
-    }
-
-    void OverwriteAddress(const std::wstring& /*key*/) override { KeepAddress(); }
-
-    std::wstring NewCompany;
-    std::vector<data::HeldColumn> Address; // empty where none is written
-
-  private:
-    static constexpr wchar_t kNewKey[] = L"new";
-
-    void KeepAddress()
-    {
-        data::KeptRow address(Catalogue());
-        AddAddressColumns(Item(), address);
-        Address = address.Columns();
-    }
-};
-
-// The key of the account's new primary address, empty where the user may not add it.
-std::wstring CreateAddress(AccountTables& tables, const std::wstring& account)
-{
-    return tables.May(data::kAddOperation) ? tables.AddAddress(account) : std::wstring();
-}
-
-// The key of the address, empty where the user may not change it.
-std::wstring OverwriteAddress(AccountTables& tables, const std::wstring& key)
-{
-    if (!tables.May(data::kModifyOperation))
-    {
-        return {};
-    }
-    tables.OverwriteAddress(key);
-    return key;
-}
-
-// Looks an account up by its company's name as the column holds it: cut as it was when the account was made.
-std::wstring AccountFilter(data::FieldCatalogue& catalogue, const std::wstring& companyName)
-{
-    return L"F_ACCSNAME=" + QuotedText(data::TextAsHeld(catalogue, L"F_ACCSNAME", companyName));
-}
-
-Links LinksOfNewAccount(AccountTables& tables, const std::wstring& companyName)
-{
-    if (!tables.May(data::kAddOperation))
-    {
-        return {}; // and without an account there is nothing that an address could belong to
-    }
-    const std::wstring account = tables.AddAccount(companyName);
-    return {account, CreateAddress(tables, account)};
-}
-
-Links LinksOfFoundAccount(AccountTables& tables, const automation::Recordset& accounts)
-{
-    const std::wstring account = automation::TextOf(accounts.ValueOf(L"F_ACCID"));
-    const std::wstring address = TextOrEmpty(accounts.ValueOf(L"M_ADDR_ID"));
-    return {account, address.empty() ? CreateAddress(tables, account) : OverwriteAddress(tables, address)};
-}
-
-void OpenAccounts(AccountTables& tables, const std::wstring& companyName, automation::Recordset& accounts)
-{
-    data::ThrowUnless(tables.TheHost().OpenRecordset(accounts, L"AccountMyAccount",
-                                                     AccountFilter(tables.Catalogue(), companyName)) >= 0,
-                      L"OpenRecordset");
-}
-
-Links LinksOfCompany(AccountTables& tables, const std::wstring& companyName)
-{
-    automation::Recordset accounts;
-    const automation::RecordsetCloser closer(accounts);
-    OpenAccounts(tables, companyName, accounts);
-    return accounts.AtEnd() ? LinksOfNewAccount(tables, companyName) : LinksOfFoundAccount(tables, accounts);
-}
 
 // table: of the account or its information. A pending transaction is the host's own: the host then decides
 // about the rows.
@@ -234,113 +31,12 @@ void DeleteOf(const std::wstring& key, const wchar_t* table, const Host& host)
     });
 }
 
-// The account of the contact in the host; nothing when the host cannot say.
-std::optional<std::wstring> PresentAccount(const std::wstring& contactKey)
-{
-    return state::Trapped(std::optional<std::wstring>(), [&] {
-        return std::optional(
-            TextOrEmpty(data::FindValue(L"TBLCONTACT", L"F_CNTCTID", contactKey, L"F_ACCID")));
-    });
-}
-
-bool IsSameCompany(const std::wstring& one, const std::wstring& other)
-{
-    return automation::UpperCased(Trimmed(one)) == automation::UpperCased(Trimmed(other));
-}
-
-// Looks under the name that the host has, for the account that the contact has: another one may have the same
-// name. No links where that account is not to be seen, so that the contact stays with it.
-Links LinksOfPresentAccount(AccountTables& tables, const PresentContact& present)
-{
-    const auto account = PresentAccount(present.Key);
-    if (!account)
-    {
-        return {};
-    }
-    automation::Recordset accounts;
-    const automation::RecordsetCloser closer(accounts);
-    OpenAccounts(tables, present.Company, accounts);
-    while (!accounts.AtEnd() && TextOrEmpty(accounts.ValueOf(L"F_ACCID")) != *account)
-    {
-        accounts.MoveNext();
-    }
-    return accounts.AtEnd() ? Links() : LinksOfFoundAccount(tables, accounts);
-}
-
-// If the user may not make the link, keep the existing contact's one. A key is written whole: cut to the size
-// of its column it would name no row, and a driver may put braces around a GUID.
-void AddLink(HostRow& contact, bool isNew, const wchar_t* column, const std::wstring& key)
-{
-    if (!key.empty())
-    {
-        contact.AddLiteral(column, QuotedText(key));
-    }
-    else if (isNew)
-    {
-        contact.Add(column, key);
-    }
-}
-
-// Whether the contact moves to another account; false when the host cannot say.
-bool ChangesAccount(const std::wstring& contactKey, const std::wstring& account)
-{
-    return PresentAccount(contactKey).value_or(account) != account;
-}
-
-// An address belongs to its account: a contact that moves to another account leaves the address behind, even
-// if the user may not give it another one.
-void AddLinks(HostRow& contact, const Links& links, const PresentContact* present)
-{
-    AddLink(contact, present == nullptr, L"F_ACCID", links.account);
-    AddLink(contact, present == nullptr, L"F_CNTADDRID", links.address);
-    const bool isAccountOnly = !links.account.empty() && links.address.empty();
-    if (present != nullptr && isAccountOnly && ChangesAccount(present->Key, links.account))
-    {
-        contact.Add(L"F_CNTADDRID", Value::Null());
-    }
-}
-
-// present: null for a new contact.
-void AddLinksOf(AccountTables& tables, HostRow& contact, const PresentContact* present)
-{
-    const std::wstring companyName = Trimmed(TextOrEmpty(tables.Item().Get(L"CompanyName")));
-    if (companyName.empty())
-    {
-        contact.Add(L"F_ACCID", Value::Null());
-        contact.Add(L"F_CNTADDRID", Value::Null());
-        return;
-    }
-    const bool stays = present != nullptr && IsSameCompany(companyName, present->Company);
-    AddLinks(contact, stays ? LinksOfPresentAccount(tables, *present) : LinksOfCompany(tables, companyName),
-             present);
-}
-
-const Value* FindColumn(const std::vector<data::HeldColumn>& columns, std::wstring_view name)
-{
-    const auto found = std::ranges::find(columns, name, &data::HeldColumn::Column);
-    return found == columns.end() ? nullptr : &found->Value;
-}
-
-std::wstring NameOfAccount(const std::wstring& key)
-{
-    return TextOrEmpty(data::FindValue(L"TBLACCOUNT", L"F_ACCID", key, L"F_ACCSNAME"));
-}
-
-void AddAddress(bool hasNone, const std::vector<data::HeldColumn>& address, AccountPreview& preview)
-{
-    for (const AddressColumn& one : kAddressColumns)
-    {
-        const Value* const value = hasNone ? nullptr : FindColumn(address, one.column);
-        preview.Address.push_back({one.property, value == nullptr ? Value::Null() : *value});
-    }
-}
-
 } // namespace
 
 std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, const std::wstring& companyName,
                            Rollback rollback)
 {
-    InsertRow account(catalogue);
+    data::InsertRow account(catalogue);
     account.Add(L"F_ACCSNAME", companyName);
     account.Add(L"F_ACCCURRIDX", resources::IsChinese() ? kChineseCurrency : kOtherCurrency);
     std::wstring key = host.NewGuid();
@@ -354,7 +50,7 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
     data::InsertOrUndo([&] { account.Insert(host, L"TBLACCOUNT"); }, [&] { undo(L"TBLACCOUNT"); });
     try
     {
-        links::InsertAccountInfo(host, key, [&] { undo(L"TBLACCINFO"); });
+        InsertAccountInfo(host, key, [&] { undo(L"TBLACCINFO"); });
     }
     catch (...)
     {
@@ -362,34 +58,6 @@ std::wstring CreateAccount(const Host& host, data::FieldCatalogue& catalogue, co
         throw;
     }
     return key;
-}
-
-void AddAccountLinks(const Host& host, const automation::ItemView& item, HostRow& contact,
-                     const PresentContact* present)
-{
-    WrittenTables tables(host, contact.Catalogue(), item);
-    AddLinksOf(tables, contact, present);
-}
-
-AccountPreview PreviewAccountLinks(const Host& host, data::FieldCatalogue& catalogue,
-                                   const automation::ItemView& item, const PresentContact* present)
-{
-    KeptTables tables(host, catalogue, item);
-    data::KeptRow contact(catalogue);
-    AddLinksOf(tables, contact, present);
-    AccountPreview preview;
-    if (const Value* const account = FindColumn(contact.Columns(), L"F_ACCID"))
-    {
-        preview.IsNewCompany = !tables.NewCompany.empty();
-        preview.Company = preview.IsNewCompany                  ? tables.NewCompany
-                          : automation::IsEmptyOrNull(*account) ? L""
-                                                                : NameOfAccount(automation::TextOf(*account));
-    }
-    if (const Value* const address = FindColumn(contact.Columns(), L"F_CNTADDRID"))
-    {
-        AddAddress(automation::IsEmptyOrNull(*address), tables.Address, preview);
-    }
-    return preview;
 }
 
 } // namespace links

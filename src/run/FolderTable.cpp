@@ -15,7 +15,7 @@ constexpr long kMostRows = 500;
 
 } // namespace
 
-automation::Value FolderTable::Row::At(size_t column) const
+const VARIANT& FolderTable::Row::At(size_t column) const
 {
     const long at = static_cast<long>(column);
     return mIsByRow ? mBlock.At(mRow, at) : mBlock.At(at, mRow);

@@ -24,7 +24,8 @@ class FolderTable
             : mBlock(block), mIsByRow(isByRow), mRow(row)
         {
         }
-        automation::Value At(size_t column) const;
+        // The value of one of the table's columns, counted from 0.
+        const VARIANT& At(size_t column) const;
 
       private:
         const automation::ValueGrid& mBlock;

@@ -1,5 +1,7 @@
 #include "run/KeyTable.h"
 
+#include <functional>
+
 namespace run
 {
 
@@ -13,19 +15,28 @@ void KeyTable::Add()
 {
     const long position = Count() + 1;
     Skip();
-    const auto [first, isNew] = mFirsts.insert(position);
-    if (!isNew)
+    const long first = First(mRecords.First(position));
+    if (first == 0)
     {
-        long& last = mLast[static_cast<size_t>(*first)];
-        mNext[static_cast<size_t>(last)] = position;
-        last = position;
+        mFirsts.Add(static_cast<std::uint32_t>(position),
+                    [this](std::uint32_t number) { return HashOf(static_cast<long>(number)); });
+        return;
     }
+    long& last = mLast[static_cast<size_t>(first)];
+    mNext[static_cast<size_t>(last)] = position;
+    last = position;
 }
 
 long KeyTable::First(std::wstring_view key) const
 {
-    const auto first = mFirsts.find(key);
-    return first == mFirsts.end() ? 0 : *first;
+    return static_cast<long>(mFirsts.Find(std::hash<std::wstring_view>()(key), [&](std::uint32_t number) {
+        return mRecords.First(static_cast<long>(number)) == key;
+    }));
+}
+
+size_t KeyTable::HashOf(long position) const
+{
+    return std::hash<std::wstring_view>()(mRecords.First(position));
 }
 
 } // namespace run

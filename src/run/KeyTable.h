@@ -3,10 +3,10 @@
 // that the table is made over, which outlives it.
 #pragma once
 
+#include "run/NumberTable.h"
 #include "run/RecordKeys.h"
 
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 namespace run
@@ -15,7 +15,7 @@ namespace run
 class KeyTable
 {
   public:
-    explicit KeyTable(RecordKeys& records) : mFirsts(0, Hash{records}, Same{records}) {}
+    explicit KeyTable(RecordKeys& records) noexcept : mRecords(records) {}
 
     // Adds the record after the last one added, whose first key has been read.
     void Add();
@@ -28,26 +28,12 @@ class KeyTable
     long Next(long position) const { return mNext[static_cast<size_t>(position)]; }
 
   private:
-    // A position stands for the key of its record.
-    struct Hash
-    {
-        using is_transparent = void;
-        RecordKeys& records;
-        size_t operator()(std::wstring_view key) const { return std::hash<std::wstring_view>{}(key); }
-        size_t operator()(long position) const { return (*this)(records.First(position)); }
-    };
-    struct Same
-    {
-        using is_transparent = void;
-        RecordKeys& records;
-        bool operator()(std::wstring_view key, long position) const { return records.First(position) == key; }
-        bool operator()(long position, std::wstring_view key) const { return records.First(position) == key; }
-        bool operator()(long left, long right) const { return records.First(left) == records.First(right); }
-    };
+    size_t HashOf(long position) const;
 
-    std::unordered_set<long, Hash, Same> mFirsts; // the first record of every chain
-    std::vector<long> mNext{0};                   // by position: the next one of the same chain, or 0
-    std::vector<long> mLast{0};                   // by the position of the first one of a chain: the last one
+    RecordKeys& mRecords;
+    NumberTable mFirsts;        // the first record of every chain, by its key
+    std::vector<long> mNext{0}; // by position: the next one of the same chain, or 0
+    std::vector<long> mLast{0}; // by the position of the first one of a chain: the last one
 };
 
 } // namespace run

@@ -55,17 +55,18 @@ const std::wstring& RecordKeys::Second(long position)
 
 void RecordKeys::Remember(long position, const std::wstring& identity)
 {
-    if (!identity.empty() && !mIdentities.insert(identity).second)
+    if (!mIdentities.Add(position, identity))
     {
         mHasMetOneTwice = true;
         mNone.insert(position);
     }
 }
 
-void RecordKeys::Take(Keys first, Keys second) noexcept
+void RecordKeys::Take(TableKeys& table) noexcept
 {
-    mFirst = std::move(first);
-    mSecond = std::move(second);
+    mFirst = std::move(table.First);
+    mSecond = std::move(table.Second);
+    mIdentities = std::move(table.Ids);
 }
 
 ItemKeys::ItemKeys(const exchange::MatchRule& rule, const exchange::Filters& filters, exchange::Run& run,
@@ -92,8 +93,7 @@ void ItemKeys::TryTable()
     mUsesTable = keys.has_value();
     if (keys)
     {
-        Take(std::move(keys->First), std::move(keys->Second));
-        mIdsInTable = std::move(keys->Ids);
+        Take(*keys);
         mKept = std::move(keys->Kept);
     }
 }
@@ -133,8 +133,8 @@ void ItemKeys::Reach(long position)
 // The table may have another order than Items.
 automation::Object ItemKeys::Fetched(long position)
 {
-    return mIdsInTable.Count() != 0 ? exchange::OpenItem(mRun, mIdsInTable.At(position))
-                                    : exchange::ItemAt(mRun.Items, position);
+    return HasTable() ? exchange::OpenItem(mRun, Known().At(position))
+                      : exchange::ItemAt(mRun.Items, position);
 }
 
 // An item is fetched even where there is no row to compare it with: one that cannot be fetched ends the walk.
@@ -158,24 +158,20 @@ bool ItemKeys::Keeps(long position)
 
 void ItemKeys::Keep(long position)
 {
-    if (position == mCurrentPosition && mIdsInTable.Count() == 0 && !mEntryIds.contains(position))
+    if (position == mCurrentPosition && !Known().Has(position))
     {
-        Remember(position, mEntryIds.emplace(position, exchange::EntryIdOf(mCurrent)).first->second);
+        Remember(position, exchange::EntryIdOf(mCurrent));
     }
 }
 
 std::wstring ItemKeys::EntryId(long position)
 {
-    if (mIdsInTable.Count() != 0)
-    {
-        return mIdsInTable.At(position);
-    }
-    if (!mEntryIds.contains(position))
+    if (!Known().Has(position))
     {
         Reach(position);
         Keep(position);
     }
-    return mEntryIds.at(position);
+    return Known().At(position);
 }
 
 std::wstring ItemKeys::ReadFirst()
@@ -284,18 +280,17 @@ void RowKeys::Reach(long position)
 
 std::wstring RowKeys::KnownKey(long position) const
 {
-    const auto key = mRowKeys.find(position);
-    return key == mRowKeys.end() ? std::wstring() : key->second;
+    return Known().Has(position) ? Known().At(position) : std::wstring();
 }
 
-const std::wstring& RowKeys::Key(long position)
+std::wstring RowKeys::Key(long position)
 {
-    if (!mRowKeys.contains(position))
+    if (!Known().Has(position))
     {
         Reach(position);
-        Remember(position, mRowKeys.emplace(position, exchange::KeyOfRow(mRows, mKeyColumn)).first->second);
+        Remember(position, exchange::KeyOfRow(mRows, mKeyColumn));
     }
-    return mRowKeys.at(position);
+    return Known().At(position);
 }
 
 std::wstring RowKeys::ReadFirst()

@@ -10,7 +10,6 @@
 
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -52,11 +51,12 @@ class RecordKeys
   protected:
     explicit RecordKeys(bool hasSecond) noexcept : mHasSecond(hasSecond) {}
 
-    // Remembers the record by what tells it from all others; one that was met before is none.
+    // Remembers the record by its identity; one that was met before is none.
     void Remember(long position, const std::wstring& identity);
+    const Identities& Known() const noexcept { return mIdentities; }
     bool HasMetOneTwice() const noexcept { return mHasMetOneTwice; }
     // Takes over keys that have been read in another way; those that it leaves open are read when asked for.
-    void Take(Keys first, Keys second) noexcept;
+    void Take(TableKeys& table) noexcept;
 
   private:
     virtual std::wstring ReadFirst() = 0;
@@ -70,7 +70,7 @@ class RecordKeys
     Keys mSecond;
     std::unordered_set<long> mNone;
     long mOtherKinds = 0;
-    std::unordered_set<std::wstring> mIdentities;
+    Identities mIdentities;
     bool mHasMetOneTwice = false;
 };
 
@@ -128,6 +128,7 @@ class ItemKeys : public RecordKeys
     }
 
     void TryTable();
+    bool HasTable() const noexcept { return mUsesTable && mHasTriedTable; }
     automation::Object Fetched(long position);
 
     const exchange::MatchRule& mRule;
@@ -135,13 +136,11 @@ class ItemKeys : public RecordKeys
     exchange::Run& mRun;
     bool mKeepsAll;
     bool mUsesTable;
-    bool mHasTriedTable = false;
-    EntryIds mIdsInTable;                   // of all items, or of none
+    bool mHasTriedTable = false;            // positions are those of the table then, where it is of use
     std::vector<std::optional<bool>> mKept; // by the filter, as far as the table tells
     automation::Object mCurrent;
     long mCurrentPosition = 0;
     long mCount = 0;
-    std::unordered_map<long, std::wstring> mEntryIds;
 };
 
 class RowKeys : public RecordKeys
@@ -157,7 +156,7 @@ class RowKeys : public RecordKeys
     bool Exists(long position) override;
     void Reach(long position) override;
     // What the row has in its key column.
-    const std::wstring& Key(long position);
+    std::wstring Key(long position);
 
   private:
     std::wstring ReadFirst() override;
@@ -172,7 +171,6 @@ class RowKeys : public RecordKeys
     const exchange::MatchRule& mRule;
     const automation::Recordset& mRows;
     std::wstring mKeyColumn;
-    std::unordered_map<long, std::wstring> mRowKeys;
     long mCurrentPosition = 0; // 0 before the first row has been reached
     long mKnown = 0;           // rows that are known to exist
     bool mIsComplete = false;  // the end has been seen: there are no others

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cwchar>
-#include <functional>
 #include <random>
 #include <set>
 
@@ -22,6 +21,9 @@ using automation::Value;
 
 constexpr const wchar_t* kEntryId = L"EntryID";
 constexpr const wchar_t* kMessageClass = L"MessageClass";
+// They are the first columns.
+constexpr size_t kEntryIdColumn = 0;
+constexpr size_t kMessageClassColumn = 1;
 constexpr const wchar_t* kKeywords = L"Categories";
 
 // A table cuts texts at 255 bytes, as its documentation has it, or characters, as it has it too. A shorter
@@ -38,10 +40,18 @@ constexpr size_t kSampleSize = 2;
 }
 
 // Whether the message class is this one or derived from it.
-bool IsOfClass(const std::wstring& messageClass, const std::wstring& base)
+bool IsOfClass(std::wstring_view messageClass, std::wstring_view base)
 {
-    return _wcsnicmp(messageClass.c_str(), base.c_str(), base.size()) == 0 &&
+    return messageClass.size() >= base.size() &&
+           _wcsnicmp(messageClass.data(), base.data(), base.size()) == 0 &&
            (messageClass.size() == base.size() || messageClass[base.size()] == L'.');
+}
+
+// Empty for anything but a text.
+std::wstring_view TextIn(const VARIANT& value)
+{
+    return value.vt == VT_BSTR ? std::wstring_view(value.bstrVal, SysStringLen(value.bstrVal))
+                               : std::wstring_view();
 }
 
 std::vector<std::wstring> ColumnsFor(const exchange::MatchRule& rule, const exchange::Filters& filters)
@@ -58,80 +68,70 @@ std::vector<std::wstring> ColumnsFor(const exchange::MatchRule& rule, const exch
     return columns;
 }
 
-// One row as the key readers see it.
+// One row as the key readers see it. It is read in place, since there is one for every item of the folder.
 class RowOfTable : public automation::PropertySource
 {
   public:
-    RowOfTable(const FolderTable& table, exchange::Run& run)
-        : mRun(run), mColumns(table.Columns()), mValues(mColumns.size())
+    RowOfTable(const FolderTable& table, const FolderTable::Row& row, exchange::Run& run)
+        : mRun(run), mColumns(table.Columns()), mRow(row)
     {
-    }
-
-    void Take(const FolderTable::Row& row)
-    {
-        for (size_t column = 0; column < mValues.size(); ++column)
-        {
-            mValues[column] = row.At(column);
-        }
-        mItem = {};
     }
 
     Value Get(const wchar_t* property) override
     {
         const auto column = std::ranges::find(mColumns, property);
         return column == mColumns.end() ? Item().Get(property)
-                                        : mValues[static_cast<size_t>(column - mColumns.begin())];
+                                        : Value(mRow.At(static_cast<size_t>(column - mColumns.begin())));
     }
 
     const Object& Item() override
     {
         if (!mItem)
         {
-            mItem = exchange::OpenItem(mRun, EntryId());
+            mItem = exchange::OpenItem(mRun, std::wstring(EntryId()));
         }
         return mItem;
     }
 
-    std::wstring EntryId() { return TextIn(kEntryId); }
+    std::wstring_view EntryId() const { return TextIn(mRow.At(kEntryIdColumn)); }
 
     // Whether the row shows an item of the class, and nothing that the item might show otherwise.
-    bool IsPlain(const std::wstring& messageClass)
+    bool IsPlain(std::wstring_view messageClass) const
     {
-        for (size_t column = 0; column < mValues.size(); ++column)
+        for (size_t column = kMessageClassColumn; column < mColumns.size(); ++column)
         {
-            if (!IsPlain(mColumns[column], mValues[column]))
+            if (!IsPlain(mColumns[column], mRow.At(column)))
             {
                 return false;
             }
         }
-        return IsOfClass(TextIn(kMessageClass), messageClass);
+        return IsOfClass(TextIn(mRow.At(kMessageClassColumn)), messageClass);
     }
 
   private:
-    std::wstring TextIn(const wchar_t* column)
+    static bool IsPlain(std::wstring_view column, const VARIANT& value)
     {
-        const Value value = Get(column);
-        return value.Type() == VT_BSTR ? automation::TextOf(value) : std::wstring();
-    }
-
-    static bool IsPlain(const std::wstring& column, const Value& value)
-    {
-        if (value.Type() != VT_BSTR)
+        if (value.vt != VT_BSTR)
         {
-            return value.Type() != VT_ERROR && (value.Type() & (VT_ARRAY | VT_BYREF)) == 0;
+            return value.vt != VT_ERROR && (value.vt & (VT_ARRAY | VT_BYREF)) == 0;
         }
-        const std::wstring text = automation::TextOf(value);
+        const std::wstring_view text = TextIn(value);
         // A table parts keywords by commas, an item by the separator of the user's locale.
-        return column == kEntryId ||
-               (text.size() <= kLongestWhole &&
-                (column != kKeywords || text.find_first_of(L",;") == std::wstring::npos));
+        return text.size() <= kLongestWhole &&
+               (column != kKeywords || text.find_first_of(L",;") == std::wstring_view::npos);
     }
 
     exchange::Run& mRun;
     const std::vector<std::wstring>& mColumns;
-    std::vector<Value> mValues;
+    const FolderTable::Row& mRow;
     Object mItem;
 };
+
+bool IsEntryId(std::wstring_view text)
+{
+    return !text.empty() &&
+           std::ranges::all_of(text, [](wchar_t letter) { return letter > L' ' && letter < 0x7F; });
+}
 
 std::wstring Compact(std::wstring key)
 {
@@ -154,15 +154,10 @@ class Reader
         {
             Distrust();
         }
-        RowOfTable row(table, mRun);
         table.Visit(count, [&](const FolderTable::Row& values) {
-            row.Take(values);
+            RowOfTable row(table, values, mRun);
             Add(row);
         });
-        if (!mKeys.Ids.AreUnique())
-        {
-            Distrust();
-        }
         for (const long position : Sample(count))
         {
             Compare(position);
@@ -174,8 +169,12 @@ class Reader
     void Add(RowOfTable& row)
     {
         const bool isPlain = row.IsPlain(mRule.InTable.MessageClass);
-        mKeys.Ids.Add(row.EntryId());
         auto& first = mKeys.First.emplace_back();
+        const std::wstring_view entryId = row.EntryId();
+        if (!IsEntryId(entryId) || !mKeys.Ids.Add(static_cast<long>(mKeys.First.size()), entryId))
+        {
+            Distrust();
+        }
         if (isPlain)
         {
             first = Compact(mRule.FirstKeyOfItem(row));
@@ -236,42 +235,6 @@ class Reader
 };
 
 } // namespace
-
-void EntryIds::Add(std::wstring_view entryId)
-{
-    const auto isPlain = [](wchar_t letter) { return letter > L' ' && letter < 0x7F; };
-    if (entryId.empty() || !std::ranges::all_of(entryId, isPlain))
-    {
-        Distrust();
-    }
-    mDigits.append(entryId.begin(), entryId.end());
-    mEnds.push_back(static_cast<std::uint32_t>(mDigits.size()));
-}
-
-std::string_view EntryIds::Digits(size_t index) const
-{
-    const size_t start = index == 0 ? 0 : mEnds[index - 1];
-    return std::string_view(mDigits).substr(start, mEnds[index] - start);
-}
-
-std::wstring EntryIds::At(long position) const
-{
-    const std::string_view digits = Digits(static_cast<size_t>(position) - 1);
-    return {digits.begin(), digits.end()};
-}
-
-// Two that happen to have the same hash count as equal: that costs time, and no more.
-bool EntryIds::AreUnique() const
-{
-    std::vector<size_t> hashes;
-    hashes.reserve(mEnds.size());
-    for (size_t index = 0; index < mEnds.size(); ++index)
-    {
-        hashes.push_back(std::hash<std::string_view>()(Digits(index)));
-    }
-    std::ranges::sort(hashes);
-    return std::ranges::adjacent_find(hashes) == hashes.end();
-}
 
 std::optional<TableKeys> ReadTable(const exchange::MatchRule& rule, const exchange::Filters& filters,
                                    exchange::Run& run, long count)

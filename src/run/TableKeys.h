@@ -5,41 +5,22 @@
 
 #include "exchange/Kind.h"
 #include "exchange/Run.h"
+#include "run/Identities.h"
 
-#include <cstdint>
 #include <deque>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace run
 {
-
-// The EntryIDs of items by position, counted from 1. Hexadecimal digits, one byte each, since there is one
-// for every item of the folder.
-class EntryIds
-{
-  public:
-    // Throws automation::Error for a text that is no EntryID.
-    void Add(std::wstring_view entryId);
-    std::wstring At(long position) const;
-    long Count() const noexcept { return static_cast<long>(mEnds.size()); }
-    bool AreUnique() const;
-
-  private:
-    std::string_view Digits(size_t index) const;
-
-    std::string mDigits;
-    std::vector<std::uint32_t> mEnds;
-};
 
 // A key by position, from 0; nothing while it has not been read.
 using Keys = std::deque<std::optional<std::wstring>>;
 
 struct TableKeys
 {
-    EntryIds Ids;
+    Identities Ids; // EntryIDs
     Keys First;
     Keys Second;
     // What the filter of items says of each, if the table could tell; empty without a filter.

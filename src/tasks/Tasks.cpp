@@ -279,13 +279,9 @@ void Update(exchange::Run& run, const automation::ItemView& item)
     transaction.Commit();
 }
 
-// The contract reports another mode within a transaction.
 void ShowInvalidMode()
 {
-    const Host host;
-    data::Transaction transaction(host);
     ui::ShowMessageBox(L"Error:Don't this Item.", MB_OK); // in both languages
-    transaction.Commit();
 }
 
 } // namespace
@@ -300,15 +296,7 @@ void SynSynTaskToOlTask(exchange::Run& run, data::RecordMode mode, const Object&
 
 long SynOlTaskToSynTask(exchange::Run& run, data::RecordMode mode, const automation::ItemView& item)
 {
-    const bool failed = state::FailedAndTold([&] {
-        switch (mode)
-        {
-        case data::kNewRecord: Insert(run, item); break;
-        case data::kExistingRecord: Update(run, item); break;
-        default: ShowInvalidMode(); break;
-        }
-    });
-    return failed ? -1 : 0;
+    return exchange::WriteRecord({Insert, Update, ShowInvalidMode}, run, mode, item);
 }
 
 constexpr wchar_t kRelationStatement[] = L"Select * From SynRelation Where QuenlarTblName='TBLACTIVITY'";

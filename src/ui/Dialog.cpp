@@ -3,13 +3,14 @@
 #include "automation/Error.h"
 #include "resources/Strings.h"
 #include "state/Failures.h"
+#include "ui/AlignedNotification.h"
 #include "ui/ApplyFormFont.h"
 #include "ui/Busy.h"
 #include "ui/RowPainting.h"
 #include "ui/SentMessage.h"
 #include "ui/VisualStyles.h"
+#include "ui/WindowPlacement.h"
 
-#include <cstring>
 #include <span>
 #include <stdexcept>
 #include <utility>
@@ -41,24 +42,6 @@ std::span<const std::byte> TemplateResource(UINT id)
         throw automation::Error(HRESULT_FROM_WIN32(GetLastError()), L"dialog template");
     }
     return {static_cast<const std::byte*>(data), SizeofResource(module, found)};
-}
-
-HICON IconOfSize(int width, int height)
-{
-    return static_cast<HICON>(
-        LoadImageW(resources::Module(), MAKEINTRESOURCEW(IDI_TELVIX), IMAGE_ICON, width, height, LR_SHARED));
-}
-
-// Controls report keys in packed structures of one layout, which can be at any address.
-struct alignas(NMHDR) KeyNotification
-{
-    std::byte bytes[sizeof(NMLVKEYDOWN)];
-};
-static_assert(sizeof(NMTVKEYDOWN) == sizeof(NMLVKEYDOWN) && sizeof(NMTCKEYDOWN) == sizeof(NMLVKEYDOWN));
-
-bool IsAligned(LPARAM notification)
-{
-    return static_cast<ULONG_PTR>(notification) % alignof(NMHDR) == 0;
 }
 
 struct Search
@@ -203,7 +186,7 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_INITDIALOG: return HandleInit();
     case WM_COMMAND:
     case WM_CLOSE: return HandleOrder(message, wParam, lParam);
-    case WM_NOTIFY: return HandleNotify(lParam);
+    case WM_NOTIFY: return HandleNotify(AlignedNotification(lParam).Header());
     case WM_SIZE:
         mAnchors.Place();
         OnSize();
@@ -244,7 +227,7 @@ void Dialog::WriteCaptions(std::span<const CaptionRow> captions)
 
 INT_PTR Dialog::HandleInit()
 {
-    SetIcons();
+    SetIcons(mWindow);
     RunHandler([&] {
         WriteCaptions(mCaptions);
         OnInit();
@@ -255,22 +238,12 @@ INT_PTR Dialog::HandleInit()
                          SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
         }
     });
-    CenterOverActiveBefore();
+    CenterOverActiveBefore(mWindow);
     // Windows would take the first control of the template, whatever OnInit has made of the tab order.
     const int first = FirstFocus();
     const HWND focused = first != 0 ? GetDlgItem(mWindow, first) : GetNextDlgTabItem(mWindow, nullptr, FALSE);
     SendMessageW(mWindow, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(focused), TRUE);
     return FALSE; // keeps that focus
-}
-
-// Shown before the caption and, since the dialogs have no owner, in the task bar.
-void Dialog::SetIcons()
-{
-    const auto set = [this](WPARAM which, int width, int height) {
-        SendMessageW(mWindow, WM_SETICON, which, reinterpret_cast<LPARAM>(IconOfSize(width, height)));
-    };
-    set(ICON_SMALL, GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON));
-    set(ICON_BIG, GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON));
 }
 
 INT_PTR Dialog::HandleOrder(UINT message, WPARAM wParam, LPARAM lParam)
@@ -294,17 +267,6 @@ INT_PTR Dialog::HandleOrder(UINT message, WPARAM wParam, LPARAM lParam)
         OnClose();
     }
     return TRUE;
-}
-
-INT_PTR Dialog::HandleNotify(LPARAM parameter)
-{
-    if (IsAligned(parameter))
-    {
-        return HandleNotify(*reinterpret_cast<const NMHDR*>(parameter));
-    }
-    KeyNotification aligned;
-    std::memcpy(&aligned, reinterpret_cast<const void*>(parameter), sizeof(NMLVKEYDOWN));
-    return HandleNotify(reinterpret_cast<const NMHDR&>(aligned));
 }
 
 INT_PTR Dialog::HandleNotify(const NMHDR& notification)
@@ -333,26 +295,6 @@ INT_PTR Dialog::HandleSetCursor(WORD hitTest) const
     Busy::ShowHourglass();
     SetWindowLongPtrW(mWindow, DWLP_MSGRESULT, TRUE);
     return TRUE;
-}
-
-// The user looks at the monitor of the window that was active before. Without one, the template's own
-// centring applies.
-void Dialog::CenterOverActiveBefore()
-{
-    const HWND before = GetActiveWindow();
-    RECT around;
-    RECT place;
-    if (before == nullptr || before == mWindow || !IsWindowVisible(before) || IsIconic(before) ||
-        !GetWindowRect(before, &around) || !GetWindowRect(mWindow, &place))
-    {
-        return;
-    }
-    const int width = place.right - place.left;
-    const int height = place.bottom - place.top;
-    SetWindowPos(mWindow, nullptr, (around.left + around.right - width) / 2,
-                 (around.top + around.bottom - height) / 2, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    // A dialog that would leave the screen comes back to it.
-    SendMessageW(mWindow, DM_REPOSITION, 0, 0);
 }
 
 } // namespace ui

@@ -95,12 +95,9 @@ class Dialog
     template<typename Handler>
     void RunHandler(Handler&& handler);
     INT_PTR HandleInit();
-    void SetIcons();
     INT_PTR HandleOrder(UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR HandleNotify(LPARAM parameter);
     INT_PTR HandleNotify(const NMHDR& notification);
     INT_PTR HandleSetCursor(WORD hitTest) const;
-    void CenterOverActiveBefore();
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     UINT mTemplateId;

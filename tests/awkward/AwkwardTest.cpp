@@ -192,12 +192,11 @@ void Report(const std::string& what, const Trials& trials, size_t all)
 // A bounded run draws some of them.
 void MakeSome(const std::string& what, Trials& trials, std::vector<Trial> all)
 {
-    constexpr size_t kBounded = 40;
     if (!IsLongRun())
     {
         std::ranges::shuffle(all, std::mt19937(Seed()));
     }
-    const size_t count = IsLongRun() ? all.size() : std::min(kBounded, all.size());
+    const size_t count = std::min(ByThoroughness<size_t>(12, 40, all.size()), all.size());
     for (size_t i = 0; i < count; ++i)
     {
         trials.Make(all[i]);

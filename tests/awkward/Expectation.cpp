@@ -108,7 +108,7 @@ Expected ExpectedOf(const Combination& what, const Model& model)
         {
             continue;
         }
-        const wchar_t winner = isTwoWay ? (what.kind->fromOutlookFirst ? item->second : side) : L'\0';
+        const wchar_t winner = isTwoWay ? (what.kind->writesHostFirst ? item->second : side) : L'\0';
         if (ChangesItems(what))
         {
             expected.changedItems[number] = isTwoWay ? winner : side;

@@ -3,7 +3,6 @@
 #include "automation/Dates.h"
 #include "automation/Readable.h"
 #include "automation/Text.h"
-#include "run/Runs.h"
 
 #include <cwchar>
 #include <cwctype>
@@ -216,41 +215,9 @@ Mark MarkOfDate(Bears bears, const Value& value)
 
 } // namespace
 
-const NumberedKind kNumberedContacts{
-    .name = "contacts",
-    .run = run::RunContactSync,
-    .folder = L"Contacts",
-    .itemKind = sandbox::ItemKind::Contact,
-    .view = L"VW_CONTACT",
-    .keyColumn = L"F_CNTCTID",
-    .keyLetter = L'B',
-    .fields = kContactFields,
-    .fromOutlookFirst = false,
-};
-
-const NumberedKind kNumberedTasks{
-    .name = "tasks",
-    .run = run::RunTaskSync,
-    .folder = L"Tasks",
-    .itemKind = sandbox::ItemKind::Task,
-    .view = L"VW_ACTIVITY",
-    .keyColumn = L"F_ACTID",
-    .keyLetter = L'E',
-    .fields = kTaskFields,
-    .fromOutlookFirst = true,
-};
-
-const NumberedKind kNumberedEntries{
-    .name = "calendar",
-    .run = run::RunCalendarSync,
-    .folder = L"Calendar",
-    .itemKind = sandbox::ItemKind::Appointment,
-    .view = L"VW_CALENDAR",
-    .keyColumn = L"F_ACTID",
-    .keyLetter = L'F',
-    .fields = kEntryFields,
-    .fromOutlookFirst = false,
-};
+const NumberedKind kNumberedContacts{kContactKind, L'B', kContactFields};
+const NumberedKind kNumberedTasks{kTaskKind, L'E', kTaskFields};
+const NumberedKind kNumberedEntries{kCalendarKind, L'F', kEntryFields};
 
 Mark MarkOf(Bears bears, const Value& value, int numberOfRecord)
 {
@@ -287,8 +254,7 @@ void AddRow(sandbox::Connection& database, const NumberedKind& kind, int number)
 
 void DeleteRow(sandbox::Connection& database, const NumberedKind& kind, int number)
 {
-    const std::wstring table = IsContacts(kind) ? L"TBLCONTACT" : L"TBLACTIVITY";
-    database.Execute(L"DELETE FROM " + table + L" WHERE " + kind.keyColumn + L"=" +
+    database.Execute(L"DELETE FROM " + std::wstring(kind.table) + L" WHERE " + kind.keyColumn + L"=" +
                      SqlKey(kind.keyLetter, number));
 }
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "automation/Value.h"
-#include "exchange/RunDisplay.h"
 #include "sandbox/database/Connection.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/TestedKind.h"
 
 #include <span>
 #include <string>
@@ -33,17 +33,10 @@ struct NumberedField
     bool isGuarded = false; // the object model guard refuses to tell it
 };
 
-struct NumberedKind
+struct NumberedKind : TestedKind
 {
-    const char* name;
-    bool (*run)(exchange::RunDisplay& display);
-    const wchar_t* folder; // its name in a store
-    sandbox::ItemKind itemKind;
-    const wchar_t* view;
-    const wchar_t* keyColumn;
     wchar_t keyLetter;                     // of the keys of its rows
     std::span<const NumberedField> fields; // the first one names the record
-    bool fromOutlookFirst;                 // in a two-way run
 };
 
 extern const NumberedKind kNumberedContacts;

@@ -125,7 +125,7 @@ void AddStores(std::vector<Way>& ways)
     twin.set = [](World& world) {
         world.Mailbox->Switch(L"Twins", 2);
         world.Where.folderPath = std::wstring(L"Personal Folders") + sandbox::outlook::kTwinMark + L"2\\" +
-                                 world.Where.kind->folder;
+                                 world.Where.kind->folderName;
     };
     ways.push_back(twin);
 }

@@ -23,7 +23,7 @@ constexpr const wchar_t* kDefaultStore = L"Personal Folders";
 
 std::wstring PathOf(const std::wstring& store, const NumberedKind& kind)
 {
-    return store + sandbox::outlook::kPathSeparator + kind.folder;
+    return store + sandbox::outlook::kPathSeparator + kind.folderName;
 }
 
 } // namespace
@@ -31,18 +31,9 @@ std::wstring PathOf(const std::wstring& store, const NumberedKind& kind)
 World::World()
 {
     // Many short transactions, none of value.
-    TheHost.Database().Execute(L"PRAGMA synchronous=OFF");
+    Execute(L"PRAGMA synchronous=OFF");
     TheHost.Database().Query(L"PRAGMA journal_mode=MEMORY");
-    state::SharedState& shared = state::Shared();
-    shared.gCnnString = TheHost.ConnectionString();
-    shared.gCalendarPreviewAlarmTime = 20;
-    shared.gFontName = L"Arial";
-    shared.gFontSize = 8;
-}
-
-World::~World()
-{
-    state::Shared() = {};
+    CloseOutlook();
 }
 
 void World::Reset(const NumberedKind& kind, const std::wstring& store)
@@ -95,28 +86,25 @@ World::Outcome World::Run(long direction, long rule, const std::function<void()>
     const long recordsets = sandbox::OpenRecordsets();
     Outcome outcome;
     {
-        const automation::Object outlook = sandbox::MakeOutlook(Mailbox);
+        OpenOutlook();
         state::SharedState& shared = state::Shared();
         shared.gDTC = UsesTypedDtc ? TheHost.TypedDtc() : TheHost.Dtc();
-        shared.gOlApplication = outlook;
-        shared.gOlNamespace = outlook.GetObject(L"GetNamespace", L"MAPI");
         shared.gSynParameter = {};
         shared.gSynParameter.TransType = direction;
         shared.gSynParameter.TransConflictOption = rule;
         shared.gSynParameter.CurrentFolder = sandbox::outlook::ShownPath(Where.folderPath);
-        mDisplay.Ask = [&](const exchange::Kind&, exchange::Run&, const std::wstring&) {
+        Display.Ask = [&](const exchange::Kind&, exchange::Run&, const std::wstring&) {
             whileConfirmed();
             shared.gChangesAccepted = true;
         };
         const AnsweredMessages messages;
-        outcome.failed = Where.kind->run(mDisplay);
+        outcome.failed = Where.kind->run(Display);
         outcome.messages = messages.Texts();
         shared.gDTC = {};
-        shared.gOlNamespace = {};
-        shared.gOlApplication = {};
+        CloseOutlook();
     }
     outcome.left += TheHost.Database().InTransaction() ? "a transaction is open; " : "";
-    outcome.left += mDisplay.IsShown ? "the progress bar is shown; " : "";
+    outcome.left += Display.IsShown ? "the progress bar is shown; " : "";
     outcome.left += sandbox::LiveObjects() != objects ? "objects are held; " : "";
     outcome.left += sandbox::OpenRecordsets() != recordsets ? "a recordset is open; " : "";
     return outcome;

@@ -2,11 +2,8 @@
 // what other programs do meanwhile happens while it is shown or at a chosen call.
 #pragma once
 
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
 #include "tests/awkward/States.h"
-#include "tests/support/RecordingDisplay.h"
-#include "tests/support/WithLanguage.h"
+#include "tests/support/TestOffice.h"
 
 #include <functional>
 #include <set>
@@ -16,13 +13,10 @@ namespace test_support
 
 inline constexpr int kArrivingNumber = 8; // of an item or a row that arrives meanwhile
 
-class World
+class World : public TestOffice
 {
   public:
     World();
-    World(const World&) = delete;
-    World& operator=(const World&) = delete;
-    ~World();
 
     // Records 1 to 3 on both sides, 4 and 5 in the host, 6 and 7 in Outlook; a record of each other kind.
     // store: where the folder of the run is.
@@ -48,20 +42,15 @@ class World
     bool ItemHasArrived() const noexcept { return mItemHasArrived; }
     bool RowHasArrived() const noexcept { return mRowHasArrived; }
 
-    sandbox::Host TheHost;
-    sandbox::MailboxRef Mailbox;
     Place Where;
     bool UsesTypedDtc = false;
 
   private:
     sandbox::outlook::MailFolder& Folder() { return *Mailbox->FindFolder(Where.folderPath); }
 
-    sandbox::AdoInProcess mAdo;
-    RecordingDisplay mDisplay;
     std::set<std::wstring> mGone; // EntryIDs and keys
     bool mItemHasArrived = false;
     bool mRowHasArrived = false;
-    WithLanguage mEnglish{resources::Language::English};
 };
 
 } // namespace test_support

@@ -34,10 +34,6 @@ std::ostream& operator<<(std::ostream& stream, const Death& death)
 
 std::vector<Death> Deaths()
 {
-    if (test_support::IsBriefRun())
-    {
-        return {{{L"contact", kBoth}, When::Writing}};
-    }
     if (!test_support::IsLongRun())
     {
         return {{{L"contact", kBoth}, When::Writing},

@@ -9,6 +9,7 @@
 #include "sandbox/outlook/Outlook.h"
 #include "tests/boundary/State.h"
 #include "tests/boundary/User.h"
+#include "tests/support/Kinds.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +21,9 @@
 namespace boundary_tests
 {
 
-inline constexpr std::array<const wchar_t*, 3> kKinds = {L"contact", L"task", L"calendar"};
+inline constexpr std::array<const wchar_t*, 3> kKinds = {test_support::kContactRecords.option,
+                                                         test_support::kTaskRecords.option,
+                                                         test_support::kCalendarRecords.option};
 
 inline constexpr long kImport = 1;
 inline constexpr long kExport = 2;

@@ -1,8 +1,6 @@
 #include "tests/calendar/CalendarExchange.h"
-#include "calendar/Calendar.h"
 
 #include "run/ChangeCollection.h"
-#include "state/SharedState.h"
 #include "tests/support/InsertStatement.h"
 
 #include <map>
@@ -28,26 +26,14 @@ std::wstring NameOfItem(const exchange::Run& run, const std::wstring& position)
 
 CalendarExchange::CalendarExchange()
 {
-    state::SharedState& shared = state::Shared();
-    shared.gDTC = mHost.Dtc();
-    shared.gCnnString = mHost.ConnectionString();
-    shared.gOlNamespace = mOutlook.GetObject(L"GetNamespace", L"MAPI");
-    shared.gCalendarStartTime = {6.0 / 24};
-    shared.gCalendarEndTime = {17.5 / 24};
-    shared.gCalendarPreviewAlarmTime = 20;
-    mHost.SetSysDateTime(Day(2003, 5, 6, 12, 0));
-}
-
-CalendarExchange::~CalendarExchange()
-{
-    state::Shared() = {};
+    TheHost.SetSysDateTime(Day(2003, 5, 6, 12, 0));
 }
 
 void CalendarExchange::AddEntry(const std::wstring& name, const Pairs& columns)
 {
     std::map<std::wstring, std::wstring> entry{
         {L"F_ACTID", L"(SELECT 'ACT' || (COUNT(*) + 1) FROM TBLACTIVITY)"},
-        {L"F_ACTORID", std::to_wstring(mHost.UserId())},
+        {L"F_ACTORID", std::to_wstring(TheHost.UserId())},
         {L"F_ACTNAME", L"'" + name + L"'"},
         {L"F_ACTESDATE", L"'2003-05-06 00:00:00'"},
         {L"F_ACTESTIME", L"'1899-12-30 09:30:00'"},
@@ -56,7 +42,7 @@ void CalendarExchange::AddEntry(const std::wstring& name, const Pairs& columns)
     {
         entry[column] = literal;
     }
-    mHost.Database().Execute(InsertStatement(L"TBLACTIVITY", entry));
+    Execute(InsertStatement(L"TBLACTIVITY", entry));
 }
 
 void CalendarExchange::AddRepeatingEntry(const std::wstring& name, long rule, const std::wstring& firstDay,
@@ -65,17 +51,6 @@ void CalendarExchange::AddRepeatingEntry(const std::wstring& name, long rule, co
     AddEntry(name, {{L"F_ACTREPTIDX", std::to_wstring(rule)},
                     {L"F_ACTESDATE", L"'" + firstDay + L" 00:00:00'"},
                     {L"F_ACTREPTEDATE", lastDay.empty() ? L"NULL" : L"'" + lastDay + L" 00:00:00'"}});
-}
-
-exchange::Run CalendarExchange::OpenRun()
-{
-    exchange::Run run{.Display = mDisplay};
-    const data::Host host;
-    const exchange::Kind& calendar = calendar::kCalendar;
-    EXPECT_EQ(0, host.OpenRecordset(run.HostRows, calendar.RecordSource, calendar.SourceFilter(host)));
-    run.Folder = Calendar();
-    run.Items = run.Folder.GetObject(L"Items");
-    return run;
 }
 
 void CalendarExchange::Collect(exchange::Run& run, long transType, long conflictOption)
@@ -94,7 +69,7 @@ void CalendarExchange::Collect(exchange::Run& run, long transType, long conflict
 
 CalendarExchange::Proposals CalendarExchange::Propose(long transType, long conflictOption)
 {
-    exchange::Run run = OpenRun();
+    exchange::Run run = OpenRun(kCalendarKind, Display);
     Collect(run, transType, conflictOption);
     Proposals proposals;
     for (const data::ClsSalesRecord& record : run.Pending.NewHostRecords)
@@ -116,7 +91,7 @@ CalendarExchange::Proposals CalendarExchange::Propose(long transType, long confl
 
 void CalendarExchange::Exchange(long transType, long conflictOption)
 {
-    exchange::Run run = OpenRun();
+    exchange::Run run = OpenRun(kCalendarKind, Display);
     Collect(run, transType, conflictOption);
     if (transType != state::kOutlookToQuenlar)
     {
@@ -126,7 +101,7 @@ void CalendarExchange::Exchange(long transType, long conflictOption)
     {
         EXPECT_FALSE(calendar::kCalendar.FromOutlook(run));
     }
-    EXPECT_EQ(L"", mHost.LastRejection());
+    EXPECT_EQ(L"", TheHost.LastRejection());
     automation::CloseRecordset(run.HostRows);
 }
 
@@ -142,12 +117,12 @@ void CalendarExchange::ExpectAllMatched()
 std::wstring CalendarExchange::Stored(const std::wstring& column)
 {
     return automation::TextOrEmpty(
-        mHost.Database().QueryValue(L"SELECT CAST(" + column + L" AS TEXT) FROM TBLACTIVITY"));
+        TheHost.Database().QueryValue(L"SELECT CAST(" + column + L" AS TEXT) FROM TBLACTIVITY"));
 }
 
 long CalendarExchange::CountEntries()
 {
-    return automation::LongOf(mHost.Database().QueryValue(L"SELECT COUNT(*) FROM TBLACTIVITY"));
+    return automation::LongOf(TheHost.Database().QueryValue(L"SELECT COUNT(*) FROM TBLACTIVITY"));
 }
 
 } // namespace test_support

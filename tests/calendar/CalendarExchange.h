@@ -2,12 +2,9 @@
 // component's own collection and workers between them; only the dialogs are left out.
 #pragma once
 
-#include "exchange/Run.h"
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
-#include "state/SynParameter.h"
-#include "tests/calendar/AppointmentsFixture.h"
-#include "tests/support/RecordingDisplay.h"
+#include "tests/calendar/Appointments.h"
+#include "tests/support/Days.h"
+#include "tests/support/OfficeFixture.h"
 
 #include <set>
 #include <string>
@@ -17,11 +14,9 @@
 namespace test_support
 {
 
-class CalendarExchange : public AppointmentsFixture
+class CalendarExchange : public OfficeFixture
 {
   protected:
-    // Column and SQL literal.
-    using Pairs = std::vector<std::pair<std::wstring, std::wstring>>;
     using Names = std::multiset<std::wstring>;
 
     // What a run would do to each side: the names of the records that it proposes.
@@ -35,7 +30,6 @@ class CalendarExchange : public AppointmentsFixture
 
     // The host's clock shows noon of Tuesday 2003-05-06; all entries are exchanged.
     CalendarExchange();
-    ~CalendarExchange() override;
 
     // Adds a host entry of the signed-in user on 2003-05-06, 09:30 to 11:00; the pairs overwrite or add.
     void AddEntry(const std::wstring& name, const Pairs& columns = {});
@@ -51,15 +45,10 @@ class CalendarExchange : public AppointmentsFixture
 
     std::wstring Stored(const std::wstring& column);
     long CountEntries();
-
-    sandbox::Host mHost;
-    RecordingDisplay mDisplay;
+    long CountAppointments() const { return Mailbox->ItemCount(kCalendarKind.folder); }
 
   private:
-    exchange::Run OpenRun();
     void Collect(exchange::Run& run, long transType, long conflictOption);
-
-    sandbox::AdoInProcess mAdo;
 };
 
 } // namespace test_support

@@ -73,7 +73,7 @@ TEST_F(CalendarFromOutlook, ARepeatingAllDayAppointmentIsStoredAsAnAllDayOne)
     const Columns written = InsertFirstAppointment();
     EXPECT_EQ(L"'06:00:00'", written.at(L"F_ACTESTIME"));
     EXPECT_EQ(L"'17:30:00'", written.at(L"F_ACTEETIME"));
-    EXPECT_EQ(L"1", written.at(L"F_ACTREPEATS"));
+    EXPECT_EQ(L"1", written.at(L"F_ACTCOMPLETED"));
     EXPECT_FALSE(written.contains(L"F_ACTREPTIDX"));
 }
 
@@ -88,7 +88,7 @@ TEST_F(CalendarFromOutlook, ADailyAppointmentIsMarkedAndStoredWithItsLastDay)
     EXPECT_EQ(L"'05/06/2003'", written.at(L"F_ACTEEDATE"));
     EXPECT_EQ(L"'10:00:00'", written.at(L"F_ACTEETIME"));
     EXPECT_EQ(L"'06/30/2003'", written.at(L"F_ACTREPTEDATE"));
-    EXPECT_EQ(L"1", written.at(L"F_ACTREPEATS"));
+    EXPECT_EQ(L"1", written.at(L"F_ACTCOMPLETED"));
 }
 
 TEST_F(CalendarFromOutlook, AnEndlessDailyAppointmentIsStoredWithTheLastDayThatOutlookShows)
@@ -105,7 +105,7 @@ TEST_F(CalendarFromOutlook, OnlyADailyAppointmentIsMarked)
         AddRepeating(Day(2003, 5, 6, 9, 0), Day(2003, 5, 6, 10, 0),
                      [&](const Object& pattern) { pattern.Put(L"RecurrenceType", type); });
         exchange::Run run = NewRun();
-        run.Pending.NewOutlookItems.Add(std::to_wstring(CountAppointments()), 0);
+        run.Pending.NewOutlookItems.Add(std::to_wstring(CountItems()), 0);
         EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
         const std::wstring insert = CallsOf(L"Insert").back();
         EXPECT_EQ(std::wstring::npos, insert.find(L"F_ACTREPTIDX"));

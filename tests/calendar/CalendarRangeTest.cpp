@@ -95,7 +95,7 @@ class CalendarSpan : public CalendarFixture
   protected:
     EntrySpan SpanOfEntry(const Pairs& columns)
     {
-        Execute(L"DELETE FROM Entries");
+        Execute(L"DELETE FROM HostRows");
         AddEntry(columns);
         const exchange::Run run = NewRun();
         return calendar::SpanOfRow(run.HostRows);

@@ -48,7 +48,7 @@ TEST_F(CalendarWriting, AnAppointmentWithoutASubjectIsLeftOutSilently)
     appointment.Call(L"Save");
     EXPECT_TRUE(MessagesOf(data::kNewRecord, 0).empty());
     EXPECT_TRUE(MessagesOf(data::kExistingRecord, 0).empty());
-    EXPECT_TRUE(mHost->Calls.empty());
+    EXPECT_TRUE(Host->Calls.empty());
 }
 
 TEST_F(CalendarWriting, ANewRowTakesItsOwnColumnsBeforeTheMappedOneAndItsKeysLast)
@@ -57,7 +57,7 @@ TEST_F(CalendarWriting, ANewRowTakesItsOwnColumnsBeforeTheMappedOneAndItsKeysLas
     EXPECT_EQ(0, Write(data::kNewRecord));
     const std::wstring expected =
         L"Insert(TBLACTIVITY|F_ACTNAME,F_ACTTYPE,F_ACTESTIME,F_ACTESDATE,F_ACTREMIND,F_ACTEEDATE,F_ACTEETIME,"
-        L"F_ACTREPEATS,F_ACCID,F_ACTORID,F_CREATORID,F_ACTID|'Meeting','(Unspecified)','09:30:00',"
+        L"F_ACTCOMPLETED,F_ACCID,F_ACTORID,F_CREATORID,F_ACTID|'Meeting','(Unspecified)','09:30:00',"
         L"'05/06/2003',0,'05/06/2003','11:00:00',0,NULL,7,7,'KEY-1'|KEY-1)";
     EXPECT_EQ(std::vector<std::wstring>{expected}, CallsOf(L"Insert"));
 }
@@ -70,7 +70,7 @@ TEST_F(CalendarWriting, AnExistingRowIsUpdatedByItsKey)
     const std::wstring expected =
         L"Update(TBLACTIVITY|F_ACTNAME='Meeting',F_ACTTYPE='(Unspecified)',F_ACTESTIME='09:30:00',"
         L"F_ACTESDATE='05/06/2003',F_ACTREMIND=0,F_ACTEEDATE='05/06/2003',F_ACTEETIME='11:00:00',"
-        L"F_ACTREPEATS=0,F_ACCID=NULL||F_ACTID='ACT1')";
+        L"F_ACTCOMPLETED=0,F_ACCID=NULL||F_ACTID='ACT1')";
     EXPECT_EQ(std::vector<std::wstring>{expected}, CallsOf(L"Update"));
 }
 
@@ -78,7 +78,7 @@ TEST_F(CalendarWriting, WithoutRelationRowsANewRowHasItsKeysOnly)
 {
     Relate({});
     AddMeeting();
-    mHost->Permission = 1; // no right to link an account, so that there is no other column either
+    Host->Permission = 1; // no right to link an account, so that there is no other column either
     EXPECT_EQ(0, Write(data::kNewRecord));
     EXPECT_EQ(
         std::vector<std::wstring>{L"Insert(TBLACTIVITY|F_ACTORID,F_CREATORID,F_ACTID|7,7,'KEY-1'|KEY-1)"},
@@ -90,7 +90,7 @@ TEST_F(CalendarWriting, WithoutRelationRowsThereIsNothingToUpdate)
     Relate({});
     AddMeeting();
     AddEntry();
-    mHost->Permission = 1;
+    Host->Permission = 1;
     EXPECT_TRUE(MessagesOf(data::kExistingRecord, 0).empty());
     EXPECT_TRUE(CallsOf(L"Update").empty());
 }
@@ -108,7 +108,9 @@ TEST_F(CalendarWriting, RelationRowsThatNoRuleKnowsWriteNothing)
 TEST_F(CalendarWriting, NeitherATransactionNorAContactLinkIsMade)
 {
     const Object appointment = AddMeeting();
-    appointment.GetObject(L"Links").Call(L"Add", SavedContact(L"Mary", L"Smith"));
+    Mailbox->AddItem(kContactKind.folder, {{L"FirstName", L"Mary"}, {L"LastName", L"Smith"}});
+    const Object contact = DefaultFolder(kContactKind).GetObject(L"Items").GetObject(L"Item", 1L);
+    appointment.GetObject(L"Links").Call(L"Add", contact);
     appointment.Call(L"Save");
     EXPECT_FALSE(InsertFirstAppointment().contains(L"F_CNTCTID"));
     for (const wchar_t* member : {L"BeginTrans", L"CommitTrans", L"RollbackTrans", L"InTransaction"})
@@ -120,7 +122,7 @@ TEST_F(CalendarWriting, NeitherATransactionNorAContactLinkIsMade)
 TEST_F(CalendarWriting, TheAccountOfTheCompanyIsLinked)
 {
     AddMeetingOf(L"Miller & Sons");
-    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {{L"ACC-7"}}};
+    Host->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {{L"ACC-7"}}};
     EXPECT_EQ(L"'ACC-7'", InsertFirstAppointment().at(L"F_ACCID"));
     AddEntry();
     EXPECT_EQ(L"'ACC-7'", UpdateFirstAppointment().at(L"F_ACCID"));
@@ -129,13 +131,13 @@ TEST_F(CalendarWriting, TheAccountOfTheCompanyIsLinked)
 TEST_F(CalendarWriting, ARefusedInsertIsReportedWithTheColumnLastProcessed)
 {
     AddMeeting();
-    mHost->Status[L"Insert"] = -1;
+    Host->Status[L"Insert"] = -1;
     const WithLanguage english(resources::Language::English);
     const std::vector<ShownMessage> expected{
-        {L"F_ACTREPEATS:The host reported a failure", L"Telvix", nullptr}};
+        {L"F_ACTCOMPLETED:The host reported a failure", L"Telvix", nullptr}};
     EXPECT_EQ(expected, MessagesOf(data::kNewRecord, -1));
     const WithLanguage chinese(resources::Language::Chinese);
-    EXPECT_EQ(L"F_ACTREPEATS:主系统报告操作失败", MessagesOf(data::kNewRecord, -1).at(0).text);
+    EXPECT_EQ(L"F_ACTCOMPLETED:主系统报告操作失败", MessagesOf(data::kNewRecord, -1).at(0).text);
 }
 
 TEST_F(CalendarWriting, AnInsertThatAnswersZeroOrMoreCountsAsWritten)
@@ -143,7 +145,7 @@ TEST_F(CalendarWriting, AnInsertThatAnswersZeroOrMoreCountsAsWritten)
     AddMeeting();
     for (const long status : {0L, 1L, 7L})
     {
-        mHost->Status[L"Insert"] = status;
+        Host->Status[L"Insert"] = status;
         EXPECT_TRUE(MessagesOf(data::kNewRecord, 0).empty());
     }
 }
@@ -154,7 +156,7 @@ TEST_F(CalendarWriting, AnUpdateThatAnswersAnythingButZeroIsRefused)
     AddEntry();
     for (const long status : {1L, -1L})
     {
-        mHost->Status[L"Update"] = status;
+        Host->Status[L"Update"] = status;
         EXPECT_EQ(1u, MessagesOf(data::kExistingRecord, -1).size());
     }
 }
@@ -162,8 +164,8 @@ TEST_F(CalendarWriting, AnUpdateThatAnswersAnythingButZeroIsRefused)
 TEST_F(CalendarWriting, AnErrorThatTheHostRaisesWhileWritingIsARefusalInItsOwnWords)
 {
     AddMeeting();
-    mHost->Failing = {L"Insert"};
-    EXPECT_EQ(L"F_ACTREPEATS:The host raised an error", MessagesOf(data::kNewRecord, -1).at(0).text);
+    Host->Failing = {L"Insert"};
+    EXPECT_EQ(L"F_ACTCOMPLETED:The host raised an error", MessagesOf(data::kNewRecord, -1).at(0).text);
 }
 
 TEST_F(CalendarWriting, AColumnThatTheCatalogueDoesNotKnowIsReportedAndNothingIsWritten)
@@ -181,7 +183,7 @@ TEST_F(CalendarWriting, AColumnThatTheCatalogueDoesNotKnowIsReportedAndNothingIs
 TEST_F(CalendarWriting, AnAccountThatCannotBeLookedUpIsReportedOnceWithTheHostsNumberAndNothingIsWritten)
 {
     AddMeetingOf(L"Miller & Sons");
-    mHost->Status[L"OpenRecordsetByString"] = -3;
+    Host->Status[L"OpenRecordsetByString"] = -3;
     const std::vector<ShownMessage> expected{
         {L"-3:The host reported a failure", L"ChangeAddTaskAccount", IDI_ERROR}};
     const WithLanguage english(resources::Language::English);
@@ -192,17 +194,18 @@ TEST_F(CalendarWriting, AnAccountThatCannotBeLookedUpIsReportedOnceWithTheHostsN
 TEST_F(CalendarWriting, AnAccountThatCannotBeMadeIsReportedOnceWithTheHostsText)
 {
     AddMeetingOf(L"Miller & Sons");
-    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
-    mHost->Failing = {L"Insert"};
-    const std::vector<ShownMessage> expected{{L"F_ACTREPEATS:The host raised an error", L"Telvix", nullptr}};
+    Host->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
+    Host->Failing = {L"Insert"};
+    const std::vector<ShownMessage> expected{
+        {L"F_ACTCOMPLETED:The host raised an error", L"Telvix", nullptr}};
     EXPECT_EQ(expected, MessagesOf(data::kNewRecord, 0));
 }
 
 TEST_F(CalendarWriting, AnAccountThatWasNotInsertedIsNotDeleted)
 {
     AddMeetingOf(L"Miller & Sons");
-    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
-    mHost->Status[L"Insert"] = -1;
+    Host->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}};
+    Host->Status[L"Insert"] = -1;
     EXPECT_EQ(1u, MessagesOf(data::kNewRecord, 0).size());
     EXPECT_TRUE(CallsOf(L"Delete").empty());
     EXPECT_TRUE(CallsOf(L"InTransaction").empty());
@@ -211,12 +214,12 @@ TEST_F(CalendarWriting, AnAccountThatWasNotInsertedIsNotDeleted)
 TEST_F(CalendarWriting, AnAccountWithoutItsInformationRowIsDeletedAndNothingElse)
 {
     AddMeetingOf(L"Miller & Sons");
-    mHost->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}}; // so that there is no system row either
+    Host->Rows = {{{L"F_ACCID", sandbox::ColumnType::Text}}, {}}; // so that there is no system row either
     EXPECT_EQ(1u, MessagesOf(data::kNewRecord, 0).size());
     EXPECT_EQ(std::vector<std::wstring>{L"Delete(TBLACCOUNT|F_ACCID='KEY-1')"}, CallsOf(L"Delete"));
     EXPECT_EQ(1u, CallsOf(L"InTransaction").size());
-    mHost->Calls.clear();
-    mHost->Pending = true; // a transaction of the host's own
+    Host->Calls.clear();
+    Host->Pending = true; // a transaction of the host's own
     EXPECT_EQ(1u, MessagesOf(data::kNewRecord, 0).size());
     EXPECT_TRUE(CallsOf(L"Delete").empty());
 }
@@ -247,7 +250,7 @@ TEST_F(CalendarWriting, TheRelationRowsAreOpenedAsTheContractHasIt)
     EXPECT_EQ(0, Write(data::kNewRecord));
     EXPECT_EQ(
         (std::vector<std::wstring>{
-            L"location 3: SELECT * FROM Entries (cursor 1, lock 1, options 1)", // the test's own
+            L"location 3: SELECT * FROM HostRows (cursor 1, lock 1, options 1)", // the test's own
             L"location 3: Select * From SynRelation Where QuenlarTblName='VW_CALENDAR' (cursor 1, lock 1, "
             L"options 1)",
             L"SynFields (cursor -1, lock 1, options 2)"}),
@@ -270,7 +273,7 @@ TEST_F(CalendarWriting, AModeOtherThanNewAndExistingDoesNothing)
     {
         EXPECT_TRUE(MessagesOf(mode, 0).empty());
     }
-    EXPECT_TRUE(mHost->Calls.empty());
+    EXPECT_TRUE(Host->Calls.empty());
 }
 
 TEST_F(CalendarWriting, APairIsWrittenOnlyWhenItsMarkIsZeroButTheProgressAdvances)
@@ -285,16 +288,16 @@ TEST_F(CalendarWriting, APairIsWrittenOnlyWhenItsMarkIsZeroButTheProgressAdvance
     }
     EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
     EXPECT_EQ(1u, CallsOf(L"Update").size());
-    EXPECT_EQ(1.0, mDisplay.Progress.back());
-    EXPECT_EQ(resources::String(1044), mDisplay.Status);
-    EXPECT_FALSE(mDisplay.IsShown);
+    EXPECT_EQ(1.0, Display.Progress.back());
+    EXPECT_EQ(resources::String(1044), Display.Status);
+    EXPECT_FALSE(Display.IsShown);
 }
 
 TEST_F(CalendarWriting, ThePassContinuesAfterARefusedAppointment)
 {
     AddMeeting();
     AddMeeting();
-    mHost->Status[L"Insert"] = -1;
+    Host->Status[L"Insert"] = -1;
     exchange::Run run = NewRun();
     run.Pending.NewOutlookItems.Add(L"1", 0);
     run.Pending.NewOutlookItems.Add(L"2", 0);
@@ -311,7 +314,7 @@ TEST_F(CalendarWriting, AnItemThatIsGoneIsSkippedAndCounted)
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(calendar::SynCalendarFromOutlook(run));
     EXPECT_EQ(1, run.Report.Vanished());
-    EXPECT_FALSE(mDisplay.IsShown);
+    EXPECT_FALSE(Display.IsShown);
 }
 
 } // namespace test_support

@@ -62,9 +62,9 @@ TEST(WeekdayToDayMask, AnyOtherNumberHasNoBit)
 class RecurrenceToOutlook : public CalendarFixture
 {
   protected:
-    void AddRepeatingEntry(const std::wstring& rule, Pairs columns = {}) const
+    void AddRepeatingEntry(const std::wstring& rule, Pairs columns = {})
     {
-        columns.insert(columns.begin(), {{L"F_ACTREPEATS", L"1"}, {L"FR_NAME", L"'" + rule + L"'"}});
+        columns.insert(columns.begin(), {{L"F_ACTCOMPLETED", L"1"}, {L"FR_NAME", L"'" + rule + L"'"}});
         AddEntry(columns);
     }
 
@@ -129,7 +129,7 @@ TEST_F(RecurrenceToOutlook, TheStepsAreTakenInTheirOrder)
 {
     AddRepeatingEntry(L"每年", {{L"F_ACTREPTEDATE", L"'2010-12-31 00:00:00'"}});
     const CallWatch calls;
-    WriteNewAppointment();
+    WriteNewItem();
     const std::vector<std::wstring> expected{L"StartTime",      L"EndTime",       L"PatternStartDate",
                                              L"RecurrenceType", L"MonthOfYear",   L"DayOfMonth",
                                              L"NoEndDate",      L"PatternEndDate"};
@@ -139,9 +139,9 @@ TEST_F(RecurrenceToOutlook, TheStepsAreTakenInTheirOrder)
 TEST_F(RecurrenceToOutlook, APatternThatWouldNotChangeIsReadAndNotRewritten)
 {
     AddRepeatingEntry(L"每年", {{L"F_ACTREPTEDATE", L"'2010-12-31 00:00:00'"}});
-    WriteNewAppointment();
+    WriteNewItem();
     const CallWatch calls;
-    WriteExistingAppointment();
+    WriteExistingItem();
     const std::vector<std::wstring> once{L"StartTime",      L"EndTime",       L"PatternStartDate",
                                          L"RecurrenceType", L"MonthOfYear",   L"DayOfMonth",
                                          L"NoEndDate",      L"PatternEndDate"};
@@ -152,7 +152,7 @@ TEST_F(RecurrenceToOutlook, ValuesThatTheEntryLacksAreLeftToOutlook)
 {
     AddRepeatingEntry(L"", {{L"F_ACTESTIME", L"NULL"}, {L"F_ACTEETIME", L"NULL"}});
     const CallWatch calls;
-    const Object pattern = PatternOf(WriteNewAppointment());
+    const Object pattern = PatternOf(WriteNewItem());
     EXPECT_EQ((std::vector<std::wstring>{L"PatternStartDate", L"NoEndDate"}), PatternMembers(calls));
     EXPECT_EQ(L"00:00", TimeOf(pattern, L"StartTime"));
     EXPECT_EQ(L"01:30", TimeOf(pattern, L"EndTime"));
@@ -161,7 +161,7 @@ TEST_F(RecurrenceToOutlook, ValuesThatTheEntryLacksAreLeftToOutlook)
 TEST_F(RecurrenceToOutlook, AnEntryRepeatsBetweenItsTimesFromItsFirstToItsLastDay)
 {
     AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-20 00:00:00'"}});
-    const Object appointment = WriteNewAppointment();
+    const Object appointment = WriteNewItem();
     const Object pattern = PatternOf(appointment);
     EXPECT_EQ(L"09:30", TimeOf(pattern, L"StartTime"));
     EXPECT_EQ(L"11:00", TimeOf(pattern, L"EndTime"));
@@ -177,7 +177,7 @@ TEST_F(RecurrenceToOutlook, SecondsOfTheTimesAreDropped)
 {
     AddRepeatingEntry(
         L"每天", {{L"F_ACTESTIME", L"'1899-12-30 09:30:59'"}, {L"F_ACTEETIME", L"'1899-12-30 11:00:59'"}});
-    const Object pattern = PatternOf(WriteNewAppointment());
+    const Object pattern = PatternOf(WriteNewItem());
     EXPECT_EQ(L"09:30:00", automation::Formatted(automation::DateOf(pattern.Get(L"StartTime")), L"hh:mm:ss"));
     EXPECT_EQ(L"11:00:00", automation::Formatted(automation::DateOf(pattern.Get(L"EndTime")), L"hh:mm:ss"));
 }
@@ -185,15 +185,15 @@ TEST_F(RecurrenceToOutlook, SecondsOfTheTimesAreDropped)
 TEST_F(RecurrenceToOutlook, WithoutALastDayThePatternStillEnds)
 {
     AddRepeatingEntry(L"每周");
-    const Object pattern = PatternOf(WriteNewAppointment());
+    const Object pattern = PatternOf(WriteNewItem());
     EXPECT_FALSE(Truth(pattern, L"NoEndDate"));
 }
 
 TEST_F(RecurrenceToOutlook, AnEntryThatDoesNotRepeatHasNoPattern)
 {
-    AddEntry({{L"F_ACTREPEATS", L"0"}, {L"FR_NAME", L"'每天'"}});
+    AddEntry({{L"F_ACTCOMPLETED", L"0"}, {L"FR_NAME", L"'每天'"}});
     AddEntry({{L"FR_NAME", L"'每天'"}});
-    EXPECT_FALSE(WriteAllEntries());
+    EXPECT_FALSE(WriteAllRows());
     EXPECT_FALSE(Truth(AppointmentAt(1), L"IsRecurring"));
     EXPECT_FALSE(Truth(AppointmentAt(2), L"IsRecurring"));
 }
@@ -201,7 +201,7 @@ TEST_F(RecurrenceToOutlook, AnEntryThatDoesNotRepeatHasNoPattern)
 TEST_F(RecurrenceToOutlook, AnUnknownRuleKeepsOutlooksWeeklyDefault)
 {
     AddRepeatingEntry(L"每两周");
-    const Object pattern = PatternOf(WriteNewAppointment());
+    const Object pattern = PatternOf(WriteNewItem());
     EXPECT_EQ(1, Number(pattern, L"RecurrenceType"));
     EXPECT_EQ(1, Number(pattern, L"Interval"));
     EXPECT_EQ(4, Number(pattern, L"DayOfWeekMask"));
@@ -212,12 +212,12 @@ TEST_F(RecurrenceToOutlook, ARecurringAppointmentKeepsItsStartAndOnlyItsPatternI
     AddRepeating(Day(2003, 1, 6, 8), Day(2003, 1, 6, 9),
                  [](const Object& pattern) { pattern.Put(L"RecurrenceType", 0L); });
     AddEntry();
-    Object written = WriteExistingAppointment();
+    Object written = WriteExistingItem();
     EXPECT_EQ(L"2003-01-06 08:00", At(written.Get(L"Start")));
     EXPECT_EQ(0, Number(PatternOf(written), L"RecurrenceType"));
 
-    Execute(L"UPDATE Entries SET F_ACTREPEATS=1, FR_NAME='每季'");
-    written = WriteExistingAppointment();
+    Execute(L"UPDATE HostRows SET F_ACTCOMPLETED=1, FR_NAME='每季'");
+    written = WriteExistingItem();
     const Object pattern = PatternOf(written);
     EXPECT_EQ(2, Number(pattern, L"RecurrenceType"));
     EXPECT_EQ(3, Number(pattern, L"Interval"));
@@ -227,16 +227,16 @@ TEST_F(RecurrenceToOutlook, ARecurringAppointmentKeepsItsStartAndOnlyItsPatternI
 
 TEST_F(RecurrenceToOutlook, TheStartIsLeftToThePatternWhenTheRelationRowOfTheRepetitionComesFirst)
 {
-    Relate({{L"F_ACTREPEATS", L"IsRecurring"}, {L"F_ACTESDATE", L"Start"}});
+    Relate({{L"F_ACTCOMPLETED", L"IsRecurring"}, {L"F_ACTESDATE", L"Start"}});
     AddRepeatingEntry(L"每月");
-    EXPECT_EQ(L"2003-05-06 09:30", At(WriteNewAppointment().Get(L"Start")));
+    EXPECT_EQ(L"2003-05-06 09:30", At(WriteNewItem().Get(L"Start")));
 }
 
 TEST_F(RecurrenceToOutlook, AMonthlyEntryOnThe31stStartsThereAndFallsOnTheLastDayOfShorterMonths)
 {
     AddRepeatingEntry(
         L"每月", {{L"F_ACTESDATE", L"'2003-01-31 00:00:00'"}, {L"F_ACTREPTEDATE", L"'2003-04-30 00:00:00'"}});
-    const Object appointment = WriteNewAppointment();
+    const Object appointment = WriteNewItem();
     EXPECT_EQ(L"2003-01-31 09:30", At(appointment.Get(L"Start")));
     EXPECT_EQ(31, Number(PatternOf(appointment), L"DayOfMonth"));
     EXPECT_EQ(4, Number(PatternOf(appointment), L"Occurrences"));
@@ -246,7 +246,7 @@ TEST_F(RecurrenceToOutlook, AYearlyEntryOnThe29thOfFebruaryFallsOnTheLastDayOfFe
 {
     AddRepeatingEntry(
         L"每年", {{L"F_ACTESDATE", L"'2004-02-29 00:00:00'"}, {L"F_ACTREPTEDATE", L"'2008-02-29 00:00:00'"}});
-    const Object appointment = WriteNewAppointment();
+    const Object appointment = WriteNewItem();
     EXPECT_EQ(L"2004-02-29 09:30", At(appointment.Get(L"Start")));
     EXPECT_EQ(29, Number(PatternOf(appointment), L"DayOfMonth"));
     EXPECT_EQ(2, Number(PatternOf(appointment), L"MonthOfYear"));
@@ -258,7 +258,7 @@ TEST_F(RecurrenceToOutlook, AnEntryOverMidnightRepeatsOverMidnight)
     AddRepeatingEntry(L"每天", {{L"F_ACTESTIME", L"'1899-12-30 22:00:00'"},
                                 {L"F_ACTEETIME", L"'1899-12-30 01:00:00'"},
                                 {L"ACT_DURATION", L"NULL"}});
-    EXPECT_EQ(180, Number(PatternOf(WriteNewAppointment()), L"Duration"));
+    EXPECT_EQ(180, Number(PatternOf(WriteNewItem()), L"Duration"));
 }
 
 TEST_F(RecurrenceToOutlook, APatternOverTheChangeOfTheClocksKeepsItsLocalTimes)
@@ -267,7 +267,7 @@ TEST_F(RecurrenceToOutlook, APatternOverTheChangeOfTheClocksKeepsItsLocalTimes)
                                 {L"F_ACTESTIME", L"'1899-12-30 02:30:00'"},
                                 {L"F_ACTEETIME", L"'1899-12-30 03:30:00'"},
                                 {L"F_ACTREPTEDATE", L"'2003-03-31 00:00:00'"}});
-    const Object pattern = PatternOf(WriteNewAppointment());
+    const Object pattern = PatternOf(WriteNewItem());
     EXPECT_EQ(L"02:30", TimeOf(pattern, L"StartTime"));
     EXPECT_EQ(60, Number(pattern, L"Duration"));
     EXPECT_EQ(3, Number(pattern, L"Occurrences"));
@@ -277,18 +277,18 @@ TEST_F(RecurrenceToOutlook, ASeriesThatEndsBeforeItBeginsIsLeftOutAndTheOnesBehi
 {
     AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-05 23:59:00'"}});
     AddRepeatingEntry(L"每天", {{L"F_ACTREPTEDATE", L"'2003-05-06 00:00:00'"}});
-    EXPECT_FALSE(WriteAllEntries());
-    ASSERT_EQ(1, CountAppointments());
+    EXPECT_FALSE(WriteAllRows());
+    ASSERT_EQ(1, CountItems());
     EXPECT_EQ(1, Number(PatternOf(AppointmentAt(1)), L"Occurrences"));
 }
 
 TEST_F(RecurrenceToOutlook, AnEntryWhoseRuleNeedsADayAndThatHasNoneIsLeftOut)
 {
-    Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTREPEATS", L"IsRecurring"}});
+    Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTCOMPLETED", L"IsRecurring"}});
     AddRepeatingEntry(L"每周", {{L"F_ACTESDATE", L"NULL"}});
     AddRepeatingEntry(L"每天", {{L"F_ACTESDATE", L"NULL"}});
-    EXPECT_FALSE(WriteAllEntries());
-    ASSERT_EQ(1, CountAppointments());
+    EXPECT_FALSE(WriteAllRows());
+    ASSERT_EQ(1, CountItems());
     EXPECT_EQ(0, Number(PatternOf(AppointmentAt(1)), L"RecurrenceType"));
 }
 

@@ -160,16 +160,16 @@ TEST_F(CalendarRoundTrip, AnAllDayAppointmentStaysOneWhenTheHostWins)
 TEST_F(CalendarRoundTrip, AnotherUsersEntriesStayInTheHost)
 {
     AddEntry(L"mine");
-    mHost.SignIn(sandbox::kSecondUser);
+    TheHost.SignIn(sandbox::kSecondUser);
     AddEntry(L"theirs");
-    mHost.SignIn(sandbox::kFirstUser);
+    TheHost.SignIn(sandbox::kFirstUser);
     EXPECT_EQ(Names{L"mine"}, Propose(state::kQuenlarToOutlook, state::kNotifyMe).NewInOutlook);
 }
 
 TEST_F(CalendarRoundTrip, AnImportedEntryIsTheSignedInUsersOwn)
 {
     AddAppointment(Day(2003, 5, 6, 9, 30), Day(2003, 5, 6, 11, 0));
-    mHost.SignIn(sandbox::kSecondUser);
+    TheHost.SignIn(sandbox::kSecondUser);
     ImportOnce();
     EXPECT_EQ(L"2", Stored(L"F_ACTORID"));
     EXPECT_EQ(L"2", Stored(L"F_CREATORID"));
@@ -180,7 +180,7 @@ TEST_F(CalendarRoundTrip, TheRightsAskedForAreThoseOfTheAccountCalendar)
     AddAppointment(Day(2003, 5, 6, 9, 30), Day(2003, 5, 6, 11, 0), L"new");
     AddAppointment(Day(2003, 5, 7, 9, 30), Day(2003, 5, 7, 11, 0), L"paired");
     AddEntry(L"paired", {{L"F_ACTESDATE", L"'2003-05-07 00:00:00'"}});
-    mHost.SetRight(6, 9, 2, 1);
+    TheHost.SetRight(6, 9, 2, 1);
     const WithLanguage english(resources::Language::English);
     Proposals proposals;
     const auto messages =

@@ -56,7 +56,8 @@ class StartTimeText : public CalendarFixture
 
 TEST_F(StartTimeText, IsATextThatBeginsWithABlankAndEndsInNoSeconds)
 {
-    AddEntry({{L"F_ACTREPEATS", L"1"}, {L"FR_NAME", L"'每天'"}, {L"F_ACTESTIME", L"'1899-12-30 09:05:59'"}});
+    AddEntry(
+        {{L"F_ACTCOMPLETED", L"1"}, {L"FR_NAME", L"'每天'"}, {L"F_ACTESTIME", L"'1899-12-30 09:05:59'"}});
     std::map<std::wstring, Value> assigned;
     exchange::Run run = NewRun();
     run.Relations.Use(calendar::SynCalendarFromOutlook.RelationStatement,

@@ -1,40 +1,15 @@
 #include "tests/contacts/ContactsFixture.h"
 
-#include "data/Host.h"
-#include "state/SharedState.h"
+#include "tests/support/InsertStatement.h"
 
 namespace test_support
 {
-
-using automation::Object;
-
-namespace
-{
-
-constexpr const wchar_t* kFolder = L"Personal Folders\\Contacts";
-constexpr long kContactsFolder = 10; // olFolderContacts
-
-} // namespace
-
-long ContactsFixture::AddItem(const Properties& properties)
-{
-    return Mailbox->AddItem(kFolder, properties);
-}
 
 long ContactsFixture::AddNamedItem(Properties properties)
 {
     properties.emplace_back(L"LastName", L"Miller");
     properties.emplace_back(L"FirstName", L"Ann");
     return AddItem(properties);
-}
-
-exchange::Run ContactsFixture::NewRun()
-{
-    const Object folder =
-        Outlook.GetObject(L"GetNamespace", L"MAPI").GetObject(L"GetDefaultFolder", kContactsFolder);
-    automation::Recordset rows;
-    data::Host().OpenRecordset(rows, L"ContactMyContact");
-    return {Display, rows, folder, folder.GetObject(L"Items"), {}, {}, {}};
 }
 
 bool ContactsFixture::Import(const std::vector<long>& positions)
@@ -66,16 +41,11 @@ long ContactsFixture::Write(long mode, long position)
                                               run.Items.GetObject(L"Item", position));
 }
 
-long ContactsFixture::AddRow(const std::vector<std::pair<std::wstring, std::wstring>>& columns)
+long ContactsFixture::AddRow(Pairs columns)
 {
-    std::wstring names = L"F_CNTCTID,F_CREATORID";
-    std::wstring values = L"lower(hex(randomblob(16)))," + std::to_wstring(TheHost.UserId());
-    for (const auto& [name, value] : columns)
-    {
-        names += L"," + name;
-        values += L"," + value;
-    }
-    Execute(L"INSERT INTO TBLCONTACT (" + names + L") VALUES (" + values + L")");
+    columns.emplace_back(L"F_CNTCTID", L"lower(hex(randomblob(16)))");
+    columns.emplace_back(L"F_CREATORID", std::to_wstring(TheHost.UserId()));
+    Execute(InsertStatement(L"TBLCONTACT", columns));
     return Count(L"TBLCONTACT");
 }
 
@@ -100,29 +70,9 @@ bool ContactsFixture::OverwriteItems(const std::vector<std::pair<long, long>>& p
     return contacts::SynContactToOutlook(run);
 }
 
-long ContactsFixture::CountItems()
-{
-    return Mailbox->ItemCount(kFolder);
-}
-
-automation::Value ContactsFixture::PropertyOf(long position, const std::wstring& property)
-{
-    return Mailbox->ItemProperty(kFolder, position, property);
-}
-
 std::wstring ContactsFixture::TextIn(long position, const std::wstring& property)
 {
     return automation::TextOf(PropertyOf(position, property));
-}
-
-void ContactsFixture::Relate(const std::vector<std::pair<std::wstring, std::wstring>>& rows)
-{
-    Execute(L"DELETE FROM SynRelation WHERE QuenlarTblName='TBLCONTACT'");
-    for (const auto& [column, property] : rows)
-    {
-        Execute(L"INSERT INTO SynRelation (QuenlarTblName, EnglishName, OutlookName) VALUES ('TBLCONTACT','" +
-                column + L"','" + property + L"')");
-    }
 }
 
 std::wstring ContactsFixture::Found(const std::wstring& sql)

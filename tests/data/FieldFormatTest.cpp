@@ -4,7 +4,7 @@
 #include "automation/Dates.h"
 #include "automation/Error.h"
 #include "automation/Object.h"
-#include "tests/data/CatalogueDatabase.h"
+#include "tests/data/CatalogueOffice.h"
 #include "tests/support/MessageBoxes.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +39,7 @@ class FieldFormat : public testing::TestWithParam<LCID>
         return FormatFieldlValue(Database.Catalogue, column, value) == 0 ? TextOf(value) : L"(failed)";
     }
 
-    test_support::CatalogueDatabase Database;
+    test_support::CatalogueOffice Database;
 
   private:
     LCID mBefore;
@@ -142,7 +142,7 @@ TEST_P(FieldFormat, TheCutNeverLeavesHalfADoubledApostrophe)
     EXPECT_EQ(Literal(L"F_NAME", L"12345678'x"), L"'12345678'''");
     EXPECT_EQ(Literal(L"F_NAME", L"1'''''''''"), L"'1'''''''''");
     EXPECT_EQ(Literal(L"F_NAME", L"''''''''''"), L"''''''''''''");
-    Database.AddField(L"F_INITIAL", L"2", L"1");
+    Database.AddField(L"F_INITIAL", 2, 1);
     Database.Catalogue.Forget();
     EXPECT_EQ(Literal(L"F_INITIAL", L"'"), L"''");
 }
@@ -240,8 +240,8 @@ TEST_P(FieldFormat, ColumnsAreFoundByExactName)
 
 TEST_P(FieldFormat, AnUnknownTypeIsReportedAndTheValueStaysUnformatted)
 {
-    Database.AddField(L"F_PICTURE", L"9", L"10");
-    Database.AddField(L"F_ZERO", L"0", L"10");
+    Database.AddField(L"F_PICTURE", 9, 10);
+    Database.AddField(L"F_ZERO", 0, 10);
     Value value = 5L;
     std::vector<ShownMessage> expected = {{L"Don't format:F_PICTURE", L"FormatFieldlValue", nullptr}};
     EXPECT_EQ(
@@ -253,9 +253,9 @@ TEST_P(FieldFormat, AnUnknownTypeIsReportedAndTheValueStaysUnformatted)
 
 TEST_P(FieldFormat, ARowWithoutTypeOrSizeFailsItsOwnColumnOnly)
 {
-    Database.AddField(L"F_NOTYPE", L"NULL", L"10");
-    Database.AddField(L"F_NOSIZE", L"2", L"NULL");
-    Database.AddField(L"F_DAY", L"4", L"NULL");
+    Database.AddField(L"F_NOTYPE", Value::Null(), 10);
+    Database.AddField(L"F_NOSIZE", 2, Value::Null());
+    Database.AddField(L"F_DAY", 4, Value::Null());
     Database.Execute(L"INSERT INTO SynFields VALUES (NULL, NULL, NULL)");
     EXPECT_EQ(Literal(L"F_NOTYPE", L"x"), L"(failed)");
     EXPECT_EQ(Literal(L"F_NOSIZE", L"x"), L"(failed)");
@@ -265,7 +265,7 @@ TEST_P(FieldFormat, ARowWithoutTypeOrSizeFailsItsOwnColumnOnly)
 
 TEST_P(FieldFormat, TheFirstOfTwoRowsForAColumnCounts)
 {
-    Database.AddField(L"F_NAME", L"1", L"0");
+    Database.AddField(L"F_NAME", 1, 0);
     EXPECT_EQ(Literal(L"F_NAME", 5L), L"'5'");
 }
 

@@ -3,7 +3,7 @@
 
 #include "automation/Dates.h"
 #include "automation/Error.h"
-#include "tests/data/CatalogueDatabase.h"
+#include "tests/data/CatalogueOffice.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
 
@@ -30,7 +30,7 @@ class SqlFragments : public testing::Test
         return AddUpdateField(Database.Catalogue, SetList, column, value);
     }
 
-    test_support::CatalogueDatabase Database;
+    test_support::CatalogueOffice Database;
     std::wstring Fields;
     std::wstring Values;
     std::wstring SetList;
@@ -103,7 +103,7 @@ TEST_F(SqlFragments, AValueThatCannotBeFormattedFailsAndLeavesTheListsAlone)
 
 TEST_F(SqlFragments, AColumnOfUnknownTypeIsWrittenUnformatted)
 {
-    Database.AddField(L"F_PICTURE", L"9", L"10");
+    Database.AddField(L"F_PICTURE", 9, 10);
     MessagesDuring([&] {
         EXPECT_EQ(Insert(L"F_PICTURE", 5L), 0);
         EXPECT_EQ(Update(L"F_PICTURE", 0.5), 0);
@@ -114,7 +114,7 @@ TEST_F(SqlFragments, AColumnOfUnknownTypeIsWrittenUnformatted)
 
 TEST_F(SqlFragments, ATextInAColumnOfUnknownTypeIsOneLiteralAllTheSame)
 {
-    Database.AddField(L"F_PICTURE", L"9", L"10");
+    Database.AddField(L"F_PICTURE", 9, 10);
     MessagesDuring([&] {
         EXPECT_EQ(Insert(L"F_PICTURE", L"1),(2"), 0);
         EXPECT_EQ(Update(L"F_PICTURE", L"O'Brien"), 0);

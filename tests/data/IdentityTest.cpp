@@ -7,12 +7,8 @@
 #include "exchange/ApplyFromOutlook.h"
 #include "exchange/ApplyToOutlook.h"
 #include "sandbox/ado/Recordset.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
 #include "tests/support/CallWatch.h"
-#include "tests/support/RecordingDisplay.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/OfficeFixture.h"
 
 namespace
 {
@@ -20,7 +16,7 @@ namespace
 using automation::Object;
 using automation::TextOf;
 
-constexpr const wchar_t* kFolder = L"Personal Folders\\Contacts";
+constexpr const wchar_t* kFolder = test_support::kContactRecords.folder;
 
 std::vector<std::wstring> gPairs; // item and row
 
@@ -54,7 +50,7 @@ long NoteRow(exchange::Run& run, data::RecordMode mode, const automation::ItemVi
     return 0;
 }
 
-class IdentityOfRecords : public testing::Test
+class IdentityOfRecords : public test_support::OfficeFixture
 {
   protected:
     IdentityOfRecords()
@@ -64,8 +60,6 @@ class IdentityOfRecords : public testing::Test
         {
             Mailbox->AddItem(kFolder, {{L"LastName", name}});
         }
-        state::Shared().gOlApplication = sandbox::MakeOutlook(Mailbox);
-        state::Shared().gOlNamespace = state::Shared().gOlApplication.GetObject(L"GetNamespace", L"MAPI");
         TheRun.Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 10L);
         TheRun.Items = TheRun.Folder.GetObject(L"Items");
         TheRun.HostRows =
@@ -75,7 +69,6 @@ class IdentityOfRecords : public testing::Test
             return TextOf(item.Get(L"LastName")) == TextOf(rows.ValueOf(L"Id"));
         };
     }
-    ~IdentityOfRecords() override { state::Shared() = {}; }
 
     std::wstring IdOf(long position)
     {
@@ -99,12 +92,10 @@ class IdentityOfRecords : public testing::Test
             .ItemType = automation::kContactItem, .RelationStatement = L"SELECT", .Write = Note}(TheRun);
     }
 
-    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
-    test_support::RecordingDisplay Display;
     exchange::Run TheRun{.Display = Display};
 };
 
-using Pairs = std::vector<std::wstring>;
+using Written = std::vector<std::wstring>;
 
 } // namespace
 
@@ -112,12 +103,12 @@ TEST_F(IdentityOfRecords, AnItemAndARowThatHaveMovedAreFoundAgainInBothDirection
 {
     Propose(1, IdOf(3), 1, L"c", 0);
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"c c"}), gPairs);
+    EXPECT_EQ((Written{L"c c"}), gPairs);
     TheRun.Pending = {};
     TheRun.OverwrittenRows.clear();
     Propose(9, IdOf(2), 9, L"b", 1);
     EXPECT_FALSE(Export());
-    EXPECT_EQ((Pairs{L"c c", L"b b"}), gPairs);
+    EXPECT_EQ((Written{L"c c", L"b b"}), gPairs);
     EXPECT_EQ(0, TheRun.Report.Vanished());
 }
 
@@ -125,7 +116,7 @@ TEST_F(IdentityOfRecords, ANewItemThatHasMovedIsFoundAgain)
 {
     TheRun.Pending.NewOutlookItems.Add(L"2", 0).EntryId = IdOf(1);
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"a"}), gPairs);
+    EXPECT_EQ((Written{L"a"}), gPairs);
 }
 
 TEST_F(IdentityOfRecords, ADeletedRecordIsSkippedAndCounted)
@@ -138,7 +129,7 @@ TEST_F(IdentityOfRecords, ADeletedRecordIsSkippedAndCounted)
     EXPECT_FALSE(Import());
     TheRun.Pending.NewHostRecords.Add(1, 0).Key = L"x";
     EXPECT_FALSE(Export());
-    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(4, TheRun.Report.Vanished());
 }
 
@@ -149,7 +140,7 @@ TEST_F(IdentityOfRecords, APairThatIsOneNoLongerIsNotWritten)
     TheRun.Pending = {};
     Propose(1, IdOf(1), 2, L"b", 1);
     EXPECT_FALSE(Export());
-    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(2, TheRun.Report.Vanished());
 }
 
@@ -161,7 +152,7 @@ TEST_F(IdentityOfRecords, TheFolderIsAskedForItsOwnIdentityOnce)
     }
     const test_support::CallWatch calls;
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"b", L"c", L"a"}), gPairs);
+    EXPECT_EQ((Written{L"b", L"c", L"a"}), gPairs);
     EXPECT_EQ(3, calls.Of(L"NameSpace.GetItemFromID"));
     EXPECT_EQ(1, calls.Of(L"MAPIFolder.StoreID"));
     EXPECT_EQ(1 + 3, calls.Of(L"MAPIFolder.EntryID")); // its own, and those of the items' parents
@@ -175,18 +166,18 @@ TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsIdentifiedByItsKey)
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).FirstKey = L"a";
     TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = L"a";
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"a"}), gPairs);
+    EXPECT_EQ((Written{L"a"}), gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
 }
 
 TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
 {
-    Mailbox->AddItem(L"Personal Folders\\Tasks", {{L"Subject", L"elsewhere"}});
+    Mailbox->AddItem(test_support::kTaskRecords.folder, {{L"Subject", L"elsewhere"}});
     const Object tasks = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId =
         exchange::EntryIdOf(tasks.GetObject(L"Items").GetObject(L"Item", 1L));
     EXPECT_FALSE(Import());
-    EXPECT_EQ(Pairs{}, gPairs);
+    EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
 }
 
@@ -199,7 +190,7 @@ TEST_F(IdentityOfRecords, AnItemThatVanishesWhileItIsWrittenIsSkippedAndThePassG
     EXPECT_FALSE((exchange::PassToOutlook{.ItemType = automation::kContactItem,
                                           .RelationStatement = L"SELECT",
                                           .Write = NoteUnlessDeleted}(TheRun)));
-    EXPECT_EQ((Pairs{L"a a", L"c c"}), gPairs);
+    EXPECT_EQ((Written{L"a a", L"c c"}), gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
 }
 
@@ -220,5 +211,5 @@ TEST_F(IdentityOfRecords, AnItemOfAnotherStoreIsFoundAgainInThatStore)
     TheRun.Items = TheRun.Folder.GetObject(L"Items");
     TheRun.Pending.NewOutlookItems.Add(L"9", 0).EntryId = IdOf(1);
     EXPECT_FALSE(Import());
-    EXPECT_EQ((Pairs{L"a"}), gPairs);
+    EXPECT_EQ((Written{L"a"}), gPairs);
 }

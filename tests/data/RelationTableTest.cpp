@@ -2,7 +2,7 @@
 
 #include "automation/Error.h"
 #include "sandbox/ado/AwkwardAdo.h"
-#include "tests/data/CatalogueDatabase.h"
+#include "tests/data/CatalogueOffice.h"
 
 #include <gtest/gtest.h>
 
@@ -14,10 +14,7 @@ class Relations : public testing::Test
   protected:
     Relations()
     {
-        Database.Execute(L"CREATE TABLE SynRelation (QuenlarTblName VARCHAR(50), EnglishName VARCHAR(50), "
-                         L"OutlookName VARCHAR(50))");
-        Database.Execute(L"INSERT INTO SynRelation VALUES ('TBLCONTACT', 'F_SURNAME', 'LastName'), "
-                         L"('TBLACTIVITY', 'F_ACTNAME', 'Subject'), ('TBLCONTACT', 'F_SEX', 'Gender')");
+        Database.Relate(test_support::kContactRecords, {{L"F_SURNAME", L"LastName"}, {L"F_SEX", L"Gender"}});
         Table.Use(L"Select * from SynRelation where QuenlarTblName='TBLCONTACT'", {});
     }
 
@@ -31,7 +28,7 @@ class Relations : public testing::Test
         return text;
     }
 
-    test_support::CatalogueDatabase Database;
+    test_support::CatalogueOffice Database;
     exchange::RelationTable Table;
 };
 
@@ -59,7 +56,8 @@ TEST_F(Relations, AFailedReadIsNotKept)
 
 TEST_F(Relations, ARowWithANullOrEmptyCellIsLeftOutAndTheOthersStay)
 {
-    Database.Execute(L"INSERT INTO SynRelation VALUES ('TBLCONTACT', NULL, 'NickName'), "
+    Database.Execute(L"INSERT INTO SynRelation (QuenlarTblName,EnglishName,OutlookName) VALUES "
+                     L"('TBLCONTACT', NULL, 'NickName'), "
                      L"('TBLCONTACT', 'F_SPOUSE', NULL), ('TBLCONTACT', '', 'Title'), "
                      L"('TBLCONTACT', 'F_SUFFIX', ''), ('TBLCONTACT', 'F_EMAIL', 'Email1Address')");
     EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;F_EMAIL=Email1Address;");
@@ -69,7 +67,7 @@ TEST_F(Relations, BlanksOfAColumnOfAFixedWidthAreNoPartOfAName)
 {
     sandbox::RecordsetsOfProcess().charWidth = 20;
     EXPECT_EQ(Rows(), L"F_SURNAME=LastName;F_SEX=Gender;");
-    Database.AddField(L"F_PADDED", L"8", L"5");
+    Database.AddField(L"F_PADDED", 8, 5);
     EXPECT_NE(nullptr, Database.Catalogue.Find(L"F_PADDED"));
     sandbox::RecordsetsOfProcess() = {};
 }

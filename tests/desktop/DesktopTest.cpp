@@ -3,6 +3,7 @@
 #include "automation/Text.h"
 #include "resources/ids.h"
 #include "tests/support/Drive.h"
+#include "tests/support/HostWindow.h"
 #include "ui/Dialog.h"
 #include "ui/ShowMessageBox.h"
 
@@ -17,6 +18,7 @@ namespace
 {
 
 using test_support::Drive;
+using test_support::HostWindow;
 using test_support::Robot;
 using test_support::ShownDialog;
 
@@ -41,22 +43,6 @@ class Probe : public ui::Dialog
     }
 
     std::function<void()> mOnOk;
-};
-
-class HostWindow
-{
-  public:
-    HostWindow()
-        : mWindow(CreateWindowW(L"STATIC", kHostTitle, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 900, 700,
-                                nullptr, nullptr, nullptr, nullptr))
-    {
-    }
-    HostWindow(const HostWindow&) = delete;
-    HostWindow& operator=(const HostWindow&) = delete;
-    ~HostWindow() { DestroyWindow(mWindow); }
-
-  private:
-    HWND mWindow;
 };
 
 std::wstring Variable(const wchar_t* name)
@@ -124,7 +110,7 @@ void ExpectInFrontOfTheHost(Robot& robot, const ShownDialog& dialog, const std::
 
 TEST(DialogOnADesktop, IsInFrontOfTheHostWhenTheUserChoosesTheHostsWindow)
 {
-    const HostWindow host;
+    const HostWindow host(kHostTitle, 900, 700);
     Probe probe;
     Drive(
         [&](Robot& robot) {
@@ -137,7 +123,7 @@ TEST(DialogOnADesktop, IsInFrontOfTheHostWhenTheUserChoosesTheHostsWindow)
 
 TEST(DialogOnADesktop, IsBelowItsMessageBoxWhenTheUserChoosesTheHostsWindow)
 {
-    const HostWindow host;
+    const HostWindow host(kHostTitle, 900, 700);
     Probe probe([] { ui::ShowMessageBox(L"Over the dialog", MB_OK); });
     Drive(
         [&](Robot& robot) {

@@ -95,10 +95,6 @@ INSTANTIATE_TEST_SUITE_P(All, EveryKind, testing::Values(L"contact", L"task", L"
 
 TEST_F(ContactExchange, TheSideThatWinsOverwritesTheOther)
 {
-    if (test_support::IsBriefRun())
-    {
-        GTEST_SKIP() << "takes five runs";
-    }
     ASSERT_TRUE(Run(L"contact", kExport, kIgnoreAll).succeeded);
     HostSide().Database().Execute(L"UPDATE TBLCONTACT SET F_NICKNAME='Chief'");
     Snapshot before = Look();

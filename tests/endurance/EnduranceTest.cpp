@@ -25,7 +25,6 @@ namespace
 {
 
 constexpr size_t kRecordsOfKind = 4;
-constexpr long kBriefRuns = 24;
 constexpr long kBoundedRuns = 60;
 constexpr long kLongRuns = 1000;
 
@@ -82,7 +81,7 @@ TEST(ThisProcess, StaysAsLargeAsItIsOverManyRunsOfTheComponent)
     language.emplace(Language::Chinese);
     Office chinese(Edition::Chinese, kRecordsOfKind);
     language.reset();
-    const long runsOfSeries = test_support::ByThoroughness(kBriefRuns, kBoundedRuns, kLongRuns);
+    const long runsOfSeries = test_support::IsLongRun() ? kLongRuns : kBoundedRuns;
     const auto runs = [&] { return english.Runs() + chinese.Runs(); };
     const Footprint growth = test_support::GrowthOfLevelSeries(kTolerance, [&] {
         std::vector<Footprint> samples;
@@ -105,7 +104,8 @@ TEST(EveryDialog, FreesEveryByteThatItAllocates)
     const StaticTexts texts;
     const ProcessLanguage language(Language::English);
     Office office(Edition::English, kRecordsOfKind);
-    const test_support::Use use = {.kind = &test_support::kKinds[0], .direction = 3, .rule = 4, .tour = true};
+    const test_support::Use use = {
+        .kind = &test_support::kContactRecords, .direction = 3, .rule = 4, .tour = true};
     const auto useSeveralTimes = [&](int times) {
         for (int i = 0; i < times; ++i)
         {

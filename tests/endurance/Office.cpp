@@ -37,13 +37,12 @@ void WriteMailboxFile(const std::wstring& path, Edition /*edition*/, size_t reco
     WriteNumberedMailbox(path, records);
 }
 
-} // namespace
+std::wstring FolderOf(const RecordKind& kind)
+{
+    return std::wstring(L"Mailbox\\") + kind.folderName; // as the sample data has it
+}
 
-const std::array<Kind, 3> kKinds{{
-    {L"contact", L"VW_CONTACT", L"TBLCONTACT", L"F_CNTCTNO", kContactsFolder},
-    {L"task", L"VW_ACTIVITY", L"TBLACTIVITY", L"F_ACTNO", kTasksFolder},
-    {L"calendar", L"VW_CALENDAR", L"TBLACTIVITY", L"F_ACTNO", kCalendarFolder},
-}};
+} // namespace
 
 Office::Office(Edition edition, size_t records)
     : mHostFile(NewFile(WriteNumberedHost, edition, records)),
@@ -53,10 +52,10 @@ Office::Office(Edition edition, size_t records)
       mRecords(static_cast<long>(records + records / 2))
 {
     InstallOutlookProfile(Profiles::Modern);
-    for (const Kind& kind : kKinds)
+    for (const RecordKind* kind : kRecordKinds)
     {
-        Run({&kind, kToOutlook}, NewComponent());
-        Run({&kind, kFromOutlook}, NewComponent());
+        Run({kind, kToOutlook}, NewComponent());
+        Run({kind, kFromOutlook}, NewComponent());
     }
 }
 
@@ -66,21 +65,21 @@ Office::~Office()
     DeleteFileW(mMailboxFile.c_str());
 }
 
-Office::Counts Office::CountsOf(const Kind& kind)
+Office::Counts Office::CountsOf(const RecordKind& kind)
 {
     return {LongOf(mHost.Database().QueryValue(std::wstring(L"SELECT count(*) FROM ") + kind.view)),
-            mMailbox->ItemCount(kind.folder)};
+            mMailbox->ItemCount(FolderOf(kind))};
 }
 
 void Office::LoseOne(const Use& use)
 {
     if (use.direction == kToOutlook)
     {
-        const auto first = mMailbox->Items(*mMailbox->FindFolder(use.kind->folder)).front();
+        const auto first = mMailbox->Items(*mMailbox->FindFolder(FolderOf(*use.kind))).front();
         mMailbox->Delete(first);
         return;
     }
-    const std::wstring number = use.kind->number;
+    const std::wstring number = use.kind->numberColumn;
     mHost.Database().Execute(std::wstring(L"DELETE FROM ") + use.kind->table + L" WHERE " + number +
                              L"=(SELECT min(" + number + L") FROM " + use.kind->view + L")");
 }
@@ -106,7 +105,7 @@ Outcome Office::Run(const Use& use, const Object& component)
             {
                 conversation.Tour();
             }
-            outcome = conversation.RunCategory(use.kind->name);
+            outcome = conversation.RunCategory(use.kind->option);
             conversation.CloseMainDialog();
         },
         std::chrono::minutes(1));
@@ -118,7 +117,7 @@ Outcome Office::Run(const Use& use, const Object& component)
 
 std::string Office::Fault(const Use& use, const Outcome& outcome)
 {
-    const std::wstring what = std::wstring(use.kind->name) + L", direction " +
+    const std::wstring what = std::wstring(use.kind->option) + L", direction " +
                               std::to_wstring(use.direction) + L", rule " + std::to_wstring(use.rule) +
                               (use.decline ? L", declined: " : L": ");
     if (!outcome.succeeded)
@@ -163,9 +162,9 @@ Object NewComponent()
 Use UseNumber(size_t k)
 {
     constexpr long kDirections[] = {kFromOutlook, kToOutlook, kBothWays};
-    const size_t kind = k % kKinds.size();
-    const size_t direction = k / kKinds.size() % std::size(kDirections);
-    return {&kKinds[kind], kDirections[direction], kRules[(kind + direction) % std::size(kRules)],
+    const size_t kind = k % kRecordKinds.size();
+    const size_t direction = k / kRecordKinds.size() % std::size(kDirections);
+    return {kRecordKinds[kind], kDirections[direction], kRules[(kind + direction) % std::size(kRules)],
             k % kUsesOfRound == 4, k % kUsesOfRound == 0};
 }
 

@@ -8,30 +8,18 @@
 #include "sandbox/ado/Ado.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/Kinds.h"
 #include "tools/demo/Conversation.h"
 
-#include <array>
 #include <functional>
 #include <string>
 
 namespace test_support
 {
 
-// Contacts, tasks or calendar: where their records are.
-struct Kind
-{
-    const wchar_t* name;   // as in the demo's options
-    const wchar_t* view;   // of the host
-    const wchar_t* table;  // of the host
-    const wchar_t* number; // the table's running number
-    const wchar_t* folder; // of the mailbox
-};
-
-extern const std::array<Kind, 3> kKinds;
-
 struct Use
 {
-    const Kind* kind = nullptr;
+    const RecordKind* kind = nullptr;
     long direction = 1; // 1 from Outlook, 2 to Outlook, 3 both
     long rule = 2;      // of conflicts
     bool decline = false;
@@ -67,7 +55,7 @@ class Office
         bool operator==(const Counts&) const = default;
     };
 
-    Counts CountsOf(const Kind& kind);
+    Counts CountsOf(const RecordKind& kind);
     void LoseOne(const Use& use);
     tools::demo::Outcome Run(const Use& use, const automation::Object& component);
     std::string Fault(const Use& use, const tools::demo::Outcome& outcome);

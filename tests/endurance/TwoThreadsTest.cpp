@@ -31,7 +31,6 @@ using tools::ShownDialog;
 namespace
 {
 
-constexpr size_t kBriefUses = 1;
 constexpr size_t kUses = 4;
 constexpr size_t kLongUses = 120;
 
@@ -162,7 +161,7 @@ TEST_P(TwoThreads, ExchangeEachItsOwnDataWithItsOwnFontTimesAndParameters)
 {
     const ProcessLanguage language(GetParam());
     const Edition edition = GetParam() == Language::Chinese ? Edition::Chinese : Edition::English;
-    const size_t uses = test_support::ByThoroughness(kBriefUses, kUses, kLongUses);
+    const size_t uses = test_support::IsLongRun() ? kLongUses : kUses;
     Meeting meeting;
     Faults faults[2];
     {

@@ -32,7 +32,6 @@ namespace
 
 constexpr size_t kRecordsOfKind = 4;
 constexpr size_t kFirstCycles = test_support::kUsesOfRound; // the system's caches fill
-constexpr size_t kBriefCycles = 2;
 constexpr size_t kCycles = 6;
 constexpr size_t kLongCycles = 200;
 constexpr long kReminder = 45; // minutes; not the default
@@ -46,7 +45,7 @@ constexpr Footprint kTolerance = {
 
 size_t Cycles()
 {
-    return test_support::ByThoroughness(kBriefCycles, kCycles, kLongCycles);
+    return test_support::IsLongRun() ? kLongCycles : kCycles;
 }
 
 long ReminderOf(const Object& component)

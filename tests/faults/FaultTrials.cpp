@@ -1,16 +1,10 @@
 #include "tests/faults/FaultTrials.h"
 
-#include "contacts/Contacts.h"
-#include "tasks/Tasks.h"
-
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "config/outlook/OutlookFolders.h"
 #include "run/ChangeCollection.h"
 #include "run/FrmMessage.h"
-#include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
-#include "state/SharedState.h"
 
 #include <algorithm>
 #include <iterator>
@@ -34,13 +28,13 @@ bool IsQuestionOfRights(const std::wstring& member)
 // The contract saves a task after every relation row, so a fault may leave one that is written in part.
 bool MayLeavePart(const Exchanged& what)
 {
-    return what.IsToOutlook() && &what.kind.category == &tasks::kTasks;
+    return what.IsToOutlook() && !what.kind.savesItemOnce;
 }
 
 // A contact whose present account cannot be queried is written with the account and the address that it has.
 bool MayKeepAddress(const Exchanged& what)
 {
-    return !what.IsToOutlook() && &what.kind.category == &contacts::kContacts;
+    return !what.IsToOutlook() && what.kind.itemKind == sandbox::ItemKind::Contact;
 }
 
 Records WithoutAddresses(const Records& records)
@@ -57,7 +51,7 @@ Records WithoutAddresses(const Records& records)
 bool IsPassedOver(const Trial& trial, const std::wstring& struck)
 {
     return trial.fault == Fault::Refuses && struck == L"OpenRecordset" &&
-           trial.what.kind.category.SucceedsWithoutHostRows;
+           trial.what.kind.succeedsWithoutHostRows;
 }
 
 Records Union(const Records& left, const Records& right)
@@ -105,43 +99,21 @@ void ExpectSame(const Records& now, const Records& wanted, size_t extraAllowed)
 } // namespace
 
 FaultTrials::FaultTrials()
-    : mAdo(sandbox::kRecordsetClass, CLSCTX_INPROC_SERVER, [this] {
+    : TwoSides([this] {
           mFaults->CountCreation();
           return Intercept(sandbox::MakeRecordset(), mFaults);
       })
 {
-    sandbox::RegisterProgId(sandbox::kRecordsetProgId, sandbox::kRecordsetClass);
-    state::Shared().gCnnString = mSides.TheHost.ConnectionString();
     state::Shared().gSynParameter.TransConflictOption = state::kNotifyMe;
-    state::Shared().gCalendarPreviewAlarmTime = 20;
-    state::Shared().gFontName = L"Arial";
-    state::Shared().gFontSize = 8;
+    CloseOutlook();
     mLiveObjects = sandbox::LiveObjects();
-}
-
-FaultTrials::~FaultTrials()
-{
-    state::Shared() = {};
-}
-
-exchange::Run FaultTrials::OpenRun(const ExchangedKind& kind)
-{
-    exchange::Run run{.Display = mDisplay};
-    const data::Host host;
-    const std::wstring filter =
-        kind.category.SourceFilter == nullptr ? std::wstring() : kind.category.SourceFilter(host);
-    data::ThrowUnless(host.OpenRecordset(run.HostRows, kind.category.RecordSource, filter) >= 0,
-                      L"OpenRecordset");
-    data::ThrowUnless(!config::ResolveOutlookFolder(kind.folder, run.Folder), L"ResolveOutlookFolder");
-    run.Items = run.Folder.GetObject(L"Items");
-    return run;
 }
 
 // The steps of a run one by one, so that the fault strikes within one of them; true when it was reported.
 bool FaultTrials::ExchangeInSteps(const Trial& trial)
 {
-    const exchange::Kind& category = trial.what.kind.category;
-    exchange::Run run = OpenRun(trial.what.kind);
+    const exchange::Kind& category = trial.what.kind.tested;
+    exchange::Run run = OpenRun(trial.what.kind, Display);
     const automation::RecordsetCloser closer(run.HostRows);
     const auto startCounting = [&] { mFaults->Order(trial.fault, trial.at); };
     if (trial.phase == Phase::Collection)
@@ -174,8 +146,8 @@ FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
 {
     state::SharedState& shared = state::Shared();
     mFaults->OrderNone();
-    shared.gDTC = Intercept(mSides.TheHost.Dtc(), mFaults);
-    shared.gOlApplication = Intercept(sandbox::MakeOutlook(mSides.Mailbox), mFaults);
+    shared.gDTC = Intercept(TheHost.Dtc(), mFaults);
+    shared.gOlApplication = Intercept(sandbox::MakeOutlook(Mailbox), mFaults);
     shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
     shared.gSynParameter.TransType = static_cast<long>(trial.what.direction);
     shared.gSynParameter.CurrentFolder = trial.what.kind.folder;
@@ -183,8 +155,8 @@ FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
     if (trial.phase == Phase::Whole)
     {
         mFaults->Order(trial.fault, trial.at);
-        mDisplay.Ask = run::ConfirmChanges;
-        outcome.reportedFailure = trial.what.kind.run(mDisplay);
+        Display.Ask = run::ConfirmChanges;
+        outcome.reportedFailure = trial.what.kind.run(Display);
     }
     else
     {
@@ -193,8 +165,7 @@ FaultTrials::Outcome FaultTrials::Exchange(const Trial& trial)
     outcome.struck = mFaults->StruckMember();
     mFaults->OrderNone();
     shared.gDTC = {};
-    shared.gOlApplication = {};
-    shared.gOlNamespace = {};
+    CloseOutlook();
     return outcome;
 }
 
@@ -205,13 +176,13 @@ void FaultTrials::ExchangeUndisturbed(const Exchanged& what)
 
 void FaultTrials::LearnStates(const Exchanged& what)
 {
-    mSides.Reset();
-    mBefore = mSides.Look();
+    Reset();
+    mBefore = Look();
     ExchangeUndisturbed(what);
-    mAfter = mSides.Look();
+    mAfter = Look();
     ASSERT_NE(mBefore, mAfter);
     ExchangeUndisturbed(what);
-    const TwoStates again = mSides.Look();
+    const TwoStates again = Look();
     ASSERT_EQ("", Listed(Without(again.Host, mAfter.Host))) << "a second run changes the host";
     ASSERT_EQ("", Listed(Without(again.Outlook, mAfter.Outlook))) << "a second run changes Outlook";
 }
@@ -232,7 +203,7 @@ long FaultTrials::StrikeEveryCall(const Exchanged& what, Phase phase, long step)
 
 bool FaultTrials::Strike(const Trial& trial)
 {
-    mSides.Reset();
+    Reset();
     const Outcome outcome = Exchange(trial);
     if (outcome.struck.empty())
     {
@@ -242,12 +213,12 @@ bool FaultTrials::Strike(const Trial& trial)
                  std::to_string(static_cast<int>(trial.fault)) + " at call " + std::to_string(trial.at) +
                  ", " + ToUtf8(outcome.struck));
     ExpectNothingOpen();
-    EXPECT_EQ(0, mSides.PartsWithoutAWhole());
+    EXPECT_EQ(0, PartsWithoutAWhole());
     if (IsQuestionOfRights(outcome.struck))
     {
         return true;
     }
-    const TwoStates now = mSides.Look();
+    const TwoStates now = Look();
     ExpectWholeRecords(trial, now);
     if (trial.what.IsToOutlook() && !outcome.reportedFailure && !IsPassedOver(trial, outcome.struck))
     {
@@ -259,8 +230,8 @@ bool FaultTrials::Strike(const Trial& trial)
 
 void FaultTrials::ExpectNothingOpen()
 {
-    EXPECT_FALSE(mSides.TheHost.Database().InTransaction());
-    EXPECT_FALSE(mDisplay.IsShown) << "the progress bar is still shown";
+    EXPECT_FALSE(TheHost.Database().InTransaction());
+    EXPECT_FALSE(Display.IsShown) << "the progress bar is still shown";
     EXPECT_EQ(0, InterceptedObjects()) << "objects are still held";
     EXPECT_EQ(mLiveObjects, sandbox::LiveObjects()) << "objects are still held";
 }
@@ -275,7 +246,7 @@ void FaultTrials::ExpectWholeRecords(const Trial& trial, const TwoStates& now)
 void FaultTrials::ExpectPuttingRight(const Trial& trial)
 {
     ExchangeUndisturbed(trial.what);
-    const TwoStates now = mSides.Look();
+    const TwoStates now = Look();
     ExpectSame(now.Host, mAfter.Host, 0);
     ExpectSame(now.Outlook, mAfter.Outlook, MayLeavePart(trial.what) ? 1 : 0);
     ExpectNothingOpen();

@@ -2,28 +2,16 @@
 // sides, strikes one call, looks at what is left, then lets an undisturbed run put things right.
 #pragma once
 
-#include "exchange/Kind.h"
-#include "sandbox/dispatch/ClassObject.h"
 #include "tests/faults/Faults.h"
 #include "tests/faults/TwoSides.h"
-#include "tests/support/RecordingDisplay.h"
-#include "tests/support/WithLanguage.h"
+#include "tests/support/TestedKind.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
 
 namespace test_support
 {
-
-struct ExchangedKind
-{
-    const char* name;
-    const exchange::Kind& category;
-    bool (*run)(exchange::RunDisplay& display);
-    const wchar_t* folder;
-};
 
 enum class Direction : long
 {
@@ -41,7 +29,7 @@ enum class Phase
 
 struct Exchanged
 {
-    ExchangedKind kind;
+    const TestedKind& kind;
     Direction direction;
 
     bool IsToOutlook() const noexcept { return direction == Direction::ToOutlook; }
@@ -55,11 +43,10 @@ struct Trial
     long at;
 };
 
-class FaultTrials : public testing::Test
+class FaultTrials : public testing::Test, protected TwoSides
 {
   protected:
     FaultTrials();
-    ~FaultTrials() override;
 
     // Strikes every step-th call of the phase, by every kind of fault, and checks each trial; how many calls
     // were struck. Every message and confirmation must be answered around it.
@@ -74,7 +61,6 @@ class FaultTrials : public testing::Test
 
     Outcome Exchange(const Trial& trial);
     bool ExchangeInSteps(const Trial& trial);
-    exchange::Run OpenRun(const ExchangedKind& kind);
     void ExchangeUndisturbed(const Exchanged& what);
 
     // The states that a trial can be compared with.
@@ -85,13 +71,9 @@ class FaultTrials : public testing::Test
     void ExpectPuttingRight(const Trial& trial);
 
     std::shared_ptr<Faults> mFaults = std::make_shared<Faults>();
-    sandbox::RegisteredClass mAdo;
-    TwoSides mSides;
     TwoStates mBefore;
     TwoStates mAfter;
     long mLiveObjects = 0; // between two trials
-    RecordingDisplay mDisplay;
-    WithLanguage mEnglish{resources::Language::English};
 };
 
 } // namespace test_support

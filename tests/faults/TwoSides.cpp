@@ -1,8 +1,8 @@
 #include "tests/faults/TwoSides.h"
 
-#include "automation/Dates.h"
-#include "automation/Object.h"
 #include "automation/Text.h"
+#include "tests/support/Days.h"
+#include "tests/support/TestedKind.h"
 
 #include <algorithm>
 #include <array>
@@ -13,19 +13,12 @@ namespace test_support
 namespace
 {
 
-using automation::Date;
-using automation::Moment;
 using automation::Object;
 using automation::TextOrEmpty;
 
-constexpr const wchar_t* kContacts = L"Personal Folders\\Contacts";
-constexpr const wchar_t* kTasks = L"Personal Folders\\Tasks";
-constexpr const wchar_t* kCalendar = L"Personal Folders\\Calendar";
-
-Date Day(int day, int hour = 0, int minute = 0)
-{
-    return automation::DateOf(Moment{2003, 5, day, hour, minute, 0});
-}
+constexpr const wchar_t* kContacts = kContactRecords.folder;
+constexpr const wchar_t* kTasks = kTaskRecords.folder;
+constexpr const wchar_t* kCalendar = kCalendarRecords.folder;
 
 constexpr const wchar_t* kTables[] = {L"TBLACTIVITY", L"TBLCONTACT", L"TBLADDRESS", L"TBLACCINFO",
                                       L"TBLACCOUNT"};
@@ -105,9 +98,9 @@ std::wstring Described(sandbox::Mailbox& mailbox, const sandbox::outlook::Stored
 
 } // namespace
 
-TwoSides::TwoSides()
+TwoSides::TwoSides(sandbox::Creator makeRecordset) : TestOffice(std::move(makeRecordset))
 {
-    TheHost.Database().Execute(L"PRAGMA synchronous=OFF"); // thousands of short transactions, none of value
+    Execute(L"PRAGMA synchronous=OFF"); // thousands of short transactions, none of value
     Reset();
 }
 
@@ -124,7 +117,7 @@ void TwoSides::Reset()
         database.Execute(row);
     }
     database.Commit();
-    Mailbox = sandbox::MakeMailbox();
+    UseNewMailbox();
     AddItems();
 }
 
@@ -139,35 +132,33 @@ void TwoSides::AddItems()
                                  {L"FirstName", L"Only"},
                                  {L"CompanyName", L"New Inc."},
                                  {L"BusinessAddressCity", L"Rome"},
-                                 {L"Birthday", Day(3)}});
+                                 {L"Birthday", Day(2003, 5, 3)}});
     Mailbox->AddItem(kTasks, {{L"Subject", L"Pair"},
                               {L"Categories", L"Call"},
                               {L"Companies", L"Acme"},
-                              {L"StartDate", Day(6)},
-                              {L"CreationTime", Day(1)}});
+                              {L"StartDate", Day(2003, 5, 6)},
+                              {L"CreationTime", Day(2003, 5, 1)}});
     Mailbox->AddItem(kTasks, {{L"Subject", L"Outlook only"},
                               {L"Companies", L"Newer Inc."},
                               {L"ContactNames", L"MillerAnn"},
-                              {L"DueDate", Day(9)},
-                              {L"CreationTime", Day(1)}});
-    Mailbox->AddItem(
-        kCalendar,
-        {{L"Subject", L"Pair"}, {L"Categories", L"Call"}, {L"Start", Day(6, 9, 30)}, {L"End", Day(6, 11)}});
+                              {L"DueDate", Day(2003, 5, 9)},
+                              {L"CreationTime", Day(2003, 5, 1)}});
+    Mailbox->AddItem(kCalendar, {{L"Subject", L"Pair"},
+                                 {L"Categories", L"Call"},
+                                 {L"Start", Day(2003, 5, 6, 9, 30)},
+                                 {L"End", Day(2003, 5, 6, 11)}});
     Mailbox->AddItem(kCalendar, {{L"Subject", L"Outlook only"},
                                  {L"Companies", L"Newest Inc."},
-                                 {L"Start", Day(8, 9)},
-                                 {L"End", Day(8, 10)}});
-    const Object items = sandbox::MakeOutlook(Mailbox)
-                             .GetObject(L"GetNamespace", L"MAPI")
-                             .GetObject(L"GetDefaultFolder", 9L)
-                             .GetObject(L"Items");
+                                 {L"Start", Day(2003, 5, 8, 9)},
+                                 {L"End", Day(2003, 5, 8, 10)}});
+    const Object items = DefaultFolder(kCalendarKind).GetObject(L"Items");
     const Object repeating = items.GetObject(L"Add");
     repeating.Put(L"Subject", L"Every day");
-    repeating.Put(L"Start", Day(12, 9));
-    repeating.Put(L"End", Day(12, 10));
+    repeating.Put(L"Start", Day(2003, 5, 12, 9));
+    repeating.Put(L"End", Day(2003, 5, 12, 10));
     const Object pattern = repeating.GetObject(L"GetRecurrencePattern");
     pattern.Put(L"RecurrenceType", 0L);
-    pattern.Put(L"PatternEndDate", Day(20));
+    pattern.Put(L"PatternEndDate", Day(2003, 5, 20));
     repeating.Call(L"Save");
 }
 

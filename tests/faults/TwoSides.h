@@ -3,8 +3,7 @@
 // dates and none. Both can be put back to their start between two trials, and be compared.
 #pragma once
 
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
+#include "tests/support/TestOffice.h"
 
 #include <set>
 #include <string>
@@ -21,10 +20,10 @@ struct TwoStates
     bool operator==(const TwoStates&) const = default;
 };
 
-class TwoSides
+class TwoSides : public TestOffice
 {
   public:
-    TwoSides();
+    explicit TwoSides(sandbox::Creator makeRecordset);
 
     // The start again: other rows and items than the first ones are gone.
     void Reset();
@@ -32,9 +31,6 @@ class TwoSides
     // Rows of the host that only exist in part: an account without its information, an address or an
     // information row without its account.
     long PartsWithoutAWhole();
-
-    sandbox::Host TheHost;
-    sandbox::MailboxRef Mailbox;
 
   private:
     void AddItems();

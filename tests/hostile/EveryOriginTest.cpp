@@ -1,29 +1,19 @@
 // Values of every origin at once (Outlook, the host's rows and keys, the user's id, the stored parameters):
 // no statement that the component sends says anything else because of them.
 #include "automation/Text.h"
-#include "calendar/Calendar.h"
 #include "config/outlook/OutlookFolders.h"
 #include "config/store/ChosenFolders.h"
 #include "config/store/ParameterStore.h"
 #include "config/store/Translation.h"
 #include "config/store/UserRows.h"
-#include "contacts/Contacts.h"
-#include "exchange/Kind.h"
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
-#include "tasks/Tasks.h"
 #include "tests/hostile/HostileItem.h"
 #include "tests/hostile/HostileValues.h"
 #include "tests/hostile/NoMessageBoxes.h"
 #include "tests/hostile/StatementShape.h"
 #include "tests/support/FakeHost.h"
-#include "tests/support/RecordingDisplay.h"
+#include "tests/support/OfficeFixture.h"
+#include "tests/support/TestedKind.h"
 #include "tests/support/Thoroughness.h"
-#include "tests/support/WithLanguage.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {
@@ -31,17 +21,10 @@ namespace
 using namespace test_support;
 using automation::Recordset;
 
-class EveryOrigin : public testing::Test
+class EveryOrigin : public OfficeFixture
 {
   protected:
-    EveryOrigin()
-    {
-        state::Shared().gDTC = RecordStatements(automation::Object(mHost.Get()), mStatements);
-        state::Shared().gCnnString = mDatabase.ConnectionString();
-        state::Shared().gOlNamespace =
-            sandbox::MakeOutlook(sandbox::MakeMailbox()).GetObject(L"GetNamespace", L"MAPI");
-    }
-    ~EveryOrigin() override { state::Shared() = {}; }
+    EveryOrigin() { state::Shared().gDTC = RecordStatements(automation::Object(mHost.Get()), mStatements); }
 
     // One row with this text in every column, which each recordset of the host holds.
     void AnswerWith(const std::wstring& text, const std::vector<std::wstring>& columns)
@@ -55,11 +38,11 @@ class EveryOrigin : public testing::Test
     }
 
     // Writes an item over a row whose columns all hold the text, and as a new row.
-    void Import(const exchange::Kind& category, const std::wstring& text, const ItemValues& item)
+    void Import(const TestedKind& kind, const std::wstring& text, const ItemValues& item)
     {
         for (const bool isNew : {true, false})
         {
-            exchange::Run run{.Display = mDisplay};
+            exchange::Run run{.Display = Display};
             run.HostRows = Recordset(sandbox::MakeRecordset(
                 {{{L"F_CNTCTID"}, {L"F_ACTID"}, {L"ACC_SNAME"}}, {{text, text, text}}}));
             run.Items = MakeItemsOf(MakeHostileItem(item));
@@ -69,7 +52,7 @@ class EveryOrigin : public testing::Test
             {
                 run.Pending.NewOutlookItems.Add(L"1", 0);
             }
-            EXPECT_FALSE(category.FromOutlook(run));
+            EXPECT_FALSE(kind.tested.FromOutlook(run));
         }
     }
 
@@ -85,20 +68,18 @@ class EveryOrigin : public testing::Test
             {
                 mHost->Rows.rows.clear();
             }
-            Import(contacts::kContacts, text,
+            Import(kContactKind, text,
                    {{L"LastName", text},
                     {L"FirstName", text},
                     {L"CompanyName", text},
                     {L"NickName", text},
                     {L"BusinessAddressCity", text}});
-            Import(contacts::kContacts, text,
+            Import(kContactKind, text,
                    {{L"LastName", text}, {L"FirstName", text}, {L"CompanyName", text + L" & Sons"}});
-            Import(tasks::kTasks, text, {{L"Subject", text}, {L"Companies", text}, {L"ContactNames", text}});
-            Import(calendar::kCalendar, text, {{L"Subject", text}, {L"Companies", text}});
+            Import(kTaskKind, text, {{L"Subject", text}, {L"Companies", text}, {L"ContactNames", text}});
+            Import(kCalendarKind, text, {{L"Subject", text}, {L"Companies", text}});
         }
-        Recordset rows;
-        data::Host().OpenRecordset(rows, calendar::kCalendar.RecordSource,
-                                   calendar::kCalendar.SourceFilter(data::Host()));
+        OpenRows(calendar::kCalendar);
         return ShapesOf(mStatements);
     }
 
@@ -149,13 +130,9 @@ class EveryOrigin : public testing::Test
         values.Report(std::to_string(expected.size()) + " statements each");
     }
 
-    sandbox::AdoInProcess mAdo;
-    sandbox::Host mDatabase;
     Microsoft::WRL::ComPtr<FakeHost> mHost{new FakeHost};
     Statements mStatements;
     NoMessageBoxes mBoxes;
-    RecordingDisplay mDisplay;
-    const WithLanguage mEnglish{resources::Language::English};
 };
 
 TEST_F(EveryOrigin, NoValueChangesTheStatementsOfARun)

@@ -1,18 +1,14 @@
 // Single values on their way into a statement: every type and size of column, every fragment builder.
 #include "data/ContractForms.h"
-#include "sandbox/ado/Ado.h"
 #include "sandbox/host/FieldRows.h"
-#include "sandbox/host/Host.h"
 #include "sandbox/host/Rejection.h"
-#include "state/SharedState.h"
 #include "tests/hostile/HostileValues.h"
 #include "tests/hostile/NoMessageBoxes.h"
 #include "tests/hostile/Oracle.h"
+#include "tests/support/OfficeFixture.h"
 #include "tests/support/Thoroughness.h"
 
 #include "automation/Text.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cwctype>
@@ -30,12 +26,11 @@ struct Column
     long size;
 };
 
-class HostileFieldValues : public testing::Test
+class HostileFieldValues : public OfficeFixture
 {
   protected:
     HostileFieldValues()
     {
-        state::Shared().gCnnString = mHost.ConnectionString();
         for (const sandbox::FieldRow& row : sandbox::FieldRows())
         {
             mColumns.push_back({row.column, static_cast<long>(row.rule), row.size});
@@ -46,12 +41,11 @@ class HostileFieldValues : public testing::Test
             AddColumn(8, size);
         }
     }
-    ~HostileFieldValues() override { state::Shared().gCnnString.clear(); }
 
     const Column& AddColumn(long type, long size)
     {
         mColumns.push_back({L"F_OF" + std::to_wstring(mColumns.size()), type, size});
-        sandbox::AddRows(mHost.Database(), L"SynFields", L"FieldName,FieldType,FieldSize",
+        sandbox::AddRows(TheHost.Database(), L"SynFields", L"FieldName,FieldType,FieldSize",
                          {{mColumns.back().name, type, size}});
         return mColumns.back();
     }
@@ -113,8 +107,6 @@ class HostileFieldValues : public testing::Test
             << ", value of type " << value.Type();
     }
 
-    sandbox::AdoInProcess mAdo;
-    sandbox::Host mHost;
     data::FieldCatalogue mCatalogue;
     std::vector<Column> mColumns;
     long mRefused = 0;

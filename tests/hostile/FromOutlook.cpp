@@ -2,10 +2,8 @@
 
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "data/Host.h"
 #include "sandbox/host/Literals.h"
 #include "sandbox/host/Rejection.h"
-#include "state/SharedState.h"
 #include "tests/hostile/Oracle.h"
 
 #include <algorithm>
@@ -109,24 +107,16 @@ HostileFromOutlook::HostileFromOutlook()
 {
     for (const wchar_t* sql : kRows)
     {
-        mHost.Database().Execute(sql);
+        Execute(sql);
     }
-    state::Shared().gDTC = RecordStatements(mHost.Dtc(), mStatements);
-    state::Shared().gCnnString = mHost.ConnectionString();
-    state::Shared().gCalendarStartTime = {0.25};
-    state::Shared().gCalendarEndTime = {0.75};
+    state::Shared().gDTC = RecordStatements(TheHost.Dtc(), mStatements);
     mRest = TheRest();
-}
-
-HostileFromOutlook::~HostileFromOutlook()
-{
-    state::Shared() = {};
 }
 
 std::wstring HostileFromOutlook::Dump(const std::wstring& query)
 {
     std::wstring text;
-    for (const sandbox::Row& row : mHost.Database().Query(query).rows)
+    for (const sandbox::Row& row : TheHost.Database().Query(query).rows)
     {
         for (const Value& value : row)
         {
@@ -155,7 +145,7 @@ HostileFromOutlook::RowCounts HostileFromOutlook::CountRows()
         sql += (sql.empty() ? L"SELECT (SELECT COUNT(*) FROM " : L",(SELECT COUNT(*) FROM ") +
                std::wstring(table) + L")";
     }
-    const sandbox::ResultSet result = mHost.Database().Query(sql);
+    const sandbox::ResultSet result = TheHost.Database().Query(sql);
     RowCounts counts;
     for (size_t i = 0; i < std::size(kCounted); ++i)
     {
@@ -164,12 +154,9 @@ HostileFromOutlook::RowCounts HostileFromOutlook::CountRows()
     return counts;
 }
 
-void HostileFromOutlook::Import(const exchange::Kind& category, const automation::Object& item, bool isNew)
+void HostileFromOutlook::Import(const TestedKind& kind, const automation::Object& item, bool isNew)
 {
-    exchange::Run run{.Display = mDisplay};
-    const data::Host host;
-    const std::wstring filter = category.SourceFilter == nullptr ? L"" : category.SourceFilter(host);
-    ASSERT_EQ(0, host.OpenRecordset(run.HostRows, category.RecordSource, filter));
+    exchange::Run run{.Display = Display, .HostRows = OpenRows(kind.tested)};
     run.Items = MakeItemsOf(item);
     if (isNew)
     {
@@ -182,11 +169,12 @@ void HostileFromOutlook::Import(const exchange::Kind& category, const automation
     }
     mBefore = CountRows();
     mStatements.clear();
-    EXPECT_FALSE(category.FromOutlook(run)); // no record ends the pass
+    EXPECT_FALSE(kind.tested.FromOutlook(run)); // no record ends the pass
 }
 
-void HostileFromOutlook::ExpectOneRecordAtMost(const std::wstring& table, bool isNew, bool isAtomic)
+void HostileFromOutlook::ExpectOneRecordAtMost(const RecordKind& kind, bool isNew)
 {
+    const std::wstring table = kind.table;
     for (const Statement& statement : mStatements)
     {
         CheckStatement(statement, table);
@@ -201,11 +189,11 @@ void HostileFromOutlook::ExpectOneRecordAtMost(const std::wstring& table, bool i
     mWritten += isWritten ? 1 : 0;
     EXPECT_EQ(isNew && isWritten ? 1 : 0, added[table]);
     EXPECT_EQ(0, added[table == L"TBLCONTACT" ? L"TBLACTIVITY" : L"TBLCONTACT"]);
-    const long mostOfOthers = isWritten || !isAtomic ? 1 : 0;
+    const long mostOfOthers = isWritten || !kind.hasTransaction ? 1 : 0;
     EXPECT_LE(added[L"TBLACCOUNT"], mostOfOthers);
     EXPECT_EQ(added[L"TBLACCOUNT"], added[L"TBLACCINFO"]);
     EXPECT_LE(added[L"TBLADDRESS"], table == L"TBLCONTACT" ? mostOfOthers : 0);
-    EXPECT_FALSE(mHost.Database().InTransaction());
+    EXPECT_FALSE(TheHost.Database().InTransaction());
 }
 
 void HostileFromOutlook::ExpectTheRestUntouched()
@@ -217,7 +205,7 @@ void HostileFromOutlook::Clear()
 {
     for (const wchar_t* sql : kClearing)
     {
-        mHost.Database().Execute(sql);
+        Execute(sql);
     }
 }
 
@@ -230,7 +218,7 @@ void HostileFromOutlook::CheckStatement(const Statement& statement, const std::w
             first == table || first == L"TBLADDRESS" ||
             (statement.member == L"Insert" && (first == L"TBLACCOUNT" || first == L"TBLACCINFO"));
         EXPECT_TRUE(isExpected) << ToUtf8(first);
-        EXPECT_FALSE(IsMisread(statement.result)) << ToUtf8(mHost.LastRejection());
+        EXPECT_FALSE(IsMisread(statement.result)) << ToUtf8(TheHost.LastRejection());
         CheckLists(statement);
     }
     else if (statement.member == L"OpenRecordset")

@@ -1,10 +1,6 @@
 // Whole items on their way into the host, every property hostile: what is written is one record or none, with
 // the values that the contract gives it, and nothing else changes.
 #include "tests/hostile/FromOutlook.h"
-#include "calendar/Calendar.h"
-#include "contacts/Contacts.h"
-#include "tasks/Tasks.h"
-
 #include "sandbox/host/FieldRows.h"
 #include "sandbox/host/Literals.h"
 #include "sandbox/host/RelationRows.h"
@@ -83,25 +79,17 @@ std::wstring SourceOf(const std::wstring& property)
 class HostileImport : public HostileFromOutlook
 {
   protected:
-    struct Kind
-    {
-        const exchange::Kind& category;
-        const wchar_t* table;
-        const wchar_t* relationTable;
-        bool isAtomic;
-    };
-
     // Makes an item, imports it as a new row or over an existing one, and checks everything; so many times.
     template<typename Make>
-    void ImportMany(const Kind& kind, HostileValues& values, long count, Make&& make)
+    void ImportMany(const TestedKind& kind, HostileValues& values, long count, Make&& make)
     {
         for (long i = 0; i < count && !HasFailure(); ++i)
         {
             SCOPED_TRACE("item " + std::to_string(i) + ", seed " + std::to_string(values.Seed()));
             const bool isNew = values.OneIn(2);
             mItem = make(values);
-            Import(kind.category, MakeHostileItem(mItem), isNew);
-            ExpectOneRecordAtMost(kind.table, isNew, kind.isAtomic);
+            Import(kind, MakeHostileItem(mItem), isNew);
+            ExpectOneRecordAtMost(kind, isNew);
             CheckTexts(kind);
             if (i % 25 == 0 || i + 1 == count)
             {
@@ -115,7 +103,7 @@ class HostileImport : public HostileFromOutlook
                       std::to_string(mBoxes.Count()) + " messages");
     }
 
-    void CheckTexts(const Kind& kind)
+    void CheckTexts(const TestedKind& kind)
     {
         const auto written = ColumnsWritten(mStatements, kind.table);
         for (const auto& rows : {sandbox::RelationRows(), sandbox::NameRows(sandbox::Edition::English)})
@@ -152,22 +140,20 @@ class HostileImport : public HostileFromOutlook
 TEST_F(HostileImport, ContactsAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("contacts from Outlook");
-    const Kind kind{contacts::kContacts, L"TBLCONTACT", L"TBLCONTACT", true};
-    ImportMany(kind, values, Times(600), [](HostileValues& from) { return HostileRecord(kContact, from); });
+    ImportMany(kContactKind, values, Times(600),
+               [](HostileValues& from) { return HostileRecord(kContact, from); });
 }
 
 TEST_F(HostileImport, TasksAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("tasks from Outlook");
-    const Kind kind{tasks::kTasks, L"TBLACTIVITY", L"TBLACTIVITY", true};
-    ImportMany(kind, values, Times(600), [](HostileValues& from) { return HostileRecord(kTask, from); });
+    ImportMany(kTaskKind, values, Times(600), [](HostileValues& from) { return HostileRecord(kTask, from); });
 }
 
 TEST_F(HostileImport, AppointmentsAreWrittenWholeOrNotAtAll)
 {
     HostileValues values("appointments from Outlook");
-    const Kind kind{calendar::kCalendar, L"TBLACTIVITY", L"VW_CALENDAR", false};
-    ImportMany(kind, values, Times(600), [](HostileValues& from) {
+    ImportMany(kCalendarKind, values, Times(600), [](HostileValues& from) {
         ItemValues item = HostileRecord(kAppointment, from);
         item[L"GetRecurrencePattern"] =
             from.OneIn(40) ? from.Any() : Value(MakeHostileItem(HostileRecord(kPattern, from)));

@@ -4,14 +4,9 @@
 #include "config/outlook/OutlookFolders.h"
 #include "config/store/ChosenFolders.h"
 #include "config/store/ParameterStore.h"
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
 #include "tests/hostile/HostileValues.h"
+#include "tests/support/OfficeFixture.h"
 #include "tests/support/Thoroughness.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {
@@ -24,23 +19,19 @@ using sandbox::Row;
 constexpr const wchar_t* kParameters = L"T_POutlookSyncParam";
 constexpr const wchar_t* kFolders = L"T_POutlookSyncFolder";
 
-class HostileParameters : public testing::Test
+class HostileParameters : public OfficeFixture
 {
   protected:
     HostileParameters()
     {
-        state::Shared().gDTC = mHost.Dtc();
-        state::Shared().gCnnString = mHost.ConnectionString();
-        state::Shared().gOlNamespace = mOutlook.GetObject(L"GetNamespace", L"MAPI");
-        sandbox::AddRows(mHost.Database(), kFolders, L"F_UID,TransObjectID,OutlookFolder,IsDefault",
+        sandbox::AddRows(TheHost.Database(), kFolders, L"F_UID,TransObjectID,OutlookFolder,IsDefault",
                          {{2L, 10L, L"Theirs", true}});
-        sandbox::AddRows(mHost.Database(), kParameters, L"F_UID,TransObjectID,TransObject,IsTrans",
+        sandbox::AddRows(TheHost.Database(), kParameters, L"F_UID,TransObjectID,TransObject,IsTrans",
                          {{2L, 10L, L"Contact", true}});
         mOfOthers = RowsOfOthers();
     }
-    ~HostileParameters() override { state::Shared() = {}; }
 
-    std::wstring Found(const std::wstring& sql) { return TextOrEmpty(mHost.Database().QueryValue(sql)); }
+    std::wstring Found(const std::wstring& sql) { return TextOrEmpty(TheHost.Database().QueryValue(sql)); }
 
     std::wstring RowsOfOthers()
     {
@@ -53,16 +44,12 @@ class HostileParameters : public testing::Test
     // Makes a template's texts hostile, and the user's rows gone.
     void SetTemplate(const std::vector<std::wstring>& texts)
     {
-        mHost.Database().Execute(L"DELETE FROM T_POutlookSyncParam WHERE F_UID=1");
-        mHost.Database().Execute(
-            L"UPDATE T_POutlookSyncParam SET TransObjectPic=?, TransTypePic=?, TransSource=?, "
-            L"TransSourceConfig=?, TransNameEnglish=? WHERE F_UID=0 AND TransObject='Contact'",
-            Row(texts.begin(), texts.end()));
+        Execute(L"DELETE FROM T_POutlookSyncParam WHERE F_UID=1");
+        Execute(L"UPDATE T_POutlookSyncParam SET TransObjectPic=?, TransTypePic=?, TransSource=?, "
+                L"TransSourceConfig=?, TransNameEnglish=? WHERE F_UID=0 AND TransObject='Contact'",
+                Row(texts.begin(), texts.end()));
     }
 
-    sandbox::AdoInProcess mAdo;
-    sandbox::Host mHost;
-    automation::Object mOutlook = sandbox::MakeOutlook(sandbox::MakeMailbox());
     std::wstring mOfOthers;
 };
 
@@ -78,7 +65,7 @@ TEST_F(HostileParameters, TemplatesAreCopiedAndLoadedTextForText)
         SetTemplate(texts);
         state::SynParameter record;
         EXPECT_FALSE(config::SetSynParamenter(record, L"Contact"));
-        EXPECT_EQ(L"", mHost.LastRejection());
+        EXPECT_EQ(L"", TheHost.LastRejection());
         EXPECT_EQ(texts[0], record.TransObjectPic);
         EXPECT_EQ(texts[1], record.TransTypePic);
         EXPECT_EQ(texts[2], record.TransSource);
@@ -110,8 +97,8 @@ TEST_F(HostileParameters, AFolderOfAMissingStoreIsDeletedAndNoOther)
     {
         const std::wstring path = values.StorableText(100) + L"?";
         SCOPED_TRACE(ToUtf8(path));
-        mHost.Database().Execute(L"DELETE FROM T_POutlookSyncFolder WHERE F_UID=1");
-        sandbox::AddRows(mHost.Database(), kFolders, L"F_UID,TransObjectID,OutlookFolder,IsDefault",
+        Execute(L"DELETE FROM T_POutlookSyncFolder WHERE F_UID=1");
+        sandbox::AddRows(TheHost.Database(), kFolders, L"F_UID,TransObjectID,OutlookFolder,IsDefault",
                          {{1L, 10L, path, false}, {1L, 20L, L"Personal Folders\\Tasks", true}});
         config::PurgeMissingFolders();
         EXPECT_EQ(L"Personal Folders\\Tasks",

@@ -3,22 +3,12 @@
 #include "automation/Dates.h"
 #include "automation/Readable.h"
 #include "automation/Text.h"
-#include "calendar/Calendar.h"
-#include "contacts/Contacts.h"
-#include "exchange/Kind.h"
-#include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
-#include "sandbox/host/Host.h"
 #include "sandbox/host/RelationRows.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
-#include "tasks/Tasks.h"
 #include "tests/hostile/HostileRecords.h"
-#include "tests/support/RecordingDisplay.h"
+#include "tests/support/OfficeFixture.h"
+#include "tests/support/TestedKind.h"
 #include "tests/support/Thoroughness.h"
-#include "tests/support/WithLanguage.h"
-
-#include <gtest/gtest.h>
 
 #include <set>
 
@@ -77,35 +67,11 @@ const std::set<std::wstring> kTexts{L"FirstName",
                                     L"Categories",
                                     L"Companies"};
 
-class HostileExport : public testing::Test
+class HostileExport : public OfficeFixture
 {
   protected:
-    struct Kind
-    {
-        const exchange::Kind& category;
-        const wchar_t* relationTable;
-        const wchar_t* folder;
-        long folderNumber; // OlDefaultFolders
-        bool savesAtTheEnd;
-    };
-
-    HostileExport()
-    {
-        state::Shared().gDTC = mHost.Dtc();
-        state::Shared().gCnnString = mHost.ConnectionString();
-        state::Shared().gCalendarPreviewAlarmTime = 20;
-        UseNewMailbox();
-    }
-    ~HostileExport() override { state::Shared() = {}; }
-
-    void UseNewMailbox()
-    {
-        mMailbox = sandbox::MakeMailbox();
-        state::Shared().gOlNamespace = sandbox::MakeOutlook(mMailbox).GetObject(L"GetNamespace", L"MAPI");
-    }
-
     // The pass with this one row, into a new item or over the folder's first; whether it failed.
-    bool Export(const Kind& kind, const ItemValues& record, bool isNew)
+    bool Export(const TestedKind& kind, const ItemValues& record, bool isNew)
     {
         sandbox::ResultSet rows;
         rows.rows.emplace_back();
@@ -114,17 +80,15 @@ class HostileExport : public testing::Test
             rows.columns.push_back({name});
             rows.rows[0].push_back(value);
         }
-        exchange::Run run{.Display = mDisplay};
+        exchange::Run run = RunOverFolder(kind, Display);
         run.HostRows = automation::Recordset(sandbox::MakeRecordset(std::move(rows)));
-        run.Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", kind.folderNumber);
-        run.Items = run.Folder.GetObject(L"Items");
         (isNew ? run.Pending.NewHostRecords : run.Pending.ChangedHostRecords).Add(1, 1);
         run.Pending.ChangedOutlookItems.Add(L"1", 1);
-        return kind.category.ToOutlook(run);
+        return kind.tested.ToOutlook(run);
     }
 
     // The texts of an item that the relation rows lead to.
-    std::vector<std::wstring> TextsOf(const Kind& kind, long position)
+    std::vector<std::wstring> TextsOf(const TestedKind& kind, long position)
     {
         std::vector<std::wstring> texts;
         for (const std::wstring& property : kTexts)
@@ -134,11 +98,11 @@ class HostileExport : public testing::Test
         return texts;
     }
 
-    std::wstring TextIn(const Kind& kind, long position, const std::wstring& property)
+    std::wstring TextIn(const TestedKind& kind, long position, const std::wstring& property)
     {
         try
         {
-            return TextOrEmpty(mMailbox->ItemProperty(kind.folder, position, property));
+            return TextOrEmpty(Mailbox->ItemProperty(kind.folder, position, property));
         }
         catch (const automation::Error&)
         {
@@ -146,7 +110,7 @@ class HostileExport : public testing::Test
         }
     }
 
-    void ExpectAsTheRowHasIt(const Kind& kind, const ItemValues& record, long position)
+    void ExpectAsTheRowHasIt(const TestedKind& kind, const ItemValues& record, long position)
     {
         for (const auto& rows : {sandbox::RelationRows(), sandbox::NameRows(sandbox::Edition::English)})
         {
@@ -167,7 +131,7 @@ class HostileExport : public testing::Test
     }
 
     template<typename Rows>
-    void ExportMany(const Kind& kind, const Rows& columns, HostileValues& values, long count)
+    void ExportMany(const TestedKind& kind, const Rows& columns, HostileValues& values, long count)
     {
         long saved = 0;
         for (long i = 0; i < count && !HasFailure(); ++i)
@@ -176,7 +140,7 @@ class HostileExport : public testing::Test
             if (i % 50 == 0)
             {
                 UseNewMailbox();
-                mMailbox->AddItem(kind.folder, {{L"Subject", L"First"}});
+                Mailbox->AddItem(kind.folder, {{L"Subject", L"First"}});
             }
             ItemValues record = HostileRecord(columns, values);
             Moderate(record, values);
@@ -188,9 +152,9 @@ class HostileExport : public testing::Test
 
     // Of a calendar entry without a date that Outlook can hold, and of a series that ends before it begins,
     // nothing is written; the pass goes on.
-    static bool IsLeftOut(const Kind& kind, const ItemValues& record)
+    static bool IsLeftOut(const TestedKind& kind, const ItemValues& record)
     {
-        if (&kind.category != &calendar::kCalendar)
+        if (kind.itemKind != sandbox::ItemKind::Appointment)
         {
             return false;
         }
@@ -201,12 +165,12 @@ class HostileExport : public testing::Test
     }
 
     // Whether the row arrived, or was left out.
-    bool ExportOne(const Kind& kind, const ItemValues& record, bool isNew)
+    bool ExportOne(const TestedKind& kind, const ItemValues& record, bool isNew)
     {
-        const long before = mMailbox->ItemCount(kind.folder);
+        const long before = Mailbox->ItemCount(kind.folder);
         const auto texts = TextsOf(kind, 1);
         const bool failed = Export(kind, record, isNew);
-        const long added = mMailbox->ItemCount(kind.folder) - before;
+        const long added = Mailbox->ItemCount(kind.folder) - before;
         if (!failed && IsLeftOut(kind, record))
         {
             EXPECT_EQ(0, added);
@@ -217,7 +181,7 @@ class HostileExport : public testing::Test
             EXPECT_EQ(isNew ? 1 : 0, added);
             ExpectAsTheRowHasIt(kind, record, isNew ? before + 1 : 1);
         }
-        else if (kind.savesAtTheEnd)
+        else if (kind.savesItemOnce)
         {
             EXPECT_EQ(0, added);
             EXPECT_EQ(texts, TextsOf(kind, 1));
@@ -252,33 +216,24 @@ class HostileExport : public testing::Test
             record[L"FR_NAME"] = sandbox::kRepeatRules[values.Below(std::size(sandbox::kRepeatRules))];
         }
     }
-
-    sandbox::AdoInProcess mAdo;
-    sandbox::Host mHost;
-    sandbox::MailboxRef mMailbox;
-    RecordingDisplay mDisplay;
-    const WithLanguage mEnglish{resources::Language::English};
 };
 
 TEST_F(HostileExport, ContactsAreSavedWholeOrNotAtAll)
 {
     HostileValues values("contacts to Outlook");
-    const Kind kind{contacts::kContacts, L"TBLCONTACT", L"Personal Folders\\Contacts", 10, true};
-    ExportMany(kind, kContact, values, Times(600));
+    ExportMany(kContactKind, kContact, values, Times(600));
 }
 
 TEST_F(HostileExport, TasksAreSavedWholeOrThePassFails)
 {
     HostileValues values("tasks to Outlook");
-    const Kind kind{tasks::kTasks, L"TBLACTIVITY", L"Personal Folders\\Tasks", 13, false};
-    ExportMany(kind, kTask, values, Times(600));
+    ExportMany(kTaskKind, kTask, values, Times(600));
 }
 
 TEST_F(HostileExport, AppointmentsAreSavedWholeOrNotAtAll)
 {
     HostileValues values("appointments to Outlook");
-    const Kind kind{calendar::kCalendar, L"VW_CALENDAR", L"Personal Folders\\Calendar", 9, true};
-    ExportMany(kind, kEntry, values, Times(600));
+    ExportMany(kCalendarKind, kEntry, values, Times(600));
 }
 
 } // namespace

@@ -1,8 +1,5 @@
 // The page says what a value of an item does to the host's row. Whatever it does, the pass goes on.
-#include "calendar/Calendar.h"
-#include "contacts/Contacts.h"
 #include "sandbox/host/Literals.h"
-#include "tasks/Tasks.h"
 #include "tests/hostile/FromOutlook.h"
 #include "tests/hostile/ValueTable.h"
 
@@ -18,25 +15,16 @@ using sandbox::Literal;
 constexpr const char* kPageOfValues = "exchange-rules.md";
 constexpr const char* kHeadingFromOutlook = "Kind, from Outlook";
 
-struct SourceKind
+struct SourceKind : TestedKind
 {
-    const char* name;
-    const exchange::Kind& category;
-    const wchar_t* relationTable;
-    const wchar_t* table;
-    ItemValues item; // what an item holds beside the value under test
+    const char* onPage; // its name there
+    ItemValues item;    // what an item holds beside the value under test
 };
 
 const SourceKind kSourceKinds[] = {
-    {"Contact",
-     contacts::kContacts,
-     L"TBLCONTACT",
-     L"TBLCONTACT",
-     {{L"LastName", L"Li"}, {L"FirstName", L"Ming"}, {L"CompanyName", L"Quay"}}},
-    {"Task",
-     tasks::kTasks,
-     L"TBLACTIVITY",
-     L"TBLACTIVITY",
+    {kContactKind, "Contact", {{L"LastName", L"Li"}, {L"FirstName", L"Ming"}, {L"CompanyName", L"Quay"}}},
+    {kTaskKind,
+     "Task",
      {{L"Subject", L"Call"},
       {L"StartDate", automation::DateOf(Moment{2003, 5, 6})},
       {L"Status", 2L},
@@ -45,10 +33,8 @@ const SourceKind kSourceKinds[] = {
       {L"ReminderSet", true},
       {L"TotalWork", 0L},
       {L"ActualWork", 0L}}},
-    {"Calendar",
-     calendar::kCalendar,
-     L"VW_CALENDAR",
-     L"TBLACTIVITY",
+    {kCalendarKind,
+     "Calendar",
      {{L"Subject", L"Board"},
       {L"Start", automation::DateOf(Moment{2003, 5, 6, 9, 30})},
       {L"End", automation::DateOf(Moment{2003, 5, 6, 10, 30})},
@@ -99,7 +85,7 @@ Place PlaceOf(const SourceKind& kind, const std::wstring& property)
 {
     for (const OtherWay& one : kOtherWays)
     {
-        if (std::string(one.kind) == kind.name && property == one.property)
+        if (std::string(one.kind) == kind.onPage && property == one.property)
         {
             return {one.table, one.column};
         }
@@ -126,7 +112,7 @@ class ValuesFromOutlook : public HostileFromOutlook
         mItem = kind.item;
         mItem[L"GetRecurrencePattern"] = MakeHostileItem(kDailySeries);
         mItem[property] = value;
-        Import(kind.category, MakeHostileItem(mItem), false);
+        Import(kind, MakeHostileItem(mItem), false);
         if (ColumnsWritten(mStatements, kind.table).empty())
         {
             return "left out";
@@ -147,7 +133,7 @@ TEST_F(ValuesFromOutlook, HaveTheDocumentedEffectAndThePassContinues)
     for (const PageCells& cells : TableOfPage(kPageOfValues, kHeadingFromOutlook))
     {
         const auto* const kind = std::ranges::find(
-            kSourceKinds, cells.at(0), [](const SourceKind& one) { return std::string(one.name); });
+            kSourceKinds, cells.at(0), [](const SourceKind& one) { return std::string(one.onPage); });
         ASSERT_NE(std::end(kSourceKinds), kind) << cells[0];
         ASSERT_EQ(2 + kValueColumns, cells.size()) << cells[1];
         for (const std::wstring& property : NamesIn(cells[1]))

@@ -1,19 +1,9 @@
 // The page says what a value of the host does to an item of Outlook. Whatever it does, the record behind it
 // is written and the pass succeeds.
-#include "calendar/Calendar.h"
-#include "contacts/Contacts.h"
-#include "exchange/Kind.h"
-#include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
-#include "tasks/Tasks.h"
 #include "tests/hostile/ValueTable.h"
-#include "tests/support/RecordingDisplay.h"
-#include "tests/support/WithLanguage.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/OfficeFixture.h"
+#include "tests/support/TestedKind.h"
 
 #include <algorithm>
 #include <set>
@@ -32,32 +22,22 @@ using RowValues = std::map<std::wstring, Value>;
 constexpr const char* kPage = "exchange-rules.md";
 constexpr const char* kHeading = "Kind, to Outlook";
 
-struct TargetKind
+struct TargetKind : TestedKind
 {
-    const char* name;
-    const exchange::Kind& category;
-    const wchar_t* relationTable;
-    const wchar_t* folder;
-    long folderNumber;                    // OlDefaultFolders
+    const char* onPage;                   // its name there
     const wchar_t* witness;               // a text that every record writes
     sandbox::Mailbox::NamedValues before; // of both items, beside their texts
     RowValues others;                     // of both rows, beside the column under test
 };
 
 const TargetKind kTargetKinds[] = {
-    {"Contact",
-     contacts::kContacts,
-     L"TBLCONTACT",
-     L"Personal Folders\\Contacts",
-     10,
+    {kContactKind,
+     "Contact",
      L"JobTitle",
      {{L"Birthday", DateOf(Moment{2003, 5, 6})}, {L"Anniversary", DateOf(Moment{2003, 5, 6})}},
      {}},
-    {"Task",
-     tasks::kTasks,
-     L"TBLACTIVITY",
-     L"Personal Folders\\Tasks",
-     13,
+    {kTaskKind,
+     "Task",
      L"Subject",
      {{L"CreationTime", DateOf(Moment{2003, 5, 1})},
       {L"StartDate", DateOf(Moment{2003, 5, 6})},
@@ -75,11 +55,8 @@ const TargetKind kTargetKinds[] = {
       {L"CONTACT_SURNAME", L"Smith"},
       {L"CONTACT_GIVENNAME", L"Mary"},
       {L"YES", true}}},
-    {"Calendar",
-     calendar::kCalendar,
-     L"VW_CALENDAR",
-     L"Personal Folders\\Calendar",
-     9,
+    {kCalendarKind,
+     "Calendar",
      L"Subject",
      {{L"Start", DateOf(Moment{2003, 5, 6, 8, 0})},
       {L"End", DateOf(Moment{2003, 5, 6, 9, 0})},
@@ -138,24 +115,16 @@ TargetEntry EntryNamed(const std::wstring& name)
 // The value of a property that is not set.
 const std::set<std::wstring> kEmptyTexts{L"", L"0", L"False", L"1/1/4501", L"00:00"};
 
-class ValuesToOutlook : public testing::Test
+class ValuesToOutlook : public OfficeFixture
 {
   protected:
-    ValuesToOutlook()
-    {
-        state::Shared().gDTC = mHost.Dtc();
-        state::Shared().gCnnString = mHost.ConnectionString();
-        state::Shared().gCalendarPreviewAlarmTime = 20;
-    }
-    ~ValuesToOutlook() override { state::Shared() = {}; }
-
     // The page's word for what the value makes of the first item.
     std::string Effect(const TargetKind& kind, const TargetEntry& entry, const Value& value)
     {
         const std::set<std::wstring> inChinese{L"FirstName", L"LastName", L"Suffix"};
         const WithLanguage language(inChinese.contains(entry.property) ? resources::Language::Chinese
                                                                        : resources::Language::English);
-        UseNewMailbox(kind, entry);
+        AddItems(kind, entry);
         Relate(kind, entry);
         const std::wstring before = Shown(kind, entry);
         Export(kind, entry, value);
@@ -169,10 +138,9 @@ class ValuesToOutlook : public testing::Test
     }
 
   private:
-    void UseNewMailbox(const TargetKind& kind, const TargetEntry& entry)
+    void AddItems(const TargetKind& kind, const TargetEntry& entry)
     {
-        mMailbox = sandbox::MakeMailbox();
-        state::Shared().gOlNamespace = sandbox::MakeOutlook(mMailbox).GetObject(L"GetNamespace", L"MAPI");
+        UseNewMailbox();
         sandbox::Mailbox::NamedValues item = kind.before;
         item.emplace_back(kind.witness, L"before");
         const std::set<std::wstring> noText{L"ContactNames", L"Recipients", L"IsRecurring"};
@@ -182,25 +150,18 @@ class ValuesToOutlook : public testing::Test
         {
             item.emplace_back(entry.property, L"before");
         }
-        mMailbox->AddItem(kind.folder, item);
-        mMailbox->AddItem(kind.folder, item);
+        Mailbox->AddItem(kind.folder, item);
+        Mailbox->AddItem(kind.folder, item);
     }
 
     void Relate(const TargetKind& kind, const TargetEntry& entry)
     {
-        mHost.Database().Execute(L"DELETE FROM SynRelation");
+        Pairs rows{{entry.mapped, entry.property}};
         if (entry.property != kind.witness)
         {
-            AddRelation(kind, L"WITNESS", kind.witness);
+            rows.insert(rows.begin(), {L"WITNESS", kind.witness});
         }
-        AddRelation(kind, entry.mapped, entry.property);
-    }
-
-    void AddRelation(const TargetKind& kind, const std::wstring& column, const std::wstring& property)
-    {
-        mHost.Database().Execute(
-            L"INSERT INTO SynRelation (QuenlarTblName,EnglishName,OutlookName) VALUES ('" +
-            std::wstring(kind.relationTable) + L"','" + column + L"','" + property + L"')");
+        TestOffice::Relate(kind, rows);
     }
 
     // The pass over both items: a row with the value, and one behind it that has a good one.
@@ -218,16 +179,14 @@ class ValuesToOutlook : public testing::Test
             rows.rows[0].push_back(column == entry.column ? value : good);
             rows.rows[1].push_back(good);
         }
-        exchange::Run run{.Display = mDisplay};
+        exchange::Run run = RunOverFolder(kind, Display);
         run.HostRows = automation::Recordset(sandbox::MakeRecordset(std::move(rows)));
-        run.Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", kind.folderNumber);
-        run.Items = run.Folder.GetObject(L"Items");
         for (const long position : {1L, 2L})
         {
             run.Pending.ChangedHostRecords.Add(position, 1);
             run.Pending.ChangedOutlookItems.Add(std::to_wstring(position), 1);
         }
-        EXPECT_FALSE(kind.category.ToOutlook(run)) << "the pass ends";
+        EXPECT_FALSE(kind.tested.ToOutlook(run)) << "the pass ends";
     }
 
     std::wstring Shown(const TargetKind& kind, const TargetEntry& entry)
@@ -235,25 +194,20 @@ class ValuesToOutlook : public testing::Test
         const std::wstring timeOf = L"time of ";
         if (entry.shownBy == L"ContactNames" || entry.shownBy == L"Recipients")
         {
-            return std::to_wstring(mMailbox->ItemLinks(kind.folder, 1).size()) + L" links";
+            return std::to_wstring(Mailbox->ItemLinks(kind.folder, 1).size()) + L" links";
         }
         if (entry.shownBy.starts_with(timeOf))
         {
             const std::wstring property = entry.shownBy.substr(timeOf.size());
-            return automation::Formatted(DateOf(mMailbox->ItemProperty(kind.folder, 1, property)), L"hh:mm");
+            return automation::Formatted(DateOf(Mailbox->ItemProperty(kind.folder, 1, property)), L"hh:mm");
         }
         return TextIn(kind, 1, entry.shownBy);
     }
 
     std::wstring TextIn(const TargetKind& kind, long position, const std::wstring& property)
     {
-        return TextOrEmpty(mMailbox->ItemProperty(kind.folder, position, property));
+        return TextOrEmpty(Mailbox->ItemProperty(kind.folder, position, property));
     }
-
-    sandbox::AdoInProcess mAdo;
-    sandbox::Host mHost;
-    sandbox::MailboxRef mMailbox;
-    RecordingDisplay mDisplay;
 };
 
 TEST_F(ValuesToOutlook, HaveTheEffectThatThePageTellsAndTheRecordBehindIsWritten)
@@ -263,7 +217,7 @@ TEST_F(ValuesToOutlook, HaveTheEffectThatThePageTellsAndTheRecordBehindIsWritten
     for (const PageCells& cells : TableOfPage(kPage, kHeading))
     {
         const auto* const kind = std::ranges::find(
-            kTargetKinds, cells.at(0), [](const TargetKind& one) { return std::string(one.name); });
+            kTargetKinds, cells.at(0), [](const TargetKind& one) { return std::string(one.onPage); });
         ASSERT_NE(std::end(kTargetKinds), kind) << cells[0];
         ASSERT_EQ(2 + kValueColumns, cells.size()) << cells[1];
         for (const std::wstring& name : NamesIn(cells[1]))

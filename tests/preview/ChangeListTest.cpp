@@ -95,7 +95,7 @@ TEST(ChangeList, ReadsNothingUntilATextIsAskedForAndEachTextOnce)
     sides.Add(0, 5, 0);
     exchange::Run& run = sides.Collect(1);
     const CallWatch counter;
-    ChangeList list(sides.Kind.Kind, run, 1);
+    ChangeList list(sides.Kind.tested, run, 1);
     EXPECT_EQ(5u, list.Count());
     EXPECT_EQ(0, counter.Of(L"Items.Item"));
     EXPECT_EQ(L"", list.TextOf(0, Column::Name));
@@ -127,7 +127,7 @@ TEST(ChangeList, IsSortedByAColumnAndBackAgain)
 {
     RandomSides sides(kRandomTasks, 1);
     sides.Add(2, 2, 0);
-    ChangeList list(sides.Kind.Kind, sides.Collect(3), 3);
+    ChangeList list(sides.Kind.tested, sides.Collect(3), 3);
     ReadAndArrange(list, {.SortedBy = Column::Name, .IsDescending = true});
     EXPECT_EQ(L"Subject 4|Subject 3|Subject 2|Subject 1|", NamesOf(list));
     ReadAndArrange(list, {.SortedBy = Column::Change});
@@ -140,7 +140,7 @@ TEST(ChangeList, TheSearchLooksInOneColumnOrInAllInAnyLetterCase)
 {
     RandomSides sides(kRandomTasks, 1);
     sides.Add(2, 2, 0);
-    ChangeList list(sides.Kind.Kind, sides.Collect(3), 3);
+    ChangeList list(sides.Kind.tested, sides.Collect(3), 3);
     ReadAndArrange(list, {.Search = L"subject 3", .SearchIn = Column::Name});
     EXPECT_EQ(L"Subject 3|", NamesOf(list));
     ReadAndArrange(list, {.Search = L"phone"});
@@ -155,7 +155,7 @@ TEST(ChangeList, CountsTheEntriesThatAreKept)
 {
     RandomSides sides(kRandomTasks, 1);
     sides.Add(1, 1, 2);
-    ChangeList list(sides.Kind.Kind, sides.Collect(3), 3);
+    ChangeList list(sides.Kind.tested, sides.Collect(3), 3);
     ASSERT_EQ(4u, list.Count());
     list.Check(0, false);
     list.Check(0, false);
@@ -170,7 +170,7 @@ TEST(ChangeList, AChangedTaskOfBothDirectionsIsShownAsTheHostWillHaveItAndOutloo
 {
     RandomSides sides(kRandomTasks, 5);
     sides.Add(0, 0, 1);
-    ChangeList list(sides.Kind.Kind, sides.Collect(3), 3);
+    ChangeList list(sides.Kind.tested, sides.Collect(3), 3);
     ASSERT_EQ(1u, list.Count());
     EXPECT_EQ(L"Change in both", list.TextOf(0, Column::Change));
     for (const exchange::Difference& field : list.FieldsOf(0).Fields)
@@ -183,7 +183,7 @@ TEST(ChangeList, AChangedContactOfBothDirectionsIsShownAsBothSidesWillHaveIt)
 {
     RandomSides sides(kRandomContacts, 5);
     sides.Add(0, 0, 1);
-    ChangeList list(sides.Kind.Kind, sides.Collect(3), 3);
+    ChangeList list(sides.Kind.tested, sides.Collect(3), 3);
     bool hasSides[2] = {};
     for (const exchange::Difference& field : list.FieldsOf(0).Fields)
     {
@@ -198,7 +198,7 @@ TEST(ChangeList, ReadingEveryFieldWritesNothing)
     {
         RandomSides sides(*kind, 9);
         sides.Add(5, 5, 5);
-        ChangeList list(kind->Kind, sides.Collect(3), 3);
+        ChangeList list(kind->tested, sides.Collect(3), 3);
         const CallWatch counter;
         for (size_t entry = 0; entry < list.Count(); ++entry)
         {
@@ -210,7 +210,7 @@ TEST(ChangeList, ReadingEveryFieldWritesNothing)
         {
             EXPECT_EQ(0, counter.Of(write)) << automation::ToUtf8(write);
         }
-        EXPECT_EQ(10, sides.Mailbox->ItemCount(kind->Folder));
+        EXPECT_EQ(10, sides.Mailbox->ItemCount(kind->folder));
     }
 }
 
@@ -218,8 +218,8 @@ TEST(ChangeList, AFieldThatOutlookRefusesToTellIsShownAsItWillBeWritten)
 {
     RandomSides sides(kRandomContacts, 4);
     sides.Add(1, 0, 0);
-    sides.TheHost.Database().Execute(L"UPDATE TBLCONTACT SET F_EMAIL='a@b'");
-    ChangeList list(sides.Kind.Kind, sides.Collect(2), 2);
+    sides.Execute(L"UPDATE TBLCONTACT SET F_EMAIL='a@b'");
+    ChangeList list(sides.Kind.tested, sides.Collect(2), 2);
     sides.Mailbox->Switch(L"Guard", true);
     const exchange::RecordPreview preview = list.FieldsOf(0);
     EXPECT_TRUE(preview.IsWritten());
@@ -258,7 +258,7 @@ TEST(CsvFile, HoldsALineForEachFieldOfTheEntriesThatAreShown)
 {
     RandomSides sides(kRandomTasks, 3);
     sides.Add(0, 2, 0);
-    ChangeList list(sides.Kind.Kind, sides.Collect(1), 1);
+    ChangeList list(sides.Kind.tested, sides.Collect(1), 1);
     list.Check(1, false);
     const std::wstring path = TemporaryFile();
     const auto work = preview::SavingWork(list, path);
@@ -279,7 +279,7 @@ TEST(CsvFile, LeavesNothingBehindWhenItIsNotFinished)
 {
     RandomSides sides(kRandomTasks, 3);
     sides.Add(0, 1, 0);
-    ChangeList list(sides.Kind.Kind, sides.Collect(1), 1);
+    ChangeList list(sides.Kind.tested, sides.Collect(1), 1);
     const std::wstring path = TemporaryFile();
     {
         preview::CsvFile file(path);

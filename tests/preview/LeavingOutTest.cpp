@@ -74,7 +74,7 @@ Seen LeaveOutAndAccept(RandomSides& sides, long transType)
 std::set<std::wstring> NamesInHost(RandomSides& sides)
 {
     std::set<std::wstring> names;
-    const bool isContact = sides.Kind.Table == kRandomContacts.Table;
+    const bool isContact = sides.Kind.itemKind == sandbox::ItemKind::Contact;
     const std::wstring sql = isContact ? L"SELECT F_GIVENNAME||' '||F_SURNAME FROM TBLCONTACT"
                                        : L"SELECT F_ACTNAME FROM TBLACTIVITY";
     for (const auto& row : sides.TheHost.Database().Query(sql).rows)
@@ -87,11 +87,11 @@ std::set<std::wstring> NamesInHost(RandomSides& sides)
 std::set<std::wstring> NamesInOutlook(RandomSides& sides)
 {
     std::set<std::wstring> names;
-    const bool isContact = sides.Kind.Table == kRandomContacts.Table;
+    const bool isContact = sides.Kind.itemKind == sandbox::ItemKind::Contact;
     const auto text = [&](long item, const wchar_t* property) {
-        return automation::TextOrEmpty(sides.Mailbox->ItemProperty(sides.Kind.Folder, item, property));
+        return automation::TextOrEmpty(sides.Mailbox->ItemProperty(sides.Kind.folder, item, property));
     };
-    for (long item = 1; item <= sides.Mailbox->ItemCount(sides.Kind.Folder); ++item)
+    for (long item = 1; item <= sides.Mailbox->ItemCount(sides.Kind.folder); ++item)
     {
         names.insert(isContact ? text(item, L"FirstName") + L" " + text(item, L"LastName")
                                : text(item, L"Subject"));
@@ -114,7 +114,7 @@ TEST_P(LeavingOut, ThreeOfTenRecordsAreNotWrittenAndTheOthersAre)
 
 std::string NameOfWay(const testing::TestParamInfo<Way>& info)
 {
-    return automation::ToUtf8(info.param.Kind.Kind.Name.TransObject) +
+    return automation::ToUtf8(info.param.Kind.tested.Name.TransObject) +
            (info.param.TransType == state::kQuenlarToOutlook ? "ToOutlook" : "ToTheHost");
 }
 

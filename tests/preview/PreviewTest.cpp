@@ -37,15 +37,15 @@ class Comparison
           mTransType(transType),
           mRun(sides.Collect(transType)),
           mProposals(exchange::ProposalsOf(mRun.Pending, transType)),
-          mItemsBefore(mSides.Mailbox->ItemCount(sides.Kind.Folder)),
+          mItemsBefore(mSides.Mailbox->ItemCount(sides.Kind.folder)),
           mRowsBefore(mRun.HostRows.RecordCount())
     {
-        exchange::Preview preview(sides.Kind.Kind, mRun);
+        exchange::Preview preview(sides.Kind.tested, mRun);
         for (const Proposal& proposal : mProposals)
         {
             mPreviews.push_back(preview.Of(proposal));
         }
-        EXPECT_EQ(mItemsBefore, mSides.Mailbox->ItemCount(sides.Kind.Folder));
+        EXPECT_EQ(mItemsBefore, mSides.Mailbox->ItemCount(sides.Kind.folder));
     }
 
     void ApplyAndCompare()
@@ -153,7 +153,7 @@ TEST(Preview, ShowsTheValuesThatAreThenStoredFieldByField)
     {
         for (const long transType : {1L, 2L, 3L})
         {
-            SCOPED_TRACE(automation::ToUtf8(kind->Kind.Name.TransObject) + " " + std::to_string(transType));
+            SCOPED_TRACE(automation::ToUtf8(kind->tested.Name.TransObject) + " " + std::to_string(transType));
             RandomSides sides(*kind, seed++);
             sides.Add(60, 60, 60);
             Comparison comparison(sides, transType);

@@ -1,19 +1,14 @@
 #include "tests/preview/RandomSides.h"
 
-#include "automation/Dates.h"
-#include "calendar/Calendar.h"
-#include "contacts/Contacts.h"
 #include "run/ChangeCollection.h"
 #include "run/FrmMessage.h"
-#include "run/Runs.h"
-#include "state/SharedState.h"
-#include "tasks/Tasks.h"
 
 namespace test_support
 {
 
 using automation::Date;
 using automation::Value;
+using sandbox::ItemKind;
 
 namespace
 {
@@ -70,53 +65,9 @@ constexpr double kDay = 37747;
 
 } // namespace
 
-const RandomKind kRandomContacts{
-    .Kind = contacts::kContacts,
-    .Folder = L"Personal Folders\\Contacts",
-    .Table = L"TBLCONTACT",
-    .View = L"VW_CONTACT",
-    .OrderColumn = L"F_CNTCTNO",
-    .Run = run::RunContactSync,
-    .Fields = kContactFields,
-};
-const RandomKind kRandomTasks{
-    .Kind = tasks::kTasks,
-    .Folder = L"Personal Folders\\Tasks",
-    .Table = L"TBLACTIVITY",
-    .View = L"VW_ACTIVITY",
-    .OrderColumn = L"F_ACTNO",
-    .Run = run::RunTaskSync,
-    .Fields = kTaskFields,
-};
-const RandomKind kRandomCalendar{
-    .Kind = calendar::kCalendar,
-    .Folder = L"Personal Folders\\Calendar",
-    .Table = L"TBLACTIVITY",
-    .View = L"VW_CALENDAR",
-    .OrderColumn = L"F_ACTNO",
-    .Run = run::RunCalendarSync,
-    .Fields = kCalendarFields,
-};
-
-RandomSides::RandomSides(const RandomKind& kind, unsigned seed) : Kind(kind), mEngine(seed)
-{
-    state::SharedState& shared = state::Shared();
-    shared.gDTC = TheHost.Dtc();
-    shared.gCnnString = TheHost.ConnectionString();
-    shared.gOlApplication = sandbox::MakeOutlook(Mailbox);
-    shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
-    shared.gCalendarStartTime = {9.0 / 24};
-    shared.gCalendarEndTime = {18.0 / 24};
-    shared.gCalendarPreviewAlarmTime = 20;
-    shared.gFontName = L"Arial";
-    shared.gFontSize = 8;
-}
-
-RandomSides::~RandomSides()
-{
-    mRun.reset();
-    state::Shared() = {};
-}
+const RandomKind kRandomContacts{kContactKind, kContactFields};
+const RandomKind kRandomTasks{kTaskKind, kTaskFields};
+const RandomKind kRandomCalendar{kCalendarKind, kCalendarFields};
 
 Value RandomSides::RandomValue(RandomField::Sort sort)
 {
@@ -189,18 +140,18 @@ void RandomSides::AddRow(size_t number)
     const bool hasCompany = number % 3 == 0;
     if (hasCompany)
     {
-        TheHost.Database().Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES (?,1,?)",
-                                   {Numbered(L"A", number), Numbered(L"Company ", number)});
+        Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES (?,1,?)",
+                {Numbered(L"A", number), Numbered(L"Company ", number)});
         add(L"F_ACCID", Numbered(L"A", number));
     }
     if (hasCompany && number % 2 == 0)
     {
-        TheHost.Database().Execute(L"INSERT INTO TBLADDRESS (F_ADDRID,F_ACCID,F_ADDRCITY,F_ISPRIMARY) VALUES "
-                                   L"(?,?,'Harbin',1)",
-                                   {Numbered(L"D", number), Numbered(L"A", number)});
+        Execute(L"INSERT INTO TBLADDRESS (F_ADDRID,F_ACCID,F_ADDRCITY,F_ISPRIMARY) VALUES "
+                L"(?,?,'Harbin',1)",
+                {Numbered(L"D", number), Numbered(L"A", number)});
     }
     add(L"F_CREATORID", 1L);
-    if (Kind.Table == kRandomContacts.Table)
+    if (Kind.itemKind == ItemKind::Contact)
     {
         add(L"F_CNTCTID", Numbered(L"C", number));
         add(L"F_SURNAME", Numbered(L"Last", number));
@@ -214,18 +165,17 @@ void RandomSides::AddRow(size_t number)
         add(L"F_ACTTYPE", L"Phone");
         if (number % 4 == 0)
         {
-            TheHost.Database().Execute(
-                L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
-                L"VALUES (?,1,?,'Ann')",
-                {Numbered(L"P", number), Numbered(L"Linked", number)});
+            Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                    L"VALUES (?,1,?,'Ann')",
+                    {Numbered(L"P", number), Numbered(L"Linked", number)});
             add(L"F_CNTCTID", Numbered(L"P", number));
         }
     }
-    if (Kind.Fields.data() == std::data(kTaskFields))
+    if (Kind.itemKind == ItemKind::Task)
     {
         add(L"F_ACTPSTIME", L"2003-05-06 00:00:00");
     }
-    if (Kind.Fields.data() == std::data(kCalendarFields))
+    if (Kind.itemKind == ItemKind::Appointment)
     {
         add(L"F_ACTESDATE", L"2003-05-06 00:00:00");
         add(L"F_ACTESTIME", L"1899-12-30 09:30:00");
@@ -243,15 +193,15 @@ void RandomSides::AddRow(size_t number)
             add(field.Column, Below(6) == 0 ? Value::Null() : OfHost(field, RandomValue(field.Is)));
         }
     }
-    TheHost.Database().Execute(
-        L"INSERT INTO " + std::wstring(Kind.Table) + L" (" + columns + L") VALUES (" + marks + L")", values);
+    Execute(L"INSERT INTO " + std::wstring(Kind.table) + L" (" + columns + L") VALUES (" + marks + L")",
+            values);
 }
 
 void RandomSides::AddItem(size_t number)
 {
     sandbox::Mailbox::NamedValues values;
     const bool hasCompany = number % 3 == 0;
-    if (Kind.Table == kRandomContacts.Table)
+    if (Kind.itemKind == ItemKind::Contact)
     {
         values.emplace_back(L"LastName", Numbered(L"Last", number));
         values.emplace_back(L"FirstName", Numbered(L"First", number));
@@ -263,11 +213,11 @@ void RandomSides::AddItem(size_t number)
         values.emplace_back(L"Categories", L"Phone");
         values.emplace_back(L"Companies", hasCompany ? Numbered(L"Company ", number) : L"");
     }
-    if (Kind.Fields.data() == std::data(kTaskFields))
+    if (Kind.itemKind == ItemKind::Task)
     {
         values.emplace_back(L"StartDate", Date{kDay});
     }
-    if (Kind.Fields.data() == std::data(kCalendarFields))
+    if (Kind.itemKind == ItemKind::Appointment)
     {
         values.emplace_back(L"Start", automation::DateOf(automation::Moment{2003, 5, 6, 9, 30}));
         values.emplace_back(
@@ -282,7 +232,7 @@ void RandomSides::AddItem(size_t number)
             values.emplace_back(field.Property, value);
         }
     }
-    Mailbox->AddItem(Kind.Folder, values);
+    Mailbox->AddItem(Kind.folder, values);
 }
 
 void RandomSides::SetParameter(long transType)
@@ -290,27 +240,21 @@ void RandomSides::SetParameter(long transType)
     state::SynParameter& parameter = state::Shared().gSynParameter;
     parameter.TransType = transType;
     parameter.TransConflictOption = state::kNotifyMe;
-    parameter.CurrentFolder = Kind.Folder;
+    parameter.CurrentFolder = Kind.folder;
 }
 
 bool RandomSides::Run(long transType)
 {
     SetParameter(transType);
-    mDisplay.Ask = run::ConfirmChanges;
-    return Kind.Run(mDisplay);
+    Display.Ask = run::ConfirmChanges;
+    return Kind.run(Display);
 }
 
 exchange::Run& RandomSides::Collect(long transType)
 {
     SetParameter(transType);
-    mRun = std::make_unique<exchange::Run>(exchange::Run{.Display = mDisplay});
-    ReopenRows();
-    mRun->Folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder",
-                                                          Kind.Kind.Name.OutlookItemType == 2   ? 10L
-                                                          : Kind.Kind.Name.OutlookItemType == 3 ? 13L
-                                                                                                : 9L);
-    mRun->Items = mRun->Folder.GetObject(L"Items");
-    run::ChangeCollection collection(Kind.Kind, *mRun);
+    mRun = std::make_unique<exchange::Run>(OpenRun(Kind, Display));
+    run::ChangeCollection collection(Kind.tested, *mRun);
     EXPECT_FALSE(transType != state::kOutlookToQuenlar && collection.CollectToOutlook());
     EXPECT_FALSE(transType != state::kQuenlarToOutlook && collection.CollectFromOutlook());
     return *mRun;
@@ -318,34 +262,31 @@ exchange::Run& RandomSides::Collect(long transType)
 
 void RandomSides::Confirm()
 {
-    run::ConfirmChanges(Kind.Kind, *mRun, L"Task");
+    run::ConfirmChanges(Kind.tested, *mRun, L"Task");
 }
 
 void RandomSides::Apply(long transType)
 {
     const bool toOutlook = transType != state::kOutlookToQuenlar;
     const bool fromOutlook = transType != state::kQuenlarToOutlook;
-    if (fromOutlook && Kind.Kind.AppliesFromOutlookFirst)
+    if (fromOutlook && Kind.tested.AppliesFromOutlookFirst)
     {
-        EXPECT_FALSE(Kind.Kind.FromOutlook(*mRun));
+        EXPECT_FALSE(Kind.tested.FromOutlook(*mRun));
     }
     if (toOutlook)
     {
-        EXPECT_FALSE(Kind.Kind.ToOutlook(*mRun));
+        EXPECT_FALSE(Kind.tested.ToOutlook(*mRun));
     }
-    if (fromOutlook && !Kind.Kind.AppliesFromOutlookFirst)
+    if (fromOutlook && !Kind.tested.AppliesFromOutlookFirst)
     {
-        EXPECT_FALSE(Kind.Kind.FromOutlook(*mRun));
+        EXPECT_FALSE(Kind.tested.FromOutlook(*mRun));
     }
 }
 
 void RandomSides::ReopenRows()
 {
     automation::CloseRecordset(mRun->HostRows);
-    const data::Host host;
-    const std::wstring filter =
-        Kind.Kind.SourceFilter == nullptr ? std::wstring() : Kind.Kind.SourceFilter(host);
-    ASSERT_GE(host.OpenRecordset(mRun->HostRows, Kind.Kind.RecordSource, filter), 0);
+    mRun->HostRows = OpenRows(Kind.tested);
 }
 
 } // namespace test_support

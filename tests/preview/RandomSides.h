@@ -2,17 +2,14 @@
 // values; and a run over them that stops before anything is written. The same seed gives the same records.
 #pragma once
 
-#include "exchange/Kind.h"
-#include "sandbox/ado/Ado.h"
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
-#include "tests/support/RecordingDisplay.h"
-#include "tests/support/WithLanguage.h"
+#include "tests/support/TestOffice.h"
+#include "tests/support/TestedKind.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <random>
+#include <span>
 #include <string>
 
 namespace test_support
@@ -37,14 +34,8 @@ struct RandomField
     Sort Is = Sort::Text;
 };
 
-struct RandomKind
+struct RandomKind : TestedKind
 {
-    const exchange::Kind& Kind;
-    const wchar_t* Folder;
-    const wchar_t* Table;
-    const wchar_t* View;
-    const wchar_t* OrderColumn;                 // follows the order of insertion
-    bool (*Run)(exchange::RunDisplay& display); // a whole run
     std::span<const RandomField> Fields;
 };
 
@@ -52,11 +43,10 @@ extern const RandomKind kRandomContacts;
 extern const RandomKind kRandomTasks;
 extern const RandomKind kRandomCalendar;
 
-class RandomSides
+class RandomSides : public TestOffice
 {
   public:
-    RandomSides(const RandomKind& kind, unsigned seed);
-    ~RandomSides();
+    RandomSides(const RandomKind& kind, unsigned seed) : Kind(kind), mEngine(seed) {}
 
     // So many records in the host only, in Outlook only, on both sides.
     void Add(size_t rows, size_t items, size_t pairs);
@@ -74,8 +64,6 @@ class RandomSides
     void ReopenRows();
 
     const RandomKind& Kind;
-    sandbox::Host TheHost;
-    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
 
   private:
     void SetParameter(long transType);
@@ -84,9 +72,6 @@ class RandomSides
     void AddRow(size_t number);
     void AddItem(size_t number);
 
-    sandbox::AdoInProcess mAdo;
-    RecordingDisplay mDisplay;
-    WithLanguage mEnglish{resources::Language::English};
     std::unique_ptr<exchange::Run> mRun;
     std::mt19937 mEngine;
     size_t mNumber = 0;

@@ -1,24 +1,27 @@
 #include "tests/run/FolderTableFixture.h"
 
-#include "automation/Dates.h"
-#include "calendar/Calendar.h"
-#include "contacts/Contacts.h"
 #include "run/ChangeCollection.h"
-#include "state/SharedState.h"
-#include "tasks/Tasks.h"
 
 namespace test_support
 {
 
-using automation::Date;
-using automation::Object;
-using automation::Value;
-using state::Shared;
-
 namespace
 {
 
+using automation::Date;
+using NamedValues = sandbox::Mailbox::NamedValues;
+
 constexpr Date kStart{37747.375}; // 2003-05-06 09:00
+
+NamedValues Contact(const std::wstring& name)
+{
+    return {{L"LastName", name}, {L"FirstName", L"Ann"}, {L"CompanyName", L"Harbour"}};
+}
+
+Record ContactRow(const std::wstring& name)
+{
+    return {{L"F_SURNAME", name}, {L"F_GIVENNAME", L"Ann"}, {L"ACC_SNAME", L"Harbour"}};
+}
 
 NamedValues Task(const std::wstring& name)
 {
@@ -56,44 +59,20 @@ Record Entry(const std::wstring& name)
 
 } // namespace
 
-NamedValues Contact(const std::wstring& name)
-{
-    return {{L"LastName", name}, {L"FirstName", L"Ann"}, {L"CompanyName", L"Harbour"}};
-}
-
-Record ContactRow(const std::wstring& name)
-{
-    return {{L"F_SURNAME", name}, {L"F_GIVENNAME", L"Ann"}, {L"ACC_SNAME", L"Harbour"}};
-}
-
-const TableKind kContactTable{contacts::kContacts, L"Personal Folders\\Contacts", 10, Contact, ContactRow};
-const TableKind kTaskTable{tasks::kTasks, L"Personal Folders\\Tasks", 13, Task, TaskRow};
-const TableKind kCalendarTable{calendar::kCalendar, L"Personal Folders\\Calendar", 9, Appointment, Entry};
+const TableKind kContactTable{kContactKind, Contact, ContactRow};
+const TableKind kTaskTable{kTaskKind, Task, TaskRow};
+const TableKind kCalendarTable{kCalendarKind, Appointment, Entry};
 const std::array<std::reference_wrapper<const TableKind>, 3> kTables = {kContactTable, kTaskTable,
                                                                         kCalendarTable};
 
-TableOfFolder::TableOfFolder()
+FolderTableFixture::FolderTableFixture()
 {
-    Host->UserId = L"1";
-    Shared().gSynParameter = {};
-    Shared().gSynParameter.TransConflictOption = state::kNotifyMe;
-    Shared().gSynParameter.TransType = state::kBothWays;
-    StartAgain();
-}
-TableOfFolder::~TableOfFolder()
-{
-    Shared() = {};
+    TheHost.SetSysDateTime(Date{37747.5}); // later on that day
+    state::Shared().gSynParameter.TransConflictOption = state::kNotifyMe;
+    state::Shared().gSynParameter.TransType = state::kBothWays;
 }
 
-void TableOfFolder::StartAgain()
-{
-    Mailbox = sandbox::MakeMailbox();
-    Mailbox->Switch(L"TableTextUnit", static_cast<long>(GetParam()));
-    Shared().gOlApplication = sandbox::MakeOutlook(Mailbox);
-    Shared().gOlNamespace = Shared().gOlApplication.GetObject(L"GetNamespace", L"MAPI");
-}
-
-void TableOfFolder::Fill(const TableKind& kind, long count)
+void FolderTableFixture::Fill(const TableKind& kind, long count)
 {
     Rows->clear();
     for (long i = 1; i <= count; ++i)
@@ -104,17 +83,11 @@ void TableOfFolder::Fill(const TableKind& kind, long count)
     }
 }
 
-Object TableOfFolder::Folder(const TableKind& kind)
+std::wstring FolderTableFixture::Collect(const TableKind& kind)
 {
-    return Shared().gOlNamespace.GetObject(L"GetDefaultFolder", kind.number);
-}
-
-std::wstring TableOfFolder::Collect(const TableKind& kind)
-{
-    exchange::Run run{.Display = Display, .Folder = Folder(kind)};
-    run.Items = run.Folder.GetObject(L"Items");
+    exchange::Run run = RunOverFolder(kind, Display);
     run.HostRows = MakeRows(Rows);
-    run::ChangeCollection collection(kind.kind, run);
+    run::ChangeCollection collection(kind.tested, run);
     EXPECT_FALSE(collection.CollectToOutlook() || collection.CollectFromOutlook());
     std::wstring text;
     const auto add = [&](const std::wstring& word) { text += word + L" "; };
@@ -137,7 +110,7 @@ std::wstring TableOfFolder::Collect(const TableKind& kind)
     return text;
 }
 
-std::wstring TableOfFolder::CollectByItems(const TableKind& kind)
+std::wstring FolderTableFixture::CollectByItems(const TableKind& kind)
 {
     Mailbox->Switch(L"NoTable", true);
     const std::wstring proposed = Collect(kind);

@@ -7,7 +7,6 @@ namespace
 
 using namespace test_support;
 using automation::Object;
-using state::Shared;
 
 // A run whose table is stale in one row only, which the sample is not likely to hit.
 using RunOverStaleTable = RunsFixture;
@@ -21,7 +20,7 @@ TEST_F(RunOverStaleTable, WritesNoPairThatTheItemsDoNotMake)
                          {{L"LastName", i == kStale ? L"Host" : L"Other"}, {L"FirstName", L"Ann"}});
     }
     AddHostRecord(kContactRun);
-    const Object items = Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 10L).GetObject(L"Items");
+    const Object items = DefaultFolder(kContactKind).GetObject(L"Items");
     const Object item = items.GetObject(L"Item", kStale);
     Mailbox->Switch(L"TableStale", true);
     item.Put(L"LastName", L"Renamed");
@@ -44,9 +43,9 @@ TEST_F(RunFromOutlook, APairsPropertiesAreReadOnceInTheApplyPass)
     {
         const std::wstring name = L"Name" + std::to_wstring(i);
         Mailbox->AddItem(kContactRun.folder, {{L"LastName", name}, {L"FirstName", L"Ann"}});
-        TheHost.Database().Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
-                                   L"VALUES (hex(randomblob(16)),1,'" +
-                                   name + L"','Ann')");
+        Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
+                L"VALUES (hex(randomblob(16)),1,'" +
+                name + L"','Ann')");
     }
     const CallWatch calls;
     EXPECT_FALSE(Run(kContactRun, 1, Answer::Accept).failed);

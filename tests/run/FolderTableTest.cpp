@@ -1,6 +1,5 @@
 // The collection where the folder has a table that is honest, or lies: what is proposed is the same as
 // without a table, and an honest table saves nearly all calls.
-#include "state/SharedState.h"
 #include "tests/run/FolderTableFixture.h"
 #include "tests/support/CallWatch.h"
 
@@ -9,10 +8,26 @@ namespace
 
 using namespace test_support;
 using automation::Object;
-using automation::Value;
+using sandbox::outlook::TextUnit;
 using state::Shared;
 
 constexpr long kFew = 12;
+
+// Each test runs once for each way to count the length at which a table cuts its texts.
+class TableOfFolder : public FolderTableFixture, public testing::WithParamInterface<TextUnit>
+{
+  protected:
+    TableOfFolder() { CutInUnit(); }
+
+    void UseNewMailbox()
+    {
+        FolderTableFixture::UseNewMailbox();
+        CutInUnit();
+    }
+
+  private:
+    void CutInUnit() { Mailbox->Switch(L"TableTextUnit", static_cast<long>(GetParam())); }
+};
 
 std::string NameOfUnit(const testing::TestParamInfo<TextUnit>& unit)
 {
@@ -28,7 +43,7 @@ TEST_P(TableOfFolder, ProposesWhatTheItemsDo)
 {
     for (const TableKind& kind : kTables)
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, kFew);
         const std::wstring expected = CollectByItems(kind);
         const CallWatch calls;
@@ -51,7 +66,7 @@ TEST_P(TableOfFolder, TakesTheArraysOfEitherOrientation)
     {
         for (long count = 1; count <= kFew; ++count)
         {
-            StartAgain();
+            UseNewMailbox();
             Fill(kind, count);
             const std::wstring expected = CollectByItems(kind);
             for (const bool isByRow : {false, true})
@@ -83,7 +98,7 @@ TEST_P(TableOfFolder, OneThatLiesIsLeftForTheItems)
     {
         for (const std::vector<Lie>& lies : all)
         {
-            StartAgain();
+            UseNewMailbox();
             Fill(kind, kFew);
             const std::wstring expected = CollectByItems(kind);
             for (const Lie& lie : lies)
@@ -101,7 +116,7 @@ TEST_P(TableOfFolder, DatesInUtcAreLeftForTheItems)
 {
     for (const TableKind& kind : {std::cref(kTaskTable), std::cref(kCalendarTable)})
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, kFew);
         const std::wstring expected = CollectByItems(kind);
         Mailbox->Switch(L"TableUtcMinutes", 480L);
@@ -113,10 +128,11 @@ TEST_P(TableOfFolder, StaleRowsAtItsStartAreLeftForTheItems)
 {
     for (const TableKind& kind : kTables)
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, kFew);
-        const Object item = Folder(kind).GetObject(L"Items").GetObject(L"Item", 2L);
-        const wchar_t* const property = kind.number == 10 ? L"LastName" : L"Subject";
+        const Object item = DefaultFolder(kind).GetObject(L"Items").GetObject(L"Item", 2L);
+        const wchar_t* const property =
+            kind.itemKind == sandbox::ItemKind::Contact ? L"LastName" : L"Subject";
         const auto rename = [&](const Value& name) {
             item.Put(property, name);
             item.Call(L"Save");
@@ -135,9 +151,9 @@ TEST_P(TableOfFolder, ARecordWithALongTextIsReadFromItsItem)
 {
     Fill(kContactTable, kFew);
     const std::wstring common(255, L'x');
-    Mailbox->AddItem(kContactTable.folder, Contact(common + L"a"));
-    Mailbox->AddItem(kContactTable.folder, Contact(common + L"b"));
-    Rows->push_back(ContactRow(common + L"b"));
+    Mailbox->AddItem(kContactTable.folder, kContactTable.item(common + L"a"));
+    Mailbox->AddItem(kContactTable.folder, kContactTable.item(common + L"b"));
+    Rows->push_back(kContactTable.row(common + L"b"));
     const std::wstring expected = CollectByItems(kContactTable);
     const CallWatch calls;
     EXPECT_EQ(expected, Collect(kContactTable));
@@ -154,11 +170,11 @@ TEST_P(TableOfFolder, ATextThatMayHaveBeenCutIsReadFromItsItem)
     {
         for (const size_t length : {84u, 85u, 86u, 100u, 125u, 126u, 127u, 128u, 254u, 255u, 256u})
         {
-            StartAgain();
+            UseNewMailbox();
             Fill(kContactTable, kFew);
             const std::wstring common(length, letter);
-            Mailbox->AddItem(kContactTable.folder, Contact(common + L"中a"));
-            Rows->push_back(ContactRow(common));
+            Mailbox->AddItem(kContactTable.folder, kContactTable.item(common + L"中a"));
+            Rows->push_back(kContactTable.row(common));
             EXPECT_EQ(CollectByItems(kContactTable), Collect(kContactTable)) << length << " of " << +letter;
         }
     }
@@ -168,7 +184,7 @@ TEST_P(TableOfFolder, ItemsOfOtherKindsAmongTheRowsAreNoRecords)
 {
     for (const TableKind& kind : kTables)
     {
-        StartAgain();
+        UseNewMailbox();
         Mailbox->Switch(L"ForeignItems", true);
         Fill(kind, kFew);
         Rows->push_back(kind.row(L""));
@@ -181,7 +197,7 @@ TEST_P(TableOfFolder, ItemsOfOtherKindsAmongTheRowsAreNoRecords)
 
 TEST_P(TableOfFolder, ItemsOfDerivedClassesAreReadFromIt)
 {
-    NamedValues derived = Contact(L"Ode");
+    auto derived = kContactTable.item(L"Ode");
     derived.emplace_back(L"MessageClass", L"ipm.contact.Acme");
     Mailbox->AddItem(kContactTable.folder, derived);
     Fill(kContactTable, kFew);
@@ -195,9 +211,9 @@ TEST_P(TableOfFolder, TwoThousandContactsOrEntriesTakeFortyCallsToOutlook)
 {
     for (const TableKind& kind : {std::cref(kContactTable), std::cref(kCalendarTable)})
     {
-        StartAgain();
+        UseNewMailbox();
         Fill(kind, 2000);
-        Folder(kind).GetObject(L"Items").Get(L"Count");
+        DefaultFolder(kind).GetObject(L"Items").Get(L"Count");
         const CallWatch calls;
         Collect(kind);
         const long ofOutlook = calls.CountIf([](const std::wstring& name) {
@@ -224,7 +240,7 @@ TEST_P(TableOfFolder, ARangeOfTheCalendarOpensTheRecurringEntriesAlone)
     Shared().gSynParameter.CalendarTransItem = state::kFutureEntries;
     for (const long position : {10L, 20L})
     {
-        const Object item = Folder(kCalendarTable).GetObject(L"Items").GetObject(L"Item", position);
+        const Object item = DefaultFolder(kCalendarTable).GetObject(L"Items").GetObject(L"Item", position);
         item.GetObject(L"GetRecurrencePattern").Put(L"NoEndDate", true);
         item.Call(L"Save");
     }

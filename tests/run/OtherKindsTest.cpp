@@ -21,7 +21,7 @@ TEST_F(OtherKinds, AreNeverProposedInAnyFolderOrDirection)
         EXPECT_EQ(rows + 1, CountRows(kind));
         EXPECT_EQ(4 + 2, CountItems(kind));
         Mailbox->Switch(L"ForeignItems", false);
-        TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
+        Execute(L"DELETE FROM TBLACTIVITY");
     }
 }
 

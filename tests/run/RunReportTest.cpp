@@ -27,7 +27,6 @@ class RunReport : public RunsFixture
         EXPECT_EQ(1u, Report().Rows().size());
         return Report().Rows().empty() ? ReportRow{} : Report().Rows().front();
     }
-    void Execute(const std::wstring& sql) { TheHost.Database().Execute(sql); }
 };
 
 // Breaks one member of a fake for the length of a run, with words of its own.

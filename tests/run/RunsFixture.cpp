@@ -1,7 +1,7 @@
 #include "tests/run/RunsFixture.h"
 
 #include "run/FrmMessage.h"
-#include "state/SharedState.h"
+#include "tests/support/Days.h"
 #include "tests/support/MessageBoxes.h"
 
 #include <algorithm>
@@ -9,7 +9,6 @@
 namespace test_support
 {
 
-using automation::Moment;
 using tools::ShownDialog;
 
 namespace
@@ -35,37 +34,24 @@ std::wstring Described(const ShownDialog& dialog)
 } // namespace
 
 const RunKind kTaskRun{
-    .name = L"Task",
-    .run = run::RunTaskSync,
-    .folder = L"Personal Folders\\Tasks",
-    .table = L"TBLACTIVITY",
-    .row = L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTPRIORITY) VALUES "
-           L"(hex(randomblob(16)),1,'Host',2)",
-    .item = {{L"Subject", L"Outlook"}},
-    .succeedsWithoutHostRows = true,
-    .writesHostFirst = true,
+    kTaskKind,
+    L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTPRIORITY) VALUES "
+    L"(hex(randomblob(16)),1,'Host',2)",
+    {{L"Subject", L"Outlook"}},
 };
 
 const RunKind kCalendarRun{
-    .name = L"Calendar",
-    .run = run::RunCalendarSync,
-    .folder = L"Personal Folders\\Calendar",
-    .table = L"TBLACTIVITY",
-    .row = L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE) VALUES "
-           L"(hex(randomblob(16)),1,'Host','2003-05-06 00:00:00')",
-    .item = {{L"Subject", L"Outlook"},
-             {L"Start", automation::DateOf(Moment{2003, 5, 7, 9, 30})},
-             {L"End", automation::DateOf(Moment{2003, 5, 7, 10, 30})}},
+    kCalendarKind,
+    L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE) VALUES "
+    L"(hex(randomblob(16)),1,'Host','2003-05-06 00:00:00')",
+    {{L"Subject", L"Outlook"}, {L"Start", Day(2003, 5, 7, 9, 30)}, {L"End", Day(2003, 5, 7, 10, 30)}},
 };
 
 const RunKind kContactRun{
-    .name = L"Contact",
-    .run = run::RunContactSync,
-    .folder = L"Personal Folders\\Contacts",
-    .table = L"TBLCONTACT",
-    .row = L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES "
-           L"(hex(randomblob(16)),1,'Host','Ann')",
-    .item = {{L"LastName", L"Outlook"}, {L"FirstName", L"Ann"}},
+    kContactKind,
+    L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES "
+    L"(hex(randomblob(16)),1,'Host','Ann')",
+    {{L"LastName", L"Outlook"}, {L"FirstName", L"Ann"}},
 };
 
 const std::array<std::reference_wrapper<const RunKind>, 3> kRuns = {kTaskRun, kCalendarRun, kContactRun};
@@ -78,8 +64,6 @@ long Confirmations(const Outcome& outcome)
 
 RunsFixture::RunsFixture()
 {
-    state::Shared().gFontName = L"Arial";
-    state::Shared().gFontSize = 8;
     Display.Ask = run::ConfirmChanges;
 }
 

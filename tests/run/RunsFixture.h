@@ -1,9 +1,8 @@
 // Fixture of the run procedures: an office, and whole runs whose dialogs a robot answers.
 #pragma once
 
-#include "automation/Dates.h"
-#include "run/Runs.h"
 #include "tests/support/OfficeFixture.h"
+#include "tests/support/TestedKind.h"
 
 #include <array>
 #include <functional>
@@ -13,16 +12,10 @@
 namespace test_support
 {
 
-struct RunKind
+struct RunKind : TestedKind
 {
-    const wchar_t* name;
-    bool (*run)(exchange::RunDisplay& display);
-    const wchar_t* folder;
-    const wchar_t* table;
     const wchar_t* row;                 // a statement that adds a host record of the first user
     sandbox::Mailbox::NamedValues item; // that has no partner in the host
-    bool succeedsWithoutHostRows = false;
-    bool writesHostFirst = false; // in a two-way run
 };
 
 extern const RunKind kTaskRun;
@@ -58,7 +51,7 @@ class RunsFixture : public OfficeFixture
     Outcome Run(const RunKind& kind, long transType, Answer answer);
 
     // A record of the kind that the other side does not have.
-    void AddHostRecord(const RunKind& kind) { TheHost.Database().Execute(kind.row); }
+    void AddHostRecord(const RunKind& kind) { Execute(kind.row); }
     void AddItem(const RunKind& kind) { Mailbox->AddItem(kind.folder, kind.item); }
 
     long CountRows(const RunKind& kind);

@@ -2,7 +2,6 @@
 // and how they end.
 #include "tests/run/RunsFixture.h"
 
-#include "automation/Text.h"
 #include "state/SharedState.h"
 #include "tests/support/CallWatch.h"
 
@@ -12,7 +11,6 @@ namespace
 {
 
 using namespace test_support;
-using automation::ToUtf8;
 using state::Shared;
 
 using Runs = RunsFixture;
@@ -89,7 +87,7 @@ TEST_F(Runs, EachDirectionWritesItsOwnSideOnly)
 {
     for (const RunKind& kind : kRuns)
     {
-        SCOPED_TRACE(ToUtf8(kind.name));
+        SCOPED_TRACE(kind.name);
         AddHostRecord(kind);
         AddItem(kind);
         const long rows = CountRows(kind);
@@ -108,7 +106,7 @@ TEST_F(Runs, BothWaysTasksWriteTheHostFirstAndTheOthersOutlook)
 {
     for (const RunKind& kind : kRuns)
     {
-        SCOPED_TRACE(ToUtf8(kind.name));
+        SCOPED_TRACE(kind.name);
         AddHostRecord(kind);
         AddItem(kind);
         const CallWatch watch;
@@ -136,7 +134,7 @@ TEST_F(Runs, HostRowsThatCannotBeOpenedAreSuccessForTasksAndFailureForTheOthers)
         AddItem(kind);
         TheHost.Failures().Order(L"OpenRecordset", 1, {-1});
         const Outcome outcome = Run(kind, 3, Answer::Accept);
-        EXPECT_EQ(!kind.succeedsWithoutHostRows, outcome.failed) << ToUtf8(kind.name);
+        EXPECT_EQ(!kind.succeedsWithoutHostRows, outcome.failed) << kind.name;
         EXPECT_TRUE(outcome.shown.empty());
     }
 }
@@ -155,8 +153,8 @@ TEST_F(Runs, AnErrorThatTheHostRaisesInsteadOfRowsFailsEveryKind)
 TEST_F(Runs, TheCalendarTakesTheEntriesOfTheSignedInUserOnly)
 {
     AddHostRecord(kCalendarRun);
-    TheHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE) VALUES "
-                               L"('B',99,'Of somebody else','2003-05-06 00:00:00')");
+    Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE) VALUES "
+            L"('B',99,'Of somebody else','2003-05-06 00:00:00')");
     EXPECT_FALSE(Run(kCalendarRun, 2, Answer::Accept).failed);
     ASSERT_EQ(1, CountItems(kCalendarRun));
     EXPECT_EQ(L"Host", automation::TextOf(Mailbox->ItemProperty(kCalendarRun.folder, 1, L"Subject")));
@@ -234,7 +232,7 @@ TEST_F(Runs, TheHostRowsAreClosedAtEveryWayOut)
     const auto expectClosed = [&](const char* way, const std::function<Outcome(const RunKind&)>& run) {
         for (const RunKind& kind : kRuns)
         {
-            SCOPED_TRACE(std::string(way) + " " + ToUtf8(kind.name));
+            SCOPED_TRACE(std::string(way) + " " + kind.name);
             const CallWatch calls;
             run(kind);
             const long opened = calls.Of(L"DTC.OpenRecordset") + calls.Of(L"DTC.OpenRecordsetByString") +

@@ -20,7 +20,6 @@ constexpr long kBothDirections = 3;
 struct DifferingPair
 {
     const RunKind& kind;
-    sandbox::ItemKind itemKind;
     const wchar_t* row; // a statement that adds the host's record
     Mailbox::NamedValues item;
     const wchar_t* saves; // the member that saves such an item
@@ -32,7 +31,6 @@ struct DifferingPair
 
 const DifferingPair kTaskPair{
     .kind = kTaskRun,
-    .itemKind = sandbox::ItemKind::Task,
     .row = L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTTYPE,F_ACTPRIORITY,F_ACTPERCENT,"
            L"F_ACTSTATUS) VALUES ('T1',1,'Call','Phone',1,0.25,1)",
     .item = {{L"Subject", L"Call"},
@@ -49,7 +47,6 @@ const DifferingPair kTaskPair{
 
 const DifferingPair kCalendarPair{
     .kind = kCalendarRun,
-    .itemKind = sandbox::ItemKind::Appointment,
     .row = L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTESDATE,F_ACTESTIME,F_ACTEETIME,"
            L"F_ACTREMIND) VALUES ('E1',1,'Board','2003-05-06 00:00:00','1899-12-30 09:30:00',"
            L"'1899-12-30 10:30:00',0)",
@@ -66,7 +63,6 @@ const DifferingPair kCalendarPair{
 
 const DifferingPair kContactPair{
     .kind = kContactRun,
-    .itemKind = sandbox::ItemKind::Contact,
     .row = L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME,F_NICKNAME) VALUES "
            L"('C1',1,'Li','Ming','Host')",
     .item = {{L"LastName", L"Li"},
@@ -108,7 +104,7 @@ class TwoWayRun : public RunsFixture
                 text += L"\n";
             }
         }
-        for (const auto id : sandbox::outlook::PropertiesOf(pair.itemKind))
+        for (const auto id : sandbox::outlook::PropertiesOf(pair.kind.itemKind))
         {
             const auto& property = sandbox::outlook::PropertyOf(id);
             text +=
@@ -138,9 +134,9 @@ TEST_F(TwoWayRun, TasksEndAsOutlookHasThemAndTheOthersAsTheHostDoesAndNothingMov
 {
     for (const DifferingPair* const pair : kPairs)
     {
-        SCOPED_TRACE(automation::ToUtf8(pair->kind.name));
-        TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
-        TheHost.Database().Execute(pair->row);
+        SCOPED_TRACE(pair->kind.name);
+        Execute(L"DELETE FROM TBLACTIVITY");
+        Execute(pair->row);
         Mailbox->AddItem(pair->kind.folder, pair->item);
         for (int run = 1; run <= 3; ++run)
         {
@@ -158,19 +154,19 @@ TEST_F(TwoWayRun, ATaskThatCameFromOutlookIsNotSavedThereAgain)
 {
     for (const DifferingPair* const pair : kPairs)
     {
-        TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
-        TheHost.Database().Execute(pair->row);
+        Execute(L"DELETE FROM TBLACTIVITY");
+        Execute(pair->row);
         Mailbox->AddItem(pair->kind.folder, pair->item);
         const CallWatch calls;
         Exchange(*pair);
-        EXPECT_EQ(1, calls.Of(L"DTC.Update")) << automation::ToUtf8(pair->kind.name);
-        EXPECT_EQ(pair == &kTaskPair ? 0 : 1, calls.Of(pair->saves)) << automation::ToUtf8(pair->kind.name);
+        EXPECT_EQ(1, calls.Of(L"DTC.Update")) << pair->kind.name;
+        EXPECT_EQ(pair == &kTaskPair ? 0 : 1, calls.Of(pair->saves)) << pair->kind.name;
     }
 }
 
 TEST_F(TwoWayRun, ATaskThatTheHostRefusesIsWrittenToOutlookAsTheHostHasIt)
 {
-    TheHost.Database().Execute(kTaskPair.row);
+    Execute(kTaskPair.row);
     Mailbox->AddItem(kTaskPair.kind.folder, kTaskPair.item);
     TheHost.Failures().Order(L"Update", 1, {1});
     EXPECT_FALSE(Run(kTaskRun, kBothDirections, Answer::Accept).failed);
@@ -180,9 +176,9 @@ TEST_F(TwoWayRun, ATaskThatTheHostRefusesIsWrittenToOutlookAsTheHostHasIt)
 
 TEST_F(TwoWayRun, OnlyTheOverwrittenRowsAreLeftOutOfTheSecondPassOfTasks)
 {
-    TheHost.Database().Execute(kTaskPair.row);
-    TheHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTPRIORITY) VALUES "
-                               L"('T2',1,'Host only',1)");
+    Execute(kTaskPair.row);
+    Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_ACTPRIORITY) VALUES "
+            L"('T2',1,'Host only',1)");
     Mailbox->AddItem(kTaskPair.kind.folder, kTaskPair.item);
     Exchange(kTaskPair);
     ASSERT_EQ(2, CountItems(kTaskRun));
@@ -196,13 +192,13 @@ TEST_F(TwoWayRun, ANewItemIsMadeBeforeOrAfterTheRecordsetMovesByItsKind)
     const std::vector<std::wstring> rowFirst{L"Recordset.Move", L"Items.Add"};
     for (const RunKind& kind : kRuns)
     {
-        TheHost.Database().Execute(L"DELETE FROM TBLACTIVITY");
+        Execute(L"DELETE FROM TBLACTIVITY");
         AddHostRecord(kind);
         const CallWatch watch;
         EXPECT_FALSE(Run(kind, 2, Answer::Accept).failed);
-        EXPECT_EQ(kind.name == kContactRun.name ? rowFirst : itemFirst,
+        EXPECT_EQ(&kind == &kContactRun ? rowFirst : itemFirst,
                   watch.InOrder({L"Items.Add", L"Recordset.Move"}))
-            << automation::ToUtf8(kind.name);
+            << kind.name;
     }
 }
 

@@ -24,4 +24,5 @@ endforeach()
 list(REMOVE_DUPLICATES found)
 list(SORT found)
 list(JOIN found "\n" lines)
-file(WRITE ${OUTPUT} "${lines}\n")
+# Leaves a file with the same lines alone, so that what includes it need not be compiled again.
+file(CONFIGURE OUTPUT ${OUTPUT} CONTENT "${lines}\n" @ONLY)

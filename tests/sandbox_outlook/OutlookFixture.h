@@ -2,10 +2,12 @@
 // and the description of an expected failure.
 #pragma once
 
-#include "automation/Dates.h"
 #include "automation/Error.h"
 #include "automation/Object.h"
 #include "sandbox/outlook/Outlook.h"
+#include "tests/support/Days.h"
+#include "tests/support/ItemValues.h"
+#include "tests/support/Kinds.h"
 
 #include <gtest/gtest.h>
 
@@ -14,20 +16,15 @@
 namespace sandbox
 {
 
-inline constexpr const wchar_t* kContacts = L"Personal Folders\\Contacts";
-inline constexpr const wchar_t* kTasks = L"Personal Folders\\Tasks";
-inline constexpr const wchar_t* kCalendar = L"Personal Folders\\Calendar";
+inline constexpr const wchar_t* kContacts = test_support::kContactRecords.folder;
+inline constexpr const wchar_t* kTasks = test_support::kTaskRecords.folder;
+inline constexpr const wchar_t* kCalendar = test_support::kCalendarRecords.folder;
 
-inline automation::Date Day(int year, int month, int day, int hour = 0, int minute = 0)
-{
-    return automation::DateOf(automation::Moment{year, month, day, hour, minute, 0});
-}
-
-// A date as text, so that a failed comparison can be read.
-inline std::wstring At(const automation::Value& date)
-{
-    return automation::Formatted(automation::DateOf(date), L"yyyy-mm-dd hh:mm");
-}
+using test_support::At;
+using test_support::Day;
+using test_support::Number;
+using test_support::Text;
+using test_support::Truth;
 
 // The description of the error that the body raises; a failure of the test when it raises none.
 template<typename Body>
@@ -74,20 +71,5 @@ class OutlookFixture : public testing::Test
     MailboxRef mMailbox = MakeMailbox();
     automation::Object mOutlook = MakeOutlook(mMailbox);
 };
-
-inline std::wstring Text(const automation::Object& object, const wchar_t* member)
-{
-    return automation::TextOf(object.Get(member));
-}
-
-inline long Number(const automation::Object& object, const wchar_t* member)
-{
-    return automation::LongOf(object.Get(member));
-}
-
-inline bool Truth(const automation::Object& object, const wchar_t* member)
-{
-    return automation::TruthOf(object.Get(member));
-}
 
 } // namespace sandbox

@@ -12,31 +12,30 @@ namespace
 using automation::Object;
 using automation::TextOf;
 using test_support::CallWatch;
-using test_support::kContacts;
-using test_support::kTasks;
+using test_support::kContactKind;
+using test_support::kTaskKind;
 
 class ContactLink : public test_support::TaskFixture
 {
   protected:
     ContactLink() { Relate({{L"F_ACTNAME", L"Subject"}, {L"CONTACT_SURNAME", L"ContactNames"}}); }
 
-    void AddHostTaskWith(const wchar_t* surname, const wchar_t* givenName) const
+    void AddRowWith(const wchar_t* surname, const wchar_t* givenName)
     {
-        AddHostTask(
-            {{L"F_ACTNAME", L"'Call'"}, {L"CONTACT_SURNAME", surname}, {L"CONTACT_GIVENNAME", givenName}});
+        AddRow({{L"F_ACTNAME", L"'Call'"}, {L"CONTACT_SURNAME", surname}, {L"CONTACT_GIVENNAME", givenName}});
     }
 
-    long AddContact(const wchar_t* first, const wchar_t* last) const
+    long AddContact(const wchar_t* first, const wchar_t* last)
     {
-        return mMailbox->AddItem(kContacts, {{L"FirstName", first}, {L"LastName", last}});
+        return Mailbox->AddItem(kContactKind.folder, {{L"FirstName", first}, {L"LastName", last}});
     }
 
     std::wstring ContactProperty(long position, const wchar_t* name) const
     {
-        return TextOf(mMailbox->ItemProperty(kContacts, position, name));
+        return TextOf(Mailbox->ItemProperty(kContactKind.folder, position, name));
     }
 
-    std::vector<std::wstring> Links(long task) const { return mMailbox->ItemLinks(kTasks, task); }
+    std::vector<std::wstring> Links(long task) const { return Mailbox->ItemLinks(kTaskKind.folder, task); }
 };
 
 bool Refuse(const Object& /*contact*/)
@@ -55,8 +54,8 @@ TEST_F(ContactLink, TheContactOfTheNameIsLinked)
 {
     AddContact(L"Hua", L"Li");
     AddContact(L"Wei", L"Zhang");
-    AddHostTaskWith(L"'Zhang'", L"'Wei'");
-    const Object task = WriteNewTask();
+    AddRowWith(L"'Zhang'", L"'Wei'");
+    const Object task = WriteNewItem();
     EXPECT_EQ(2, CountContacts());
     ASSERT_EQ(1u, Links(1).size());
     EXPECT_EQ(L"Wei",
@@ -65,24 +64,24 @@ TEST_F(ContactLink, TheContactOfTheNameIsLinked)
 
 TEST_F(ContactLink, AnOutlookWithoutLinksCostsTheLinkAndNotTheTask)
 {
-    mMailbox->Switch(L"LinksRaise", true);
+    Mailbox->Switch(L"LinksRaise", true);
     AddContact(L"Wei", L"Zhang");
-    AddHostTaskWith(L"'Zhang'", L"'Wei'");
-    WriteNewTask();
-    ASSERT_EQ(1, CountTasks());
-    EXPECT_EQ(L"Call", TextOf(mMailbox->ItemProperty(kTasks, 1, L"Subject")));
+    AddRowWith(L"'Zhang'", L"'Wei'");
+    WriteNewItem();
+    ASSERT_EQ(1, CountItems());
+    EXPECT_EQ(L"Call", TextOf(Mailbox->ItemProperty(kTaskKind.folder, 1, L"Subject")));
     EXPECT_TRUE(Links(1).empty());
 }
 
 TEST_F(ContactLink, AContactsFolderThatCannotBeReachedCostsTheLinkAlone)
 {
-    mMailbox->AddFolder(L"Archive\\Tasks", sandbox::ItemKind::Task);
+    Mailbox->AddFolder(L"Archive\\Tasks", sandbox::ItemKind::Task);
     const Object task = state::Shared()
                             .gOlNamespace.GetObject(L"Folders", L"Archive")
                             .GetObject(L"Folders", L"Tasks")
                             .GetObject(L"Items")
                             .GetObject(L"Add");
-    mMailbox->Switch(L"OfflineStore", L"Personal Folders");
+    Mailbox->Switch(L"OfflineStore", L"Personal Folders");
     links::LinkContact(task, L"Zhang", L"Wei");
     EXPECT_EQ(0, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
 }
@@ -90,8 +89,8 @@ TEST_F(ContactLink, AContactsFolderThatCannotBeReachedCostsTheLinkAlone)
 TEST_F(ContactLink, AContactThatIsNotFoundIsCreatedWithJustItsNameAndLinked)
 {
     AddContact(L"Zhang", L"Wei"); // the other way round is another person
-    AddHostTaskWith(L"'Zhang'", L"'Wei'");
-    const Object task = WriteNewTask();
+    AddRowWith(L"'Zhang'", L"'Wei'");
+    const Object task = WriteNewItem();
     ASSERT_EQ(2, CountContacts());
     EXPECT_EQ(L"Wei", ContactProperty(2, L"FirstName"));
     EXPECT_EQ(L"Zhang", ContactProperty(2, L"LastName"));
@@ -102,14 +101,14 @@ TEST_F(ContactLink, AContactThatIsNotFoundIsCreatedWithJustItsNameAndLinked)
 
 TEST_F(ContactLink, WithoutASurnameOrAGivenNameEmptyTextsIncludedNothingIsSearchedNorLinked)
 {
-    AddHostTaskWith(L"'Zhang'", L"NULL");
-    WriteNewTask();
-    Execute(L"UPDATE Activities SET CONTACT_SURNAME=NULL, CONTACT_GIVENNAME='Wei'");
-    WriteNewTask();
-    Execute(L"UPDATE Activities SET CONTACT_SURNAME='', CONTACT_GIVENNAME='Wei'");
-    WriteNewTask();
-    Execute(L"UPDATE Activities SET CONTACT_SURNAME='Zhang', CONTACT_GIVENNAME=''");
-    WriteNewTask();
+    AddRowWith(L"'Zhang'", L"NULL");
+    WriteNewItem();
+    Execute(L"UPDATE HostRows SET CONTACT_SURNAME=NULL, CONTACT_GIVENNAME='Wei'");
+    WriteNewItem();
+    Execute(L"UPDATE HostRows SET CONTACT_SURNAME='', CONTACT_GIVENNAME='Wei'");
+    WriteNewItem();
+    Execute(L"UPDATE HostRows SET CONTACT_SURNAME='Zhang', CONTACT_GIVENNAME=''");
+    WriteNewItem();
     EXPECT_EQ(0, CountContacts());
     for (const long task : {1, 2, 3, 4})
     {
@@ -120,19 +119,19 @@ TEST_F(ContactLink, WithoutASurnameOrAGivenNameEmptyTextsIncludedNothingIsSearch
 TEST_F(ContactLink, AnExistingTaskGetsOneMoreLinkEachTimeItIsWritten)
 {
     AddContact(L"Wei", L"Zhang");
-    AddHostTaskWith(L"'Zhang'", L"'Wei'");
-    WriteNewTask();
-    WriteExistingTask();
+    AddRowWith(L"'Zhang'", L"'Wei'");
+    WriteNewItem();
+    WriteExistingItem();
     EXPECT_EQ(2u, Links(1).size());
-    WriteExistingTask();
+    WriteExistingItem();
     EXPECT_EQ(3u, Links(1).size());
     EXPECT_EQ(1, CountContacts());
 }
 
 TEST_F(ContactLink, TwoTasksOfANewContactInOnePassShareIt)
 {
-    AddHostTaskWith(L"'Zhang'", L"'Wei'");
-    AddHostTaskWith(L"'Zhang'", L"'Wei'");
+    AddRowWith(L"'Zhang'", L"'Wei'");
+    AddRowWith(L"'Zhang'", L"'Wei'");
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     run.Pending.NewHostRecords.Add(2L, 0);
@@ -147,28 +146,28 @@ TEST_F(ContactLink, ADoubleQuoteInANameEndsThePassWithNothingHalfOpen)
     for (const auto& [surname, givenName] :
          {std::pair(L"'Zh\"ang'", L"'Wei'"), std::pair(L"'Zhang'", L"'W\"ei'")})
     {
-        Execute(L"DELETE FROM Activities");
-        AddHostTaskWith(surname, givenName);
-        AddHostTaskWith(L"'Li'", L"'Hua'");
-        const long before = CountTasks();
+        Execute(L"DELETE FROM HostRows");
+        AddRowWith(surname, givenName);
+        AddRowWith(L"'Li'", L"'Hua'");
+        const long before = CountItems();
         exchange::Run run = NewRun();
         run.Pending.NewHostRecords.Add(1L, 0);
         run.Pending.NewHostRecords.Add(2L, 0);
         const CallWatch calls;
         EXPECT_TRUE(tasks::SynTaskToOutlook(run));
         EXPECT_EQ(0, CountContacts());
-        EXPECT_EQ(before + 1, CountTasks()); // the first row had saved it, the second task was not begun
+        EXPECT_EQ(before + 1, CountItems()); // the first row had saved it, the second task was not begun
         EXPECT_TRUE(Links(before + 1).empty());
         EXPECT_EQ(calls.Of(L"Recordset.Open"), calls.Of(L"Recordset.Close"));
-        EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
+        EXPECT_EQ(L"(hidden)", Display.Events.back());
     }
 }
 
 TEST_F(ContactLink, ANameThatContinuesTheSearchFindsItsContact)
 {
     AddContact(L"Mei", L"Li");
-    AddHostTaskWith(L"'Zhang\" Or [LastName] = \"Li'", L"'Wei'");
-    WriteNewTask();
+    AddRowWith(L"'Zhang\" Or [LastName] = \"Li'", L"'Wei'");
+    WriteNewItem();
     EXPECT_EQ(1, CountContacts());
     EXPECT_EQ(1u, Links(1).size());
 }
@@ -176,29 +175,29 @@ TEST_F(ContactLink, ANameThatContinuesTheSearchFindsItsContact)
 TEST_F(ContactLink, AnApostropheInANameIsAPlainCharacter)
 {
     AddContact(L"Pat", L"O'Brien");
-    AddHostTaskWith(L"'O''Brien'", L"'Pat'");
-    WriteNewTask();
+    AddRowWith(L"'O''Brien'", L"'Pat'");
+    WriteNewItem();
     EXPECT_EQ(1, CountContacts());
     EXPECT_EQ(1u, Links(1).size());
 }
 
 TEST_F(ContactLink, OnlyPlainContactsOfTheDefaultFolderAreCandidates)
 {
-    mMailbox->AddItem(
-        kContacts,
+    Mailbox->AddItem(
+        kContactKind.folder,
         {{L"MessageClass", L"IPM.Contact.Special"}, {L"FirstName", L"Wei"}, {L"LastName", L"Zhang"}});
-    AddHostTaskWith(L"'Zhang'", L"'Wei'");
-    WriteNewTask();
+    AddRowWith(L"'Zhang'", L"'Wei'");
+    WriteNewItem();
     EXPECT_EQ(2, CountContacts());
 }
 
 TEST_F(ContactLink, AConditionIsAskedOfTheContactFoundAndMayRefuseIt)
 {
-    mMailbox->AddItem(kContacts,
-                      {{L"FirstName", L"Wei"}, {L"LastName", L"Zhang"}, {L"OutlookVersion", L"8.5"}});
+    Mailbox->AddItem(kContactKind.folder,
+                     {{L"FirstName", L"Wei"}, {L"LastName", L"Zhang"}, {L"OutlookVersion", L"8.5"}});
     AddContact(L"Hua", L"Li");
     AddOutlookTask({{L"Subject", L"Call"}});
-    const Object task = TaskAt(1);
+    const Object task = ItemAt(1);
     links::LinkContact(task, L"Zhang", L"Wei", IsNotOfOutlook8);
     EXPECT_EQ(0, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
     links::LinkContact(task, L"Li", L"Hua", IsNotOfOutlook8);
@@ -209,7 +208,7 @@ TEST_F(ContactLink, AConditionIsAskedOfTheContactFoundAndMayRefuseIt)
 TEST_F(ContactLink, AConditionIsNotAskedOfAContactThatIsCreated)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    const Object task = TaskAt(1);
+    const Object task = ItemAt(1);
     links::LinkContact(task, L"Zhang", L"Wei", Refuse);
     EXPECT_EQ(1, CountContacts());
     EXPECT_EQ(1, automation::LongOf(task.GetObject(L"Links").Get(L"Count")));
@@ -218,7 +217,7 @@ TEST_F(ContactLink, AConditionIsNotAskedOfAContactThatIsCreated)
 TEST_F(ContactLink, TheItemItselfIsLeftToItsWriterToSave)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    const Object task = TaskAt(1);
+    const Object task = ItemAt(1);
     const CallWatch calls;
     links::LinkContact(task, L"Zhang", L"Wei");
     EXPECT_EQ(0, calls.Of(L"TaskItem.Save"));

@@ -1,11 +1,10 @@
 // Tasks between the fake host and Outlook's, collected and applied as in a run.
 #pragma once
 
-#include "data/Host.h"
 #include "run/ChangeCollection.h"
-#include "tasks/Tasks.h"
+#include "tests/support/Days.h"
 #include "tests/support/OfficeFixture.h"
-#include "tests/tasks/TaskFixture.h"
+#include "tests/support/TestedKind.h"
 
 namespace test_support
 {
@@ -13,11 +12,7 @@ namespace test_support
 class TaskExchange : public OfficeFixture
 {
   protected:
-    TaskExchange()
-    {
-        state::Shared().gCalendarPreviewAlarmTime = 20;
-        SetRule(state::kIgnoreAllConflicting);
-    }
+    TaskExchange() { SetRule(state::kIgnoreAllConflicting); }
 
     static void SetRule(state::ConflictOption rule)
     {
@@ -27,23 +22,16 @@ class TaskExchange : public OfficeFixture
     // columns and values after the keys of a host task.
     void AddHostTask(const std::wstring& columns, const std::wstring& values)
     {
-        TheHost.Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_CREATORID,F_ACTPRIORITY," +
-                                   columns + L") SELECT 'ACT' || (COUNT(*)+1),1,1,2," + values +
-                                   L" FROM TBLACTIVITY");
+        Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_CREATORID,F_ACTPRIORITY," + columns +
+                L") SELECT 'ACT' || (COUNT(*)+1),1,1,2," + values + L" FROM TBLACTIVITY");
     }
 
     void AddOutlookTask(const sandbox::Mailbox::NamedValues& properties) const
     {
-        Mailbox->AddItem(kTasks, properties);
+        Mailbox->AddItem(kTaskKind.folder, properties);
     }
 
-    exchange::Run NewRun()
-    {
-        const automation::Object folder = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
-        exchange::Run run{.Display = Display, .Folder = folder, .Items = folder.GetObject(L"Items")};
-        EXPECT_LE(0, data::Host().OpenRecordset(run.HostRows, L"ActivityMyActivity"));
-        return run;
-    }
+    exchange::Run NewRun() { return OpenRun(kTaskKind, Display); }
 
     // Proposes and writes; how many records were proposed.
     long ExchangeToOutlook()
@@ -71,7 +59,7 @@ class TaskExchange : public OfficeFixture
 
     automation::Value TaskProperty(long position, const wchar_t* name) const
     {
-        return Mailbox->ItemProperty(kTasks, position, name);
+        return Mailbox->ItemProperty(kTaskKind.folder, position, name);
     }
 };
 

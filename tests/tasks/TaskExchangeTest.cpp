@@ -10,8 +10,8 @@ namespace
 using automation::TextOrEmpty;
 using resources::Language;
 using test_support::Day;
-using test_support::kContacts;
-using test_support::kTasks;
+using test_support::kContactKind;
+using test_support::kTaskKind;
 using test_support::MessagesDuring;
 using test_support::TaskExchange;
 using test_support::WithLanguage;
@@ -20,13 +20,13 @@ using test_support::WithLanguage;
 
 TEST_F(TaskExchange, HostTasksThatWentToOutlookMatchOnTheNextRun)
 {
-    TheHost.Database().Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_ACCSNAME) VALUES ('A1','O''Brien & Co')");
+    Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_ACCSNAME) VALUES ('A1','O''Brien & Co')");
     AddHostTask(L"F_ACTNAME,F_ACTTYPE,F_ACTPSTIME,F_ACCID", L"'Call','Phone','2003-05-06 09:30:45','A1'");
     AddHostTask(L"F_ACTNAME,F_ACTTYPE,F_ACTPSTIME", L"' 电话 ',NULL,NULL");
     AddHostTask(L"F_ACTNAME,F_ACTTYPE,F_ACTSTATUS,F_ACTCTIME,F_ACTPSTIME,F_ACTPETIME",
                 L"'Done','(Unspecified)',2,'2003-05-07','2003-05-06','2003-05-05'");
     EXPECT_EQ(3, ExchangeToOutlook());
-    EXPECT_EQ(3, Mailbox->ItemCount(kTasks));
+    EXPECT_EQ(3, Mailbox->ItemCount(kTaskKind.folder));
     EXPECT_EQ(0, ExchangeToOutlook());
     EXPECT_EQ(0, ExchangeFromOutlook());
 }
@@ -52,10 +52,9 @@ TEST_F(TaskExchange, OutlookTasksThatWentToTheHostMatchOnTheNextRun)
 
 TEST_F(TaskExchange, AnOutlookTaskArrivesWithItsValuesItsContactAndItsAccount)
 {
-    TheHost.Database().Execute(
+    Execute(
         L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES ('C1',1,'张','伟')");
-    TheHost.Database().Execute(
-        L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Quenlar')");
+    Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Quenlar')");
     AddOutlookTask({{L"Subject", L"Call O'Brien"},
                     {L"Categories", L"Phone"},
                     {L"StartDate", Day(2003, 5, 6)},
@@ -86,10 +85,9 @@ TEST_F(TaskExchange, AHostTaskComesBackAsItWent)
         L"||'|'||F_ACTSTATUS||'|'||F_ACTCOMPLETED||'|'||F_ACTPRIORITY||'|'||F_ACTTOTALWORK||'|'||F_"
         L"ACTACTUALWORK"
         L"||'|'||F_ACTREMIND||'|'||F_CNTCTID||'|'||F_ACCID FROM TBLACTIVITY";
-    TheHost.Database().Execute(
+    Execute(
         L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES ('C1',1,'张','伟')");
-    TheHost.Database().Execute(
-        L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Quenlar')");
+    Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES ('A1',1,'Quenlar')");
     AddHostTask(
         L"F_ACTNAME,F_ACTTYPE,F_ACTPSTIME,F_ACTPETIME,F_ACTCTIME,F_ACTPERCENT,F_ACTSTATUS,F_ACTCOMPLETED,"
         L"F_ACTTOTALWORK,F_ACTACTUALWORK,F_ACTREMIND,F_CNTCTID,F_ACCID",
@@ -97,11 +95,10 @@ TEST_F(TaskExchange, AHostTaskComesBackAsItWent)
         L"'C1','A1'");
     const std::wstring before = HostValue(row);
     EXPECT_EQ(1, ExchangeToOutlook());
-    EXPECT_EQ(1, Mailbox->ItemCount(kContacts));
-    TheHost.Database().Execute(
-        L"UPDATE TBLACTIVITY SET F_ACTPETIME=NULL,F_ACTCTIME=NULL,F_ACTPERCENT=0,F_ACTSTATUS=0,"
-        L"F_ACTCOMPLETED=0,F_ACTPRIORITY=1,F_ACTTOTALWORK=0,F_ACTACTUALWORK=0,F_ACTREMIND=0,"
-        L"F_CNTCTID=NULL");
+    EXPECT_EQ(1, Mailbox->ItemCount(kContactKind.folder));
+    Execute(L"UPDATE TBLACTIVITY SET F_ACTPETIME=NULL,F_ACTCTIME=NULL,F_ACTPERCENT=0,F_ACTSTATUS=0,"
+            L"F_ACTCOMPLETED=0,F_ACTPRIORITY=1,F_ACTTOTALWORK=0,F_ACTACTUALWORK=0,F_ACTREMIND=0,"
+            L"F_CNTCTID=NULL");
     SetRule(state::kOutlookWins);
     EXPECT_EQ(1, ExchangeFromOutlook());
     EXPECT_EQ(before, HostValue(row));
@@ -173,7 +170,7 @@ TEST_F(TaskExchange, AContactsNameFindsNothingThatItHasMadeUp)
 
 TEST_F(TaskExchange, WithoutRightsToAccountsAndContactsATaskIsWrittenWithoutLinks)
 {
-    TheHost.Database().Execute(
+    Execute(
         L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES ('C1',1,'张','伟')");
     TheHost.SetRight(1, 2, 2, 1);
     TheHost.SetRight(1, 2, 4, 2);
@@ -201,17 +198,17 @@ TEST_F(TaskExchange, OnlyPendingTasksTravelWhenOnlyThoseAreAskedFor)
 
 TEST_F(TaskExchange, ADoubleQuoteInAContactsNameLeavesNothingOpenOnEitherSide)
 {
-    TheHost.Database().Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES "
-                               L"('C1',1,'Zh\"ang','Wei')");
+    Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) VALUES "
+            L"('C1',1,'Zh\"ang','Wei')");
     AddHostTask(L"F_ACTNAME,F_CNTCTID", L"'One','C1'");
     AddHostTask(L"F_ACTNAME", L"'Two'");
     exchange::Run run = NewRun();
     EXPECT_FALSE(run::ChangeCollection(tasks::kTasks, run).CollectToOutlook());
     EXPECT_TRUE(tasks::kTasks.ToOutlook(run));
-    EXPECT_EQ(1, Mailbox->ItemCount(kTasks));
-    EXPECT_EQ(0, Mailbox->ItemCount(kContacts));
+    EXPECT_EQ(1, Mailbox->ItemCount(kTaskKind.folder));
+    EXPECT_EQ(0, Mailbox->ItemCount(kContactKind.folder));
     EXPECT_FALSE(data::Host().InTransaction());
-    TheHost.Database().Execute(L"UPDATE TBLCONTACT SET F_SURNAME='Zhang'");
+    Execute(L"UPDATE TBLCONTACT SET F_SURNAME='Zhang'");
     EXPECT_EQ(1, ExchangeToOutlook()); // the next run goes on where this one ended
-    EXPECT_EQ(2, Mailbox->ItemCount(kTasks));
+    EXPECT_EQ(2, Mailbox->ItemCount(kTaskKind.folder));
 }

@@ -20,9 +20,9 @@ class TaskFieldsFromOutlook : public test_support::TaskFixture
     std::wstring Stored(const wchar_t* property, const wchar_t* column)
     {
         Relate({{column, property}});
-        Host().Calls.clear();
-        InsertFirstTask();
-        const std::wstring& insert = Host().Calls.at(1);
+        Host->Calls.clear();
+        InsertFirstItem();
+        const std::wstring& insert = Host->Calls.at(1);
         const std::wstring begin = std::wstring(L"Insert(TBLACTIVITY|") + column +
                                    L",F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|";
         EXPECT_EQ(begin, insert.substr(0, begin.size()));
@@ -69,7 +69,7 @@ TEST_F(TaskFieldsFromOutlook, ATaskWithAStartDateStoresItsReminder)
 {
     AddOutlookTask({{L"Subject", L"Call"}, {L"StartDate", Day(2003, 5, 6)}, {L"ReminderSet", true}});
     EXPECT_EQ(L"1", Stored(L"ReminderSet", L"F_ACTREMIND"));
-    const automation::Object task = TaskAt(1);
+    const automation::Object task = ItemAt(1);
     task.Put(L"ReminderSet", false);
     task.Call(L"Save");
     EXPECT_EQ(L"0", Stored(L"ReminderSet", L"F_ACTREMIND"));
@@ -77,15 +77,15 @@ TEST_F(TaskFieldsFromOutlook, ATaskWithAStartDateStoresItsReminder)
 
 TEST_F(TaskFieldsFromOutlook, StartDueAndCompletionDatesAreStoredWithoutATimeOfDay)
 {
-    Relate({{L"F_ACTPSTIME", L"StartDate"}, {L"F_ACTMADE", L"DueDate"}, {L"F_ACTMADE", L"DateCompleted"}});
+    Relate({{L"F_ACTPSTIME", L"StartDate"}, {L"F_ACTPETIME", L"DueDate"}, {L"F_ACTCTIME", L"DateCompleted"}});
     exchange::Run run = NewRun();
     run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
     EXPECT_EQ(
         0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, sandbox::MakeObject<CompletedTaskWithTimes>()));
-    EXPECT_EQ(L"Insert(TBLACTIVITY|F_ACTPSTIME,F_ACTMADE,F_ACTMADE,F_CNTCTID,F_ACCID,F_ACTORID "
+    EXPECT_EQ(L"Insert(TBLACTIVITY|F_ACTPSTIME,F_ACTPETIME,F_ACTCTIME,F_CNTCTID,F_ACCID,F_ACTORID "
               L",F_CREATORID,F_ACTID|'05/06/2003 00:00:00','05/08/2003 00:00:00','05/07/2003 00:00:00',"
               L"NULL,NULL,7,7,'KEY1'|KEY1)",
-              Host().Calls.at(1));
+              Host->Calls.at(1));
 }
 
 TEST_F(TaskFieldsFromOutlook, TheZeroDateIsNoDateEither)
@@ -98,23 +98,22 @@ TEST_F(TaskFieldsFromOutlook, AnUncompletedTaskStoresNoCompletionDateEvenIfOutlo
 {
     for (const long status : {0, 1, 3, 4})
     {
-        mMailbox = sandbox::MakeMailbox();
-        mOutlook = sandbox::MakeOutlook(mMailbox);
+        UseNewMailbox();
         AddOutlookTask({{L"Subject", L"Call"}, {L"Status", status}, {L"DateCompleted", Day(2003, 5, 6)}});
-        EXPECT_EQ(L"NULL", Stored(L"DateCompleted", L"F_ACTCDATE")) << status;
+        EXPECT_EQ(L"NULL", Stored(L"DateCompleted", L"F_ACTCTIME")) << status;
     }
 }
 
 TEST_F(TaskFieldsFromOutlook, ACompletedTaskWithoutACompletionDateStoresNull)
 {
     AddOutlookTask({{L"Subject", L"Call"}, {L"Status", 2}});
-    EXPECT_EQ(L"NULL", Stored(L"DateCompleted", L"F_ACTCDATE"));
+    EXPECT_EQ(L"NULL", Stored(L"DateCompleted", L"F_ACTCTIME"));
 }
 
 TEST_F(TaskFieldsFromOutlook, TheCreationTimeKeepsItsTimeOfDay)
 {
     AddOutlookTask({{L"Subject", L"Call"}, {L"CreationTime", Day(2003, 5, 6, 9, 30)}});
-    EXPECT_EQ(L"'05/06/2003 09:30:00'", Stored(L"CreationTime", L"F_ACTMADE"));
+    EXPECT_EQ(L"'05/06/2003 09:30:00'", Stored(L"CreationTime", L"F_ACTCREATETIME"));
 }
 
 TEST_F(TaskFieldsFromOutlook, ATaskWithoutCategoriesIsUnspecifiedInTheInterfaceLanguage)
@@ -143,14 +142,15 @@ TEST_F(TaskFieldsFromOutlook, NumbersAreConvertedToTheHostsScale)
                     {L"TotalWork", 480},
                     {L"ActualWork", 90}});
     EXPECT_EQ(L"0.5", Stored(L"PercentComplete", L"F_ACTPERCENT"));
-    EXPECT_EQ(L"1", Stored(L"Importance", L"F_ACTLEVEL"));
+    EXPECT_EQ(L"1", Stored(L"Importance", L"F_ACTPRIORITY"));
     EXPECT_EQ(L"3", Stored(L"Status", L"F_ACTSTATUS"));
-    EXPECT_EQ(L"480", Stored(L"TotalWork", L"F_ACTTOTAL"));
-    EXPECT_EQ(L"90", Stored(L"ActualWork", L"F_ACTUAL"));
+    EXPECT_EQ(L"480", Stored(L"TotalWork", L"F_ACTTOTALWORK"));
+    EXPECT_EQ(L"90", Stored(L"ActualWork", L"F_ACTACTUALWORK"));
 }
 
 TEST_F(TaskFieldsFromOutlook, CompleteStoresTheStatusNumberAndNotTheFlag)
 {
+    Execute(L"UPDATE SynFields SET FieldType=1 WHERE FieldName='F_ACTCOMPLETED'"); // a flag would be 1
     AddOutlookTask({{L"Subject", L"Call"}, {L"Status", 2}, {L"Complete", true}});
     EXPECT_EQ(L"2", Stored(L"Complete", L"F_ACTCOMPLETED"));
 }

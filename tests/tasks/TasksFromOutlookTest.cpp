@@ -22,7 +22,7 @@ class TasksFromOutlook : public test_support::TaskFixture
     bool InsertAll()
     {
         exchange::Run run = NewRun();
-        for (long i = 1; i <= CountTasks(); ++i)
+        for (long i = 1; i <= CountItems(); ++i)
         {
             run.Pending.NewOutlookItems.Add(std::to_wstring(i), 0);
         }
@@ -41,12 +41,12 @@ class TasksFromOutlook : public test_support::TaskFixture
 TEST_F(TasksFromOutlook, WithoutRelationRowsTheInsertIsTheLinksAndTheKeys)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    InsertFirstTask();
+    InsertFirstItem();
     EXPECT_EQ((Calls{L"BeginTrans()",
                      L"Insert(TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
                      L"NULL,NULL,7,7,'KEY1'|KEY1)",
                      L"CommitTrans()"}),
-              Host().Calls);
+              Host->Calls);
 }
 
 TEST_F(TasksFromOutlook, TheRelationRowsAndTheCatalogueAreOpenedAsTheContractHasThem)
@@ -67,22 +67,22 @@ TEST_F(TasksFromOutlook, TheRelationRowsAndTheCatalogueAreOpenedAsTheContractHas
 TEST_F(TasksFromOutlook, AnyPositiveResultOfAnInsertIsSuccess)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    Host().Status[L"TBLACTIVITY"] = 5;
-    InsertFirstTask();
-    EXPECT_EQ(L"CommitTrans()", Host().Calls.back());
+    Host->Status[L"TBLACTIVITY"] = 5;
+    InsertFirstItem();
+    EXPECT_EQ(L"CommitTrans()", Host->Calls.back());
 }
 
 TEST_F(TasksFromOutlook, AnUpdateWritesTheMappedColumnsAndTheLinksOfItsRow)
 {
     Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTSTATUS", L"Status"}, {L"CONTACT_SURNAME", L"ContactNames"}});
-    AddHostTask({{L"F_ACTNAME", L"'Old'"}});
+    AddRow({{L"F_ACTNAME", L"'Old'"}});
     AddOutlookTask({{L"Subject", L"Call O'Brien"}, {L"Status", 1}});
-    UpdateFirstTask();
+    UpdateFirstItem();
     EXPECT_EQ((Calls{L"BeginTrans()",
                      L"Update(TBLACTIVITY|F_ACTNAME='Call O''Brien',F_ACTSTATUS=1,F_CNTCTID=NULL,F_ACCID=NULL"
                      L"||F_ACTID='ACT1')",
                      L"CommitTrans()"}),
-              Host().Calls);
+              Host->Calls);
 }
 
 TEST_F(TasksFromOutlook, ATaskWithoutASubjectNeverReachesTheHost)
@@ -95,28 +95,28 @@ TEST_F(TasksFromOutlook, ATaskWithoutASubjectNeverReachesTheHost)
                      L"Insert(TBLACTIVITY|F_ACTSTATUS,F_ACTNAME,F_CNTCTID,F_ACCID,F_ACTORID "
                      L",F_CREATORID,F_ACTID|0,'Call',NULL,NULL,7,7,'KEY1'|KEY1)",
                      L"CommitTrans()"}),
-              Host().Calls);
+              Host->Calls);
 }
 
 TEST_F(TasksFromOutlook, AColumnThatIsNotTheHostTablesOwnIsLeftOut)
 {
     Relate({{L"CONTACT_SURNAME", L"ContactNames"}, {L"ACC_SNAME", L"Companies"}});
     AddOutlookTask({{L"Subject", L"Call"}});
-    InsertFirstTask();
+    InsertFirstItem();
     EXPECT_EQ(
         L"Insert(TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|NULL,NULL,7,7,'KEY1'|KEY1)",
-        Host().Calls.at(1));
+        Host->Calls.at(1));
 }
 
 TEST_F(TasksFromOutlook, AColumnThatCannotBeFormattedAbandonsTheTaskBeforeItsTransaction)
 {
     Relate({{L"F_UNHEARD", L"Subject"}});
     AddOutlookTask({{L"Subject", L"Call"}});
-    const auto messages = MessagesDuring([&] { InsertFirstTask(); });
+    const auto messages = MessagesDuring([&] { InsertFirstItem(); });
     EXPECT_EQ((std::vector<ShownMessage>{{L"Don't find F_UNHEARDfield in table 'SynFields', can't format ",
                                           L"GetFieldType", IDI_ERROR}}),
               messages);
-    EXPECT_TRUE(Host().Calls.empty());
+    EXPECT_TRUE(Host->Calls.empty());
 }
 
 TEST_F(TasksFromOutlook, ARefusedInsertIsRolledBackAndThePassContinues)
@@ -124,33 +124,33 @@ TEST_F(TasksFromOutlook, ARefusedInsertIsRolledBackAndThePassContinues)
     Relate({{L"F_ACTNAME", L"Subject"}});
     AddOutlookTask({{L"Subject", L"One"}});
     AddOutlookTask({{L"Subject", L"Two"}});
-    Host().Status[L"TBLACTIVITY"] = -1;
+    Host->Status[L"TBLACTIVITY"] = -1;
     EXPECT_FALSE(InsertAll());
-    EXPECT_EQ(2, CountOf(Host().Calls, L"Insert"));
-    EXPECT_EQ(2, CountOf(Host().Calls, L"RollbackTrans"));
-    EXPECT_EQ(0, CountOf(Host().Calls, L"CommitTrans"));
+    EXPECT_EQ(2, CountOf(Host->Calls, L"Insert"));
+    EXPECT_EQ(2, CountOf(Host->Calls, L"RollbackTrans"));
+    EXPECT_EQ(0, CountOf(Host->Calls, L"CommitTrans"));
 }
 
 TEST_F(TasksFromOutlook, APositiveResultOfAnInsertCountsAsWrittenOfAnUpdateAsFailed)
 {
-    AddHostTask({{L"F_ACTNAME", L"'Old'"}});
+    AddRow({{L"F_ACTNAME", L"'Old'"}});
     AddOutlookTask({{L"Subject", L"Call"}});
-    Host().Status[L"TBLACTIVITY"] = 1;
-    InsertFirstTask();
-    EXPECT_EQ(L"CommitTrans()", Host().Calls.back());
-    UpdateFirstTask();
-    EXPECT_EQ(L"RollbackTrans()", Host().Calls.back());
+    Host->Status[L"TBLACTIVITY"] = 1;
+    InsertFirstItem();
+    EXPECT_EQ(L"CommitTrans()", Host->Calls.back());
+    UpdateFirstItem();
+    EXPECT_EQ(L"RollbackTrans()", Host->Calls.back());
 }
 
 TEST_F(TasksFromOutlook, WithoutAPendingTransactionNothingIsCommittedOrRolledBack)
 {
     AddOutlookTask({{L"Subject", L"Call"}});
-    Host().BeginOpensTransaction = false;
-    InsertFirstTask();
-    Host().Status[L"TBLACTIVITY"] = -1;
-    InsertFirstTask();
-    EXPECT_EQ(2, CountOf(Host().Calls, L"Insert"));
-    EXPECT_EQ(0, CountOf(Host().Calls, L"CommitTrans") + CountOf(Host().Calls, L"RollbackTrans"));
+    Host->BeginOpensTransaction = false;
+    InsertFirstItem();
+    Host->Status[L"TBLACTIVITY"] = -1;
+    InsertFirstItem();
+    EXPECT_EQ(2, CountOf(Host->Calls, L"Insert"));
+    EXPECT_EQ(0, CountOf(Host->Calls, L"CommitTrans") + CountOf(Host->Calls, L"RollbackTrans"));
 }
 
 TEST_F(TasksFromOutlook, TheWriterSaysWhetherTheTaskWasWritten)
@@ -160,10 +160,10 @@ TEST_F(TasksFromOutlook, TheWriterSaysWhetherTheTaskWasWritten)
     AddOutlookTask({});
     exchange::Run run = NewRun();
     run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
-    EXPECT_EQ(0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
-    EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(2)));
-    Host().Status[L"TBLACTIVITY"] = -1;
-    EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, TaskAt(1)));
+    EXPECT_EQ(0, tasks::SynOlTaskToSynTask(run, data::kNewRecord, ItemAt(1)));
+    EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, ItemAt(2)));
+    Host->Status[L"TBLACTIVITY"] = -1;
+    EXPECT_EQ(-1, tasks::SynOlTaskToSynTask(run, data::kNewRecord, ItemAt(1)));
 }
 
 TEST_F(TasksFromOutlook, AnyOtherModeSaysSoInEnglishInBothLanguagesAndWritesNothing)
@@ -176,19 +176,19 @@ TEST_F(TasksFromOutlook, AnyOtherModeSaysSoInEnglishInBothLanguagesAndWritesNoth
     {
         const WithLanguage withLanguage(language);
         const auto messages =
-            MessagesDuring([&] { tasks::SynOlTaskToSynTask(run, data::RecordMode{3}, TaskAt(1)); });
+            MessagesDuring([&] { tasks::SynOlTaskToSynTask(run, data::RecordMode{3}, ItemAt(1)); });
         ASSERT_EQ(1u, messages.size());
         EXPECT_EQ(L"Error:Don't this Item.", messages[0].text);
         EXPECT_EQ(nullptr, messages[0].icon);
     }
-    EXPECT_EQ(0, CountOf(Host().Calls, L"Insert") + CountOf(Host().Calls, L"Update"));
-    EXPECT_EQ(2, CountOf(Host().Calls, L"CommitTrans") + CountOf(Host().Calls, L"RollbackTrans"));
+    EXPECT_EQ(0, CountOf(Host->Calls, L"Insert") + CountOf(Host->Calls, L"Update"));
+    EXPECT_EQ(2, CountOf(Host->Calls, L"CommitTrans") + CountOf(Host->Calls, L"RollbackTrans"));
 }
 
 TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
 {
-    AddHostTask({});
-    AddHostTask({});
+    AddRow({});
+    AddRow({});
     AddOutlookTask({{L"Subject", L"One"}});
     exchange::Run run = NewRun();
     run.Pending.ChangedHostRecords.Add(1L, 0);
@@ -199,10 +199,10 @@ TEST_F(TasksFromOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
     EXPECT_EQ((Calls{L"BeginTrans()", L"Update(TBLACTIVITY|F_CNTCTID=NULL,F_ACCID=NULL||F_ACTID='ACT2')",
                      L"CommitTrans()"}),
-              Host().Calls);
+              Host->Calls);
     EXPECT_EQ((std::vector<std::wstring>{L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"50%",
                                          L"100%", L"(hidden)"}),
-              mDisplay.Events);
+              Display.Events);
 }
 
 TEST_F(TasksFromOutlook, AnItemThatIsGoneIsSkippedAndTheOthersAreWritten)
@@ -212,9 +212,9 @@ TEST_F(TasksFromOutlook, AnItemThatIsGoneIsSkippedAndTheOthersAreWritten)
     run.Pending.NewOutlookItems.Add(L"7", 0);
     run.Pending.NewOutlookItems.Add(L"1", 0);
     EXPECT_FALSE(tasks::SynTaskFromOutlook(run));
-    EXPECT_FALSE(Host().Calls.empty());
+    EXPECT_FALSE(Host->Calls.empty());
     EXPECT_EQ(1, run.Report.Vanished());
-    EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
+    EXPECT_EQ(L"(hidden)", Display.Events.back());
 }
 
 TEST_F(TasksFromOutlook, RelationRowsThatCannotBeReadFailEachTaskWithoutATransaction)
@@ -222,5 +222,5 @@ TEST_F(TasksFromOutlook, RelationRowsThatCannotBeReadFailEachTaskWithoutATransac
     Execute(L"DROP TABLE SynRelation");
     AddOutlookTask({{L"Subject", L"One"}});
     EXPECT_FALSE(InsertAll());
-    EXPECT_TRUE(Host().Calls.empty());
+    EXPECT_TRUE(Host->Calls.empty());
 }

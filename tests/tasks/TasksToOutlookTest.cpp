@@ -5,6 +5,7 @@
 #include "automation/Error.h"
 #include "state/SharedState.h"
 #include "tests/support/CallWatch.h"
+#include "tests/support/ItemValues.h"
 #include "tests/support/WithLanguage.h"
 #include "tests/tasks/TaskFixture.h"
 
@@ -13,22 +14,17 @@ namespace
 
 using automation::DateOf;
 using automation::kOutlookNoDate;
-using automation::LongOf;
 using automation::Object;
 using automation::TextOf;
-using automation::TruthOf;
 using resources::Language;
 using test_support::CallWatch;
 using test_support::Day;
+using test_support::Number;
+using test_support::Truth;
 
 class TasksToOutlook : public test_support::TaskFixture
 {
 };
-
-long Number(const Object& task, const wchar_t* property)
-{
-    return LongOf(task.Get(property));
-}
 
 // As text, so that a failed comparison can be read.
 std::wstring Date(const Object& task, const wchar_t* property)
@@ -45,18 +41,18 @@ TEST_F(TasksToOutlook, EachPropertyOfTheTableTakesTheHostValue)
             {L"F_ACTPETIME", L"DueDate"},
             {L"F_ACTTYPE", L"Categories"},
             {L"F_ACTSTATUS", L"Status"},
-            {L"F_ACTTOTAL", L"TotalWork"},
-            {L"F_ACTUAL", L"ActualWork"},
+            {L"F_ACTTOTALWORK", L"TotalWork"},
+            {L"F_ACTACTUALWORK", L"ActualWork"},
             {L"ACC_SNAME", L"Companies"}});
-    AddHostTask({{L"F_ACTNAME", L"'Call O''Brien'"},
-                 {L"F_ACTPSTIME", L"'2003-05-06 09:30:45'"},
-                 {L"F_ACTPETIME", L"'2003-05-08'"},
-                 {L"F_ACTTYPE", L"'电话'"},
-                 {L"F_ACTSTATUS", L"3"},
-                 {L"F_ACTTOTAL", L"480"},
-                 {L"F_ACTUAL", L"90"},
-                 {L"ACC_SNAME", L"'Quenlar'"}});
-    const Object task = WriteNewTask();
+    AddRow({{L"F_ACTNAME", L"'Call O''Brien'"},
+            {L"F_ACTPSTIME", L"'2003-05-06 09:30:45'"},
+            {L"F_ACTPETIME", L"'2003-05-08'"},
+            {L"F_ACTTYPE", L"'电话'"},
+            {L"F_ACTSTATUS", L"3"},
+            {L"F_ACTTOTALWORK", L"480"},
+            {L"F_ACTACTUALWORK", L"90"},
+            {L"ACC_SNAME", L"'Quenlar'"}});
+    const Object task = WriteNewItem();
     EXPECT_EQ(L"Call O'Brien", TextOf(task.Get(L"Subject")));
     EXPECT_EQ(L"2003-05-06 00:00:00", Date(task, L"StartDate"));
     EXPECT_EQ(L"2003-05-08 00:00:00", Date(task, L"DueDate"));
@@ -70,9 +66,9 @@ TEST_F(TasksToOutlook, EachPropertyOfTheTableTakesTheHostValue)
 TEST_F(TasksToOutlook, AHostTaskWithoutDatesHasNoneInOutlook)
 {
     Relate({{L"F_ACTPSTIME", L"StartDate"}, {L"F_ACTPETIME", L"DueDate"}});
-    AddHostTask({{L"F_ACTNAME", L"'Some day'"}});
+    AddRow({{L"F_ACTNAME", L"'Some day'"}});
     AddOutlookTask({{L"StartDate", Day(2003, 5, 6)}, {L"DueDate", Day(2003, 5, 7)}});
-    for (const Object& task : {WriteNewTask(), WriteExistingTask()})
+    for (const Object& task : {WriteNewItem(), WriteExistingItem()})
     {
         EXPECT_EQ(kOutlookNoDate, DateOf(task.Get(L"StartDate")));
         EXPECT_EQ(kOutlookNoDate, DateOf(task.Get(L"DueDate")));
@@ -81,13 +77,13 @@ TEST_F(TasksToOutlook, AHostTaskWithoutDatesHasNoneInOutlook)
 
 TEST_F(TasksToOutlook, ACompletionDateIsWrittenOnlyToATaskThatIsComplete)
 {
-    Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTCDATE", L"DateCompleted"}});
-    AddHostTask({{L"F_ACTSTATUS", L"2"}, {L"F_ACTCDATE", L"'2003-05-06'"}});
-    EXPECT_EQ(L"2003-05-06 00:00:00", Date(WriteNewTask(), L"DateCompleted"));
+    Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTCTIME", L"DateCompleted"}});
+    AddRow({{L"F_ACTSTATUS", L"2"}, {L"F_ACTCTIME", L"'2003-05-06'"}});
+    EXPECT_EQ(L"2003-05-06 00:00:00", Date(WriteNewItem(), L"DateCompleted"));
     for (const wchar_t* other : {L"0", L"1", L"3", L"4"})
     {
-        Execute(std::wstring(L"UPDATE Activities SET F_ACTSTATUS=") + other);
-        const Object task = WriteNewTask();
+        Execute(std::wstring(L"UPDATE HostRows SET F_ACTSTATUS=") + other);
+        const Object task = WriteNewItem();
         EXPECT_EQ(kOutlookNoDate, DateOf(task.Get(L"DateCompleted"))) << other;
         EXPECT_EQ(std::stol(other), Number(task, L"Status"));
     }
@@ -95,18 +91,18 @@ TEST_F(TasksToOutlook, ACompletionDateIsWrittenOnlyToATaskThatIsComplete)
 
 TEST_F(TasksToOutlook, ACompleteTaskWithoutACompletionDateInTheHostHasNoneInOutlook)
 {
-    Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTCDATE", L"DateCompleted"}});
-    AddHostTask({{L"F_ACTSTATUS", L"2"}});
-    const Object task = WriteNewTask();
+    Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTCTIME", L"DateCompleted"}});
+    AddRow({{L"F_ACTSTATUS", L"2"}});
+    const Object task = WriteNewItem();
     EXPECT_EQ(kOutlookNoDate, DateOf(task.Get(L"DateCompleted")));
     EXPECT_EQ(2, Number(task, L"Status"));
 }
 
 TEST_F(TasksToOutlook, ACompletionDateThatComesBeforeTheStatusIsDropped)
 {
-    Relate({{L"F_ACTCDATE", L"DateCompleted"}, {L"F_ACTSTATUS", L"Status"}});
-    AddHostTask({{L"F_ACTSTATUS", L"2"}, {L"F_ACTCDATE", L"'2003-05-06'"}});
-    const Object task = WriteNewTask();
+    Relate({{L"F_ACTCTIME", L"DateCompleted"}, {L"F_ACTSTATUS", L"Status"}});
+    AddRow({{L"F_ACTSTATUS", L"2"}, {L"F_ACTCTIME", L"'2003-05-06'"}});
+    const Object task = WriteNewItem();
     EXPECT_EQ(2, Number(task, L"Status"));
     EXPECT_NE(L"2003-05-06 00:00:00", Date(task, L"DateCompleted"));
 }
@@ -114,85 +110,85 @@ TEST_F(TasksToOutlook, ACompletionDateThatComesBeforeTheStatusIsDropped)
 TEST_F(TasksToOutlook, AnExistingTaskIsJudgedByTheStatusThatItHasWhenTheRowIsReached)
 {
     // It was complete, and the date is written before the status makes it incomplete again.
-    Relate({{L"F_ACTCDATE", L"DateCompleted"}});
-    AddHostTask({{L"F_ACTSTATUS", L"1"}, {L"F_ACTCDATE", L"'2003-05-06'"}});
+    Relate({{L"F_ACTCTIME", L"DateCompleted"}});
+    AddRow({{L"F_ACTSTATUS", L"1"}, {L"F_ACTCTIME", L"'2003-05-06'"}});
     AddOutlookTask({{L"Status", 2}, {L"Complete", true}, {L"DateCompleted", Day(2001, 1, 1)}});
-    EXPECT_EQ(L"2003-05-06 00:00:00", Date(WriteExistingTask(), L"DateCompleted"));
-    Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTCDATE", L"DateCompleted"}});
-    EXPECT_EQ(kOutlookNoDate, DateOf(WriteExistingTask().Get(L"DateCompleted")));
+    EXPECT_EQ(L"2003-05-06 00:00:00", Date(WriteExistingItem(), L"DateCompleted"));
+    Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTCTIME", L"DateCompleted"}});
+    EXPECT_EQ(kOutlookNoDate, DateOf(WriteExistingItem().Get(L"DateCompleted")));
 }
 
 TEST_F(TasksToOutlook, TheCompleteFlagIsWrittenOnlyToATaskThatIsComplete)
 {
     Relate({{L"F_ACTSTATUS", L"Status"}, {L"F_ACTCOMPLETED", L"Complete"}});
-    AddHostTask({{L"F_ACTSTATUS", L"1"}, {L"F_ACTCOMPLETED", L"1"}});
-    Object task = WriteNewTask();
-    EXPECT_FALSE(TruthOf(task.Get(L"Complete")));
+    AddRow({{L"F_ACTSTATUS", L"1"}, {L"F_ACTCOMPLETED", L"1"}});
+    Object task = WriteNewItem();
+    EXPECT_FALSE(Truth(task, L"Complete"));
     EXPECT_EQ(1, Number(task, L"Status"));
-    Execute(L"UPDATE Activities SET F_ACTSTATUS=2, F_ACTCOMPLETED=0");
-    task = WriteNewTask();
-    EXPECT_FALSE(TruthOf(task.Get(L"Complete")));
+    Execute(L"UPDATE HostRows SET F_ACTSTATUS=2, F_ACTCOMPLETED=0");
+    task = WriteNewItem();
+    EXPECT_FALSE(Truth(task, L"Complete"));
     EXPECT_EQ(0, Number(task, L"Status"));
 }
 
 TEST_F(TasksToOutlook, TheCompleteFlagThatComesBeforeTheStatusIsDropped)
 {
     Relate({{L"F_ACTCOMPLETED", L"Complete"}, {L"F_ACTSTATUS", L"Status"}});
-    AddHostTask({{L"F_ACTSTATUS", L"2"}, {L"F_ACTCOMPLETED", L"0"}});
-    const Object task = WriteNewTask();
-    EXPECT_TRUE(TruthOf(task.Get(L"Complete")));
+    AddRow({{L"F_ACTSTATUS", L"2"}, {L"F_ACTCOMPLETED", L"0"}});
+    const Object task = WriteNewItem();
+    EXPECT_TRUE(Truth(task, L"Complete"));
     EXPECT_EQ(2, Number(task, L"Status"));
 }
 
 TEST_F(TasksToOutlook, AFractionBecomesAPercentage)
 {
     Relate({{L"F_ACTPERCENT", L"PercentComplete"}});
-    AddHostTask({{L"F_ACTPERCENT", L"0.5"}});
-    EXPECT_EQ(50, Number(WriteNewTask(), L"PercentComplete"));
-    Execute(L"UPDATE Activities SET F_ACTPERCENT=0.29"); // times 100 a little less than 29
-    EXPECT_EQ(29, Number(WriteNewTask(), L"PercentComplete"));
-    Execute(L"UPDATE Activities SET F_ACTPERCENT=NULL");
-    EXPECT_EQ(0, Number(WriteNewTask(), L"PercentComplete"));
+    AddRow({{L"F_ACTPERCENT", L"0.5"}});
+    EXPECT_EQ(50, Number(WriteNewItem(), L"PercentComplete"));
+    Execute(L"UPDATE HostRows SET F_ACTPERCENT=0.29"); // times 100 a little less than 29
+    EXPECT_EQ(29, Number(WriteNewItem(), L"PercentComplete"));
+    Execute(L"UPDATE HostRows SET F_ACTPERCENT=NULL");
+    EXPECT_EQ(0, Number(WriteNewItem(), L"PercentComplete"));
 }
 
 TEST_F(TasksToOutlook, AnImportanceIsOneLowerInOutlook)
 {
-    Relate({{L"F_ACTLEVEL", L"Importance"}});
+    Relate({{L"F_ACTPRIORITY", L"Importance"}});
     for (const long level : {1, 2, 3})
     {
-        Execute(L"DELETE FROM Activities");
-        AddHostTask({{L"F_ACTLEVEL", std::to_wstring(level)}});
-        EXPECT_EQ(level - 1, Number(WriteNewTask(), L"Importance"));
+        Execute(L"DELETE FROM HostRows");
+        AddRow({{L"F_ACTPRIORITY", std::to_wstring(level)}});
+        EXPECT_EQ(level - 1, Number(WriteNewItem(), L"Importance"));
     }
 }
 
 TEST_F(TasksToOutlook, AReminderComesTheLeadTimeBeforeTheStartWithoutItsSeconds)
 {
     Relate({{L"F_ACTREMIND", L"ReminderSet"}});
-    AddHostTask({{L"F_ACTREMIND", L"1"}, {L"F_ACTPSTIME", L"'2003-05-06 09:30:45'"}});
-    Object task = WriteNewTask();
-    EXPECT_TRUE(TruthOf(task.Get(L"ReminderSet")));
+    AddRow({{L"F_ACTREMIND", L"1"}, {L"F_ACTPSTIME", L"'2003-05-06 09:30:45'"}});
+    Object task = WriteNewItem();
+    EXPECT_TRUE(Truth(task, L"ReminderSet"));
     EXPECT_EQ(L"2003-05-06 09:10:00", Date(task, L"ReminderTime"));
     state::Shared().gCalendarPreviewAlarmTime = 600;
-    EXPECT_EQ(L"2003-05-05 23:30:00", Date(WriteNewTask(), L"ReminderTime"));
+    EXPECT_EQ(L"2003-05-05 23:30:00", Date(WriteNewItem(), L"ReminderTime"));
     state::Shared().gCalendarPreviewAlarmTime = -15;
-    EXPECT_EQ(L"2003-05-06 09:45:00", Date(WriteNewTask(), L"ReminderTime"));
+    EXPECT_EQ(L"2003-05-06 09:45:00", Date(WriteNewItem(), L"ReminderTime"));
 }
 
 TEST_F(TasksToOutlook, WithoutAReminderOrAStartTheReminderTimeIsNotWritten)
 {
     Relate({{L"F_ACTREMIND", L"ReminderSet"}});
-    AddHostTask({{L"F_ACTREMIND", L"0"}, {L"F_ACTPSTIME", L"'2003-05-06 09:30:45'"}});
+    AddRow({{L"F_ACTREMIND", L"0"}, {L"F_ACTPSTIME", L"'2003-05-06 09:30:45'"}});
     AddOutlookTask({{L"ReminderSet", true}, {L"ReminderTime", Day(2001, 2, 3, 4, 5)}});
-    Object task = WriteExistingTask();
-    EXPECT_FALSE(TruthOf(task.Get(L"ReminderSet")));
+    Object task = WriteExistingItem();
+    EXPECT_FALSE(Truth(task, L"ReminderSet"));
     EXPECT_EQ(L"2001-02-03 04:05:00", Date(task, L"ReminderTime"));
-    Execute(L"UPDATE Activities SET F_ACTREMIND=1, F_ACTPSTIME=NULL");
-    task = WriteExistingTask();
-    EXPECT_TRUE(TruthOf(task.Get(L"ReminderSet")));
+    Execute(L"UPDATE HostRows SET F_ACTREMIND=1, F_ACTPSTIME=NULL");
+    task = WriteExistingItem();
+    EXPECT_TRUE(Truth(task, L"ReminderSet"));
     EXPECT_EQ(L"2001-02-03 04:05:00", Date(task, L"ReminderTime"));
-    Execute(L"UPDATE Activities SET F_ACTREMIND=NULL");
-    EXPECT_FALSE(TruthOf(WriteExistingTask().Get(L"ReminderSet")));
+    Execute(L"UPDATE HostRows SET F_ACTREMIND=NULL");
+    EXPECT_FALSE(Truth(WriteExistingItem(), L"ReminderSet"));
 }
 
 TEST_F(TasksToOutlook, AnEmptyTextForTheStartIsNoStart)
@@ -203,14 +199,14 @@ TEST_F(TasksToOutlook, AnEmptyTextForTheStartIsNoStart)
         automation::Recordset(sandbox::MakeRecordset({{{L"F_ACTREMIND"}, {L"F_ACTPSTIME"}}, {{true, L""}}}));
     run.Pending.NewHostRecords.Add(1L, 0);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
-    EXPECT_EQ(1, CountTasks());
+    EXPECT_EQ(1, CountItems());
 }
 
 TEST_F(TasksToOutlook, ARowThatNamesNoKnownPropertyIsSkipped)
 {
     Relate({{L"F_ACTNAME", L"subject"}, {L"F_ACTTYPE", L"Body"}, {L"F_ACTTYPE", L"Categories"}});
-    AddHostTask({{L"F_ACTNAME", L"'Call'"}, {L"F_ACTTYPE", L"'Phone'"}});
-    const Object task = WriteNewTask();
+    AddRow({{L"F_ACTNAME", L"'Call'"}, {L"F_ACTTYPE", L"'Phone'"}});
+    const Object task = WriteNewItem();
     EXPECT_EQ(L"", TextOf(task.Get(L"Subject")));
     EXPECT_EQ(L"", TextOf(task.Get(L"Body")));
     EXPECT_EQ(L"Phone", TextOf(task.Get(L"Categories")));
@@ -219,33 +215,34 @@ TEST_F(TasksToOutlook, ARowThatNamesNoKnownPropertyIsSkipped)
 TEST_F(TasksToOutlook, TheLaterOfTwoRowsForAPropertyWins)
 {
     Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTTYPE", L"Subject"}});
-    AddHostTask({{L"F_ACTNAME", L"'First'"}, {L"F_ACTTYPE", L"'Later'"}});
-    EXPECT_EQ(L"Later", TextOf(WriteNewTask().Get(L"Subject")));
+    AddRow({{L"F_ACTNAME", L"'First'"}, {L"F_ACTTYPE", L"'Later'"}});
+    EXPECT_EQ(L"Later", TextOf(WriteNewItem().Get(L"Subject")));
 }
 
 TEST_F(TasksToOutlook, RowsOfOtherTablesDoNotCountAndWithoutRowsTheTaskIsStillSaved)
 {
-    Execute(L"INSERT INTO SynRelation VALUES ('TBLCONTACT','F_ACTNAME','Subject')");
-    AddHostTask({{L"F_ACTNAME", L"'Call'"}});
-    WriteNewTask();
-    EXPECT_EQ(1, CountTasks());
-    EXPECT_EQ(L"", TextOf(TaskProperty(1, L"Subject")));
+    Execute(L"INSERT INTO SynRelation (QuenlarTblName,EnglishName,OutlookName) VALUES "
+            L"('TBLCONTACT','F_ACTNAME','Subject')");
+    AddRow({{L"F_ACTNAME", L"'Call'"}});
+    WriteNewItem();
+    EXPECT_EQ(1, CountItems());
+    EXPECT_EQ(L"", TextOf(PropertyOf(1, L"Subject")));
 }
 
 TEST_F(TasksToOutlook, ATaskIsSavedAfterEveryRowOnceMoreAfterTheStatusAndAtTheEnd)
 {
     Relate({{L"F_ACTNAME", L"Subject"}, {L"F_ACTSTATUS", L"Status"}, {L"F_ACTTYPE", L"Unknown"}});
-    AddHostTask({{L"F_ACTNAME", L"'Call'"}, {L"F_ACTSTATUS", L"1"}});
+    AddRow({{L"F_ACTNAME", L"'Call'"}, {L"F_ACTSTATUS", L"1"}});
     const CallWatch calls;
-    WriteNewTask();
+    WriteNewItem();
     EXPECT_EQ(3 + 1 + 1, calls.Of(L"TaskItem.Save"));
 }
 
 TEST_F(TasksToOutlook, TheRelationRowsAreReadOncePerPass)
 {
     Relate({{L"F_ACTNAME", L"Subject"}});
-    AddHostTask({{L"F_ACTNAME", L"'One'"}});
-    AddHostTask({{L"F_ACTNAME", L"'Two'"}});
+    AddRow({{L"F_ACTNAME", L"'One'"}});
+    AddRow({{L"F_ACTNAME", L"'Two'"}});
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     run.Pending.NewHostRecords.Add(2L, 0);
@@ -253,18 +250,18 @@ TEST_F(TasksToOutlook, TheRelationRowsAreReadOncePerPass)
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
     EXPECT_EQ(1, calls.Of(L"Recordset.Open"));
     EXPECT_EQ(1, calls.Of(L"Recordset.Close"));
-    EXPECT_EQ(L"One", TextOf(TaskProperty(1, L"Subject")));
-    EXPECT_EQ(L"Two", TextOf(TaskProperty(2, L"Subject")));
+    EXPECT_EQ(L"One", TextOf(PropertyOf(1, L"Subject")));
+    EXPECT_EQ(L"Two", TextOf(PropertyOf(2, L"Subject")));
 }
 
 TEST_F(TasksToOutlook, AnyModeButNewAndExistingTouchesNothing)
 {
     Relate({{L"F_ACTNAME", L"Subject"}});
-    AddHostTask({{L"F_ACTNAME", L"'Call'"}});
+    AddRow({{L"F_ACTNAME", L"'Call'"}});
     AddOutlookTask({{L"Subject", L"As it was"}});
     exchange::Run run = NewRun();
     run.Relations.Use(tasks::SynTaskFromOutlook.RelationStatement, tasks::SynTaskFromOutlook.RelationOptions);
-    const Object task = TaskAt(1);
+    const Object task = ItemAt(1);
     const CallWatch calls;
     for (const auto mode : {data::RecordMode{-1}, data::RecordMode{0}, data::RecordMode{3}})
     {
@@ -272,14 +269,14 @@ TEST_F(TasksToOutlook, AnyModeButNewAndExistingTouchesNothing)
     }
     EXPECT_EQ(0, calls.Total());
     tasks::SynSynTaskToOlTask(run, data::kExistingRecord, task);
-    EXPECT_EQ(L"Call", TextOf(TaskProperty(1, L"Subject")));
+    EXPECT_EQ(L"Call", TextOf(PropertyOf(1, L"Subject")));
 }
 
 TEST_F(TasksToOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
 {
     Relate({{L"F_ACTNAME", L"Subject"}});
-    AddHostTask({{L"F_ACTNAME", L"'One'"}});
-    AddHostTask({{L"F_ACTNAME", L"'Two'"}});
+    AddRow({{L"F_ACTNAME", L"'One'"}});
+    AddRow({{L"F_ACTNAME", L"'Two'"}});
     AddOutlookTask({{L"Subject", L"A"}});
     AddOutlookTask({{L"Subject", L"B"}});
     exchange::Run run = NewRun();
@@ -289,11 +286,11 @@ TEST_F(TasksToOutlook, AChangedPairWithAnotherMarkIsSkippedButTheBarAdvances)
     run.Pending.ChangedOutlookItems.Add(L"1", 1);
     const test_support::WithLanguage english(Language::English);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
-    EXPECT_EQ(L"Two", TextOf(TaskProperty(1, L"Subject")));
-    EXPECT_EQ(L"B", TextOf(TaskProperty(2, L"Subject")));
+    EXPECT_EQ(L"Two", TextOf(PropertyOf(1, L"Subject")));
+    EXPECT_EQ(L"B", TextOf(PropertyOf(2, L"Subject")));
     EXPECT_EQ((std::vector<std::wstring>{L"Begin Synchronize...", L"0%", L"(shown)", L"0%", L"0%", L"50%",
                                          L"100%", L"(hidden)"}),
-              mDisplay.Events);
+              Display.Events);
 }
 
 TEST_F(TasksToOutlook, TheStatusTextIsInTheInterfaceLanguage)
@@ -301,38 +298,38 @@ TEST_F(TasksToOutlook, TheStatusTextIsInTheInterfaceLanguage)
     exchange::Run run = NewRun();
     const test_support::WithLanguage chinese(Language::Chinese);
     EXPECT_FALSE(tasks::SynTaskToOutlook(run));
-    EXPECT_EQ(L"正在进行数据传输，请稍候...", mDisplay.Events.front());
+    EXPECT_EQ(L"正在进行数据传输，请稍候...", Display.Events.front());
 }
 
 TEST_F(TasksToOutlook, AnErrorEndsThePassAndKeepsTheWrittenItems)
 {
     Relate(
         {{L"F_ACTNAME", L"Subject"}, {L"CONTACT_SURNAME", L"ContactNames"}, {L"F_ACTTYPE", L"Categories"}});
-    AddHostTask({{L"F_ACTNAME", L"'One'"}, {L"F_ACTTYPE", L"'Phone'"}});
-    AddHostTask({{L"F_ACTNAME", L"'Two'"},
-                 {L"F_ACTTYPE", L"'Phone'"},
-                 {L"CONTACT_SURNAME", L"'Sm\"ith'"},
-                 {L"CONTACT_GIVENNAME", L"'Mary'"}});
-    AddHostTask({{L"F_ACTNAME", L"'Three'"}, {L"F_ACTTYPE", L"'Phone'"}});
+    AddRow({{L"F_ACTNAME", L"'One'"}, {L"F_ACTTYPE", L"'Phone'"}});
+    AddRow({{L"F_ACTNAME", L"'Two'"},
+            {L"F_ACTTYPE", L"'Phone'"},
+            {L"CONTACT_SURNAME", L"'Sm\"ith'"},
+            {L"CONTACT_GIVENNAME", L"'Mary'"}});
+    AddRow({{L"F_ACTNAME", L"'Three'"}, {L"F_ACTTYPE", L"'Phone'"}});
     exchange::Run run = NewRun();
     for (const long row : {1, 2, 3})
     {
         run.Pending.NewHostRecords.Add(row, 0);
     }
     EXPECT_TRUE(tasks::SynTaskToOutlook(run));
-    ASSERT_EQ(2, CountTasks());
-    EXPECT_EQ(L"Phone", TextOf(TaskProperty(1, L"Categories")));
-    EXPECT_EQ(L"Two", TextOf(TaskProperty(2, L"Subject")));
-    EXPECT_EQ(L"", TextOf(TaskProperty(2, L"Categories")));
-    EXPECT_EQ(L"(hidden)", mDisplay.Events.back());
+    ASSERT_EQ(2, CountItems());
+    EXPECT_EQ(L"Phone", TextOf(PropertyOf(1, L"Categories")));
+    EXPECT_EQ(L"Two", TextOf(PropertyOf(2, L"Subject")));
+    EXPECT_EQ(L"", TextOf(PropertyOf(2, L"Categories")));
+    EXPECT_EQ(L"(hidden)", Display.Events.back());
 }
 
 TEST_F(TasksToOutlook, RelationRowsThatCannotBeReadEndThePass)
 {
     Execute(L"DROP TABLE SynRelation");
-    AddHostTask({{L"F_ACTNAME", L"'One'"}});
+    AddRow({{L"F_ACTNAME", L"'One'"}});
     exchange::Run run = NewRun();
     run.Pending.NewHostRecords.Add(1L, 0);
     EXPECT_TRUE(tasks::SynTaskToOutlook(run));
-    EXPECT_EQ(0, CountTasks());
+    EXPECT_EQ(0, CountItems());
 }

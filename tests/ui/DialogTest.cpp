@@ -2,6 +2,7 @@
 
 #include "resources/Strings.h"
 #include "tests/support/Drive.h"
+#include "tests/support/HostWindow.h"
 #include "tests/ui/Interface.h"
 #include "ui/ApplyFormFont.h"
 #include "ui/AskWhetherToWait.h"
@@ -304,21 +305,16 @@ TEST(Dialog, CanBeShownAgainAfterItHasClosed)
 }
 
 // A window of the host, with what becomes of it.
-class HostWindow
+class WatchedHostWindow : public test_support::HostWindow
 {
   public:
-    HostWindow()
-        : mWindow(CreateWindowW(L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
-                                nullptr, nullptr, nullptr))
+    WatchedHostWindow() : HostWindow(L"Host", 300, 200)
     {
-        SetWindowSubclass(mWindow, Count, 0, reinterpret_cast<DWORD_PTR>(this));
+        SetWindowSubclass(Handle(), Count, 0, reinterpret_cast<DWORD_PTR>(this));
     }
-    HostWindow(const HostWindow&) = delete;
-    HostWindow& operator=(const HostWindow&) = delete;
-    ~HostWindow() { DestroyWindow(mWindow); }
 
     // As the task bar and Alt+Tab do, which know nothing of dialogs without an owner. Of any thread.
-    void Activate() const { SetForegroundWindow(mWindow); }
+    void Activate() const { SetForegroundWindow(Handle()); }
     int TimesActivated() const { return mActivated; }
 
   private:
@@ -327,16 +323,15 @@ class HostWindow
     {
         if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE)
         {
-            ++reinterpret_cast<HostWindow*>(host)->mActivated;
+            ++reinterpret_cast<WatchedHostWindow*>(host)->mActivated;
         }
         return DefSubclassProc(window, message, wParam, lParam);
     }
 
-    HWND mWindow;
     std::atomic<int> mActivated{0};
 };
 
-void ExpectInFrontWhenHostIsActivated(Robot& robot, const HostWindow& host, const ShownDialog& dialog)
+void ExpectInFrontWhenHostIsActivated(Robot& robot, const WatchedHostWindow& host, const ShownDialog& dialog)
 {
     robot.WaitUntil("the dialog in front", [&] { return GetForegroundWindow() == dialog.Handle(); });
     const int before = host.TimesActivated();
@@ -347,7 +342,7 @@ void ExpectInFrontWhenHostIsActivated(Robot& robot, const HostWindow& host, cons
 
 TEST(Dialog, ComesToTheFrontWhenTheHostIsActivated)
 {
-    const HostWindow host;
+    const WatchedHostWindow host;
     Probe probe;
     Drive(
         [&](Robot& robot) {
@@ -360,7 +355,7 @@ TEST(Dialog, ComesToTheFrontWhenTheHostIsActivated)
 
 TEST(Dialog, AMessageBoxOverItComesToTheFrontWhenTheHostIsActivated)
 {
-    const HostWindow host;
+    const WatchedHostWindow host;
     Probe probe([] { ui::ShowMessageBox(L"Over the dialog", MB_OK); });
     Drive(
         [&](Robot& robot) {

@@ -98,7 +98,7 @@ TEST_P(DayBoxes, EnterInTheFirstDayBoxMovesOnAndInTheSecondActsOnOk)
         dialog.Press(VK_RETURN);
         robot.WaitUntilClosed(dialog);
     });
-    EXPECT_EQ(1, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(1, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(DayBoxes, DaysThatAreNullAreZeroAndKeepTheRange)

@@ -127,7 +127,7 @@ TEST_P(FrmAdvanced, CancelWritesNothing)
             dialog.Press(VK_ESCAPE);
         });
     }
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmAdvanced, TasksStoreBothCodesWhenOneDiffers)
@@ -145,13 +145,13 @@ TEST_P(FrmAdvanced, TasksStoreBothCodesWhenOneDiffers)
 TEST_P(FrmAdvanced, TaskOkWithoutChangesWritesNothing)
 {
     Show(L"Task", [&](Robot&, const ShownDialog& dialog) { dialog.Click(IDOK); });
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmAdvanced, ContactAndCalendarOkWriteUnchangedCodesToo)
 {
     Show(L"Contact", [&](Robot&, const ShownDialog& dialog) { dialog.Click(IDOK); });
-    EXPECT_EQ(1, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(1, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmAdvanced, TabGoesThroughThePageTheTabsAndTheButtons)
@@ -187,7 +187,7 @@ TEST_P(FrmAdvanced, ADialogThatCouldNotLoadSaysSoAndWritesNothing)
             [&] { config::ShowAdvancedOptions(kind); });
         EXPECT_EQ(before, mGround.Options(kind));
     }
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmAdvanced, ARuleThatIsNullStaysNullAndResetsNoOtherCode)
@@ -209,7 +209,7 @@ TEST_P(FrmAdvanced, OkStoresOnlyTheCodesThatWereLoadedOrChosen)
 {
     mGround.SetRow(L"Task", L"TransConflictOption=NULL,TaskTransItem=NULL");
     Show(L"Task", [&](Robot&, const ShownDialog& dialog) { dialog.Click(IDOK); });
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
     Show(L"Task", [&](Robot& robot, const ShownDialog& dialog) {
         Set(robot, dialog, kRule1 + 1);
         dialog.Click(IDOK);
@@ -236,7 +236,7 @@ TEST_P(FrmAdvanced, WithNoRuleSetTabReachesTheRulesAndChoosesNone)
         EXPECT_FALSE(IsSet(dialog, kRule1));
         dialog.Click(IDOK);
     });
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmAdvanced, AnOptionThatReportsAClickWithoutBeingSetIsNotChosen)
@@ -257,7 +257,7 @@ TEST_P(FrmAdvanced, AnOptionThatReportsAClickWithoutBeingSetIsNotChosen)
 
 TEST_P(FrmAdvanced, ARefusedUpdateIsSilentAndClosesTheDialog)
 {
-    mGround.Host.Failures().Order(L"Update", 1, {.result = -1});
+    mGround.TheHost.Failures().Order(L"Update", 1, {.result = -1});
     Show(L"Contact", [&](Robot& robot, const ShownDialog& dialog) {
         Set(robot, dialog, kRule1);
         dialog.Click(IDOK);

@@ -18,7 +18,7 @@ TEST_P(FrmConfigureStore, OkWritesEveryRow)
     EXPECT_EQ(L"1|Outlook|3|each", mGround.Translation(L"Contact"));
     EXPECT_EQ(L"0|Outlook|1|left", mGround.Translation(L"Task"));
     EXPECT_EQ(L"0|Null|2|right", mGround.Translation(L"Calendar"));
-    EXPECT_EQ(3, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(3, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmConfigureStore, CancelEscapeAndTheCloseButtonWriteNothing)
@@ -40,7 +40,7 @@ TEST_P(FrmConfigureStore, CancelEscapeAndTheCloseButtonWriteNothing)
             },
             config::ShowConfigure);
     }
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
     EXPECT_EQ(L"1|Outlook|3|each", mGround.Translation(L"Contact"));
 }
 

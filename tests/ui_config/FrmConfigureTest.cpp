@@ -55,7 +55,7 @@ TEST_P(FrmConfigure, RowsShowTheirKindTheirCheckMarkAndTheirDirection)
 
 TEST_P(FrmConfigure, AUserWithoutRowsGetsThemFromTheTemplates)
 {
-    mGround.Host.Database().Execute(L"DELETE FROM T_POutlookSyncParam WHERE F_UID=1");
+    mGround.Execute(L"DELETE FROM T_POutlookSyncParam WHERE F_UID=1");
     Drive(
         [&](Robot& robot) {
             const auto dialog = robot.WaitForDialog(Caption());
@@ -78,7 +78,7 @@ TEST_P(FrmConfigure, ADialogThatCouldNotLoadSaysSoAndWritesNothing)
             dialog.Command(IDOK); // all the same
         },
         config::ShowConfigure);
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Update"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
 TEST_P(FrmConfigure, WithoutAHostAMessageIsShownAndTheDialogOpensEmpty)

@@ -21,7 +21,7 @@ class FrmSynChoose : public testing::TestWithParam<Language>
   protected:
     FrmSynChoose()
     {
-        mGround.AddFolderRow(10, L"Personal Folders\\Contacts", true);
+        mGround.AddFolderRow(10, test_support::kContactRecords.folder, true);
         mGround.UseKind(L"Contact");
     }
 
@@ -71,7 +71,7 @@ TEST_P(FrmSynChoose, ShowsTheValuesOfTheRecord)
         EXPECT_EQ((Texts{L"<None>", L"Ms Outlook"}), Entries(dialog, IDC_CHOOSE_TRANSLATORS));
         EXPECT_EQ(kOutlook, dialog.Ask(dialog.Control(IDC_CHOOSE_TRANSLATORS), LB_GETCURSEL));
         EXPECT_TRUE(IsSet(dialog, kBoth));
-        EXPECT_EQ(L"Personal Folders\\Contacts", dialog.Text(IDC_CHOOSE_FOLDER));
+        EXPECT_EQ(test_support::kContactRecords.folder, dialog.Text(IDC_CHOOSE_FOLDER));
         dialog.Close();
     });
 }
@@ -83,7 +83,7 @@ TEST_P(FrmSynChoose, WithoutATranslatorNoneIsSelectedAndNoFolderShown)
         EXPECT_EQ(kNone, dialog.Ask(dialog.Control(IDC_CHOOSE_TRANSLATORS), LB_GETCURSEL));
         EXPECT_EQ(L"", dialog.Text(IDC_CHOOSE_FOLDER));
         ChooseEntry(dialog, IDC_CHOOSE_TRANSLATORS, kOutlook);
-        EXPECT_EQ(L"Personal Folders\\Contacts", dialog.Text(IDC_CHOOSE_FOLDER));
+        EXPECT_EQ(test_support::kContactRecords.folder, dialog.Text(IDC_CHOOSE_FOLDER));
         dialog.Close();
     });
     EXPECT_EQ(L"", mGround.Record().TransSource); // Cancel keeps the record

@@ -88,7 +88,7 @@ TEST_P(FrmSynContent, AfterARefusedLoadItSaysSoAndKeepsTheStoredFolders)
         [&] { config::ShowSynContent(mGround.Record()); });
     EXPECT_EQ(Texts{L"Store\\A|1"}, mGround.Folders(10));
     EXPECT_EQ(L"Store\\A", mGround.Record().CurrentFolder);
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Delete"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Delete"));
 }
 
 TEST_P(FrmSynContent, AButtonThatHasDoneItsWorkGivesTheFocusBackToItsList)
@@ -213,10 +213,10 @@ TEST_P(FrmSynContent, CancelKeepsTheStoredFolders)
 TEST_P(FrmSynContent, ARefusedDeleteKeepsTheDialogOpen)
 {
     mGround.AddFolderRow(10, L"Store\\A", true);
-    mGround.Host.Failures().Order(L"Delete", 1, {.result = -1});
+    mGround.TheHost.Failures().Order(L"Delete", 1, {.result = -1});
     Show([&](Robot& robot, const ShownDialog& dialog) {
         dialog.Click(IDOK);
-        robot.WaitUntil("the refusal", [&] { return mGround.Host.Failures().CallsOf(L"Delete") == 1; });
+        robot.WaitUntil("the refusal", [&] { return mGround.TheHost.Failures().CallsOf(L"Delete") == 1; });
         dialog.Ask(dialog.Handle(), WM_NULL);
         EXPECT_TRUE(dialog.TakesInput());
         dialog.Close();
@@ -233,7 +233,7 @@ TEST_P(FrmSynContent, AnUnknownKindShowsAndWritesNothing)
         EXPECT_EQ(0, dialog.Rows(kFolderList));
         dialog.Click(IDOK);
     });
-    EXPECT_EQ(0, mGround.Host.Failures().CallsOf(L"Delete"));
+    EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Delete"));
     EXPECT_EQ(Texts{L"Store\\A|1"}, mGround.Folders(10));
 }
 

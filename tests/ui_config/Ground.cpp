@@ -28,27 +28,23 @@ Ground::Ground(Language language, double scale) : mInterface(language, scale)
 {
     for (const wchar_t* row : kKnownRows)
     {
-        Host.Database().Execute(row);
+        Execute(row);
     }
     mProfileKey.AddProfile(L"Outlook");
     mProfileKey.AddProfile(L"Second");
     mProfileKey.SetDefault(L"Outlook");
-    auto& shared = state::Shared();
-    shared.gDTC = Host.Dtc();
-    shared.gOlApplication = automation::Object::Create(L"Outlook.Application");
-    shared.gOlNamespace = shared.gOlApplication.GetObject(L"GetNamespace", L"MAPI");
 }
 
 void Ground::SetRow(const std::wstring& kind, const std::wstring& setClause)
 {
-    Host.Database().Execute(L"UPDATE T_POutlookSyncParam SET " + setClause +
-                            L" WHERE F_UID=1 AND TransObject='" + kind + L"'");
+    Execute(L"UPDATE T_POutlookSyncParam SET " + setClause + L" WHERE F_UID=1 AND TransObject='" + kind +
+            L"'");
 }
 
 std::wstring Ground::Row(const std::wstring& sql)
 {
     std::wstring text;
-    const auto result = Host.Database().Query(sql);
+    const auto result = TheHost.Database().Query(sql);
     for (const automation::Value& value : result.rows.at(0))
     {
         text += (text.empty() ? L"" : L"|") + automation::TextOrEmpty(value);
@@ -72,14 +68,13 @@ std::wstring Ground::Options(const std::wstring& kind)
 
 void Ground::AddFolderRow(long kind, const std::wstring& path, bool isDefault)
 {
-    Host.Database().Execute(L"INSERT INTO T_POutlookSyncFolder VALUES (1, ?, ?, ?)",
-                            {kind, path, isDefault ? 1 : 0});
+    Execute(L"INSERT INTO T_POutlookSyncFolder VALUES (1, ?, ?, ?)", {kind, path, isDefault ? 1 : 0});
 }
 
 Texts Ground::Folders(long kind)
 {
     Texts folders;
-    const auto result = Host.Database().Query(
+    const auto result = TheHost.Database().Query(
         L"SELECT OutlookFolder, IsDefault+0 FROM T_POutlookSyncFolder WHERE F_UID=1 AND TransObjectID=" +
         std::to_wstring(kind) + L" ORDER BY rowid");
     for (const auto& row : result.rows)
@@ -96,7 +91,7 @@ void Ground::UseKind(const std::wstring& kind)
 
 void Ground::RefuseNextLoad()
 {
-    Host.Failures().Order(L"OpenRecordsetByString", 1, {.result = -1});
+    TheHost.Failures().Order(L"OpenRecordsetByString", 1, {.result = -1});
 }
 
 void ReadThatNothingIsLoaded(Robot& robot)

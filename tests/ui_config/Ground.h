@@ -1,12 +1,10 @@
-// Fixture of the configuration dialogs: the fake host with known parameters of its first
-// user, the fake Outlook with a mailbox, a profile in the registry, and the interface of one language.
+// Fixture of the configuration dialogs: an office with known parameters of the host's first user, whose
+// Outlook COM can create, a profile in the registry, and the interface of one language.
 #pragma once
 
-#include "sandbox/host/Host.h"
-#include "sandbox/outlook/Outlook.h"
-#include "state/SharedState.h"
 #include "tests/config/ProfileKey.h"
 #include "tests/support/Drive.h"
+#include "tests/support/TestOffice.h"
 #include "tests/ui/Interface.h"
 
 #include <string>
@@ -22,12 +20,10 @@ using test_support::ShownDialog;
 using ui_tests::In;
 using Texts = std::vector<std::wstring>;
 
-class Ground
+class Ground : public test_support::TestOffice
 {
   public:
     explicit Ground(Language language = Language::English, double scale = 1);
-    Ground(const Ground&) = delete;
-    Ground& operator=(const Ground&) = delete;
 
     // Changes the user's row of a kind; the set clause as SQL has it.
     void SetRow(const std::wstring& kind, const std::wstring& setClause);
@@ -46,15 +42,12 @@ class Ground
     // The host refuses the next statement that opens a recordset.
     void RefuseNextLoad();
 
-  private:
-    ui_tests::Interface mInterface; // clears the shared state at the end
-    config_tests::ProfileKey mProfileKey;
-
-  public:
-    sandbox::Host Host;
-    sandbox::MailboxRef Mailbox = sandbox::MakeMailbox();
-    sandbox::OutlookInProcess Outlook{Mailbox};
     config_tests::ProfileKey& Profiles() { return mProfileKey; }
+
+  private:
+    ui_tests::Interface mInterface;
+    config_tests::ProfileKey mProfileKey;
+    sandbox::OutlookInProcess mServed{Mailbox};
 };
 
 // Expects the message that nothing could be loaded, and closes it.

@@ -62,10 +62,10 @@ void Prepare(Ground& ground, const Shown& shown)
     ground.SetRow(L"Task", L"IsTrans=1");
     ground.Mailbox->AddFolder(L"Personal Folders\\Contacts\\Friends", sandbox::ItemKind::Contact);
     ground.Mailbox->AddFolder(L"Archive\\Contacts 2020", sandbox::ItemKind::Contact);
-    ground.AddFolderRow(10, L"Personal Folders\\Contacts", true);
+    ground.AddFolderRow(10, test_support::kContactRecords.folder, true);
     ground.AddFolderRow(10, L"Archive\\Contacts 2020", false);
-    ground.AddFolderRow(20, L"Personal Folders\\Tasks", true);
-    ground.AddFolderRow(30, L"Personal Folders\\Calendar", true);
+    ground.AddFolderRow(20, test_support::kTaskRecords.folder, true);
+    ground.AddFolderRow(30, test_support::kCalendarRecords.folder, true);
     ground.UseKind(shown.kind);
 }
 
