@@ -1,10 +1,9 @@
 #include "exchange/Preview.h"
 
-#include "automation/Dates.h"
 #include "automation/Error.h"
-#include "automation/Readable.h"
 #include "exchange/Identity.h"
 #include "exchange/MappingToOutlook.h"
+#include "exchange/RecordedItem.h"
 #include "state/Remarks.h"
 
 #include <algorithm>
@@ -18,67 +17,6 @@ using automation::Value;
 
 namespace
 {
-
-bool IsNone(const Value& value)
-{
-    return automation::IsAbsent(value) ||
-           (value.Type() == VT_DATE && automation::DateOf(value) == automation::kOutlookNoDate);
-}
-
-std::wstring Joined(std::wstring list, const std::wstring& name)
-{
-    list += list.empty() || name.empty() ? L"" : L"; ";
-    return list + name;
-}
-
-// An Outlook that refuses links has none.
-std::wstring LinksOf(const Object& item)
-{
-    return state::Trapped(std::wstring(), [&] {
-        const Object links = automation::ObjectOf(item.Property(L"Links"));
-        std::wstring names;
-        const long count = automation::LongOf(links.Get(L"Count"));
-        for (long place = 1; place <= count; ++place)
-        {
-            names = Joined(names, automation::TextOrEmpty(links.GetObject(L"Item", place).Get(L"Name")));
-        }
-        return names;
-    });
-}
-
-constexpr wchar_t kLinkProperty[] = L"Links";
-constexpr wchar_t kPatternPrefix[] = L"Recurrence.";
-
-struct ItemFields
-{
-    bool IsNew;
-    std::vector<Difference>& Fields;
-
-    void Add(RecordedItem& item, const std::wstring& prefix)
-    {
-        for (const std::wstring& property : item.Changed())
-        {
-            const std::wstring name = prefix + property;
-            Fields.push_back(
-                {Side::Outlook, name, name, IsNew ? Value() : item.Before(property), item.Get(property)});
-        }
-    }
-
-    void AddLinks(const RecordedItem& item, const Object& real)
-    {
-        if (item.NewLinks().empty())
-        {
-            return;
-        }
-        const std::wstring now = IsNew ? std::wstring() : LinksOf(real);
-        std::wstring after = now;
-        for (const std::wstring& contact : item.NewLinks())
-        {
-            after = Joined(after, contact);
-        }
-        Fields.push_back({Side::Outlook, kLinkProperty, kLinkProperty, now, after});
-    }
-};
 
 // A column that the record source does not show is empty.
 Value ValueNow(const Recordset& rows, const std::wstring& column)
@@ -135,38 +73,10 @@ Value RelatedValue(const Recordset& rows, RelationTable& relations, const std::w
     return column.empty() ? Value() : ValueNow(rows, column);
 }
 
-bool AreSame(const Value& one, const Value& other)
-{
-    if (IsNone(one) || IsNone(other))
-    {
-        return IsNone(one) == IsNone(other);
-    }
-    if (one.Type() == VT_BOOL || other.Type() == VT_BOOL)
-    {
-        return automation::ReadableTruth(one) == automation::ReadableTruth(other);
-    }
-    if (one.Type() == VT_DATE || other.Type() == VT_DATE)
-    {
-        const auto first = automation::ReadableDate(one);
-        const auto second = automation::ReadableDate(other);
-        return first && second && automation::MomentOf(*first) == automation::MomentOf(*second);
-    }
-    if (one.Type() == VT_BSTR || other.Type() == VT_BSTR)
-    {
-        return automation::TextOrEmpty(one) == automation::TextOrEmpty(other);
-    }
-    return automation::ReadableNumber(one) == automation::ReadableNumber(other);
-}
-
 bool RecordPreview::IsWritten() const
 {
     return std::ranges::none_of(Remarks,
                                 [](const state::Remark& remark) { return state::CostsRecord(remark.Why); });
-}
-
-bool Difference::IsChanged() const
-{
-    return !AreSame(Now, After);
 }
 
 Preview::Preview(const Kind& kind, Run& run) : mKind(kind), mRun(run)
@@ -265,13 +175,7 @@ void Preview::ToOutlook(RecordedItem& recorded, const Object& item, RecordPrevie
         }
         recorded.Settle();
     });
-    ItemFields fields{!item, preview.Fields};
-    fields.Add(recorded, L"");
-    fields.AddLinks(recorded, item);
-    if (recorded.Pattern() != nullptr)
-    {
-        fields.Add(*recorded.Pattern(), kPatternPrefix);
-    }
+    AddItemDifferences(recorded, item, preview.Fields);
 }
 
 // False when the item is not to be written.

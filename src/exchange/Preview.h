@@ -4,6 +4,7 @@
 #pragma once
 
 #include "data/KeptRow.h"
+#include "exchange/Difference.h"
 #include "exchange/Kind.h"
 #include "exchange/Proposals.h"
 #include "state/Remarks.h"
@@ -14,24 +15,6 @@
 namespace exchange
 {
 
-enum class Side
-{
-    Outlook,
-    Host,
-};
-
-struct Difference
-{
-    Side Where;
-    std::wstring Field;    // the property of the item, or the column of the row
-    std::wstring Property; // the property to which the column belongs; empty for none
-    automation::Value Now; // Empty for a new record
-    automation::Value After;
-    bool IsNew = false; // a linked record is added for the value
-
-    bool IsChanged() const;
-};
-
 struct RecordPreview
 {
     std::vector<Difference> Fields;
@@ -40,10 +23,6 @@ struct RecordPreview
 
     bool IsWritten() const;
 };
-
-// Whether two values read alike: absent values and Outlook's date for "none" are one, and a flag equals its
-// number.
-bool AreSame(const automation::Value& one, const automation::Value& other);
 
 class Preview
 {

@@ -144,6 +144,30 @@ TEST(FrmSynchronizeItem, ARunShowsItsStatusAndProgressAtOnceAndNamesItsCategory)
     EXPECT_TRUE(hidden);
 }
 
+// As where another window has covered the dialog.
+TEST(FrmSynchronizeItem, IsPaintedAgainWhileARunReportsItsProgress)
+{
+    const Interface english(Language::English);
+    Recorder recorder;
+    bool isPainted = false;
+    recorder.DuringRun = [&](exchange::RunDisplay& display) {
+        const ShownDialog dialog(ui::Dialog::Shown(IDD_SYNCHRONIZEITEM)->Handle());
+        const HWND list = dialog.Control(IDC_SYNC_CATEGORY);
+        InvalidateRect(list, nullptr, TRUE);
+        const ULONGLONG end = GetTickCount64() + 5000;
+        while (!isPainted && GetTickCount64() < end)
+        {
+            display.SetProgress(0.5);
+            isPainted = GetUpdateRect(list, nullptr, FALSE) == FALSE;
+        }
+    };
+    Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
+        ChooseAndStart(dialog, kTaskRow);
+        WaitForStatus(robot, dialog, L"Synchronize Succeed.");
+    });
+    EXPECT_TRUE(isPainted);
+}
+
 LRESULT CALLBACK CountPositions(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                 DWORD_PTR counter)
 {
