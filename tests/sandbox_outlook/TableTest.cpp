@@ -20,7 +20,7 @@ class FolderTable : public OutlookFixture
     // A table of contacts with these columns.
     automation::Object Table(std::initializer_list<const wchar_t*> columns) const
     {
-        const auto table = Table(Contacts());
+        auto table = Table(Contacts());
         table.GetObject(L"Columns").Call(L"RemoveAll");
         for (const wchar_t* column : columns)
         {
