@@ -27,8 +27,8 @@ constexpr size_t kMessageClassColumn = 1;
 constexpr const wchar_t* kKeywords = L"Categories";
 
 // A table cuts texts at 255 bytes, as its documentation has it, or characters, as it has it too. A shorter
-// text is whole if each of its characters takes two bytes.
-constexpr size_t kLongestWhole = 126;
+// text is whole even if each of its characters takes three bytes, as in UTF-8.
+constexpr size_t kLongestWhole = 84;
 
 // Rows that are compared with their items: so many at the start, and so many others.
 constexpr long kFirstRows = 2;

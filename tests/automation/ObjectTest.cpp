@@ -58,7 +58,7 @@ TEST(Object, AsksForAMembersNumberOncePerObjectCopiesIncluded)
     {
         object.Get(L"Member");
         object.Put(L"Member", 1L);
-        const Object copy = object;
+        const Object copy = object; // NOLINT(performance-unnecessary-copy-initialization): tests the copy
         copy.Call(L"Member", 1L, 2L);
     }
     EXPECT_EQ(1, scripted.NamesAsked);

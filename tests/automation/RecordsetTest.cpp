@@ -47,7 +47,7 @@ TEST_F(RecordsetTest, ACopyTakesTheKnownColumnsAlong)
 {
     const Recordset rows = Open(L"SELECT 1 AS Size");
     rows.ValueOf(L"Size");
-    const Recordset copy = rows;
+    const Recordset copy = rows; // NOLINT(performance-unnecessary-copy-initialization): tests the copy
     const CallWatch calls;
     EXPECT_EQ(1, LongOf(copy.ValueOf(L"Size")));
     EXPECT_EQ(0, calls.Of(L"Recordset.Fields"));

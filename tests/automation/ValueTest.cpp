@@ -166,7 +166,7 @@ TEST(Value, ACopyIsIndependentAndAMovedOneIsEmpty)
     const Value moved = std::move(first);
     EXPECT_EQ(L"text", TextOf(copy));
     EXPECT_EQ(L"text", TextOf(moved));
-    EXPECT_EQ(VT_EMPTY, first.Type()); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(VT_EMPTY, first.Type()); // NOLINT(bugprone-use-after-move): tests the moved one
     first = copy;
     EXPECT_EQ(L"text", TextOf(first));
 }
@@ -194,7 +194,7 @@ TEST(Value, HoldsAReferenceToAnObject)
     ScriptedObject object;
     {
         const Value value{Object(&object)};
-        const Value copy = value;
+        const Value copy = value; // NOLINT(performance-unnecessary-copy-initialization): tests the copy
         EXPECT_EQ(2, object.References());
         EXPECT_EQ(&object, ObjectOf(copy).Dispatch());
     }

@@ -90,8 +90,8 @@ void Compare(Side side, const std::set<std::wstring>& gone, bool isStrict,
         auto expected = side.added.find({after.number, after.side});
         if (expected == side.added.end() && !isStrict)
         {
-            expected = std::ranges::find_if(side.added, [&](const Number& one) {
-                return one.first == after.number && after.side != kMixed;
+            expected = std::ranges::find_if(side.added, [&added = after](const Number& one) {
+                return one.first == added.number && added.side != kMixed;
             });
         }
         if (expected == side.added.end())

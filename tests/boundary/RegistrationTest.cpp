@@ -189,6 +189,7 @@ class ForeignKey
 std::vector<std::unique_ptr<LimitedKey>> Denied(const std::vector<std::wstring>& names)
 {
     std::vector<std::unique_ptr<LimitedKey>> limited;
+    limited.reserve(names.size());
     for (const std::wstring& name : names)
     {
         limited.push_back(

@@ -30,6 +30,7 @@ DWORD OpacityAt(const ui::PaintedIcon& icon, int x, int y)
 std::vector<DWORD> PixelsOf(const ui::PaintedIcon& icon, int size)
 {
     std::vector<DWORD> pixels;
+    pixels.reserve(static_cast<size_t>(size) * size);
     for (int i = 0; i < size * size; ++i)
     {
         pixels.push_back(icon.PixelAt(i % size, i / size));
@@ -97,7 +98,7 @@ TEST(Pictures, TheEmptyPictureKeepsThePlaceOfOneAndShowsNothing)
 {
     EXPECT_EQ(static_cast<int>(std::size(kKeys)), Pictures::IndexOf(config::kEmptyPicture));
     const auto pixels = PixelsOf(PaintPicture(config::kEmptyPicture, 16), 16);
-    EXPECT_EQ(std::vector<DWORD>(16 * 16), pixels);
+    EXPECT_EQ(std::vector<DWORD>(size_t{16} * 16), pixels);
 }
 
 TEST(Pictures, AnUnknownKeyHasNone)

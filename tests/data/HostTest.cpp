@@ -119,7 +119,7 @@ TEST(CloseRecordset, DoesNothingForAVariableThatHoldsNothing)
 
 TEST(CloseRecordset, ClosesAnOpenRecordsetAndReleasesIt)
 {
-    const automation::Object object = sandbox::MakeRecordset({{{L"A"}}, {}});
+    const automation::Object object = sandbox::MakeRecordset(sandbox::ResultSet{{{L"A"}}, {}});
     Recordset rows(object);
     automation::CloseRecordset(rows);
     EXPECT_FALSE(rows);

@@ -11,6 +11,8 @@
 
 #include <thread>
 
+#include <olectl.h>
+
 using automation::Date;
 using automation::DateOf;
 using automation::LongOf;

@@ -91,6 +91,7 @@ class HostileExport : public OfficeFixture
     std::vector<std::wstring> TextsOf(const TestedKind& kind, long position)
     {
         std::vector<std::wstring> texts;
+        texts.reserve(kTexts.size());
         for (const std::wstring& property : kTexts)
         {
             texts.push_back(property + L"=" + TextIn(kind, position, property));

@@ -32,7 +32,7 @@ TEST_F(FrmChanges, IsReadableInBothLanguagesAtEveryScale)
             sides.Add(4, 4, 4);
             const WithLanguage with(language);
             state::Shared().gFontName = isChinese ? L"宋体" : L"Arial";
-            state::Shared().gFontSize = static_cast<long>((isChinese ? 9 : 8) * scale + 0.5);
+            state::Shared().gFontSize = std::lround((isChinese ? 9 : 8) * scale);
             Drive(
                 [&](Robot& robot) {
                     const ShownDialog confirmation = robot.WaitForDialog();

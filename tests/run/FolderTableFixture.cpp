@@ -113,7 +113,7 @@ std::wstring FolderTableFixture::Collect(const TableKind& kind)
 std::wstring FolderTableFixture::CollectByItems(const TableKind& kind)
 {
     Mailbox->Switch(L"NoTable", true);
-    const std::wstring proposed = Collect(kind);
+    std::wstring proposed = Collect(kind);
     Mailbox->Switch(L"NoTable", false);
     return proposed;
 }

@@ -52,6 +52,7 @@ TEST(KeyTable, LeadsThroughTheRecordsOfAKeyInAscendingOrderHoweverManyThereAre)
     for (const size_t different : {1, 7, 400})
     {
         std::vector<std::wstring> keys;
+        keys.reserve(600);
         for (int i = 0; i < 600; ++i)
         {
             keys.push_back(L"Key " + std::to_wstring(random() % different));

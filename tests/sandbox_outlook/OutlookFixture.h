@@ -61,7 +61,7 @@ class OutlookFixture : public testing::Test
 
     automation::Object SavedContact(const wchar_t* first, const wchar_t* last) const
     {
-        const automation::Object contact = New(Contacts());
+        automation::Object contact = New(Contacts());
         contact.Put(L"FirstName", first);
         contact.Put(L"LastName", last);
         contact.Call(L"Save");

@@ -29,7 +29,7 @@ class CallWatch : public sandbox::CallObserver
 
     // The calls of "Class.Member", or of "Member" of any class; those that meet a condition; all.
     long Of(const std::wstring& name) const { return CountIf(IsOneOf({name})); }
-    long CountIf(const Condition& condition) const { return std::ssize(Those(condition)); }
+    long CountIf(const Condition& condition) const { return static_cast<long>(Those(condition).size()); }
     long Total() const
     {
         return CountIf([](const std::wstring&) { return true; });

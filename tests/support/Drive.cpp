@@ -79,7 +79,7 @@ void MainThread::Post(std::function<void()> function) const
     auto posted = std::make_unique<std::function<void()>>(std::move(function));
     if (PostMessageW(mWindow, kPost, 0, reinterpret_cast<LPARAM>(posted.get())))
     {
-        posted.release(); // the window procedure deletes it
+        static_cast<void>(posted.release()); // the window procedure deletes it
     }
 }
 

@@ -249,9 +249,9 @@ TEST_F(TaskLinks, ATaskWhoseLinkFailsIsRolledBackAndThePassContinues)
     run.Pending.NewOutlookItems.Add(L"2", 0);
     const auto messages = MessagesDuring([&] { EXPECT_FALSE(tasks::SynTaskFromOutlook(run)); });
     EXPECT_EQ(Failure(L"ChangeNewTaskContact"), messages);
-    EXPECT_EQ((Calls{L"BeginTrans()", Opened(kLookupContact), L"RollbackTrans()", L"BeginTrans()",
-                     L"Insert(TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
-                     L"NULL,NULL,7,7,'KEY1'|KEY1)",
+    const std::wstring insert = L"Insert(TBLACTIVITY|F_CNTCTID,F_ACCID,F_ACTORID ,F_CREATORID,F_ACTID|"
+                                L"NULL,NULL,7,7,'KEY1'|KEY1)";
+    EXPECT_EQ((Calls{L"BeginTrans()", Opened(kLookupContact), L"RollbackTrans()", L"BeginTrans()", insert,
                      L"CommitTrans()"}),
               Host->Calls);
 }

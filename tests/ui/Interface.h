@@ -4,6 +4,7 @@
 #include "state/SharedState.h"
 #include "tests/support/WithLanguage.h"
 
+#include <cmath>
 #include <string>
 
 namespace ui_tests
@@ -21,7 +22,7 @@ class Interface
     {
         const bool chinese = language == Language::Chinese;
         state::Shared().gFontName = chinese ? L"宋体" : L"Arial";
-        state::Shared().gFontSize = static_cast<long>((chinese ? 9 : 8) * scale + 0.5);
+        state::Shared().gFontSize = std::lround((chinese ? 9 : 8) * scale);
     }
     Interface(const Interface&) = delete;
     Interface& operator=(const Interface&) = delete;

@@ -105,8 +105,9 @@ TEST_P(FrmSynChoose, EachOptionHasItsCodeAndPicture)
 {
     const std::tuple<int, long, const wchar_t*> options[] = {
         {kImport, 1, L"left"}, {kExport, 2, L"right"}, {kBoth, 3, L"each"}};
-    for (const auto& [id, code, picture] : options)
+    for (const auto& [option, code, picture] : options)
     {
+        const int id = option; // clang 14 lets no lambda capture a structured binding
         Show([&](Robot& robot, const ShownDialog& dialog) {
             dialog.Click(id);
             robot.WaitUntil("the option", [&] { return IsSet(dialog, id); });
