@@ -70,6 +70,7 @@ const std::vector<AwkwardSwitch>& AwkwardSwitches()
          &SetMember<&Awkward::tableReversed>},
         {L"TableStale", kTable, &SetMember<&Awkward::tableStale>},
         {L"TableTextLength", kFactors, &SetMember<&Awkward::tableTextLength>},
+        {L"TableTextUnit", kFactors, &SetMember<&Awkward::tableTextUnit>},
         {L"TableUtcMinutes", kFactors, &SetMember<&Awkward::tableUtcMinutes>},
         {L"TableArrayByRow",
          L"Table.GetArray method (Outlook): (column, row), which samples elsewhere contradict",

@@ -26,6 +26,15 @@ enum class Twins : long
     Before = 2, // a search by name finds the twin
 };
 
+// In what the length of a table's texts is counted: "will not exceed 255 bytes. This means that string values
+// longer than 255 bytes will be truncated at the first 255 characters" may mean either, and any encoding.
+enum class TextUnit : long
+{
+    Characters = 0,
+    BytesOfUtf16 = 1,
+    BytesOfUtf8 = 2,
+};
+
 struct Awkward
 {
     ItemOrder order = ItemOrder::AsAdded;
@@ -48,10 +57,11 @@ struct Awkward
     // items.
     Twins twins = Twins::None;
     // What a table (Folder.GetTable) gets wrong.
-    bool noTable = false;         // there is none, as before Outlook 2007
-    bool tableReversed = false;   // other order than Items
-    bool tableStale = false;      // rows as they were when the folder was first seen
-    long tableTextLength = 255;   // texts are cut here
+    bool noTable = false;       // there is none, as before Outlook 2007
+    bool tableReversed = false; // other order than Items
+    bool tableStale = false;    // rows as they were when the folder was first seen
+    long tableTextLength = 255; // texts are cut here, counted in:
+    TextUnit tableTextUnit = TextUnit::Characters;
     long tableUtcMinutes = 0;     // dates added by their built-in names are so many minutes behind local time
     bool tableArrayByRow = false; // GetArray gives (row, column), against its documentation
     long tableMissingRow = 0;     // the n-th row is not there

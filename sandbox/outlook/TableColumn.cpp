@@ -105,14 +105,35 @@ Value KeywordsOf(const std::wstring& text)
     return ArrayOf(keywords);
 }
 
+size_t BytesOf(const std::wstring& text, TextUnit unit)
+{
+    return unit == TextUnit::BytesOfUtf8 ? automation::ToUtf8(text).size() : text.size() * sizeof(wchar_t);
+}
+
+// The whole characters that fit into the length.
+std::wstring Cut(std::wstring text, size_t length, TextUnit unit)
+{
+    if (unit == TextUnit::Characters)
+    {
+        return text.substr(0, length);
+    }
+    while (BytesOf(text, unit) > length)
+    {
+        const bool isPair = text.size() > 1 && IS_LOW_SURROGATE(text.back());
+        text.resize(text.size() - (isPair ? 2 : 1));
+    }
+    return text;
+}
+
 Value Shown(const TableColumn& column, const Value& value, const Awkward& awkward)
 {
     if (value.Type() == VT_BSTR)
     {
         const std::wstring text = automation::TextOf(value);
         const auto length = static_cast<size_t>(awkward.tableTextLength);
-        return column.isByNamespace && column.property == Categories ? KeywordsOf(text)
-                                                                     : Value(text.substr(0, length));
+        return column.isByNamespace && column.property == Categories
+                   ? KeywordsOf(text)
+                   : Value(Cut(text, length, awkward.tableTextUnit));
     }
     if (value.Type() == VT_DATE)
     {

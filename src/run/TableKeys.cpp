@@ -27,8 +27,8 @@ constexpr size_t kMessageClassColumn = 1;
 constexpr const wchar_t* kKeywords = L"Categories";
 
 // A table cuts texts at 255 bytes, as its documentation has it, or characters, as it has it too. A shorter
-// text is whole if each of its characters takes two bytes.
-constexpr size_t kLongestWhole = 126;
+// text is whole even if each of its characters takes three bytes, as in UTF-8.
+constexpr size_t kLongestWhole = 84;
 
 // Rows that are compared with their items: so many at the start, and so many others.
 constexpr long kFirstRows = 2;
@@ -127,12 +127,6 @@ class RowOfTable : public automation::PropertySource
     Object mItem;
 };
 
-bool IsEntryId(std::wstring_view text)
-{
-    return !text.empty() &&
-           std::ranges::all_of(text, [](wchar_t letter) { return letter > L' ' && letter < 0x7F; });
-}
-
 std::wstring Compact(std::wstring key)
 {
     key.shrink_to_fit(); // it stays for the run
@@ -171,7 +165,7 @@ class Reader
         const bool isPlain = row.IsPlain(mRule.InTable.MessageClass);
         auto& first = mKeys.First.emplace_back();
         const std::wstring_view entryId = row.EntryId();
-        if (!IsEntryId(entryId) || !mKeys.Ids.Add(static_cast<long>(mKeys.First.size()), entryId))
+        if (entryId.empty() || !mKeys.Ids.Add(static_cast<long>(mKeys.First.size()), entryId))
         {
             Distrust();
         }

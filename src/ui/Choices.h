@@ -46,10 +46,11 @@ class OptionGroup
     void Select(long index);
     // The index of the button that this command says has been clicked.
     std::optional<long> Clicked(int id, int notification) const;
-    // The number of the set button in the dialog, or of the first one.
-    int IdToFocus() const;
 
   private:
+    // The number of the button in the dialog that the Tab key reaches: the set one, or the first one.
+    int IdToFocus() const;
+
     const Dialog& mDialog;
     int mFirstId;
     int mCount;

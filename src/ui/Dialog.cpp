@@ -239,12 +239,11 @@ INT_PTR Dialog::HandleInit()
         }
     });
     CenterOverActiveBefore(mWindow);
-    if (const int first = FirstFocus(); first != 0)
-    {
-        SetFocus(GetDlgItem(mWindow, first));
-        return FALSE; // keeps that focus
-    }
-    return TRUE;
+    // Windows would take the first control of the template, whatever OnInit has made of the tab order.
+    const int first = FirstFocus();
+    const HWND focused = first != 0 ? GetDlgItem(mWindow, first) : GetNextDlgTabItem(mWindow, nullptr, FALSE);
+    SendMessageW(mWindow, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(focused), TRUE);
+    return FALSE; // keeps that focus
 }
 
 INT_PTR Dialog::HandleOrder(UINT message, WPARAM wParam, LPARAM lParam)

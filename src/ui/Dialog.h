@@ -75,7 +75,7 @@ class Dialog
     virtual void OnClose() { Unload(); }
     // The window closes.
     virtual void OnUnload() {}
-    // The control that has the focus at first; 0 for the first one in tab order.
+    // The control that has the focus at first; 0 for the first one in tab order when OnInit has run.
     virtual int FirstFocus() const { return 0; }
     // How the controls of a resizable dialog follow its edges; asked once, after OnInit.
     virtual std::span<const AnchoredControl> AnchoredControls() const { return {}; }

@@ -92,6 +92,16 @@ TEST_F(TranslationTest, ARowWhoseTranslatorIsTheWordNullIsUncheckedAndShowsNoArr
     }
 }
 
+TEST_F(TranslationTest, ADirectionThatIsNullIsNoneAndTheRowIsLoaded)
+{
+    GiveUserRows();
+    Execute(L"UPDATE T_POutlookSyncParam SET TransType=NULL WHERE F_UID=7 AND TransObject='Contact'");
+    const auto rows = config::LoadTranslations();
+    ASSERT_TRUE(rows.has_value());
+    EXPECT_EQ(0, rows->at(0).TransType);
+    EXPECT_EQ(L"each", rows->at(0).TransTypePic);
+}
+
 TEST_F(TranslationTest, ThereIsNoListWhenTheHostRefuses)
 {
     RefuseEvery(L"OpenRecordsetByString");

@@ -5,6 +5,8 @@
 
 #include "TelvixIdl.h"
 
+#include <gtest/gtest.h>
+
 #include <ocidl.h>
 
 namespace test_support
@@ -23,6 +25,24 @@ template<typename Function>
 Function* Export(HMODULE module, const char* name)
 {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
+// An object without a font's members.
+class NoFont : public sandbox::DispatchObject
+{
+    const wchar_t* ClassName() const override { return L"NoFont"; }
+    const sandbox::MemberTable& Members() const override
+    {
+        static const sandbox::MemberTable table;
+        return table;
+    }
+};
+
+bool TakesFont(const Object& component, const Object& font)
+{
+    ComPtr<_ClsSynOutlook> early;
+    Check(component.Dispatch()->QueryInterface(IID_PPV_ARGS(&early)), L"QueryInterface");
+    return SUCCEEDED(early->putref_Font(static_cast<IFontDisp*>(font.Dispatch())));
 }
 
 } // namespace
@@ -68,17 +88,15 @@ bool Module::IsLoaded()
     return GetModuleHandleW(kModule) != nullptr;
 }
 
-bool TakesFont(const Object& component, const Object& font)
-{
-    ComPtr<_ClsSynOutlook> early;
-    Check(component.Dispatch()->QueryInterface(IID_PPV_ARGS(&early)), L"QueryInterface");
-    return SUCCEEDED(early->putref_Font(static_cast<IFontDisp*>(font.Dispatch())));
-}
-
 void LendFont(const Object& component)
 {
     const bool taken = TakesFont(component, sandbox::MakeObject<HostFont>(std::make_shared<FontValues>()));
     Check(taken ? S_OK : E_FAIL, L"Font");
+}
+
+void ThrowInside(const Object& component)
+{
+    EXPECT_FALSE(TakesFont(component, sandbox::MakeObject<NoFont>()));
 }
 
 } // namespace test_support

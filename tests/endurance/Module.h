@@ -32,11 +32,11 @@ class Module
     HMODULE mModule;
 };
 
-// Whether the component takes the object as its font.
-bool TakesFont(const automation::Object& component, const automation::Object& font);
-
 // Gives the component a font object of the host's, counted among the fakes: it is kept by what the
 // component shares among all its objects of the thread, and outlives them.
 void LendFont(const automation::Object& component);
+
+// Inside the module an exception is thrown and caught on this thread: its font object lacks a font's members.
+void ThrowInside(const automation::Object& component);
 
 } // namespace test_support

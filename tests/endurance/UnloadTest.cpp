@@ -25,7 +25,6 @@ using test_support::LendFont;
 using test_support::Module;
 using test_support::Office;
 using test_support::PumpUntil;
-using test_support::TakesFont;
 using test_support::UseNumber;
 
 namespace
@@ -43,17 +42,6 @@ constexpr int kThreads = 8;
 // system. One object lost by each cycle would be as many as there are cycles.
 constexpr Footprint kTolerance = {
     .heapBytes = 1500, .residentBytes = 1024 * 1024, .gdiObjects = 1, .kernelHandles = 2};
-
-// An object without a font's members.
-class NoFont : public sandbox::DispatchObject
-{
-    const wchar_t* ClassName() const override { return L"NoFont"; }
-    const sandbox::MemberTable& Members() const override
-    {
-        static const sandbox::MemberTable table;
-        return table;
-    }
-};
 
 size_t Cycles()
 {
@@ -105,8 +93,7 @@ class UsedThread
         const Object component = module.NewComponent();
         component.Put(L"CalendarPreviewAlarmTime", kReminder);
         LendFont(component);
-        // Inside the module an exception is thrown and caught on this thread.
-        EXPECT_FALSE(TakesFont(component, sandbox::MakeObject<NoFont>()));
+        test_support::ThrowInside(component);
     }
 
     std::atomic<bool> mHasUsed{false};

@@ -134,6 +134,34 @@ TEST_F(FolderTable, CutsTextsAt255Characters)
     EXPECT_EQ(std::wstring(255, L'x') + L" ", FirstColumn(table));
 }
 
+TEST_F(FolderTable, CutsTextsAt255BytesWhereTheyAreCounted)
+{
+    mMailbox->AddItem(kContacts, {{L"LastName", std::wstring(300, L'中')}});
+    const auto lengthByUnit = [&](long unit) {
+        mMailbox->Switch(L"TableTextUnit", unit);
+        const auto table = Table({L"LastName"});
+        table.Get(L"GetArray", 4);
+        return FirstColumn(table).size() - 1;
+    };
+    EXPECT_EQ(255u, lengthByUnit(0));
+    EXPECT_EQ(127u, lengthByUnit(1));
+    EXPECT_EQ(85u, lengthByUnit(2));
+}
+
+TEST_F(FolderTable, AByteOfAPairOfSurrogatesIsNeverShownAlone)
+{
+    std::wstring text;
+    for (int i = 0; i < 100; ++i)
+    {
+        text += L"\U0001F4DE";
+    }
+    mMailbox->AddItem(kContacts, {{L"LastName", text}});
+    mMailbox->Switch(L"TableTextUnit", 1);
+    const auto table = Table({L"LastName"});
+    table.Get(L"GetArray", 4);
+    EXPECT_EQ(text.substr(0, 126) + L" ", FirstColumn(table));
+}
+
 TEST_F(FolderTable, DatesAreLocalAndKeywordsATextByNameAndUtcAndAnArrayByNamespace)
 {
     mMailbox->AddItem(kContacts,

@@ -239,6 +239,22 @@ TEST_P(FrmAdvanced, WithNoRuleSetTabReachesTheRulesAndChoosesNone)
     EXPECT_EQ(0, mGround.TheHost.Failures().CallsOf(L"Update"));
 }
 
+TEST_P(FrmAdvanced, AnOptionThatReportsAClickWithoutBeingSetIsNotChosen)
+{
+    for (const wchar_t* kind : {L"Contact", L"Task", L"Calendar"})
+    {
+        mGround.SetRow(kind, L"TransConflictOption=NULL,TaskTransItem=NULL,CalendarTransItem=NULL");
+        const std::wstring before = mGround.Options(kind);
+        Show(kind, [&](Robot&, const ShownDialog& dialog) {
+            dialog.Command(kRule1 + 3); // as a button does that merely gets the focus
+            dialog.Command(kRange0 + 1);
+            dialog.Click(IDOK);
+        });
+        EXPECT_EQ(before, mGround.Options(kind));
+        EXPECT_EQ(config::kNoCode, mGround.Record().TransConflictOption);
+    }
+}
+
 TEST_P(FrmAdvanced, ARefusedUpdateIsSilentAndClosesTheDialog)
 {
     mGround.TheHost.Failures().Order(L"Update", 1, {.result = -1});

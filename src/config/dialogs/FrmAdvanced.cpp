@@ -140,11 +140,6 @@ LRESULT FrmAdvanced::OnNotify(const NMHDR& notification)
     return 0;
 }
 
-int FrmAdvanced::FirstFocus() const
-{
-    return OptConflict.IdToFocus();
-}
-
 namespace
 {
 

@@ -28,7 +28,6 @@ class FrmAdvanced : public ui::Dialog
     void OnInit() override;
     void OnCommand(int id, int notification) override;
     LRESULT OnNotify(const NMHDR& notification) override;
-    int FirstFocus() const override;
 
     // A second tab, where there is one.
     virtual void AddRangePage(ui::TabPages& /*tabs*/) {}

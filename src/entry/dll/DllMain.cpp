@@ -1,6 +1,7 @@
 // The module's entry point and its four exports: each one only hands over.
 #include "entry/ClassFactory.h"
 #include "entry/Registration.h"
+#include "entry/dll/GnuRuntime.h"
 #include "resources/Strings.h"
 #include "state/SharedState.h"
 
@@ -12,30 +13,6 @@
 
 using automation::Guard;
 
-#ifdef __GLIBCXX__
-namespace __gnu_cxx // NOLINT(bugprone-reserved-identifier): the run-time library's own
-{
-
-void __freeres(); // NOLINT(bugprone-reserved-identifier)
-
-} // namespace __gnu_cxx
-#endif
-
-namespace
-{
-
-// Each module that links the GNU run-time library reserves some 70 KB for exceptions that are thrown when
-// there is no memory left, and gives them back only when asked: a host may unload the module any number of
-// times.
-void FreeReserveForExceptions() noexcept
-{
-#ifdef __GLIBCXX__
-    __gnu_cxx::__freeres();
-#endif
-}
-
-} // namespace
-
 extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
 {
     switch (reason)
@@ -46,7 +23,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds)
         if (processEnds == nullptr)
         {
             state::FreeStateOfAllThreads();
-            FreeReserveForExceptions();
+            entry::FreeGnuRuntime();
         }
         break;
     default: break;
