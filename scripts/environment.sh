@@ -52,9 +52,25 @@ build() {
     shift
     mkdir -p "$root/build"
     { [ -f "$root/build/$preset/build.ninja" ] || (cd "$root" && cmake --preset "$preset"); } >"$log" 2>&1 &&
-        (cd "$root" && NINJA_STATUS='[%f/%t] ' ninja -C "build/$preset" "$@" 2>&1) | tee -a "$log" | show_progress "$preset"
+        (cd "$root" && NINJA_STATUS='[%f/%t] ' ninja ${build_jobs:+-j "$build_jobs"} -C "build/$preset" "$@" 2>&1) | tee -a "$log" | show_progress "$preset"
     [ "${PIPESTATUS[0]}" -eq 0 ] ||
         { grep -B 2 -A 20 -m 1 -E '^FAILED|[Ee]rror' "$log" >&2; fail "the build ($preset) failed (see build/$preset.log)"; }
+}
+
+# build_meanwhile PRESET [TARGET...]: builds in the background while another build goes on, a file at a time: it fills
+# the gaps in which that one configures, links or has a single file left. await_builds waits for all of them.
+background_builds=()
+build_meanwhile() {
+    set -m # in a process group, by which stop_environment can end it
+    build_jobs=1 build "$@" &
+    background_builds+=($!)
+    set +m
+}
+
+await_builds() {
+    local pid
+    for pid in "${background_builds[@]}"; do wait "$pid" || exit 1; done
+    background_builds=()
 }
 
 show_progress() {
@@ -99,6 +115,7 @@ stop_environment() {
     for lane in "${lane_prefixes[@]}"; do
         [ -d "$lane" ] && { WINEPREFIX=$lane timeout 20 wineserver -k; WINEPREFIX=$lane timeout 20 wineserver -w; } >/dev/null 2>&1
     done
+    for pid in "${background_builds[@]}"; do kill -- "-$pid" 2>/dev/null; done
     for pid in "${display_pids[@]}"; do kill "$pid" 2>/dev/null && wait "$pid" 2>/dev/null; done
     display_pids=()
     lane_prefixes=()

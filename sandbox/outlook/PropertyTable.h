@@ -49,8 +49,6 @@ enum class PropertyId
     OutlookVersion,
     CreationTime,
     LastModificationTime,
-    BillingInformation,
-    Mileage,
     UnRead,
     // contacts
     Title,
@@ -67,21 +65,13 @@ enum class PropertyId
     CompanyName,
     JobTitle,
     Department,
-    OfficeLocation,
-    Profession,
-    ManagerName,
     AssistantName,
     AssistantTelephoneNumber,
     Email1Address,
-    Email2Address,
-    Email3Address,
     HomeTelephoneNumber,
-    HomeFaxNumber,
     MobileTelephoneNumber,
     BusinessTelephoneNumber,
     BusinessFaxNumber,
-    OtherTelephoneNumber,
-    PagerNumber,
     HomeAddressStreet,
     HomeAddressCity,
     HomeAddressState,
@@ -104,7 +94,6 @@ enum class PropertyId
     TotalWork,
     ActualWork,
     ContactNames,
-    Owner,
     // tasks and appointments
     ReminderSet,
     // appointments
@@ -137,7 +126,6 @@ enum class PropertyId
     DLName,
     MemberCount,
     // mails and posts
-    SenderName,
     ReceivedTime,
     Count, // not a property: how many there are
 };

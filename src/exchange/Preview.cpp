@@ -89,7 +89,7 @@ Preview::Preview(const Kind& kind, Run& run) : mKind(kind), mRun(run)
 struct Preview::Records
 {
     Object Item;
-    bool IsGone = false;
+    bool IsGone;
 };
 
 Preview::Records Preview::RecordsOf(const Proposal& proposal)

@@ -127,12 +127,6 @@ class RowOfTable : public automation::PropertySource
     Object mItem;
 };
 
-bool IsEntryId(std::wstring_view text)
-{
-    return !text.empty() &&
-           std::ranges::all_of(text, [](wchar_t letter) { return letter > L' ' && letter < 0x7F; });
-}
-
 std::wstring Compact(std::wstring key)
 {
     key.shrink_to_fit(); // it stays for the run
@@ -171,7 +165,7 @@ class Reader
         const bool isPlain = row.IsPlain(mRule.InTable.MessageClass);
         auto& first = mKeys.First.emplace_back();
         const std::wstring_view entryId = row.EntryId();
-        if (!IsEntryId(entryId) || !mKeys.Ids.Add(static_cast<long>(mKeys.First.size()), entryId))
+        if (entryId.empty() || !mKeys.Ids.Add(static_cast<long>(mKeys.First.size()), entryId))
         {
             Distrust();
         }

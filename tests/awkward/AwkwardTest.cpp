@@ -5,6 +5,7 @@
 #include "tests/awkward/Ways.h"
 
 #include "automation/Text.h"
+#include "tests/support/RunCodes.h"
 #include "tests/support/Thoroughness.h"
 
 #include <gtest/gtest.h>
@@ -17,9 +18,6 @@ namespace
 {
 
 using namespace test_support;
-
-constexpr long kDirections[] = {1, 2, 3};
-constexpr long kRules[] = {1, 2, 3, 4, 5};
 
 struct Trial
 {

@@ -1,125 +1,15 @@
 #include "tests/awkward/Expectation.h"
 
 #include "automation/Text.h"
+#include "tests/awkward/Expected.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace test_support
 {
 
 namespace
 {
-
-constexpr long kFromOutlook = 1;
-constexpr long kToOutlook = 2;
-constexpr long kAddAll = 1;
-constexpr long kNotify = 3;
-constexpr long kHostWins = 4;
-constexpr long kOutlookWins = 5;
-
-bool WritesItems(const Combination& what)
-{
-    return what.direction != kFromOutlook;
-}
-
-bool WritesRows(const Combination& what)
-{
-    return what.direction != kToOutlook;
-}
-
-bool ChangesItems(const Combination& what)
-{
-    return WritesItems(what) && (what.rule == kNotify || what.rule == kHostWins);
-}
-
-bool ChangesRows(const Combination& what)
-{
-    return WritesRows(what) && (what.rule == kNotify || what.rule == kOutlookWins);
-}
-
-using Number = std::pair<int, wchar_t>; // with the side of its values
-
-// The records of both sides by number; the sides of the values.
-struct Model
-{
-    std::multimap<int, wchar_t> rows;
-    std::multimap<int, wchar_t> items;
-};
-
-struct Expected
-{
-    std::map<int, wchar_t> changedRows; // by number: the side of their values then
-    std::map<int, wchar_t> changedItems;
-    std::multiset<Number> newRows;
-    std::multiset<Number> newItems;
-};
-
-Model ModelOf(const States& states, const std::set<std::wstring>& absent)
-{
-    Model model;
-    for (const auto& [key, row] : states.rows)
-    {
-        if (!absent.contains(key))
-        {
-            model.rows.emplace(row.number, row.side);
-        }
-    }
-    for (const auto& [id, item] : states.items)
-    {
-        if (!absent.contains(id))
-        {
-            model.items.emplace(item.number, item.side);
-        }
-    }
-    return model;
-}
-
-void AddNew(const Combination& what, const std::multimap<int, wchar_t>& records,
-            const std::multimap<int, wchar_t>& partners, std::multiset<Number>& added)
-{
-    for (const auto& [number, side] : records)
-    {
-        if (!partners.contains(number) || what.rule == kAddAll)
-        {
-            added.emplace(number, side);
-        }
-    }
-}
-
-// In a two-way run by rule 3 the pass that writes first decides; the other one reads what it has written, or
-// leaves it out.
-Expected ExpectedOf(const Combination& what, const Model& model)
-{
-    Expected expected;
-    if (WritesItems(what))
-    {
-        AddNew(what, model.rows, model.items, expected.newItems);
-    }
-    if (WritesRows(what))
-    {
-        AddNew(what, model.items, model.rows, expected.newRows);
-    }
-    const bool isTwoWay = ChangesItems(what) && ChangesRows(what);
-    for (const auto& [number, side] : model.rows)
-    {
-        const auto item = model.items.find(number);
-        if (item == model.items.end())
-        {
-            continue;
-        }
-        const wchar_t winner = isTwoWay ? (what.kind->writesHostFirst ? item->second : side) : L'\0';
-        if (ChangesItems(what))
-        {
-            expected.changedItems[number] = isTwoWay ? winner : side;
-        }
-        if (ChangesRows(what))
-        {
-            expected.changedRows[number] = isTwoWay ? winner : item->second;
-        }
-    }
-    return expected;
-}
 
 std::string Written(const NumberedRecord& record)
 {
@@ -243,49 +133,6 @@ void CompareRest(const States& before, const States& after, std::vector<std::str
             complaints.push_back(automation::ToUtf8(L"an item or a row of another kind is new: " + text));
         }
     }
-}
-
-// What may be added where records are there at some moments and not at others.
-std::multiset<Number> EitherOf(const std::multiset<Number>& one, const std::multiset<Number>& other)
-{
-    std::multiset<Number> either;
-    std::ranges::set_union(one, other, std::inserter(either, either.end()));
-    return either;
-}
-
-// With what has arrived, and what may be added at most.
-Expected WidestOf(const Combination& what, const States& before, const Interference& interference)
-{
-    std::set<std::wstring> missing = interference.hidden;
-    missing.insert(interference.gone.begin(), interference.gone.end());
-    Expected widest;
-    std::set<std::wstring> passedBy = missing;
-    for (const auto& [id, item] : before.items)
-    {
-        passedBy.insert(interference.mayPassBy ? id : L"");
-    }
-    for (const std::set<std::wstring>& absent :
-         {std::set<std::wstring>(), interference.hidden, missing, passedBy})
-    {
-        for (const bool hasArrivals : {false, true})
-        {
-            Model model = ModelOf(before, absent);
-            if (interference.arrivedItem != 0 && hasArrivals)
-            {
-                model.items.emplace(interference.arrivedItem, kOutlook);
-            }
-            if (interference.arrivedRow != 0 && hasArrivals)
-            {
-                model.rows.emplace(interference.arrivedRow, kHost);
-            }
-            const Expected expected = ExpectedOf(what, model);
-            widest.newRows = EitherOf(widest.newRows, expected.newRows);
-            widest.newItems = EitherOf(widest.newItems, expected.newItems);
-            widest.changedRows.insert(expected.changedRows.begin(), expected.changedRows.end());
-            widest.changedItems.insert(expected.changedItems.begin(), expected.changedItems.end());
-        }
-    }
-    return widest;
 }
 
 } // namespace

@@ -97,17 +97,12 @@ Course FollowedCourse(const Task& task)
 
 long RuleOf(long direction)
 {
-    constexpr long kIgnoreAll = 2;
-    constexpr long kHostWins = 4;
-    constexpr long kOutlookWins = 5;
-    return direction == kImport ? kOutlookWins : direction == kExport ? kHostWins : kIgnoreAll;
+    return direction == kImport   ? test_support::kOutlookWins
+           : direction == kExport ? test_support::kHostWins
+                                  : test_support::kIgnoreAll;
 }
 
-Site::Site()
-    : mHostFile(NewFile(L"host.db")),
-      mMailboxFile(NewFile(L"outlook.db")),
-      mWindow(CreateWindowW(L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100, nullptr,
-                            nullptr, nullptr, nullptr))
+Site::Site() : mHostFile(NewFile(L"host.db")), mMailboxFile(NewFile(L"outlook.db"))
 {
     static const Pattern pattern;
     pattern.CopyTo(mHostFile, mMailboxFile);
@@ -120,7 +115,6 @@ Site::~Site()
 {
     mHost.reset();
     mMailbox.reset();
-    DestroyWindow(mWindow);
     DeleteFileW(mHostFile.c_str());
     DeleteFileW(mMailboxFile.c_str());
 }
@@ -165,7 +159,7 @@ void Site::ExpectNothingLeft()
     int dialogs = 0;
     EnumThreadWindows(GetCurrentThreadId(), CountDialog, reinterpret_cast<LPARAM>(&dialogs));
     EXPECT_EQ(0, dialogs);
-    EXPECT_TRUE(IsWindowEnabled(mWindow));
+    EXPECT_TRUE(IsWindowEnabled(mWindow.Handle()));
     EXPECT_FALSE(mHost->Database().InTransaction());
 }
 

@@ -9,7 +9,9 @@
 #include "sandbox/outlook/Outlook.h"
 #include "tests/boundary/State.h"
 #include "tests/boundary/User.h"
+#include "tests/support/HostWindow.h"
 #include "tests/support/Kinds.h"
+#include "tests/support/RunCodes.h"
 
 #include <gtest/gtest.h>
 
@@ -25,10 +27,10 @@ inline constexpr std::array<const wchar_t*, 3> kKinds = {test_support::kContactR
                                                          test_support::kTaskRecords.option,
                                                          test_support::kCalendarRecords.option};
 
-inline constexpr long kImport = 1;
-inline constexpr long kExport = 2;
-inline constexpr long kBoth = 3;
-inline constexpr std::array<long, 3> kDirections = {kImport, kExport, kBoth};
+using test_support::kBoth;
+using test_support::kDirections;
+using test_support::kExport;
+using test_support::kImport;
 
 // The side that a run writes to takes changes as well; a run in both directions adds what is missing.
 long RuleOf(long direction);
@@ -72,7 +74,7 @@ class Site
   private:
     std::wstring mHostFile;
     std::wstring mMailboxFile;
-    HWND mWindow;
+    test_support::HostWindow mWindow{L"Host", 200, 100};
     std::unique_ptr<sandbox::Host> mHost;
     std::unique_ptr<sandbox::Connection> mMailbox;
 };

@@ -4,12 +4,8 @@
 set -u
 build=$1
 answers=$2
-folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
-mailbox=$(winepath -w "$folder/outlook.db")
-timeout 30 wine "$build/Demo.exe" --prepare --host "$(winepath -w "$folder/host.db")" --mailbox "$mailbox" </dev/null &&
-    timeout 30 wine reg add 'HKCU\Software\TelvixSandbox' /v Mailbox /d "$mailbox" /f >/dev/null 2>&1 </dev/null ||
-    { echo "no mailbox could be made"; exit 1; }
+. "$(dirname "$0")/../support/mailbox.sh"
+new_mailbox "$build"
 folders() { sqlite3 "$folder/outlook.db" 'SELECT Path FROM Folder ORDER BY 1'; }
 before=$(folders)
 

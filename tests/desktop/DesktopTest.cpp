@@ -1,17 +1,15 @@
 // On a desktop with a window manager, where windows are activated from outside: the dialogs have no owner,
 // and the host's window, which takes no input meanwhile, must never hide them.
 #include "automation/Text.h"
-#include "resources/ids.h"
 #include "tests/support/Drive.h"
 #include "tests/support/HostWindow.h"
-#include "ui/Dialog.h"
+#include "tests/support/ProbeDialog.h"
 #include "ui/ShowMessageBox.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 
 namespace
@@ -26,23 +24,13 @@ constexpr wchar_t kHostTitle[] = L"Window of the host";
 constexpr wchar_t kDialogTitle[] = L"Dialog without an owner";
 constexpr wchar_t kOtherTitle[] = L"Window of another program"; // shown by run.sh
 
-class Probe : public ui::Dialog
+class DesktopDialog : public test_support::ProbeDialog
 {
   public:
-    explicit Probe(std::function<void()> onOk = {}) : Dialog(IDD_SHOWERR), mOnOk(std::move(onOk)) {}
+    using ProbeDialog::ProbeDialog;
 
   private:
     void OnInit() override { SetWindowTextW(Handle(), kDialogTitle); }
-    void OnCommand(int id, int notification) override
-    {
-        if (id == IDOK && mOnOk)
-        {
-            mOnOk();
-        }
-        Dialog::OnCommand(id, notification);
-    }
-
-    std::function<void()> mOnOk;
 };
 
 std::wstring Variable(const wchar_t* name)
@@ -111,7 +99,7 @@ void ExpectInFrontOfTheHost(Robot& robot, const ShownDialog& dialog, const std::
 TEST(DialogOnADesktop, IsInFrontOfTheHostWhenTheUserChoosesTheHostsWindow)
 {
     const HostWindow host(kHostTitle, 900, 700);
-    Probe probe;
+    DesktopDialog probe;
     Drive(
         [&](Robot& robot) {
             const ShownDialog dialog = robot.WaitForDialog();
@@ -124,7 +112,7 @@ TEST(DialogOnADesktop, IsInFrontOfTheHostWhenTheUserChoosesTheHostsWindow)
 TEST(DialogOnADesktop, IsBelowItsMessageBoxWhenTheUserChoosesTheHostsWindow)
 {
     const HostWindow host(kHostTitle, 900, 700);
-    Probe probe([] { ui::ShowMessageBox(L"Over the dialog", MB_OK); });
+    DesktopDialog probe([] { ui::ShowMessageBox(L"Over the dialog", MB_OK); });
     Drive(
         [&](Robot& robot) {
             const ShownDialog dialog = robot.WaitForDialog();

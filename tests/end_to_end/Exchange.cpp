@@ -37,7 +37,7 @@ std::wstring NewFolder()
 
 long Records()
 {
-    return ByThoroughness(8, 40, 40);
+    return ByThoroughness(8, 20, 40);
 }
 
 Exchange::Exchange() : mFolder(NewFolder())

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "sandbox/host/Host.h"
+#include "tests/support/RunCodes.h"
 #include "tools/demo/Conversation.h"
 #include "tools/demo/Snapshot.h"
 

@@ -3,8 +3,7 @@
 #include "automation/Text.h"
 #include "resources/Strings.h"
 
-using test_support::Exchange;
-using test_support::Records;
+using namespace test_support;
 using tools::demo::Compare;
 using tools::demo::Difference;
 using tools::demo::Outcome;
@@ -12,14 +11,6 @@ using tools::demo::Snapshot;
 
 namespace
 {
-
-constexpr long kImport = 1;
-constexpr long kExport = 2;
-constexpr long kBoth = 3;
-constexpr long kAddAll = 1;
-constexpr long kIgnoreAll = 2;
-constexpr long kHostWins = 4;
-constexpr long kOutlookWins = 5;
 
 // The number at the end of a line of the confirmation.
 long NumberOf(const std::wstring& line)

@@ -7,14 +7,10 @@
 namespace
 {
 
-using test_support::Records;
+using namespace test_support;
 using tools::demo::Outcome;
 
-constexpr long kImportToHost = 1;
-constexpr long kExportToOutlook = 2;
-constexpr long kIgnoreConflicts = 2;
-
-class ReportOfARun : public test_support::Exchange
+class ReportOfARun : public Exchange
 {
   protected:
     ReportOfARun() { LooksAtReport = true; }
@@ -34,7 +30,7 @@ long RowsWith(const Outcome& outcome, const std::wstring& text)
 
 TEST_F(ReportOfARun, ARunInWhichAllGoesWellHasNone)
 {
-    const Outcome outcome = Run(L"contact", kImportToHost, kIgnoreConflicts);
+    const Outcome outcome = Run(L"contact", kImport, kIgnoreAll);
     EXPECT_TRUE(outcome.succeeded);
     EXPECT_EQ(L"", outcome.reportSummary);
     EXPECT_TRUE(outcome.reportRows.empty());
@@ -45,7 +41,7 @@ TEST_F(ReportOfARun, ARecordThatTheHostRefusesHasTheHostsWords)
     for (const wchar_t* kind : {L"contact", L"task", L"calendar"})
     {
         HostSide().Failures().Order(L"Insert", 3, {std::nullopt, L"Disk full"});
-        const Outcome outcome = Run(kind, kImportToHost, kIgnoreConflicts);
+        const Outcome outcome = Run(kind, kImport, kIgnoreAll);
         EXPECT_TRUE(outcome.succeeded);
         ASSERT_EQ(1u, outcome.reportRows.size());
         EXPECT_EQ(1, RowsWith(outcome, L"|Insert||Disk full"));
@@ -61,7 +57,7 @@ TEST_F(ReportOfARun, LinksThatOutlookRefusesAreRemarksOfTasksThatAreWritten)
                                   L"VALUES ('link',1,'Qvist','Åsa')");
     HostSide().Database().Execute(L"INSERT INTO TBLACTIVITY (F_ACTID,F_ACTORID,F_ACTNAME,F_CNTCTID) VALUES "
                                   L"('linked',1,'Call Åsa','link')");
-    const Outcome outcome = Run(L"task", kExportToOutlook, kIgnoreConflicts);
+    const Outcome outcome = Run(L"task", kExport, kIgnoreAll);
     EXPECT_TRUE(outcome.succeeded);
     EXPECT_EQ(1, RowsWith(outcome, L"|Call Åsa|" + resources::String(IDS_REPORT_LINK_REFUSED) + L"|"));
     EXPECT_EQ(1, CountItems(L"ItemProperty WHERE Name='Subject' AND Value='Call Åsa'"));
@@ -71,7 +67,7 @@ TEST_F(ReportOfARun, FieldsThatTheGuardRefusesAndItemsOfOtherKindsAreTold)
 {
     Switch(L"Guard");
     Switch(L"ForeignItems");
-    const Outcome outcome = Run(L"contact", kImportToHost, kIgnoreConflicts);
+    const Outcome outcome = Run(L"contact", kImport, kIgnoreAll);
     EXPECT_TRUE(outcome.succeeded);
     EXPECT_EQ(Records() / 2,
               RowsWith(outcome, resources::String(IDS_REPORT_READ_REFUSED) + L"|Email1Address|"));
@@ -82,7 +78,7 @@ TEST_F(ReportOfARun, FieldsThatTheGuardRefusesAndItemsOfOtherKindsAreTold)
 TEST_F(ReportOfARun, ARightThatIsMissingHasOneRow)
 {
     HostSide().SetRight(1, 2, 2, 1); // to add accounts
-    const Outcome outcome = Run(L"task", kImportToHost, kIgnoreConflicts);
+    const Outcome outcome = Run(L"task", kImport, kIgnoreAll);
     EXPECT_TRUE(outcome.succeeded);
     EXPECT_TRUE(outcome.messages.empty()) << "tasks ask for the right without a message";
     const std::wstring right =

@@ -2,6 +2,7 @@
 
 #include "automation/Text.h"
 #include "sandbox/database/DatabaseFile.h"
+#include "tests/support/RunCodes.h"
 #include "tools/demo/Installation.h"
 #include "tools/sample_data/SampleData.h"
 
@@ -19,10 +20,8 @@ using namespace tools::demo;
 namespace
 {
 
-constexpr long kFromOutlook = 1;
-constexpr long kToOutlook = 2;
-constexpr long kBothWays = 3;
-constexpr long kRules[] = {2, 4, 5}; // all but those that add what is there or ask for each record
+// All but those that add what is there or ask for each record.
+constexpr long kRulesOfRound[] = {kIgnoreAll, kHostWins, kOutlookWins};
 
 std::wstring NewFile(void (*write)(const std::wstring& path, Edition edition, size_t records),
                      Edition edition, size_t records)
@@ -54,8 +53,8 @@ Office::Office(Edition edition, size_t records)
     InstallOutlookProfile(Profiles::Modern);
     for (const RecordKind* kind : kRecordKinds)
     {
-        Run({kind, kToOutlook}, NewComponent());
-        Run({kind, kFromOutlook}, NewComponent());
+        Run({kind, kExport}, NewComponent());
+        Run({kind, kImport}, NewComponent());
     }
 }
 
@@ -73,7 +72,7 @@ Office::Counts Office::CountsOf(const RecordKind& kind)
 
 void Office::LoseOne(const Use& use)
 {
-    if (use.direction == kToOutlook)
+    if (use.direction == kExport)
     {
         const auto first = mMailbox->Items(*mMailbox->FindFolder(FolderOf(*use.kind))).front();
         mMailbox->Delete(first);
@@ -125,7 +124,7 @@ std::string Office::Fault(const Use& use, const Outcome& outcome)
         return automation::ToUtf8(what + L"the status reads \"" + outcome.status + L"\"");
     }
     const long missing = use.decline ? 1 : 0;
-    const bool isOutlookShort = use.direction == kToOutlook;
+    const bool isOutlookShort = use.direction == kExport;
     const Counts expected = {mRecords - (isOutlookShort ? 0 : missing),
                              mRecords - (isOutlookShort ? missing : 0)};
     const Counts actual = CountsOf(*use.kind);
@@ -161,11 +160,11 @@ Object NewComponent()
 
 Use UseNumber(size_t k)
 {
-    constexpr long kDirections[] = {kFromOutlook, kToOutlook, kBothWays};
     const size_t kind = k % kRecordKinds.size();
     const size_t direction = k / kRecordKinds.size() % std::size(kDirections);
-    return {kRecordKinds[kind], kDirections[direction], kRules[(kind + direction) % std::size(kRules)],
-            k % kUsesOfRound == 4, k % kUsesOfRound == 0};
+    return {kRecordKinds[kind], kDirections[direction],
+            kRulesOfRound[(kind + direction) % std::size(kRulesOfRound)], k % kUsesOfRound == 4,
+            k % kUsesOfRound == 0};
 }
 
 } // namespace test_support

@@ -108,6 +108,16 @@ std::wstring Numbered(const wchar_t* name, size_t number)
     return name + std::to_wstring(number);
 }
 
+std::wstring CompanyOf(size_t number)
+{
+    return Numbered(L"Company ", number);
+}
+
+Value TextOrNull(const std::wstring& text)
+{
+    return text.empty() ? Value::Null() : Value(text);
+}
+
 } // namespace
 
 void RandomSides::Add(size_t rows, size_t items, size_t pairs)
@@ -127,112 +137,125 @@ void RandomSides::Add(size_t rows, size_t items, size_t pairs)
     }
 }
 
-void RandomSides::AddRow(size_t number)
+// Every third record has a company, and every sixth row's company an address.
+std::wstring RandomSides::AddCompany(size_t number)
 {
-    std::wstring columns;
-    std::wstring marks;
-    sandbox::Row values;
-    const auto add = [&](const std::wstring& column, const Value& value) {
-        columns += (columns.empty() ? L"" : L",") + column;
-        marks += marks.empty() ? L"?" : L",?";
-        values.push_back(value);
-    };
-    const bool hasCompany = number % 3 == 0;
-    if (hasCompany)
+    if (number % 3 != 0)
     {
-        Execute(L"INSERT INTO TBLACCOUNT (F_ACCID,F_CREATORID,F_ACCSNAME) VALUES (?,1,?)",
-                {Numbered(L"A", number), Numbered(L"Company ", number)});
-        add(L"F_ACCID", Numbered(L"A", number));
+        return {};
     }
-    if (hasCompany && number % 2 == 0)
+    const std::wstring key = Numbered(L"A", number);
+    sandbox::AddRows(TheHost.Database(), L"TBLACCOUNT", L"F_ACCID,F_CREATORID,F_ACCSNAME",
+                     {{key, 1L, CompanyOf(number)}});
+    if (number % 2 == 0)
     {
-        Execute(L"INSERT INTO TBLADDRESS (F_ADDRID,F_ACCID,F_ADDRCITY,F_ISPRIMARY) VALUES "
-                L"(?,?,'Harbin',1)",
-                {Numbered(L"D", number), Numbered(L"A", number)});
+        sandbox::AddRows(TheHost.Database(), L"TBLADDRESS", L"F_ADDRID,F_ACCID,F_ADDRCITY,F_ISPRIMARY",
+                         {{Numbered(L"D", number), key, L"Harbin", 1L}});
     }
-    add(L"F_CREATORID", 1L);
+    return key;
+}
+
+// Every fourth activity has a contact.
+std::wstring RandomSides::AddLinkedContact(size_t number)
+{
+    if (number % 4 != 0)
+    {
+        return {};
+    }
+    std::wstring key = Numbered(L"P", number);
+    sandbox::AddRows(TheHost.Database(), L"TBLCONTACT", L"F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME",
+                     {{key, 1L, Numbered(L"Linked", number), L"Ann"}});
+    return key;
+}
+
+RandomSides::Values RandomSides::OwnColumns(size_t number)
+{
     if (Kind.itemKind == ItemKind::Contact)
     {
-        add(L"F_CNTCTID", Numbered(L"C", number));
-        add(L"F_SURNAME", Numbered(L"Last", number));
-        add(L"F_GIVENNAME", Numbered(L"First", number));
+        return {{L"F_CNTCTID", Numbered(L"C", number)},
+                {L"F_SURNAME", Numbered(L"Last", number)},
+                {L"F_GIVENNAME", Numbered(L"First", number)}};
     }
-    else
-    {
-        add(L"F_ACTID", Numbered(L"T", number));
-        add(L"F_ACTORID", 1L);
-        add(L"F_ACTNAME", Numbered(L"Subject ", number));
-        add(L"F_ACTTYPE", L"Phone");
-        if (number % 4 == 0)
-        {
-            Execute(L"INSERT INTO TBLCONTACT (F_CNTCTID,F_CREATORID,F_SURNAME,F_GIVENNAME) "
-                    L"VALUES (?,1,?,'Ann')",
-                    {Numbered(L"P", number), Numbered(L"Linked", number)});
-            add(L"F_CNTCTID", Numbered(L"P", number));
-        }
-    }
+    Values columns{{L"F_ACTID", Numbered(L"T", number)},
+                   {L"F_ACTORID", 1L},
+                   {L"F_ACTNAME", Numbered(L"Subject ", number)},
+                   {L"F_ACTTYPE", L"Phone"},
+                   {L"F_CNTCTID", TextOrNull(AddLinkedContact(number))}};
     if (Kind.itemKind == ItemKind::Task)
     {
-        add(L"F_ACTPSTIME", L"2003-05-06 00:00:00");
+        columns.emplace_back(L"F_ACTPSTIME", L"2003-05-06 00:00:00");
+        return columns;
     }
-    if (Kind.itemKind == ItemKind::Appointment)
+    columns.emplace_back(L"F_ACTESDATE", L"2003-05-06 00:00:00");
+    columns.emplace_back(L"F_ACTESTIME", L"1899-12-30 09:30:00");
+    columns.emplace_back(L"F_ACTEETIME", Numbered(L"1899-12-30 1", Below(8)) + L":15:00");
+    if (Below(2) == 0)
     {
-        add(L"F_ACTESDATE", L"2003-05-06 00:00:00");
-        add(L"F_ACTESTIME", L"1899-12-30 09:30:00");
-        add(L"F_ACTEETIME", Numbered(L"1899-12-30 1", Below(8)) + L":15:00");
-        if (Below(2) == 0)
-        {
-            add(L"F_ACTREPTIDX", static_cast<long>(1 + Below(6)));
-            add(L"F_ACTREPTEDATE", L"2004-05-06 00:00:00");
-        }
+        columns.emplace_back(L"F_ACTREPTIDX", static_cast<long>(1 + Below(6)));
+        columns.emplace_back(L"F_ACTREPTEDATE", L"2004-05-06 00:00:00");
     }
+    return columns;
+}
+
+void RandomSides::AddRow(size_t number)
+{
+    Values columns = OwnColumns(number);
+    columns.emplace_back(L"F_ACCID", TextOrNull(AddCompany(number)));
+    columns.emplace_back(L"F_CREATORID", 1L);
     for (const RandomField& field : Kind.Fields)
     {
         if (field.Column != nullptr)
         {
-            add(field.Column, Below(6) == 0 ? Value::Null() : OfHost(field, RandomValue(field.Is)));
+            columns.emplace_back(field.Column,
+                                 Below(6) == 0 ? Value::Null() : OfHost(field, RandomValue(field.Is)));
         }
     }
-    Execute(L"INSERT INTO " + std::wstring(Kind.table) + L" (" + columns + L") VALUES (" + marks + L")",
-            values);
+    std::wstring names;
+    sandbox::Row values;
+    for (const auto& [name, value] : columns)
+    {
+        names += (names.empty() ? L"" : L",") + name;
+        values.push_back(value);
+    }
+    sandbox::AddRows(TheHost.Database(), Kind.table, names, {values});
+}
+
+RandomSides::Values RandomSides::OwnProperties(size_t number)
+{
+    const std::wstring company = number % 3 == 0 ? CompanyOf(number) : L"";
+    if (Kind.itemKind == ItemKind::Contact)
+    {
+        return {{L"LastName", Numbered(L"Last", number)},
+                {L"FirstName", Numbered(L"First", number)},
+                {L"CompanyName", company}};
+    }
+    Values properties{
+        {L"Subject", Numbered(L"Subject ", number)}, {L"Categories", L"Phone"}, {L"Companies", company}};
+    if (Kind.itemKind == ItemKind::Task)
+    {
+        properties.emplace_back(L"StartDate", Date{kDay});
+        return properties;
+    }
+    properties.emplace_back(L"Start", automation::DateOf(automation::Moment{2003, 5, 6, 9, 30}));
+    properties.emplace_back(
+        L"End", automation::DateOf(automation::Moment{2003, 5, 6, 10 + static_cast<int>(Below(9))}));
+    return properties;
 }
 
 void RandomSides::AddItem(size_t number)
 {
-    sandbox::Mailbox::NamedValues values;
-    const bool hasCompany = number % 3 == 0;
-    if (Kind.itemKind == ItemKind::Contact)
-    {
-        values.emplace_back(L"LastName", Numbered(L"Last", number));
-        values.emplace_back(L"FirstName", Numbered(L"First", number));
-        values.emplace_back(L"CompanyName", hasCompany ? Numbered(L"Company ", number) : L"");
-    }
-    else
-    {
-        values.emplace_back(L"Subject", Numbered(L"Subject ", number));
-        values.emplace_back(L"Categories", L"Phone");
-        values.emplace_back(L"Companies", hasCompany ? Numbered(L"Company ", number) : L"");
-    }
-    if (Kind.itemKind == ItemKind::Task)
-    {
-        values.emplace_back(L"StartDate", Date{kDay});
-    }
-    if (Kind.itemKind == ItemKind::Appointment)
-    {
-        values.emplace_back(L"Start", automation::DateOf(automation::Moment{2003, 5, 6, 9, 30}));
-        values.emplace_back(
-            L"End", automation::DateOf(automation::Moment{2003, 5, 6, 10 + static_cast<int>(Below(9)), 0}));
-    }
+    Values properties = OwnProperties(number);
     for (const RandomField& field : Kind.Fields)
     {
         const Value value = RandomValue(field.Is);
         const bool isAllDay = std::wstring_view(field.Property) == L"AllDayEvent";
-        if (Below(6) != 0 && !(field.Is == Day && automation::IsAbsent(value)) && !isAllDay)
+        if (Below(6) != 0 && !(field.Is == RandomField::Sort::Day && automation::IsAbsent(value)) &&
+            !isAllDay)
         {
-            values.emplace_back(field.Property, value);
+            properties.emplace_back(field.Property, value);
         }
     }
-    Mailbox->AddItem(Kind.folder, values);
+    Mailbox->AddItem(Kind.folder, properties);
 }
 
 void RandomSides::SetParameter(long transType)

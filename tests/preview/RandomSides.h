@@ -66,9 +66,17 @@ class RandomSides : public TestOffice
     const RandomKind& Kind;
 
   private:
+    using Values = sandbox::Mailbox::NamedValues; // of columns or properties
+
     void SetParameter(long transType);
     size_t Below(size_t bound) { return mEngine() % bound; }
     automation::Value RandomValue(RandomField::Sort sort);
+    // The keys of what they add; empty for none.
+    std::wstring AddCompany(size_t number);
+    std::wstring AddLinkedContact(size_t number);
+    // What a record of the kind has beside its random fields.
+    Values OwnColumns(size_t number);
+    Values OwnProperties(size_t number);
     void AddRow(size_t number);
     void AddItem(size_t number);
 

@@ -3,6 +3,7 @@
 #include "sandbox/outlook/PropertyTable.h"
 #include "tests/run/RunsFixture.h"
 #include "tests/support/CallWatch.h"
+#include "tests/support/RunCodes.h"
 
 #include "automation/Text.h"
 
@@ -14,8 +15,6 @@ using automation::DateOf;
 using automation::Moment;
 using automation::Value;
 using sandbox::Mailbox;
-
-constexpr long kBothDirections = 3;
 
 struct DifferingPair
 {
@@ -83,7 +82,7 @@ class TwoWayRun : public RunsFixture
   protected:
     void Exchange(const DifferingPair& pair)
     {
-        const Outcome outcome = Run(pair.kind, kBothDirections, Answer::Accept);
+        const Outcome outcome = Run(pair.kind, kBoth, Answer::Accept);
         EXPECT_FALSE(outcome.failed);
         EXPECT_EQ(1u, outcome.shown.size());
         EXPECT_EQ(L"", TheHost.LastRejection());
@@ -169,7 +168,7 @@ TEST_F(TwoWayRun, ATaskThatTheHostRefusesIsWrittenToOutlookAsTheHostHasIt)
     Execute(kTaskPair.row);
     Mailbox->AddItem(kTaskPair.kind.folder, kTaskPair.item);
     TheHost.Failures().Order(L"Update", 1, {1});
-    EXPECT_FALSE(Run(kTaskRun, kBothDirections, Answer::Accept).failed);
+    EXPECT_FALSE(Run(kTaskRun, kBoth, Answer::Accept).failed);
     EXPECT_EQ(L"0\n", TextIn(kTaskPair, L"Importance"));
     EXPECT_EQ(L"25\n", TextIn(kTaskPair, L"PercentComplete"));
 }

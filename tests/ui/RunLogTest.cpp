@@ -2,6 +2,7 @@
 #include "report/RunLog.h"
 
 #include "tests/support/WithLanguage.h"
+#include "tests/ui/MainDialog.h"
 
 #include <gtest/gtest.h>
 
@@ -116,6 +117,35 @@ class RunLog : public testing::Test
     std::wstring mBefore;
     test_support::WithLanguage mEnglish{resources::Language::English};
 };
+
+// As names of logs begin.
+std::wstring Now()
+{
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    wchar_t text[64];
+    swprintf_s(text, ARRAYSIZE(text), L"run-%04u%02u%02u-%02u%02u%02u-%03u", now.wYear, now.wMonth, now.wDay,
+               now.wHour, now.wMinute, now.wSecond, now.wMilliseconds);
+    return text;
+}
+
+TEST_F(RunLog, OfARunOfTheMainDialogHasTheTimeAtWhichItEnded)
+{
+    using namespace ui_tests;
+    Set(HKEY_CURRENT_USER, report::kLogsRuns, 1);
+    Recorder recorder;
+    recorder.DuringRun = [](exchange::RunDisplay& display) {
+        display.TakeReport(Run(1, L"Li Na", L"Disk full").Report);
+    };
+    const std::wstring before = Now();
+    Use(recorder, [&](Robot& robot, const ShownDialog& dialog) {
+        ChooseAndStart(dialog, kTaskRow);
+        WaitForStatus(robot, dialog, L"Synchronize Succeed.");
+    });
+    ASSERT_EQ(1u, Logs().size());
+    EXPECT_LE(before, Logs().front());
+    EXPECT_GE(Now() + L"~", Logs().front());
+}
 
 TEST_F(RunLog, WithoutTheSettingNoFileAndNoFolderIsMade)
 {

@@ -1,6 +1,7 @@
 #include "ui/ShowMessage.h"
 
 #include "tests/support/Drive.h"
+#include "tests/support/HostWindow.h"
 #include "tests/ui/Interface.h"
 #include "ui/Dialog.h"
 
@@ -13,6 +14,7 @@ namespace
 
 using namespace ui_tests;
 using test_support::Drive;
+using test_support::HostWindow;
 using test_support::MainThread;
 using test_support::Robot;
 using test_support::ShownDialog;
@@ -181,20 +183,18 @@ TEST(ShowMessage, TheDialogsCloseByTheKeyboardAlone)
 TEST(ShowMessage, TheThreadsOtherWindowsTakeNoInputMeanwhileAndDoAfterwards)
 {
     const Interface english(Language::English);
-    const HWND host = CreateWindowW(L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200,
-                                    nullptr, nullptr, nullptr, nullptr);
-    SetActiveWindow(host);
+    const HostWindow host(L"Host", 300, 200);
+    SetActiveWindow(host.Handle());
     Drive(
         [&](Robot& robot) {
             const ShownDialog dialog = robot.WaitForDialog(L"News");
-            EXPECT_FALSE(IsWindowEnabled(host));
+            EXPECT_FALSE(IsWindowEnabled(host.Handle()));
             EXPECT_EQ(nullptr, GetWindow(dialog.Handle(), GW_OWNER));
             dialog.Click(IDOK);
         },
         [] { ui::ShowMessage(L"News", 0, L"one"); });
-    EXPECT_TRUE(IsWindowEnabled(host));
-    EXPECT_EQ(host, GetActiveWindow());
-    DestroyWindow(host);
+    EXPECT_TRUE(IsWindowEnabled(host.Handle()));
+    EXPECT_EQ(host.Handle(), GetActiveWindow());
 }
 
 struct Fit
