@@ -3,6 +3,8 @@
 #include "automation/ComObject.h"
 #include "sandbox/host/TypedInterface.h"
 
+#include <utility>
+
 namespace sandbox
 {
 
@@ -98,7 +100,10 @@ template<typename Methods>
 class TypedObject : public automation::ComObject<IDispatch>, public Methods
 {
   public:
-    TypedObject(const automation::Object& plain, ComPtr<ITypeInfo> type) : mPlain(plain), mType(type) {}
+    TypedObject(const automation::Object& plain, ComPtr<ITypeInfo> type)
+        : mPlain(plain), mType(std::move(type))
+    {
+    }
 
     STDMETHODIMP QueryInterface(REFIID id, void** result) override
     {

@@ -62,8 +62,7 @@ void KeepCompleted(const ItemDraft& item)
     }
     completed.Put(CreationTime, Now());
     completed.Put(LastModificationTime, Now());
-    const auto links = item.Links();
-    item.Box().Save(item.Folder(), nullptr, ItemKind::Task, completed, &links);
+    item.Box().Save(item.Folder(), nullptr, ItemKind::Task, completed, &item.Links());
 }
 
 } // namespace

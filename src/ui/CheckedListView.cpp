@@ -123,6 +123,7 @@ std::vector<int> CheckedListView::ColumnWidths() const
     const auto header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
     const auto count = static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
     std::vector<int> widths;
+    widths.reserve(static_cast<size_t>(count));
     for (int column = 0; column < count; ++column)
     {
         widths.push_back(ColumnWidth(column));

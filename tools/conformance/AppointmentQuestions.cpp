@@ -19,7 +19,7 @@ automation::Date At(int hour)
 
 Object AtNine(Scratch& scratch)
 {
-    const Object appointment = scratch.New(Kind::Appointment);
+    Object appointment = scratch.New(Kind::Appointment);
     appointment.Put(L"Start", At(9));
     return appointment;
 }

@@ -22,14 +22,14 @@ constexpr const wchar_t* kNoRows = L"SELECT 1 AS Place WHERE 1 = 0";
 
 Object Closed()
 {
-    const Object recordset = Object::Create(L"ADODB.Recordset");
+    Object recordset = Object::Create(L"ADODB.Recordset");
     recordset.Put(L"CursorLocation", kUseClient);
     return recordset;
 }
 
 Object Opened(Scratch& scratch, const wchar_t* sql = kThreeRows)
 {
-    const Object recordset = Closed();
+    Object recordset = Closed();
     recordset.Call(L"Open", sql, scratch.Connection(), kStatic, kReadOnly, kCommandText);
     return recordset;
 }

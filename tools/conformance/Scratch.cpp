@@ -65,7 +65,7 @@ const Object& Scratch::Folder(Kind kind)
 
 Object Scratch::Saved(Kind kind, const std::wstring& name)
 {
-    const Object item = New(kind);
+    Object item = New(kind);
     item.Put(kind == Kind::Contact ? L"FullName" : L"Subject", name);
     item.Call(L"Save");
     return item;
