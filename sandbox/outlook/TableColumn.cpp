@@ -1,5 +1,7 @@
 #include "sandbox/outlook/TableColumn.h"
 
+#include "automation/Dates.h"
+#include "automation/Text.h"
 #include "sandbox/outlook/Failures.h"
 
 #include <algorithm>
