@@ -7,6 +7,7 @@
 #include "state/SharedState.h"
 #include "tests/preview/RandomSides.h"
 
+#include <algorithm>
 #include <iostream>
 
 namespace
@@ -80,11 +81,23 @@ class Comparison
         if (proposal.What == Change::AddToHost && isWritten)
         {
             mRun.HostRows.MoveTo(mRowsBefore + ++mAddedRows);
+            ExpectCompanyShown(preview);
         }
         for (const Difference& field : preview.Fields)
         {
             Compare(field, field.Where == Side::Outlook ? InItem(item, field.Field) : InRow(field.Field));
         }
+    }
+
+    // The account that a new row is linked to.
+    void ExpectCompanyShown(const RecordPreview& preview)
+    {
+        const bool isShown = std::ranges::any_of(preview.Fields, [](const Difference& field) {
+            return field.Where == Side::Host &&
+                   (field.Property == L"Companies" || field.Property == L"CompanyName");
+        });
+        const std::string company = Shown(mRun.HostRows.ValueOf(L"ACC_SNAME"));
+        EXPECT_TRUE(isShown || company.empty()) << company;
     }
 
     static Value InItem(const Object& item, const std::wstring& field)
