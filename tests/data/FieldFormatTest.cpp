@@ -5,6 +5,7 @@
 #include "automation/Error.h"
 #include "automation/Object.h"
 #include "tests/data/CatalogueOffice.h"
+#include "tests/support/Days.h"
 #include "tests/support/MessageBoxes.h"
 
 #include <gtest/gtest.h>
@@ -17,11 +18,10 @@ namespace
 {
 
 using automation::Date;
-using automation::DateOf;
-using automation::Moment;
 using automation::TextOf;
 using automation::Value;
 using data::FormatFieldlValue;
+using test_support::Day;
 using test_support::MessagesDuring;
 using test_support::ShownMessage;
 
@@ -152,7 +152,7 @@ TEST_P(FieldFormat, ATextColumnTakesEveryTypeThatAutomationCanWriteAsText)
     EXPECT_EQ(Literal(L"F_NAME", 12L), L"'12'");
     EXPECT_EQ(Literal(L"F_NAME", 0.5), L"'0.5'");
     EXPECT_EQ(Literal(L"F_NAME", true), L"'True'");
-    EXPECT_EQ(Literal(L"F_NOTES", DateOf(Moment{2003, 5, 6})), L"'5/6/2003'");
+    EXPECT_EQ(Literal(L"F_NOTES", Day(2003, 5, 6)), L"'5/6/2003'");
 }
 
 TEST_P(FieldFormat, AFlagIsZeroForFalseAndOneOtherwise)
@@ -172,7 +172,7 @@ TEST_P(FieldFormat, AFlagIsZeroForFalseAndOneOtherwise)
 
 TEST_P(FieldFormat, ADateIsWrittenMonthFirst)
 {
-    EXPECT_EQ(Literal(L"F_DATE", DateOf(Moment{2003, 5, 6, 23, 59, 59})), L"'05/06/2003'");
+    EXPECT_EQ(Literal(L"F_DATE", Day(2003, 5, 6, 23, 59, 59)), L"'05/06/2003'");
     EXPECT_EQ(Literal(L"F_DATE", L"2003-05-06"), L"'05/06/2003'");
     EXPECT_EQ(Literal(L"F_DATE", L"5/6/2003"), L"'05/06/2003'");
     EXPECT_EQ(Literal(L"F_DATE", 37747L), L"'05/06/2003'");
@@ -180,29 +180,29 @@ TEST_P(FieldFormat, ADateIsWrittenMonthFirst)
 
 TEST_P(FieldFormat, ADateOutsideTheHostsRangeIsClamped)
 {
-    EXPECT_EQ(Literal(L"F_DATE", DateOf(Moment{1700, 1, 1})), L"'01/01/1753'");
-    EXPECT_EQ(Literal(L"F_DATE", DateOf(Moment{1752, 12, 31, 23, 0})), L"'01/01/1753'");
-    EXPECT_EQ(Literal(L"F_DATE", DateOf(Moment{1753, 1, 2})), L"'01/02/1753'");
-    EXPECT_EQ(Literal(L"F_DATE", DateOf(Moment{9999, 12, 30, 12, 0})), L"'12/30/9999'");
-    EXPECT_EQ(Literal(L"F_DATE", DateOf(Moment{9999, 12, 31})), L"'12/30/9999'");
+    EXPECT_EQ(Literal(L"F_DATE", Day(1700, 1, 1)), L"'01/01/1753'");
+    EXPECT_EQ(Literal(L"F_DATE", Day(1752, 12, 31, 23, 0)), L"'01/01/1753'");
+    EXPECT_EQ(Literal(L"F_DATE", Day(1753, 1, 2)), L"'01/02/1753'");
+    EXPECT_EQ(Literal(L"F_DATE", Day(9999, 12, 30, 12, 0)), L"'12/30/9999'");
+    EXPECT_EQ(Literal(L"F_DATE", Day(9999, 12, 31)), L"'12/30/9999'");
     EXPECT_EQ(Literal(L"F_DATE", Raw(VT_DATE, 0x4415AF1D78B58C40)), L"'12/30/9999'"); // 1e20 days
 }
 
 TEST_P(FieldFormat, ATimeHasZeroSeconds)
 {
-    EXPECT_EQ(Literal(L"F_TIME", DateOf(Moment{2003, 5, 6, 10, 15, 42})), L"'10:15:00'");
+    EXPECT_EQ(Literal(L"F_TIME", Day(2003, 5, 6, 10, 15, 42)), L"'10:15:00'");
     EXPECT_EQ(Literal(L"F_TIME", Date{0.75}), L"'18:00:00'");
     EXPECT_EQ(Literal(L"F_TIME", L"10:15:42"), L"'10:15:00'");
 }
 
 TEST_P(FieldFormat, ADateWithTimeHasZeroSecondsAndIsClamped)
 {
-    EXPECT_EQ(Literal(L"F_MOMENT", DateOf(Moment{2003, 5, 6, 22, 4, 59})), L"'05/06/2003 22:04:00'");
-    EXPECT_EQ(Literal(L"F_MOMENT", DateOf(Moment{1700, 1, 1, 8, 30})), L"'01/01/1753 00:00:00'");
-    EXPECT_EQ(Literal(L"F_MOMENT", DateOf(Moment{1753, 1, 1, 8, 30})), L"'01/01/1753 08:30:00'");
-    EXPECT_EQ(Literal(L"F_MOMENT", DateOf(Moment{9999, 12, 30, 23, 58})), L"'12/30/9999 23:58:00'");
-    EXPECT_EQ(Literal(L"F_MOMENT", DateOf(Moment{9999, 12, 30, 23, 59, 30})), L"'12/30/9999 23:59:00'");
-    EXPECT_EQ(Literal(L"F_MOMENT", DateOf(Moment{9999, 12, 31, 23, 59})), L"'12/30/9999 23:59:00'");
+    EXPECT_EQ(Literal(L"F_MOMENT", Day(2003, 5, 6, 22, 4, 59)), L"'05/06/2003 22:04:00'");
+    EXPECT_EQ(Literal(L"F_MOMENT", Day(1700, 1, 1, 8, 30)), L"'01/01/1753 00:00:00'");
+    EXPECT_EQ(Literal(L"F_MOMENT", Day(1753, 1, 1, 8, 30)), L"'01/01/1753 08:30:00'");
+    EXPECT_EQ(Literal(L"F_MOMENT", Day(9999, 12, 30, 23, 58)), L"'12/30/9999 23:58:00'");
+    EXPECT_EQ(Literal(L"F_MOMENT", Day(9999, 12, 30, 23, 59, 30)), L"'12/30/9999 23:59:00'");
+    EXPECT_EQ(Literal(L"F_MOMENT", Day(9999, 12, 31, 23, 59)), L"'12/30/9999 23:59:00'");
 }
 
 TEST_P(FieldFormat, ATextThatIsNoDateFailsTheColumn)

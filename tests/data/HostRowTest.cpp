@@ -1,9 +1,9 @@
 #include "data/HostRow.h"
 #include "data/ContractForms.h"
 
-#include "automation/Dates.h"
 #include "automation/Error.h"
 #include "tests/data/CatalogueOffice.h"
+#include "tests/support/Days.h"
 #include "tests/support/MessageBoxes.h"
 #include "tests/support/WithLanguage.h"
 
@@ -15,6 +15,7 @@ namespace
 using automation::Value;
 using data::AddInsertField;
 using data::AddUpdateField;
+using test_support::Day;
 using test_support::MessagesDuring;
 
 class SqlFragments : public testing::Test
@@ -51,7 +52,7 @@ TEST_F(SqlFragments, AnUpdateListsColumnAndLiteral)
 {
     EXPECT_EQ(Update(L"F_NAME", L"O'Brien"), 0);
     EXPECT_EQ(SetList, L"F_NAME='O''Brien'");
-    EXPECT_EQ(Update(L"F_DATE", automation::DateOf(automation::Moment{2003, 5, 6})), 0);
+    EXPECT_EQ(Update(L"F_DATE", Day(2003, 5, 6)), 0);
     EXPECT_EQ(SetList, L"F_NAME='O''Brien',F_DATE='05/06/2003'");
 }
 

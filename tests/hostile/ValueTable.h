@@ -2,9 +2,9 @@
 // stand for their columns.
 #pragma once
 
-#include "automation/Dates.h"
 #include "automation/Text.h"
 #include "sandbox/host/RelationRows.h"
+#include "tests/support/Days.h"
 #include "tests/support/PageTable.h"
 
 #include <array>
@@ -18,15 +18,14 @@ inline constexpr size_t kValueColumns = 7;
 // In the order of the tables' columns, after kind and properties.
 inline std::array<automation::Value, kValueColumns> ValuesOfColumns()
 {
-    using automation::DateOf;
     using automation::Value;
     return {Value(),
             Value::Null(),
             Value(L""),
             Value(std::wstring(10000, L'x')),
-            DateOf(automation::Moment{1500, 5, 6, 10, 15}),
-            DateOf(automation::Moment{1850, 5, 6, 10, 15}),
-            DateOf(automation::Moment{9999, 5, 6, 10, 15})};
+            Day(1500, 5, 6, 10, 15),
+            Day(1850, 5, 6, 10, 15),
+            Day(9999, 5, 6, 10, 15)};
 }
 
 // The entries of a cell, "A, B, C".

@@ -9,7 +9,6 @@ namespace
 {
 
 using namespace test_support;
-using automation::Moment;
 using sandbox::Literal;
 
 constexpr const char* kPageOfValues = "exchange-rules.md";
@@ -26,7 +25,7 @@ const SourceKind kSourceKinds[] = {
     {kTaskKind,
      "Task",
      {{L"Subject", L"Call"},
-      {L"StartDate", automation::DateOf(Moment{2003, 5, 6})},
+      {L"StartDate", Day(2003, 5, 6)},
       {L"Status", 2L},
       {L"PercentComplete", 100L},
       {L"Importance", 1L},
@@ -36,20 +35,17 @@ const SourceKind kSourceKinds[] = {
     {kCalendarKind,
      "Calendar",
      {{L"Subject", L"Board"},
-      {L"Start", automation::DateOf(Moment{2003, 5, 6, 9, 30})},
-      {L"End", automation::DateOf(Moment{2003, 5, 6, 10, 30})},
+      {L"Start", Day(2003, 5, 6, 9, 30)},
+      {L"End", Day(2003, 5, 6, 10, 30)},
       {L"AllDayEvent", false},
       {L"IsRecurring", false},
       {L"ReminderSet", true}}},
 };
 
 // Of the appointment, where it is made a recurring one.
-const ItemValues kDailySeries{{L"RecurrenceType", 0L},
-                              {L"StartTime", automation::Date{0.25}},
-                              {L"EndTime", automation::Date{0.5}},
-                              {L"Duration", 360L},
-                              {L"PatternStartDate", automation::DateOf(Moment{2003, 5, 6})},
-                              {L"PatternEndDate", automation::DateOf(Moment{2003, 5, 9})}};
+const ItemValues kDailySeries{
+    {L"RecurrenceType", 0L}, {L"StartTime", automation::Date{0.25}}, {L"EndTime", automation::Date{0.5}},
+    {L"Duration", 360L},     {L"PatternStartDate", Day(2003, 5, 6)}, {L"PatternEndDate", Day(2003, 5, 9)}};
 
 // Properties that reach a column of the host by another way than a relation row of their own.
 struct OtherWay

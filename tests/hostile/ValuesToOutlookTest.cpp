@@ -13,7 +13,6 @@ namespace
 
 using namespace test_support;
 using automation::DateOf;
-using automation::Moment;
 using automation::TextOf;
 using automation::TextOrEmpty;
 using automation::Value;
@@ -34,15 +33,15 @@ const TargetKind kTargetKinds[] = {
     {kContactKind,
      "Contact",
      L"JobTitle",
-     {{L"Birthday", DateOf(Moment{2003, 5, 6})}, {L"Anniversary", DateOf(Moment{2003, 5, 6})}},
+     {{L"Birthday", Day(2003, 5, 6)}, {L"Anniversary", Day(2003, 5, 6)}},
      {}},
     {kTaskKind,
      "Task",
      L"Subject",
-     {{L"CreationTime", DateOf(Moment{2003, 5, 1})},
-      {L"StartDate", DateOf(Moment{2003, 5, 6})},
-      {L"DueDate", DateOf(Moment{2003, 5, 8})},
-      {L"DateCompleted", DateOf(Moment{2003, 5, 7})},
+     {{L"CreationTime", Day(2003, 5, 1)},
+      {L"StartDate", Day(2003, 5, 6)},
+      {L"DueDate", Day(2003, 5, 8)},
+      {L"DateCompleted", Day(2003, 5, 7)},
       {L"Status", 2},
       {L"Complete", true},
       {L"PercentComplete", 100},
@@ -50,7 +49,7 @@ const TargetKind kTargetKinds[] = {
       {L"TotalWork", 7},
       {L"ActualWork", 7},
       {L"ReminderSet", true},
-      {L"ReminderTime", DateOf(Moment{2001, 1, 1, 8, 0})}},
+      {L"ReminderTime", Day(2001, 1, 1, 8, 0)}},
      {{L"F_ACTPSTIME", Value()},
       {L"CONTACT_SURNAME", L"Smith"},
       {L"CONTACT_GIVENNAME", L"Mary"},
@@ -58,10 +57,8 @@ const TargetKind kTargetKinds[] = {
     {kCalendarKind,
      "Calendar",
      L"Subject",
-     {{L"Start", DateOf(Moment{2003, 5, 6, 8, 0})},
-      {L"End", DateOf(Moment{2003, 5, 6, 9, 0})},
-      {L"ReminderSet", true}},
-     {{L"F_ACTESDATE", DateOf(Moment{2003, 6, 7})},
+     {{L"Start", Day(2003, 5, 6, 8, 0)}, {L"End", Day(2003, 5, 6, 9, 0)}, {L"ReminderSet", true}},
+     {{L"F_ACTESDATE", Day(2003, 6, 7)},
       {L"F_ACTESTIME", Value()},
       {L"F_ACTEETIME", Value()},
       {L"F_ACTREPTEDATE", Value()},
@@ -169,8 +166,7 @@ class ValuesToOutlook : public OfficeFixture
     {
         RowValues row = kind.others;
         row[L"WITNESS"] = L"behind";
-        row.emplace(entry.column,
-                    entry.property == kind.witness ? Value(L"behind") : Value(DateOf(Moment{2003, 6, 7})));
+        row.emplace(entry.column, entry.property == kind.witness ? Value(L"behind") : Value(Day(2003, 6, 7)));
         sandbox::ResultSet rows;
         rows.rows.resize(2);
         for (const auto& [column, good] : row)

@@ -5,6 +5,7 @@
 #include "state/SharedState.h"
 #include "tasks/Tasks.h"
 #include "tests/run/MatchByRule.h"
+#include "tests/support/Days.h"
 
 #include <gtest/gtest.h>
 
@@ -17,8 +18,8 @@ using automation::DateOf;
 using automation::Moment;
 using automation::Value;
 
-const Date kDay = DateOf(Moment{2003, 5, 6});
-const Date kNoDate = DateOf(Moment{4501, 1, 1});
+const Date kDay = Day(2003, 5, 6);
+const Date kNoDate = Day(4501, 1, 1);
 
 // The same record on both sides, with one value on either side replaced.
 bool TasksMatchWith(const wchar_t* property, const Value& inItem, const wchar_t* column, const Value& inRow)
@@ -106,9 +107,9 @@ TEST(MatchTask, NoTextCanPassForTwo)
 
 TEST(MatchTask, OnlyTheDayOfTheStartCounts)
 {
-    EXPECT_TRUE(StartsMatch(kDay, DateOf(Moment{2003, 5, 6, 23, 59, 59})));
-    EXPECT_FALSE(StartsMatch(kDay, DateOf(Moment{2003, 5, 7})));
-    EXPECT_FALSE(StartsMatch(kDay, DateOf(Moment{2004, 5, 6})));
+    EXPECT_TRUE(StartsMatch(kDay, Day(2003, 5, 6, 23, 59, 59)));
+    EXPECT_FALSE(StartsMatch(kDay, Day(2003, 5, 7)));
+    EXPECT_FALSE(StartsMatch(kDay, Day(2004, 5, 6)));
 }
 
 TEST(MatchTask, AStartThatTheHostKeepsAsTextIsComparedAsADate)
@@ -167,7 +168,7 @@ class MatchAppointment : public testing::Test
 
 TEST_F(MatchAppointment, TheDayAndTheTimeOfTheHostStandInColumnsOfTheirOwn)
 {
-    const Record item = Appointment(DateOf(Moment{2003, 5, 6, 9, 30}));
+    const Record item = Appointment(Day(2003, 5, 6, 9, 30));
     EXPECT_TRUE(Match(item, Entry(kDay, DateOf(Moment{.hour = 9, .minute = 30}))));
     EXPECT_FALSE(Match(item, Entry(kDay, DateOf(Moment{.hour = 9, .minute = 31}))));
     EXPECT_FALSE(Match(item, Entry(Date{kDay.days + 1}, DateOf(Moment{.hour = 9, .minute = 30}))));
@@ -175,13 +176,13 @@ TEST_F(MatchAppointment, TheDayAndTheTimeOfTheHostStandInColumnsOfTheirOwn)
 
 TEST_F(MatchAppointment, OnlyTheDayOfTheDayColumnAndTheTimeOfTheTimeColumnCount)
 {
-    const Record item = Appointment(DateOf(Moment{2003, 5, 6, 9, 30}));
-    EXPECT_TRUE(Match(item, Entry(DateOf(Moment{2003, 5, 6, 17, 0}), DateOf(Moment{2001, 1, 1, 9, 30}))));
+    const Record item = Appointment(Day(2003, 5, 6, 9, 30));
+    EXPECT_TRUE(Match(item, Entry(Day(2003, 5, 6, 17, 0), Day(2001, 1, 1, 9, 30))));
 }
 
 TEST_F(MatchAppointment, SecondsAreIgnoredOnBothSides)
 {
-    const Record item = Appointment(DateOf(Moment{2003, 5, 6, 9, 30, 59}));
+    const Record item = Appointment(Day(2003, 5, 6, 9, 30, 59));
     EXPECT_TRUE(Match(item, Entry(kDay, DateOf(Moment{.hour = 9, .minute = 30, .second = 1}))));
     EXPECT_FALSE(Match(item, Entry(kDay, DateOf(Moment{.hour = 9, .minute = 31}))));
 }
@@ -189,7 +190,7 @@ TEST_F(MatchAppointment, SecondsAreIgnoredOnBothSides)
 TEST_F(MatchAppointment, WithoutATimeAnEntryStartsAtMidnight)
 {
     EXPECT_TRUE(Match(Appointment(kDay), Entry(kDay, Value::Null())));
-    EXPECT_FALSE(Match(Appointment(DateOf(Moment{2003, 5, 6, 9, 30})), Entry(kDay, Value())));
+    EXPECT_FALSE(Match(Appointment(Day(2003, 5, 6, 9, 30)), Entry(kDay, Value())));
 }
 
 TEST_F(MatchAppointment, AnAllDayAppointmentMatchesTheEntryAtTheConfiguredStartOfTheDay)

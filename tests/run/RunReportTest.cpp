@@ -5,6 +5,7 @@
 #include "exchange/Report.h"
 #include "sandbox/dispatch/DispatchObject.h"
 #include "state/SharedState.h"
+#include "tests/support/Days.h"
 #include "tests/support/MessageBoxes.h"
 
 #include <functional>
@@ -237,7 +238,7 @@ TEST_F(RunReport, AnItemWithoutItsRequiredTextIsNotWritten)
 {
     Mailbox->AddItem(kContactRun.folder, {{L"LastName", L"Only"}});
     Mailbox->AddItem(kTaskRun.folder, {{L"Companies", L"Subjectless Inc."}});
-    Mailbox->AddItem(kCalendarRun.folder, {{L"Start", automation::DateOf(automation::Moment{2003, 5, 7})}});
+    Mailbox->AddItem(kCalendarRun.folder, {{L"Start", Day(2003, 5, 7)}});
     const wchar_t* const fields[] = {L"Subject", L"Subject", L"FirstName"};
     size_t i = 0;
     for (const RunKind& kind : kRuns)

@@ -3,6 +3,7 @@
 #include "sandbox/outlook/PropertyTable.h"
 #include "tests/run/RunsFixture.h"
 #include "tests/support/CallWatch.h"
+#include "tests/support/Days.h"
 #include "tests/support/RunCodes.h"
 
 #include "automation/Text.h"
@@ -11,8 +12,6 @@ namespace
 {
 
 using namespace test_support;
-using automation::DateOf;
-using automation::Moment;
 using automation::Value;
 using sandbox::Mailbox;
 
@@ -37,7 +36,7 @@ const DifferingPair kTaskPair{
              {L"Importance", 2},
              {L"PercentComplete", 75},
              {L"Status", 1},
-             {L"DueDate", DateOf(Moment{2003, 5, 9})}},
+             {L"DueDate", Day(2003, 5, 9)}},
     .saves = L"TaskItem.Save",
     .query = L"SELECT F_ACTPRIORITY||'|'||F_ACTPERCENT||'|'||F_ACTPETIME FROM TBLACTIVITY",
     .host = L"3|0.75|2003-05-09 00:00:00",
@@ -50,8 +49,8 @@ const DifferingPair kCalendarPair{
            L"F_ACTREMIND) VALUES ('E1',1,'Board','2003-05-06 00:00:00','1899-12-30 09:30:00',"
            L"'1899-12-30 10:30:00',0)",
     .item = {{L"Subject", L"Board"},
-             {L"Start", DateOf(Moment{2003, 5, 6, 9, 30})},
-             {L"End", DateOf(Moment{2003, 5, 6, 12, 0})},
+             {L"Start", Day(2003, 5, 6, 9, 30)},
+             {L"End", Day(2003, 5, 6, 12, 0)},
              {L"ReminderSet", true}},
     .saves = L"AppointmentItem.Save",
     .query = L"SELECT time(F_ACTEETIME)||'|'||F_ACTREMIND||'|'||F_ACTTYPE||'|'||date(F_ACTEEDATE) FROM "
