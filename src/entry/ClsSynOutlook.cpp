@@ -7,6 +7,8 @@
 #include "entry/SynLoad.h"
 #include "state/SharedState.h"
 
+#include <olectl.h>
+
 namespace entry
 {
 

@@ -3,6 +3,7 @@
 // the writer rolls back.
 #pragma once
 
+#include "data/FieldCatalogue.h"
 #include "data/Host.h"
 
 #include <string>

@@ -70,7 +70,10 @@ Shape Within(Shape shape, Shape other)
     };
 }
 
-PaintedIcon::PaintedIcon(int size) : mSize(size), mPixels(static_cast<size_t>(size) * size) {}
+PaintedIcon::PaintedIcon(int size)
+    : mSize(size), mPixels(static_cast<size_t>(size) * static_cast<size_t>(size))
+{
+}
 
 double PaintedIcon::CoverageOf(const Shape& shape, int x, int y) const
 {
@@ -103,7 +106,8 @@ void PaintedIcon::Fill(const Shape& shape, COLORREF color)
 
 DWORD PaintedIcon::PixelAt(int x, int y) const
 {
-    const Pixel& pixel = mPixels[static_cast<size_t>(y) * mSize + x];
+    const size_t line = static_cast<size_t>(y) * static_cast<size_t>(mSize);
+    const Pixel& pixel = mPixels[line + static_cast<size_t>(x)];
     if (pixel.opacity <= 0)
     {
         return 0;
@@ -131,13 +135,14 @@ Bitmap PaintedIcon::ColorBitmap() const
 
 Bitmap PaintedIcon::MaskBitmap() const
 {
-    const size_t lineBytes = static_cast<size_t>(mSize + 15) / 16 * 2; // lines are padded to 16 pixels
-    std::vector<BYTE> bits(lineBytes * mSize);
-    for (int i = 0; i < mSize * mSize; ++i)
+    const auto size = static_cast<size_t>(mSize);
+    const size_t lineBytes = (size + 15) / 16 * 2; // lines are padded to 16 pixels
+    std::vector<BYTE> bits(lineBytes * size);
+    for (size_t i = 0; i < size * size; ++i)
     {
-        const bool transparent = PixelAt(i % mSize, i / mSize) >> 24 < 128;
-        bits[lineBytes * (i / mSize) + i % mSize / 8] |=
-            static_cast<BYTE>((transparent ? 0x80 : 0) >> i % mSize % 8);
+        const bool transparent = PixelAt(static_cast<int>(i % size), static_cast<int>(i / size)) >> 24 < 128;
+        bits[lineBytes * (i / size) + i % size / 8] |=
+            static_cast<BYTE>((transparent ? 0x80 : 0) >> i % size % 8);
     }
     return Checked(CreateBitmap(mSize, mSize, 1, 1, bits.data()));
 }

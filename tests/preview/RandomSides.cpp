@@ -102,7 +102,7 @@ std::wstring RandomSides::AddCompany(size_t number)
     {
         return {};
     }
-    const std::wstring key = Numbered(L"A", number);
+    std::wstring key = Numbered(L"A", number);
     sandbox::AddRows(TheHost.Database(), L"TBLACCOUNT", L"F_ACCID,F_CREATORID,F_ACCSNAME",
                      {{key, 1L, CompanyOf(number)}});
     if (number % 2 == 0)
