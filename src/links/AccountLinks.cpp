@@ -118,52 +118,65 @@ Links LinksOfPresentAccount(AccountTables& tables, const PresentContact& present
     return accounts.AtEnd() ? Links() : LinksOfFoundAccount(tables, accounts);
 }
 
-// If the user may not make the link, keep the existing contact's one. A key is written whole: cut to the size
-// of its column it would name no row, and a driver may put braces around a GUID.
-void AddLink(HostRow& contact, bool isNew, const wchar_t* column, const std::wstring& key)
-{
-    if (!key.empty())
-    {
-        contact.AddLiteral(column, QuotedText(key));
-    }
-    else if (isNew)
-    {
-        contact.Add(column, key);
-    }
-}
-
 // Whether the contact moves to another account; false when the host cannot say.
 bool ChangesAccount(const std::wstring& contactKey, const std::wstring& account)
 {
     return PresentAccount(contactKey).value_or(account) != account;
 }
 
-// An address belongs to its account: a contact that moves to another account leaves the address behind, even
-// if the user may not give it another one.
-void AddLinks(HostRow& contact, const Links& links, const PresentContact* present)
+// The two columns of the contact's row: nothing for one that stays, the empty text for NULL.
+struct LinkColumns
 {
-    AddLink(contact, present == nullptr, L"F_ACCID", links.account);
-    AddLink(contact, present == nullptr, L"F_CNTADDRID", links.address);
+    std::optional<std::wstring> Account;
+    std::optional<std::wstring> Address;
+};
+
+// If the user may not make a link, keep the existing contact's one. An address belongs to its account: a
+// contact that moves to another account leaves the address behind, even if the user may not give it another
+// one.
+LinkColumns ColumnsOf(const Links& links, const PresentContact* present)
+{
+    const auto columnOf = [&](const std::wstring& key) {
+        return key.empty() && present != nullptr ? std::nullopt : std::optional(key);
+    };
+    LinkColumns columns{columnOf(links.account), columnOf(links.address)};
     const bool isAccountOnly = !links.account.empty() && links.address.empty();
     if (present != nullptr && isAccountOnly && ChangesAccount(present->Key, links.account))
     {
-        contact.Add(L"F_CNTADDRID", Value::Null());
+        columns.Address = L"";
     }
+    return columns;
 }
 
 // present: null for a new contact.
-void AddLinksOf(AccountTables& tables, HostRow& contact, const PresentContact* present)
+LinkColumns MakeLinks(AccountTables& tables, const PresentContact* present)
 {
     const std::wstring companyName = Trimmed(TextOrEmpty(tables.Item().Get(L"CompanyName")));
     if (companyName.empty())
     {
-        contact.Add(L"F_ACCID", Value::Null());
-        contact.Add(L"F_CNTADDRID", Value::Null());
-        return;
+        return {L"", L""};
     }
     const bool stays = present != nullptr && IsSameCompany(companyName, present->Company);
-    AddLinks(contact, stays ? LinksOfPresentAccount(tables, *present) : LinksOfCompany(tables, companyName),
-             present);
+    return ColumnsOf(stays ? LinksOfPresentAccount(tables, *present) : LinksOfCompany(tables, companyName),
+                     present);
+}
+
+// A key is written whole: cut to the size of its column it would name no row, and a driver may put braces
+// around a GUID.
+void PutLink(HostRow& contact, const wchar_t* column, const std::optional<std::wstring>& key)
+{
+    if (!key)
+    {
+        return;
+    }
+    if (key->empty())
+    {
+        contact.Add(column, Value::Null());
+    }
+    else
+    {
+        contact.AddLiteral(column, QuotedText(*key));
+    }
 }
 
 const Value* FindColumn(const std::vector<data::HeldColumn>& columns, std::wstring_view name)
@@ -192,26 +205,27 @@ void AddAccountLinks(const Host& host, const automation::ItemView& item, HostRow
                      const PresentContact* present)
 {
     WrittenTables tables(host, contact.Catalogue(), item);
-    AddLinksOf(tables, contact, present);
+    const LinkColumns columns = MakeLinks(tables, present);
+    PutLink(contact, L"F_ACCID", columns.Account);
+    PutLink(contact, L"F_CNTADDRID", columns.Address);
 }
 
 AccountPreview PreviewAccountLinks(const Host& host, data::FieldCatalogue& catalogue,
                                    const automation::ItemView& item, const PresentContact* present)
 {
     KeptTables tables(host, catalogue, item);
-    data::KeptRow contact(catalogue);
-    AddLinksOf(tables, contact, present);
+    const LinkColumns columns = MakeLinks(tables, present);
     AccountPreview preview;
-    if (const Value* const account = FindColumn(contact.Columns(), L"F_ACCID"))
+    if (columns.Account)
     {
         preview.IsNewCompany = !tables.NewCompany.empty();
-        preview.Company = preview.IsNewCompany                  ? tables.NewCompany
-                          : automation::IsEmptyOrNull(*account) ? L""
-                                                                : NameOfAccount(automation::TextOf(*account));
+        preview.Company = preview.IsNewCompany       ? tables.NewCompany
+                          : columns.Account->empty() ? L""
+                                                     : NameOfAccount(*columns.Account);
     }
-    if (const Value* const address = FindColumn(contact.Columns(), L"F_CNTADDRID"))
+    if (columns.Address)
     {
-        AddAddress(automation::IsEmptyOrNull(*address), tables.Address, preview);
+        AddAddress(columns.Address->empty(), tables.Address, preview);
     }
     return preview;
 }
