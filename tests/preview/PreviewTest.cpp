@@ -58,6 +58,9 @@ class Comparison
         {
             Compare(mProposals[i], mPreviews[i]);
         }
+        // Each record that a preview takes for written is there, and no other one.
+        EXPECT_EQ(mItemsBefore + mAddedItems, mSides.Mailbox->ItemCount(mSides.Kind.folder));
+        EXPECT_EQ(mRowsBefore + mAddedRows, mRun.HostRows.RecordCount());
     }
 
     long Records() const { return static_cast<long>(mPreviews.size()); }
