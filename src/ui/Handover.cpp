@@ -63,6 +63,7 @@ bool CopyToClipboard(HWND owner, const std::wstring& text)
     const bool isTaken = memory != nullptr && SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
     if (!isTaken)
     {
+        // cppcheck-suppress doubleFree ; the clipboard has the memory only if it took it
         GlobalFree(memory);
     }
     CloseClipboard();
