@@ -42,6 +42,7 @@ TEST(Secrets, TextLiteralsOfAStatementAreMaskedAndApostrophesStay)
     EXPECT_EQ(L"converting '***' to int", WithoutSecrets(L"converting 'it's here' to int", {}));
     EXPECT_EQ(L"near '***'", WithoutSecrets(L"near 'a statement that has been cu", {}));
     EXPECT_EQ(L"'***'", WithoutSecrets(L"'", {}));
+    EXPECT_EQ(L"near '***'", WithoutSecrets(L"near 'it's", {}));
     EXPECT_EQ(L"near ('***','***')", WithoutSecrets(L"near ('','Smith')", {}));
 }
 
