@@ -180,20 +180,23 @@ TEST(FrmMessage, AOneWayRunShowsOnlyItsSectionInTheFirstPlaceAndTheDialogClosesU
 
 TEST(FrmMessage, AnyOtherDirectionKeepsTheLayoutsCaptions)
 {
-    const Interface english(Language::English);
-    Confirm(0, SomeChanges(), L"Task", [&](Robot&, const ShownDialog& dialog) {
-        EXPECT_EQ(L"Quenlar To Outlook", dialog.Text(IDC_MESSAGE_TO_OL_TITLE));
-        EXPECT_EQ(L"Outlook To Quenlar", dialog.Text(IDC_MESSAGE_TO_SYN_TITLE));
-        for (const int id : {IDC_MESSAGE_TO_OL_NEW, IDC_MESSAGE_TO_SYN_NEW})
-        {
-            EXPECT_EQ(L"Add New", dialog.Text(id));
-        }
-        for (const int id : {IDC_MESSAGE_TO_OL_MODIFY, IDC_MESSAGE_TO_SYN_MODIFY})
-        {
-            EXPECT_EQ(L"Modify", dialog.Text(id));
-        }
-        dialog.Click(IDCANCEL);
-    });
+    for (const Language language : kLanguages)
+    {
+        const Interface with(language);
+        Confirm(0, SomeChanges(), L"Task", [&](Robot&, const ShownDialog& dialog) {
+            EXPECT_EQ(L"Quenlar To Outlook", dialog.Text(IDC_MESSAGE_TO_OL_TITLE));
+            EXPECT_EQ(L"Outlook To Quenlar", dialog.Text(IDC_MESSAGE_TO_SYN_TITLE));
+            for (const int id : {IDC_MESSAGE_TO_OL_NEW, IDC_MESSAGE_TO_SYN_NEW})
+            {
+                EXPECT_EQ(L"Add New", dialog.Text(id));
+            }
+            for (const int id : {IDC_MESSAGE_TO_OL_MODIFY, IDC_MESSAGE_TO_SYN_MODIFY})
+            {
+                EXPECT_EQ(L"Modify", dialog.Text(id));
+            }
+            dialog.Click(IDCANCEL);
+        });
+    }
 }
 
 struct WayOut
