@@ -14,7 +14,6 @@ namespace preview
 
 using automation::Date;
 using automation::Value;
-using exchange::Change;
 using exchange::Difference;
 using exchange::Proposal;
 using exchange::Side;
