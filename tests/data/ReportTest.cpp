@@ -134,7 +134,7 @@ TEST_F(ReportOfARun, ThereIsSomethingToTellOfRemarksOfOtherItemsAndOfRecordsNotR
     plain.Accept(Change::AddToHost, 1);
     plain.Record(Change::AddToHost, {}, [] {});
     EXPECT_FALSE(plain.HasSomethingToTell());
-    plain.CountOtherItems(2);
+    plain.CountOtherItems(1);
     EXPECT_TRUE(plain.HasSomethingToTell());
     Report notReached;
     notReached.Accept(Change::AddToHost, 1);

@@ -1,4 +1,4 @@
-// Which values of a list of changes read alike, and a change that a missing right costs.
+// Which values of a list of changes read alike, and what keeps a change from being made.
 #include "exchange/Difference.h"
 
 #include "automation/Dates.h"
@@ -65,6 +65,21 @@ TEST(Preview, TellsTheRightThatANewContactsAccountLacks)
     };
     EXPECT_EQ(0, remarksWith(0));
     EXPECT_EQ(2, remarksWith(1)) << "two of six contacts have a company";
+}
+
+TEST(Preview, TellsThatAnItemHasGone)
+{
+    test_support::RandomSides sides(test_support::kRandomTasks, 1);
+    sides.Add(0, 1, 0);
+    exchange::Run& run = sides.Collect(state::kOutlookToQuenlar);
+    exchange::Preview preview(sides.Kind.tested, run);
+    run.Items.GetObject(L"Item", 1L).Call(L"Delete");
+    const auto proposals = exchange::ProposalsOf(run.Pending, state::kOutlookToQuenlar);
+    ASSERT_EQ(1u, proposals.size());
+    const exchange::RecordPreview gone = preview.Of(proposals.front());
+    EXPECT_FALSE(gone.IsWritten());
+    ASSERT_EQ(1u, gone.Remarks.size());
+    EXPECT_EQ(state::Cause::Vanished, gone.Remarks.front().Why);
 }
 
 } // namespace
