@@ -122,7 +122,7 @@ std::wstring Cut(std::wstring text, size_t length, TextUnit unit)
     while (BytesOf(text, unit) > length)
     {
         const bool isPair = text.size() > 1 && IS_LOW_SURROGATE(text.back());
-        text.resize(text.size() - (isPair ? 2 : 1));
+        text.erase(text.size() - (isPair ? 2 : 1));
     }
     return text;
 }
