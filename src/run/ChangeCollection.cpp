@@ -52,7 +52,7 @@ ChangeCollection::Reading::Reading(const exchange::Kind& kind, const exchange::F
                                    exchange::Run& run, bool usesTable)
     : Items(kind.Match, filters, run, state::WritesToHost(state::Shared().gSynParameter.TransType),
             usesTable),
-      Rows(kind.Match, run.HostRows, kind.KeyColumn),
+      Rows(kind.Match, run, kind.KeyColumn),
       ItemIndex(Items),
       RowIndex(Rows)
 {
@@ -168,10 +168,10 @@ void ChangeCollection::AddPair(long item, long row, long mark)
     }
 }
 
-std::optional<std::wstring> ChangeCollection::EntryIdOf(long item)
+std::optional<data::StoredText> ChangeCollection::EntryIdOf(long item)
 {
     ItemKeys& items = mReading->Items;
-    return items.ReadRecord(item, std::optional<std::wstring>(),
+    return items.ReadRecord(item, std::optional<data::StoredText>(),
                             [&] { return std::optional(items.EntryId(item)); });
 }
 
@@ -228,10 +228,10 @@ void ChangeCollection::AddItem(long item)
         data::ClsOlRecord& record =
             mRun.Pending.NewOutlookItems.Add(std::to_wstring(item), data::kNewRecordMark);
         record.EntryId = *entryId;
-        if (entryId->empty())
+        if (entryId->IsEmpty())
         {
             // A key that cannot be read tells nothing.
-            record.FirstKey = state::Trapped(std::wstring(), [&] { return mReading->Items.First(item); });
+            record.FirstKey = state::Trapped(data::StoredText(), [&] { return mReading->Items.First(item); });
         }
     }
 }

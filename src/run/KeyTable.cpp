@@ -1,7 +1,5 @@
 #include "run/KeyTable.h"
 
-#include <functional>
-
 namespace run
 {
 
@@ -27,16 +25,15 @@ void KeyTable::Add()
     last = position;
 }
 
-long KeyTable::First(std::wstring_view key) const
+long KeyTable::First(data::StoredText key) const
 {
-    return static_cast<long>(mFirsts.Find(std::hash<std::wstring_view>()(key), [&](std::uint32_t number) {
-        return mRecords.First(static_cast<long>(number)) == key;
-    }));
+    return static_cast<long>(mFirsts.Find(
+        key.Hash(), [&](std::uint32_t number) { return mRecords.First(static_cast<long>(number)) == key; }));
 }
 
 size_t KeyTable::HashOf(long position) const
 {
-    return std::hash<std::wstring_view>()(mRecords.First(position));
+    return mRecords.First(position).Hash();
 }
 
 } // namespace run

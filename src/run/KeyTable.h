@@ -6,7 +6,6 @@
 #include "run/NumberTable.h"
 #include "run/RecordKeys.h"
 
-#include <string_view>
 #include <vector>
 
 namespace run
@@ -24,7 +23,7 @@ class KeyTable
     long Count() const noexcept { return static_cast<long>(mNext.size()) - 1; }
 
     // The first record with this key, and the next one with the key of a record; 0 for none.
-    long First(std::wstring_view key) const;
+    long First(data::StoredText key) const;
     long Next(long position) const { return mNext[static_cast<size_t>(position)]; }
 
   private:
