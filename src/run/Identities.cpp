@@ -11,16 +11,17 @@ bool Identities::Add(long position, data::StoredText identity)
         mByPosition.resize(index + 1);
     }
     mByPosition[index] = identity;
-    const auto at = [this](std::uint32_t other) { return At(static_cast<long>(other)); };
     if (identity.IsEmpty())
     {
         return true;
     }
-    if (mTable.Find(identity.Hash(), [&](std::uint32_t other) { return at(other) == identity; }) != 0)
+    const size_t hash = identity.Hash();
+    const auto isSame = [&](std::uint32_t other) { return At(static_cast<long>(other)) == identity; };
+    if (mTable.Find(hash, isSame) != 0)
     {
         return false;
     }
-    mTable.Add(static_cast<std::uint32_t>(position), [&](std::uint32_t other) { return at(other).Hash(); });
+    mTable.Add(static_cast<std::uint32_t>(position), hash);
     return true;
 }
 

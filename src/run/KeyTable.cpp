@@ -13,11 +13,12 @@ void KeyTable::Add()
 {
     const long position = Count() + 1;
     Skip();
-    const long first = First(mRecords.First(position));
+    const data::StoredText key = mRecords.First(position);
+    const size_t hash = key.Hash();
+    const long first = Find(key, hash);
     if (first == 0)
     {
-        mFirsts.Add(static_cast<std::uint32_t>(position),
-                    [this](std::uint32_t number) { return HashOf(static_cast<long>(number)); });
+        mFirsts.Add(static_cast<std::uint32_t>(position), hash);
         return;
     }
     long& last = mLast[static_cast<size_t>(first)];
@@ -27,13 +28,13 @@ void KeyTable::Add()
 
 long KeyTable::First(data::StoredText key) const
 {
-    return static_cast<long>(mFirsts.Find(
-        key.Hash(), [&](std::uint32_t number) { return mRecords.First(static_cast<long>(number)) == key; }));
+    return Find(key, key.Hash());
 }
 
-size_t KeyTable::HashOf(long position) const
+long KeyTable::Find(data::StoredText key, size_t hash) const
 {
-    return mRecords.First(position).Hash();
+    return static_cast<long>(mFirsts.Find(
+        hash, [&](std::uint32_t number) { return mRecords.First(static_cast<long>(number)) == key; }));
 }
 
 } // namespace run

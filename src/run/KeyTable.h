@@ -27,7 +27,8 @@ class KeyTable
     long Next(long position) const { return mNext[static_cast<size_t>(position)]; }
 
   private:
-    size_t HashOf(long position) const;
+    // The first record with this key.
+    long Find(data::StoredText key, size_t hash) const;
 
     RecordKeys& mRecords;
     NumberTable mFirsts;        // the first record of every chain, by its key
