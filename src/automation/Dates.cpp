@@ -1,6 +1,7 @@
 #include "automation/Dates.h"
 
 #include "automation/Error.h"
+#include "automation/Text.h"
 
 #include <cmath>
 
@@ -12,9 +13,13 @@ namespace automation
 namespace
 {
 
+// 1 January 100 and 31 December 9999, between which the system knows every day.
+constexpr double kFirstDay = -657434;
+constexpr double kLastDay = 2958465;
+
 std::wstring Padded(int number, size_t digits)
 {
-    std::wstring text = std::to_wstring(number);
+    std::wstring text = DecimalText(number);
     return text.size() < digits ? std::wstring(digits - text.size(), L'0') + text : text;
 }
 
@@ -115,6 +120,13 @@ std::wstring Formatted(Date date, std::wstring_view pattern)
 
 Date DayOf(Date date)
 {
+    // The system rounds to the second: only the last second of a day may belong to the next one.
+    constexpr double kLastSecond = 1 - 1.0 / 86400;
+    const double day = std::trunc(date.days);
+    if (day > kFirstDay && day < kLastDay && std::abs(date.days - day) < kLastSecond)
+    {
+        return Date{day + 0.0}; // no negative zero
+    }
     const Moment moment = MomentOf(date);
     return DateOf(Moment{moment.year, moment.month, moment.day});
 }

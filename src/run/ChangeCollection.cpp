@@ -1,5 +1,6 @@
 #include "run/ChangeCollection.h"
 
+#include "automation/Text.h"
 #include "data/Permissions.h"
 #include "resources/Strings.h"
 #include "state/Remarks.h"
@@ -164,7 +165,7 @@ void ChangeCollection::AddPair(long item, long row, long mark)
     if (const auto entryId = EntryIdOf(item))
     {
         mRun.Pending.ChangedHostRecords.Add(row, mark).Key = mReading->Rows.Key(row);
-        mRun.Pending.ChangedOutlookItems.Add(std::to_wstring(item), mark).EntryId = *entryId;
+        mRun.Pending.ChangedOutlookItems.Add(automation::DecimalText(item), mark).EntryId = *entryId;
     }
 }
 
@@ -226,7 +227,7 @@ void ChangeCollection::AddItem(long item)
     if (const auto entryId = EntryIdOf(item))
     {
         data::ClsOlRecord& record =
-            mRun.Pending.NewOutlookItems.Add(std::to_wstring(item), data::kNewRecordMark);
+            mRun.Pending.NewOutlookItems.Add(automation::DecimalText(item), data::kNewRecordMark);
         record.EntryId = *entryId;
         if (entryId->IsEmpty())
         {
