@@ -168,7 +168,7 @@ function(telvix_test_program name)
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${ARGN} test_support telvix_options)
   telvix_test_options(${name})
-  telvix_build_fast(${name} telvix_tests_precompiled 6)
+  telvix_build_fast(${name} telvix_tests_precompiled 12)
 endfunction()
 
 # telvix_tests(NAME lib...): a program of tests that runs as it is.

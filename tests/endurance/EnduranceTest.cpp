@@ -31,7 +31,7 @@ constexpr long kLongRuns = 1000;
 // The later half of the runs may be larger than the quarter before by so much, whatever their number: the
 // system's caches still take a kilobyte during the first hundred runs, and nothing afterwards. Memory in
 // pages also holds what the database driver keeps.
-constexpr Footprint kTolerance = {
+constexpr Footprint kToleranceOfRuns = {
     .heapBytes = 1500, .residentBytes = 1024 * 1024, .gdiObjects = 1, .kernelHandles = 2};
 
 // The growth over seven uses of the same kind, the first three not counted: everything that a use needs once
@@ -83,7 +83,7 @@ TEST(ThisProcess, StaysAsLargeAsItIsOverManyRunsOfTheComponent)
     language.reset();
     const long runsOfSeries = test_support::IsLongRun() ? kLongRuns : kBoundedRuns;
     const auto runs = [&] { return english.Runs() + chinese.Runs(); };
-    const Footprint growth = test_support::GrowthOfLevelSeries(kTolerance, [&] {
+    const Footprint growth = test_support::GrowthOfLevelSeries(kToleranceOfRuns, [&] {
         std::vector<Footprint> samples;
         samples.reserve(static_cast<size_t>(runsOfSeries));
         for (const long end = runs() + runsOfSeries; runs() < end && !testing::Test::HasFailure();)
@@ -93,7 +93,7 @@ TEST(ThisProcess, StaysAsLargeAsItIsOverManyRunsOfTheComponent)
         }
         return Growth(samples);
     });
-    EXPECT_TRUE(growth.IsWithin(kTolerance)) << TextOf(growth);
+    EXPECT_TRUE(growth.IsWithin(kToleranceOfRuns)) << TextOf(growth);
     test_support::ReportFigure(
         "endurance: " + std::to_string(runs()) +
         " runs of SynLoad in one process; from their second quarter to their second half: " + TextOf(growth));

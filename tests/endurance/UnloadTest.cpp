@@ -30,7 +30,7 @@ using test_support::UseNumber;
 namespace
 {
 
-constexpr size_t kRecordsOfKind = 4;
+constexpr size_t kRecordsPerLoad = 4;
 constexpr size_t kFirstCycles = test_support::kUsesOfRound; // the system's caches fill
 constexpr size_t kCycles = 6;
 constexpr size_t kLongCycles = 200;
@@ -40,7 +40,7 @@ constexpr int kThreads = 8;
 
 // The growth that all cycles together may leave: nothing of the component, a little of the caches of the
 // system. One object lost by each cycle would be as many as there are cycles.
-constexpr Footprint kTolerance = {
+constexpr Footprint kToleranceOfLoads = {
     .heapBytes = 1500, .residentBytes = 1024 * 1024, .gdiObjects = 1, .kernelHandles = 2};
 
 size_t Cycles()
@@ -185,7 +185,7 @@ TEST(TheModule, IsNotNeededForStateThatItsInstancesShared)
 
 TEST(TheModule, StaysLoadedWhileCOMKnowsAnInstanceAndIsUnloadedAfterwards)
 {
-    Office office(sandbox::Edition::English, kRecordsOfKind);
+    Office office(sandbox::Edition::English, kRecordsPerLoad);
     for (size_t k = 0; k < 3; ++k)
     {
         Object component = test_support::NewComponent();
@@ -202,7 +202,7 @@ TEST(TheModule, StaysLoadedWhileCOMKnowsAnInstanceAndIsUnloadedAfterwards)
 TEST(TheModule, LeavesNothingBehindHoweverOftenItIsUsedUnloadedAndLoadedAgain)
 {
     const test_support::StaticTexts texts;
-    Office office(sandbox::Edition::English, kRecordsOfKind);
+    Office office(sandbox::Edition::English, kRecordsPerLoad);
     CoFreeUnusedLibrariesEx(0, 0);
     size_t cycles = 0;
     const auto useAndUnload = [&](size_t times) {
@@ -214,12 +214,12 @@ TEST(TheModule, LeavesNothingBehindHoweverOftenItIsUsedUnloadedAndLoadedAgain)
         return texts.Without(Footprint::Now());
     };
     Footprint before = useAndUnload(kFirstCycles);
-    const Footprint growth = test_support::GrowthOfLevelSeries(kTolerance, [&] {
+    const Footprint growth = test_support::GrowthOfLevelSeries(kToleranceOfLoads, [&] {
         const Footprint after = useAndUnload(Cycles());
         return after - std::exchange(before, after);
     });
     UseThisThread();
-    EXPECT_TRUE(growth.IsWithin(kTolerance)) << TextOf(growth);
+    EXPECT_TRUE(growth.IsWithin(kToleranceOfLoads)) << TextOf(growth);
     test_support::ReportFigure("endurance: " + std::to_string(cycles) +
                                " times loaded, used and unloaded; over the last " + std::to_string(Cycles()) +
                                ": " + TextOf(growth));
