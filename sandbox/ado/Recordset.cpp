@@ -3,6 +3,7 @@
 #include "automation/Error.h"
 #include "sandbox/ado/Cursor.h"
 #include "sandbox/ado/Fields.h"
+#include "sandbox/ado/SessionPool.h"
 
 namespace sandbox
 {
@@ -63,7 +64,7 @@ class Recordset : public DispatchObject
         const bool isTable = LongOr(call.At(4), 1) == kCommandTable;
         const std::wstring sql = isTable ? L"SELECT * FROM " + source : source;
         const Requery query = [sql, connection = TextOf(call.At(1))] {
-            return Connection(connection).Query(sql);
+            return SessionPool::Query(connection, sql);
         };
         mCursor->Open(query(), mCursorType == kForwardOnly, mCursorType == kKeyset ? query : nullptr);
         return {};

@@ -30,19 +30,22 @@ const Value& Read(const Record& record, const std::wstring& name)
 class FakeItem : public DispatchObject
 {
   public:
-    explicit FakeItem(const Record& record, long position = 0) : mRecord(record), mPosition(position) {}
+    FakeItem(std::shared_ptr<const Record> record, long position)
+        : mRecord(std::move(record)), mPosition(position)
+    {
+    }
 
   private:
     template<size_t Index>
     Value Property(const Call&)
     {
-        return Read(mRecord, Members()[Index].name);
+        return Read(*mRecord, Members()[Index].name);
     }
 
     Value EntryId(const Call&) { return EntryIdAt(mPosition); }
 
     // The pattern's properties stand in the record of the item.
-    Value Pattern(const Call&) { return MakeObject<FakeItem>(mRecord); }
+    Value Pattern(const Call&) { return MakeObject<FakeItem>(mRecord, mPosition); }
 
     const wchar_t* ClassName() const override { return L"Item"; }
     const MemberTable& Members() const override
@@ -68,7 +71,7 @@ class FakeItem : public DispatchObject
         return table;
     }
 
-    Record mRecord;
+    std::shared_ptr<const Record> mRecord;
     long mPosition;
 };
 
@@ -87,7 +90,8 @@ class FakeItems : public DispatchObject
         {
             throw Error(E_FAIL, L"Item", L"The item cannot be opened");
         }
-        return MakeObject<FakeItem>(record, position);
+        // Not a copy: the records stay as they are while a test holds an item.
+        return MakeObject<FakeItem>(std::shared_ptr<const Record>(mRecords, &record), position);
     }
 
     const wchar_t* ClassName() const override { return L"Items"; }

@@ -6,6 +6,7 @@
 
 #include "sandbox/ado/Ado.h"
 #include "sandbox/ado/Recordset.h"
+#include "sandbox/ado/SessionPool.h"
 #include "sandbox/host/Host.h"
 #include "sandbox/outlook/Outlook.h"
 #include "state/SharedState.h"
@@ -80,6 +81,7 @@ class TestOffice
 
     sandbox::AdoInProcess Ado;
     sandbox::Host TheHost;
+    sandbox::SessionPool Sessions; // of the host's database, which is closed before it is deleted
     sandbox::MailboxRef Mailbox;
     automation::Object Outlook;
     RecordingDisplay Display;
