@@ -86,11 +86,14 @@ class FrmChanges : public ui::Dialog
 
     // --- Work that calls the host and Outlook: outside of painting, and never two at a time.
 
-    void Later() { SetTimer(Handle(), kNow, USER_TIMER_MINIMUM, nullptr); }
+    // A timer that is set anew begins anew: one that asks for rows all the time, as a screen reader may,
+    // would put the work off for ever.
+    void Later() { mIsDue = mIsDue || SetTimer(Handle(), kNow, USER_TIMER_MINIMUM, nullptr) != 0; }
 
     void OnTimer(UINT_PTR id) override
     {
         KillTimer(Handle(), id);
+        mIsDue = mIsDue && id != kNow;
         if (mIsWorking)
         {
             Later();
@@ -292,6 +295,7 @@ class FrmChanges : public ui::Dialog
     WindowSettings mSettings;
     LONG mFirstHeight = 0; // pixels
     Arrangement mWanted{};
+    bool mIsDue = false; // the timer of the work is set
     bool mIsWorking = false;
 
     ArrangementBar mBar{*this, mList.Kind()};
