@@ -1,8 +1,11 @@
 #include "automation/Dates.h"
 
 #include "automation/Error.h"
+#include "automation/Text.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <oleauto.h>
 
@@ -12,10 +15,30 @@ namespace automation
 namespace
 {
 
-std::wstring Padded(int number, size_t digits)
+// 1 January 100 and 31 December 9999, between which the system knows every day.
+constexpr double kFirstDay = -657434;
+constexpr double kLastDay = 2958465;
+
+void AppendPadded(std::wstring& text, int number, size_t digits)
 {
-    std::wstring text = std::to_wstring(number);
-    return text.size() < digits ? std::wstring(digits - text.size(), L'0') + text : text;
+    const std::wstring decimal = DecimalText(number);
+    text.append(digits - std::min(digits, decimal.size()), L'0');
+    text += decimal;
+}
+
+// The number that a letter of a pattern stands for, and how many of the letter make a field of it; none make
+// one where the letter stands for itself.
+std::pair<int, size_t> FieldOf(wchar_t letter, const Moment& moment, bool afterHour)
+{
+    switch (letter)
+    {
+    case L'y': return {moment.year, 4};
+    case L'm': return {afterHour ? moment.minute : moment.month, 2};
+    case L'd': return {moment.day, 2};
+    case L'h': return {moment.hour, 2};
+    case L's': return {moment.second, 2};
+    default: return {0, 0};
+    }
 }
 
 // Seconds since the zero date, as one number that runs on evenly also before it (where a DATE's fraction
@@ -81,40 +104,32 @@ std::wstring Formatted(Date date, std::wstring_view pattern)
     bool afterHour = false;
     while (!pattern.empty())
     {
-        size_t length = 2;
-        if (pattern.starts_with(L"yyyy"))
+        const auto [number, digits] = FieldOf(pattern.front(), moment, afterHour);
+        const size_t letters = std::min(pattern.find_first_not_of(pattern.front()), pattern.size());
+        const bool isField = digits != 0 && letters >= digits;
+        if (isField)
         {
-            result += Padded(moment.year, length = 4);
-        }
-        else if (pattern.starts_with(L"mm"))
-        {
-            result += Padded(afterHour ? moment.minute : moment.month, 2);
-        }
-        else if (pattern.starts_with(L"dd"))
-        {
-            result += Padded(moment.day, 2);
-        }
-        else if (pattern.starts_with(L"hh"))
-        {
-            result += Padded(moment.hour, 2);
-            afterHour = true;
-        }
-        else if (pattern.starts_with(L"ss"))
-        {
-            result += Padded(moment.second, 2);
+            AppendPadded(result, number, digits);
+            afterHour = afterHour || pattern.front() == L'h';
         }
         else
         {
             result += pattern.front();
-            length = 1;
         }
-        pattern.remove_prefix(length);
+        pattern.remove_prefix(isField ? digits : 1);
     }
     return result;
 }
 
 Date DayOf(Date date)
 {
+    // The system rounds to the second: only the last second of a day may belong to the next one.
+    constexpr double kLastSecond = 1 - 1.0 / 86400;
+    const double day = std::trunc(date.days);
+    if (day > kFirstDay && day < kLastDay && std::abs(date.days - day) < kLastSecond)
+    {
+        return Date{day + 0.0}; // no negative zero
+    }
     const Moment moment = MomentOf(date);
     return DateOf(Moment{moment.year, moment.month, moment.day});
 }

@@ -1,5 +1,7 @@
 #include "automation/Text.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cwchar>
 
 #include <windows.h>
@@ -37,12 +39,26 @@ std::wstring Trimmed(std::wstring_view text)
 
 std::wstring UpperCased(std::wstring text)
 {
-    if (!text.empty())
+    // Most texts need no table of the system.
+    if (std::ranges::all_of(text, [](wchar_t letter) { return letter < 0x80; }))
+    {
+        std::ranges::transform(text, text.begin(), [](wchar_t letter) {
+            return letter >= L'a' && letter <= L'z' ? static_cast<wchar_t>(letter - L'a' + L'A') : letter;
+        });
+    }
+    else
     {
         const int length = static_cast<int>(text.size());
         LCMapStringW(LOCALE_INVARIANT, LCMAP_UPPERCASE, text.c_str(), length, text.data(), length);
     }
     return text;
+}
+
+std::wstring DecimalText(long long number)
+{
+    char digits[24];
+    const char* const end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    return std::wstring(static_cast<const char*>(digits), end);
 }
 
 double LeadingNumber(const std::wstring& text)

@@ -18,6 +18,10 @@ std::wstring Trimmed(std::wstring_view text);
 // In upper case by the invariant locale, so that two machines compare alike.
 std::wstring UpperCased(std::wstring text);
 
+// A number in decimal digits. std::to_wstring goes through printf, at many times the cost: for what a run
+// does per record.
+std::wstring DecimalText(long long number);
+
 // The leading decimal number of a text (blanks before it ignored), 0 where there is none: "12 days" is 12.
 double LeadingNumber(const std::wstring& text);
 

@@ -43,8 +43,8 @@ Value StartOfItem(const automation::ItemView& item)
     {
         return Value::Null();
     }
-    const bool isMidnight = automation::MinuteOfDay(*start) == Date{};
-    return isMidnight && automation::IsTrue(item.Get(L"AllDayEvent"))
+    const automation::Moment moment = automation::MomentOf(*start);
+    return moment.hour == 0 && moment.minute == 0 && automation::IsTrue(item.Get(L"AllDayEvent"))
                ? automation::PlusTime(*start, state::Shared().gCalendarStartTime)
                : *start;
 }
@@ -65,7 +65,12 @@ Value StartOfRow(const Recordset& rows)
     {
         return Value::Null();
     }
-    return automation::PlusTime(automation::DayOf(*day), automation::MinuteOfDay(time.value_or(Date{})));
+    automation::Moment start = automation::MomentOf(*day);
+    const automation::Moment timeOfDay = automation::MomentOf(time.value_or(Date{}));
+    start.hour = timeOfDay.hour;
+    start.minute = timeOfDay.minute;
+    start.second = 0;
+    return automation::DateOf(start);
 }
 
 std::wstring KeyOfCalendarRow(const Recordset& rows)

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "data/RecordCollection.h"
+#include "data/TextStore.h"
 
 namespace data
 {
@@ -24,8 +25,8 @@ struct ClsOlRecord
 {
     std::wstring ItemIndex; // position of the item in the folder's Items as decimal text; empty means no item
     long RecordState = 0;   // a RecordMark; a changed item is written to the host when kWritesHost
-    std::wstring EntryId{}; // tells the item from all others; empty where its store gives none
-    std::wstring FirstKey{}; // its first match key, where there is no EntryId
+    StoredText EntryId{};   // tells the item from all others; empty where its store gives none
+    StoredText FirstKey{};  // its first match key, where there is no EntryId
 
     ClsOlRecord(std::wstring itemIndex, long recordState)
         : ItemIndex(std::move(itemIndex)), RecordState(recordState)
@@ -37,7 +38,7 @@ struct ClsSalesRecord
 {
     long RecordBookmark = 0; // position of the row, used with ADO's Move
     long RecordState = 0;    // a RecordMark; a changed row is written to Outlook when kWritesOutlook
-    std::wstring Key{};      // the row's key column; empty where it is not known
+    StoredText Key{};        // the row's key column; empty where it is not known
 
     ClsSalesRecord(long recordBookmark, long recordState)
         : RecordBookmark(recordBookmark), RecordState(recordState)

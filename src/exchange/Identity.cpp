@@ -82,9 +82,9 @@ Object ItemById(Run& run, const std::wstring& entryId)
 }
 
 // An item whose store gives no EntryID is recognised by its match key alone.
-bool HasFirstKey(const Run& run, const Object& item, const std::wstring& key)
+bool HasFirstKey(const Run& run, const Object& item, data::StoredText key)
 {
-    return item && (key.empty() || !run.Identity.FirstKeyOf || run.Identity.FirstKeyOf(item) == key);
+    return item && (key.IsEmpty() || !run.Identity.FirstKeyOf || run.Identity.FirstKeyOf(item) == key.Text());
 }
 
 } // namespace
@@ -151,19 +151,20 @@ Object ItemAt(const Object& items, long position)
 Object ProposedItem(Run& run, const data::ClsOlRecord& record)
 {
     const long position = static_cast<long>(automation::LeadingNumber(record.ItemIndex));
-    if (record.EntryId.empty())
+    if (record.EntryId.IsEmpty())
     {
         const Object item = ForPass(run, ItemAt(run.Items, position));
         return HasFirstKey(run, item, record.FirstKey) ? item : Object();
     }
     // An item that cannot be opened at the position may be another one by now.
     const Object item = state::Trapped(Object(), [&] { return ForPass(run, ItemAt(run.Items, position)); });
-    return item && EntryIdOf(item) == record.EntryId ? item : ForPass(run, ItemById(run, record.EntryId));
+    const std::wstring entryId = record.EntryId.Text();
+    return item && EntryIdOf(item) == entryId ? item : ForPass(run, ItemById(run, entryId));
 }
 
 bool MoveToProposedRow(Run& run, const data::ClsSalesRecord& record)
 {
-    return GoToRow(run.HostRows, run.Identity.KeyColumn, record.RecordBookmark, record.Key);
+    return GoToRow(run.HostRows, run.Identity.KeyColumn, record.RecordBookmark, record.Key.Text());
 }
 
 bool AreStillAPair(const Run& run, const automation::ItemView& item)
@@ -192,7 +193,7 @@ bool IsGoneMeanwhile(Run& run, const Error& error, const data::ClsSalesRecord* r
 {
     const auto areThere = [&] {
         return (row == nullptr || MoveToProposedRow(run, *row)) &&
-               (item == nullptr || item->EntryId.empty() || ItemById(run, item->EntryId));
+               (item == nullptr || item->EntryId.IsEmpty() || ItemById(run, item->EntryId.Text()));
     };
     return automation::IsGone(error) || !state::Trapped(true, areThere);
 }

@@ -34,7 +34,10 @@ std::wstring JoinedKey(const KeyParts& parts, const wchar_t* datePattern)
 {
     const std::wstring name = Comparable(parts.Name);
     const std::wstring category = ComparableCategory(parts.Category);
-    return std::to_wstring(name.size()) + L' ' + std::to_wstring(category.size()) + L' ' + name + category +
+    const auto length = [](const std::wstring& text) {
+        return automation::DecimalText(static_cast<long long>(text.size()));
+    };
+    return length(name) + L' ' + length(category) + L' ' + name + category +
            ComparableDate(parts.Date, datePattern);
 }
 

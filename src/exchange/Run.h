@@ -44,6 +44,7 @@ struct Run
     automation::Recordset HostRows{}; // the category's host rows, opened by the run driver
     automation::Object Folder{};      // the chosen Outlook folder
     automation::Object Items{};       // its items, fetched once
+    data::TextStore Texts{};          // that the records of Pending refer to
     data::Changes Pending{};
     RelationTable Relations{};        // of the apply pass
     data::FieldCatalogue Catalogue{}; // of the apply pass

@@ -1,5 +1,6 @@
 #include "run/ChangeCollection.h"
 
+#include "automation/Text.h"
 #include "data/Permissions.h"
 #include "resources/Strings.h"
 #include "state/Remarks.h"
@@ -52,7 +53,7 @@ ChangeCollection::Reading::Reading(const exchange::Kind& kind, const exchange::F
                                    exchange::Run& run, bool usesTable)
     : Items(kind.Match, filters, run, state::WritesToHost(state::Shared().gSynParameter.TransType),
             usesTable),
-      Rows(kind.Match, run.HostRows, kind.KeyColumn),
+      Rows(kind.Match, run, kind.KeyColumn),
       ItemIndex(Items),
       RowIndex(Rows)
 {
@@ -164,14 +165,14 @@ void ChangeCollection::AddPair(long item, long row, long mark)
     if (const auto entryId = EntryIdOf(item))
     {
         mRun.Pending.ChangedHostRecords.Add(row, mark).Key = mReading->Rows.Key(row);
-        mRun.Pending.ChangedOutlookItems.Add(std::to_wstring(item), mark).EntryId = *entryId;
+        mRun.Pending.ChangedOutlookItems.Add(automation::DecimalText(item), mark).EntryId = *entryId;
     }
 }
 
-std::optional<std::wstring> ChangeCollection::EntryIdOf(long item)
+std::optional<data::StoredText> ChangeCollection::EntryIdOf(long item)
 {
     ItemKeys& items = mReading->Items;
-    return items.ReadRecord(item, std::optional<std::wstring>(),
+    return items.ReadRecord(item, std::optional<data::StoredText>(),
                             [&] { return std::optional(items.EntryId(item)); });
 }
 
@@ -226,12 +227,12 @@ void ChangeCollection::AddItem(long item)
     if (const auto entryId = EntryIdOf(item))
     {
         data::ClsOlRecord& record =
-            mRun.Pending.NewOutlookItems.Add(std::to_wstring(item), data::kNewRecordMark);
+            mRun.Pending.NewOutlookItems.Add(automation::DecimalText(item), data::kNewRecordMark);
         record.EntryId = *entryId;
-        if (entryId->empty())
+        if (entryId->IsEmpty())
         {
             // A key that cannot be read tells nothing.
-            record.FirstKey = state::Trapped(std::wstring(), [&] { return mReading->Items.First(item); });
+            record.FirstKey = state::Trapped(data::StoredText(), [&] { return mReading->Items.First(item); });
         }
     }
 }

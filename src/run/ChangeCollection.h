@@ -8,7 +8,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
 
 namespace run
 {
@@ -49,7 +48,7 @@ class ChangeCollection
     void AddPair(long item, long row, long mark);
     void AddItem(long item);
     // Nothing for an item that is gone.
-    std::optional<std::wstring> EntryIdOf(long item);
+    std::optional<data::StoredText> EntryIdOf(long item);
 
     const exchange::Kind& mKind;
     exchange::Run& mRun;

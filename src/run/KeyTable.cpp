@@ -1,7 +1,5 @@
 #include "run/KeyTable.h"
 
-#include <functional>
-
 namespace run
 {
 
@@ -15,11 +13,12 @@ void KeyTable::Add()
 {
     const long position = Count() + 1;
     Skip();
-    const long first = First(mRecords.First(position));
+    const data::StoredText key = mRecords.First(position);
+    const size_t hash = key.Hash();
+    const long first = Find(key, hash);
     if (first == 0)
     {
-        mFirsts.Add(static_cast<std::uint32_t>(position),
-                    [this](std::uint32_t number) { return HashOf(static_cast<long>(number)); });
+        mFirsts.Add(static_cast<std::uint32_t>(position), hash);
         return;
     }
     long& last = mLast[static_cast<size_t>(first)];
@@ -27,16 +26,15 @@ void KeyTable::Add()
     last = position;
 }
 
-long KeyTable::First(std::wstring_view key) const
+long KeyTable::First(data::StoredText key) const
 {
-    return static_cast<long>(mFirsts.Find(std::hash<std::wstring_view>()(key), [&](std::uint32_t number) {
-        return mRecords.First(static_cast<long>(number)) == key;
-    }));
+    return Find(key, key.Hash());
 }
 
-size_t KeyTable::HashOf(long position) const
+long KeyTable::Find(data::StoredText key, size_t hash) const
 {
-    return std::hash<std::wstring_view>()(mRecords.First(position));
+    return static_cast<long>(mFirsts.Find(
+        hash, [&](std::uint32_t number) { return mRecords.First(static_cast<long>(number)) == key; }));
 }
 
 } // namespace run

@@ -6,7 +6,6 @@
 #include "run/NumberTable.h"
 #include "run/RecordKeys.h"
 
-#include <string_view>
 #include <vector>
 
 namespace run
@@ -24,11 +23,12 @@ class KeyTable
     long Count() const noexcept { return static_cast<long>(mNext.size()) - 1; }
 
     // The first record with this key, and the next one with the key of a record; 0 for none.
-    long First(std::wstring_view key) const;
+    long First(data::StoredText key) const;
     long Next(long position) const { return mNext[static_cast<size_t>(position)]; }
 
   private:
-    size_t HashOf(long position) const;
+    // The first record with this key.
+    long Find(data::StoredText key, size_t hash) const;
 
     RecordKeys& mRecords;
     NumberTable mFirsts;        // the first record of every chain, by its key

@@ -27,7 +27,7 @@ long LazyIndex::Find(RecordKeys& others, long position)
         ReadSpeculatively([&] { others.First(position); });
         return 0;
     }
-    const std::wstring& key = others.First(position);
+    const data::StoredText key = others.First(position);
     if (!others.IsRecord(position))
     {
         return 0;
@@ -86,7 +86,7 @@ void LazyIndex::Skip()
     }
 }
 
-bool LazyIndex::Has(std::wstring_view firstKey)
+bool LazyIndex::Has(data::StoredText firstKey)
 {
     if (!mHasReadAhead)
     {
@@ -100,7 +100,7 @@ bool LazyIndex::Has(std::wstring_view firstKey)
     return mTable.First(firstKey) != 0;
 }
 
-long LazyIndex::FindAmongRead(RecordKeys& others, long position, std::wstring_view key)
+long LazyIndex::FindAmongRead(RecordKeys& others, long position, data::StoredText key)
 {
     long candidate = mTable.First(key);
     while (candidate != 0 && !SecondKeysAgree(others, position, candidate))

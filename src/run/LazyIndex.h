@@ -5,8 +5,6 @@
 
 #include "run/KeyTable.h"
 
-#include <string_view>
-
 namespace run
 {
 
@@ -27,8 +25,8 @@ class LazyIndex
   private:
     bool ReadOne();
     void Skip();
-    bool Has(std::wstring_view firstKey);
-    long FindAmongRead(RecordKeys& others, long position, std::wstring_view key);
+    bool Has(data::StoredText firstKey);
+    long FindAmongRead(RecordKeys& others, long position, data::StoredText key);
     bool SecondKeysAgree(RecordKeys& others, long position, long candidate);
 
     RecordKeys& mRecords;

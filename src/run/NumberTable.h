@@ -1,9 +1,11 @@
-// A hash table of numbers from 1, each of which stands for a text that its owner keeps: four bytes an entry,
-// and at most half of the entries in use. Small, since a run has one number for every record.
+// A hash table of numbers from 1, each of which stands for a text that its owner keeps: eight bytes an entry,
+// and at most two thirds of the entries in use. Small, since a run has one number for every record, and with
+// the hashes at hand, since the texts of a large run are not in the processor's cache.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace run
@@ -20,57 +22,63 @@ class NumberTable
         {
             return 0;
         }
-        size_t at = Start(hash);
-        while (mEntries[at] != 0 && !isIt(mEntries[at]))
+        const Entry wanted{0, Kept(hash)};
+        size_t at = Start(wanted);
+        while (mEntries[at].Number != 0 && !(mEntries[at].Hash == wanted.Hash && isIt(mEntries[at].Number)))
         {
             at = Next(at);
         }
-        return mEntries[at];
+        return mEntries[at].Number;
     }
 
-    // Adds a number whose text is not in the table. hashOf(number): the hash of any number's text.
-    template<typename HashOf>
-    void Add(std::uint32_t number, HashOf&& hashOf)
+    // Adds a number whose text is not in the table.
+    void Add(std::uint32_t number, size_t hash)
     {
-        if (2 * (mCount + 1) > mEntries.size())
+        if (3 * (mCount + 1) > 2 * mEntries.size())
         {
-            Grow(hashOf);
+            Grow();
         }
-        Put(number, hashOf(number));
+        Put({number, Kept(hash)});
         ++mCount;
     }
 
   private:
+    struct Entry
+    {
+        std::uint32_t Number; // 0 in a free entry
+        std::uint32_t Hash;
+    };
+
     static constexpr size_t kFirstSize = 16; // a power of two, as each size is
 
-    size_t Start(size_t hash) const noexcept { return hash & (mEntries.size() - 1); }
+    static std::uint32_t Kept(size_t hash) noexcept { return static_cast<std::uint32_t>(hash); }
+    size_t Start(const Entry& entry) const noexcept { return entry.Hash & (mEntries.size() - 1); }
     size_t Next(size_t at) const noexcept { return (at + 1) & (mEntries.size() - 1); }
 
-    void Put(std::uint32_t number, size_t hash)
+    void Put(const Entry& entry)
     {
-        size_t at = Start(hash);
-        while (mEntries[at] != 0)
+        size_t at = Start(entry);
+        while (mEntries[at].Number != 0)
         {
             at = Next(at);
         }
-        mEntries[at] = number;
+        mEntries[at] = entry;
     }
 
-    template<typename HashOf>
-    void Grow(HashOf&& hashOf)
+    void Grow()
     {
-        const std::vector<std::uint32_t> before = std::move(mEntries);
-        mEntries.assign(before.empty() ? kFirstSize : 2 * before.size(), 0);
-        for (const std::uint32_t number : before)
+        const std::vector<Entry> before = std::move(mEntries);
+        mEntries.assign(before.empty() ? kFirstSize : 2 * before.size(), Entry{});
+        for (const Entry& entry : before)
         {
-            if (number != 0)
+            if (entry.Number != 0)
             {
-                Put(number, hashOf(number));
+                Put(entry);
             }
         }
     }
 
-    std::vector<std::uint32_t> mEntries; // 0 for a free one
+    std::vector<Entry> mEntries;
     size_t mCount = 0;
 };
 

@@ -5,57 +5,43 @@
 namespace run
 {
 
-namespace
-{
-
 template<typename Read>
-const std::wstring& ReadOnce(Keys& keys, long position, Read&& read)
+data::StoredText RecordKeys::ReadOnce(Keys& keys, long position, Read&& read)
 {
     const auto index = static_cast<size_t>(position) - 1;
     if (keys.size() <= index)
     {
         keys.resize(index + 1);
     }
-    std::optional<std::wstring>& key = keys[index];
-    if (!key)
+    if (keys[index].IsNone())
     {
-        key = read();
-        key->shrink_to_fit(); // it stays for the run
+        keys[index] = mTexts.Keep(ReadRecord(position, std::wstring(), [&] {
+            Reach(position);
+            return read();
+        }));
     }
-    return *key;
+    return keys[index];
 }
-
-} // namespace
 
 bool RecordKeys::IsRead(long position) const noexcept
 {
     const auto index = static_cast<size_t>(position) - 1;
-    return index < mFirst.size() && mFirst[index].has_value();
+    return index < mFirst.size() && !mFirst[index].IsNone();
 }
 
-const std::wstring& RecordKeys::First(long position)
+data::StoredText RecordKeys::First(long position)
 {
-    return ReadOnce(mFirst, position, [&] {
-        return ReadRecord(position, std::wstring(), [&] {
-            Reach(position);
-            return ReadFirst();
-        });
-    });
+    return ReadOnce(mFirst, position, [this] { return ReadFirst(); });
 }
 
-const std::wstring& RecordKeys::Second(long position)
+data::StoredText RecordKeys::Second(long position)
 {
-    return ReadOnce(mSecond, position, [&] {
-        return ReadRecord(position, std::wstring(), [&] {
-            Reach(position);
-            return ReadSecond();
-        });
-    });
+    return ReadOnce(mSecond, position, [this] { return ReadSecond(); });
 }
 
 void RecordKeys::Remember(long position, const std::wstring& identity)
 {
-    if (!mIdentities.Add(position, identity))
+    if (!mIdentities.Add(position, mTexts.Keep(identity)))
     {
         mHasMetOneTwice = true;
         mNone.insert(position);
@@ -71,7 +57,7 @@ void RecordKeys::Take(TableKeys& table) noexcept
 
 ItemKeys::ItemKeys(const exchange::MatchRule& rule, const exchange::Filters& filters, exchange::Run& run,
                    bool keepsAll, bool usesTable)
-    : RecordKeys(rule.SecondKeyOfItem != nullptr),
+    : RecordKeys(rule.SecondKeyOfItem != nullptr, run.Texts),
       mRule(rule),
       mFilters(filters),
       mRun(run),
@@ -133,7 +119,7 @@ void ItemKeys::Reach(long position)
 // The table may have another order than Items.
 automation::Object ItemKeys::Fetched(long position)
 {
-    return HasTable() ? exchange::OpenItem(mRun, Known().At(position))
+    return HasTable() ? exchange::OpenItem(mRun, Known().At(position).Text())
                       : exchange::ItemAt(mRun.Items, position);
 }
 
@@ -164,7 +150,7 @@ void ItemKeys::Keep(long position)
     }
 }
 
-std::wstring ItemKeys::EntryId(long position)
+data::StoredText ItemKeys::EntryId(long position)
 {
     if (!Known().Has(position))
     {
@@ -184,8 +170,11 @@ std::wstring ItemKeys::ReadFirst()
     return key;
 }
 
-RowKeys::RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows, std::wstring keyColumn)
-    : RecordKeys(rule.SecondKeyOfRow != nullptr), mRule(rule), mRows(rows), mKeyColumn(std::move(keyColumn))
+RowKeys::RowKeys(const exchange::MatchRule& rule, exchange::Run& run, std::wstring keyColumn)
+    : RecordKeys(rule.SecondKeyOfRow != nullptr, run.Texts),
+      mRule(rule),
+      mRows(run.HostRows),
+      mKeyColumn(std::move(keyColumn))
 {
 }
 
@@ -278,12 +267,7 @@ void RowKeys::Reach(long position)
     mCurrentPosition = position;
 }
 
-std::wstring RowKeys::KnownKey(long position) const
-{
-    return Known().Has(position) ? Known().At(position) : std::wstring();
-}
-
-std::wstring RowKeys::Key(long position)
+data::StoredText RowKeys::Key(long position)
 {
     if (!Known().Has(position))
     {

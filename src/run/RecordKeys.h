@@ -41,15 +41,16 @@ class RecordKeys
     bool HasSecond() const noexcept { return mHasSecond; }
 
     // Throw automation::Error when a key cannot be read.
-    const std::wstring& First(long position);
-    const std::wstring& Second(long position);
+    data::StoredText First(long position);
+    data::StoredText Second(long position);
 
     // The read's result; otherwise where it shows that there is no record of the kind.
     template<typename Result, typename Read>
     Result ReadRecord(long position, Result otherwise, Read&& read);
 
   protected:
-    explicit RecordKeys(bool hasSecond) noexcept : mHasSecond(hasSecond) {}
+    // texts: of the run, for what is remembered.
+    RecordKeys(bool hasSecond, data::TextStore& texts) noexcept : mHasSecond(hasSecond), mTexts(texts) {}
 
     // Remembers the record by its identity; one that was met before is none.
     void Remember(long position, const std::wstring& identity);
@@ -63,9 +64,11 @@ class RecordKeys
     virtual std::wstring ReadSecond() = 0;
     virtual bool TellsOfNone(const automation::Error& /*error*/) const noexcept { return false; }
 
-    bool mHasSecond;
+    template<typename Read>
+    data::StoredText ReadOnce(Keys& keys, long position, Read&& read);
 
-    // A deque keeps its elements in place while it grows, so that an index can refer to the keys.
+    bool mHasSecond;
+    data::TextStore& mTexts;
     Keys mFirst;
     Keys mSecond;
     std::unordered_set<long> mNone;
@@ -117,7 +120,7 @@ class ItemKeys : public RecordKeys
     // Whether the filter keeps the item.
     bool Keeps(long position);
     // Empty where the item's store gives none.
-    std::wstring EntryId(long position);
+    data::StoredText EntryId(long position);
 
   private:
     std::wstring ReadFirst() override;
@@ -146,7 +149,7 @@ class ItemKeys : public RecordKeys
 class RowKeys : public RecordKeys
 {
   public:
-    RowKeys(const exchange::MatchRule& rule, const automation::Recordset& rows, std::wstring keyColumn);
+    RowKeys(const exchange::MatchRule& rule, exchange::Run& run, std::wstring keyColumn);
 
     // RecordCount when the walk began.
     long Count();
@@ -156,7 +159,7 @@ class RowKeys : public RecordKeys
     bool Exists(long position) override;
     void Reach(long position) override;
     // What the row has in its key column.
-    std::wstring Key(long position);
+    data::StoredText Key(long position);
 
   private:
     std::wstring ReadFirst() override;
@@ -165,7 +168,7 @@ class RowKeys : public RecordKeys
     {
         return automation::IsGone(error);
     }
-    std::wstring KnownKey(long position) const;
+    std::wstring KnownKey(long position) const { return Known().At(position).Text(); }
     bool StepBehind(long position);
 
     const exchange::MatchRule& mRule;

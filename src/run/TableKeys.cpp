@@ -127,12 +127,6 @@ class RowOfTable : public automation::PropertySource
     Object mItem;
 };
 
-std::wstring Compact(std::wstring key)
-{
-    key.shrink_to_fit(); // it stays for the run
-    return key;
-}
-
 class Reader
 {
   public:
@@ -165,20 +159,21 @@ class Reader
         const bool isPlain = row.IsPlain(mRule.InTable.MessageClass);
         auto& first = mKeys.First.emplace_back();
         const std::wstring_view entryId = row.EntryId();
-        if (entryId.empty() || !mKeys.Ids.Add(static_cast<long>(mKeys.First.size()), entryId))
+        if (entryId.empty() ||
+            !mKeys.Ids.Add(static_cast<long>(mKeys.First.size()), mRun.Texts.Keep(entryId)))
         {
             Distrust();
         }
         if (isPlain)
         {
-            first = Compact(mRule.FirstKeyOfItem(row));
+            first = mRun.Texts.Keep(mRule.FirstKeyOfItem(row));
         }
         if (mRule.InTable.HasSecondKey)
         {
             auto& second = mKeys.Second.emplace_back();
             if (isPlain)
             {
-                second = Compact(mRule.SecondKeyOfItem(row));
+                second = mRun.Texts.Keep(mRule.SecondKeyOfItem(row));
             }
         }
         if (mFilters.KeepsItem)
@@ -209,13 +204,14 @@ class Reader
         const Object item = exchange::ItemAt(mRun.Items, position);
         exchange::ItemProperties properties(item);
         const auto index = static_cast<size_t>(position) - 1;
-        const auto agrees = [](const auto& told, auto&& read) { return !told || *told == read(); };
-        const bool isSame =
-            item && exchange::EntryIdOf(item) == mKeys.Ids.At(position) &&
-            agrees(mKeys.First[index], [&] { return mRule.FirstKeyOfItem(properties); }) &&
-            (mKeys.Second.empty() ||
-             agrees(mKeys.Second[index], [&] { return mRule.SecondKeyOfItem(properties); })) &&
-            (mKeys.Kept.empty() || agrees(mKeys.Kept[index], [&] { return mFilters.KeepsItem(properties); }));
+        const auto agrees = [&](data::StoredText told, const auto& read) {
+            return told.IsNone() || told.Text() == read(properties);
+        };
+        const bool isSame = item && exchange::EntryIdOf(item) == mKeys.Ids.At(position).Text() &&
+                            agrees(mKeys.First[index], mRule.FirstKeyOfItem) &&
+                            (mKeys.Second.empty() || agrees(mKeys.Second[index], mRule.SecondKeyOfItem)) &&
+                            (mKeys.Kept.empty() || !mKeys.Kept[index] ||
+                             *mKeys.Kept[index] == mFilters.KeepsItem(properties));
         if (!isSame)
         {
             Distrust();

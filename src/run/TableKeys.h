@@ -9,14 +9,13 @@
 
 #include <deque>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace run
 {
 
-// A key by position, from 0; nothing while it has not been read.
-using Keys = std::deque<std::optional<std::wstring>>;
+// A key by position, from 0; none while it has not been read.
+using Keys = std::deque<data::StoredText>;
 
 struct TableKeys
 {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <random>
 
@@ -120,6 +121,29 @@ TEST(Dates, TheDayDropsTheTimeAlsoBeforeTheZeroDate)
     EXPECT_EQ(DateOf(Moment{2003, 5, 6}), DayOf(DateOf(Moment{2003, 5, 6, 23, 59, 59})));
     EXPECT_EQ(Date{-1}, DayOf(Date{-1.75}));
     EXPECT_EQ(Date{0}, DayOf(Date{0.75}));
+}
+
+// The platform rounds to the second, so a moment just before midnight is of the next day.
+TEST(Dates, TheDayIsThatOfThePlatformsConversionUpToTheLastMoment)
+{
+    std::mt19937 random(20031);
+    std::uniform_real_distribution<double> anyDay(-657434, 2958466);
+    for (int i = 0; i < 20000; ++i)
+    {
+        const double days = i % 2 == 0 ? anyDay(random) : std::trunc(anyDay(random)) + (1 - 1e-10 * i);
+        const Date date{days};
+        SYSTEMTIME time{};
+        double day = 0;
+        if (VariantTimeToSystemTime(days, &time) == 0)
+        {
+            EXPECT_THROW(DayOf(date), Error) << days;
+            continue;
+        }
+        time.wHour = time.wMinute = time.wSecond = 0;
+        ASSERT_NE(0, SystemTimeToVariantTime(&time, &day));
+        EXPECT_EQ(day, DayOf(date).days) << days;
+        EXPECT_FALSE(std::signbit(DayOf(date).days) && day == 0) << days;
+    }
 }
 
 TEST(Dates, TheMinuteOfTheDayDropsTheDateAndTheSeconds)

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
+#include <windows.h>
+
 namespace
 {
 
@@ -25,10 +29,29 @@ TEST(Text, UpperCaseReachesLettersOfAllAlphabets)
     EXPECT_EQ(L"", UpperCased(L""));
 }
 
+TEST(Text, UpperCaseOfEveryCharacterIsThatOfTheInvariantLocale)
+{
+    for (unsigned letter = 1; letter < 0x3000; ++letter)
+    {
+        const wchar_t one = static_cast<wchar_t>(letter);
+        wchar_t expected = 0;
+        LCMapStringW(LOCALE_INVARIANT, LCMAP_UPPERCASE, &one, 1, &expected, 1);
+        EXPECT_EQ(std::wstring(1, expected), UpperCased(std::wstring(1, one))) << letter;
+    }
+}
+
 TEST(Text, UpperCaseDoesNotDependOnTheRegionalSettings)
 {
     const test_support::WithThreadLocale turkish(test_support::kTurkish);
     EXPECT_EQ(L"TITLE", UpperCased(L"title"));
+}
+
+TEST(Text, ANumberInDigitsIsThatOfTheStandardLibrary)
+{
+    for (const long long number : {0LL, 7LL, -1LL, 1234567890LL, LLONG_MAX, LLONG_MIN})
+    {
+        EXPECT_EQ(std::to_wstring(number), automation::DecimalText(number));
+    }
 }
 
 TEST(Text, TheLeadingNumberEndsWhereTheTextGoesOn)

@@ -78,8 +78,9 @@ class IdentityOfRecords : public test_support::OfficeFixture
     // The item and the row that were there when they were proposed, at positions that may be others by now.
     void Propose(long item, const std::wstring& entryId, long row, const std::wstring& key, long mark)
     {
-        TheRun.Pending.ChangedOutlookItems.Add(std::to_wstring(item), mark).EntryId = entryId;
-        TheRun.Pending.ChangedHostRecords.Add(row, mark).Key = key;
+        TheRun.Pending.ChangedOutlookItems.Add(std::to_wstring(item), mark).EntryId =
+            TheRun.Texts.Keep(entryId);
+        TheRun.Pending.ChangedHostRecords.Add(row, mark).Key = TheRun.Texts.Keep(key);
     }
 
     bool Import()
@@ -114,7 +115,7 @@ TEST_F(IdentityOfRecords, AnItemAndARowThatHaveMovedAreFoundAgainInBothDirection
 
 TEST_F(IdentityOfRecords, ANewItemThatHasMovedIsFoundAgain)
 {
-    TheRun.Pending.NewOutlookItems.Add(L"2", 0).EntryId = IdOf(1);
+    TheRun.Pending.NewOutlookItems.Add(L"2", 0).EntryId = TheRun.Texts.Keep(IdOf(1));
     EXPECT_FALSE(Import());
     EXPECT_EQ((Written{L"a"}), gPairs);
 }
@@ -123,11 +124,11 @@ TEST_F(IdentityOfRecords, ADeletedRecordIsSkippedAndCounted)
 {
     const std::wstring gone = IdOf(1);
     Mailbox->RemoveItem(kFolder, 1);
-    TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId = gone;
+    TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId = TheRun.Texts.Keep(gone);
     Propose(1, gone, 1, L"a", 0);
     Propose(1, IdOf(1), 1, L"x", 0);
     EXPECT_FALSE(Import());
-    TheRun.Pending.NewHostRecords.Add(1, 0).Key = L"x";
+    TheRun.Pending.NewHostRecords.Add(1, 0).Key = TheRun.Texts.Keep(L"x");
     EXPECT_FALSE(Export());
     EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(4, TheRun.Report.Vanished());
@@ -148,7 +149,8 @@ TEST_F(IdentityOfRecords, TheFolderIsAskedForItsOwnIdentityOnce)
 {
     for (const long position : {1L, 2L, 3L})
     {
-        TheRun.Pending.NewOutlookItems.Add(std::to_wstring(position), 0).EntryId = IdOf(position % 3 + 1);
+        TheRun.Pending.NewOutlookItems.Add(std::to_wstring(position), 0).EntryId =
+            TheRun.Texts.Keep(IdOf(position % 3 + 1));
     }
     const test_support::CallWatch calls;
     EXPECT_FALSE(Import());
@@ -163,8 +165,8 @@ TEST_F(IdentityOfRecords, AnItemWithoutAnEntryIdIsIdentifiedByItsKey)
     TheRun.Identity.FirstKeyOf = [](const automation::ItemView& item) {
         return TextOf(item.Get(L"LastName"));
     };
-    TheRun.Pending.NewOutlookItems.Add(L"1", 0).FirstKey = L"a";
-    TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = L"a";
+    TheRun.Pending.NewOutlookItems.Add(L"1", 0).FirstKey = TheRun.Texts.Keep(L"a");
+    TheRun.Pending.NewOutlookItems.Add(L"2", 0).FirstKey = TheRun.Texts.Keep(L"a");
     EXPECT_FALSE(Import());
     EXPECT_EQ((Written{L"a"}), gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
@@ -175,7 +177,7 @@ TEST_F(IdentityOfRecords, AnItemThatWasMovedToAnotherFolderIsGone)
     Mailbox->AddItem(test_support::kTaskRecords.folder, {{L"Subject", L"elsewhere"}});
     const Object tasks = state::Shared().gOlNamespace.GetObject(L"GetDefaultFolder", 13L);
     TheRun.Pending.NewOutlookItems.Add(L"1", 0).EntryId =
-        exchange::EntryIdOf(tasks.GetObject(L"Items").GetObject(L"Item", 1L));
+        TheRun.Texts.Keep(exchange::EntryIdOf(tasks.GetObject(L"Items").GetObject(L"Item", 1L)));
     EXPECT_FALSE(Import());
     EXPECT_EQ(Written{}, gPairs);
     EXPECT_EQ(1, TheRun.Report.Vanished());
@@ -209,7 +211,7 @@ TEST_F(IdentityOfRecords, AnItemOfAnotherStoreIsFoundAgainInThatStore)
     TheRun.Folder =
         state::Shared().gOlNamespace.GetObject(L"Folders", L"Archive").GetObject(L"Folders", L"People");
     TheRun.Items = TheRun.Folder.GetObject(L"Items");
-    TheRun.Pending.NewOutlookItems.Add(L"9", 0).EntryId = IdOf(1);
+    TheRun.Pending.NewOutlookItems.Add(L"9", 0).EntryId = TheRun.Texts.Keep(IdOf(1));
     EXPECT_FALSE(Import());
     EXPECT_EQ((Written{L"a"}), gPairs);
 }

@@ -93,19 +93,19 @@ std::wstring FolderTableFixture::Collect(const TableKind& kind)
     const auto add = [&](const std::wstring& word) { text += word + L" "; };
     for (const auto& row : run.Pending.NewHostRecords)
     {
-        add(L"+" + std::to_wstring(row.RecordBookmark) + L"=" + row.Key);
+        add(L"+" + std::to_wstring(row.RecordBookmark) + L"=" + row.Key.Text());
     }
     for (const auto& row : run.Pending.ChangedHostRecords)
     {
-        add(std::to_wstring(row.RecordBookmark) + L"=" + row.Key);
+        add(std::to_wstring(row.RecordBookmark) + L"=" + row.Key.Text());
     }
     for (const auto& item : run.Pending.ChangedOutlookItems)
     {
-        add(item.ItemIndex + L"=" + item.EntryId);
+        add(item.ItemIndex + L"=" + item.EntryId.Text());
     }
     for (const auto& item : run.Pending.NewOutlookItems)
     {
-        add(L"+" + item.ItemIndex + L"=" + item.EntryId);
+        add(L"+" + item.ItemIndex + L"=" + item.EntryId.Text());
     }
     return text;
 }

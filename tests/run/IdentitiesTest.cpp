@@ -1,4 +1,4 @@
-// The compact store of identities, against a map of texts.
+// The identities of a side, against a map of texts.
 #include "run/Identities.h"
 
 #include <gtest/gtest.h>
@@ -20,6 +20,7 @@ TEST(Identities, AnEmptyStoreHasNone)
 TEST(Identities, AreThoseOfAMapWhateverTheOrderInWhichTheyCome)
 {
     std::mt19937 random(20031);
+    data::TextStore texts;
     run::Identities identities;
     std::map<long, std::wstring> expected;
     std::set<std::wstring> met;
@@ -33,7 +34,7 @@ TEST(Identities, AreThoseOfAMapWhateverTheOrderInWhichTheyCome)
         // Some of them in two bytes a character, and about one in five met before.
         const std::wstring text =
             std::wstring(random() % 3 == 0 ? L"\x5F20" : L"{00\xFF") + std::to_wstring(random() % 8000);
-        EXPECT_EQ(met.insert(text).second, identities.Add(position, text)) << i;
+        EXPECT_EQ(met.insert(text).second, identities.Add(position, texts.Keep(text))) << i;
         expected[position] = text;
     }
     for (long position = 1; position <= 4000; ++position)
@@ -42,28 +43,19 @@ TEST(Identities, AreThoseOfAMapWhateverTheOrderInWhichTheyCome)
         ASSERT_EQ(one != expected.end(), identities.Has(position)) << position;
         if (one != expected.end())
         {
-            EXPECT_EQ(one->second, identities.At(position));
+            EXPECT_EQ(one->second, identities.At(position).Text());
         }
     }
 }
 
 TEST(Identities, AnEmptyOneIsNoRecordsHoweverManyHaveIt)
 {
+    data::TextStore texts;
     run::Identities identities;
-    EXPECT_TRUE(identities.Add(1, L""));
-    EXPECT_TRUE(identities.Add(2, L""));
+    EXPECT_TRUE(identities.Add(1, texts.Keep(L"")));
+    EXPECT_TRUE(identities.Add(2, texts.Keep(L"")));
     EXPECT_TRUE(identities.Has(2));
-    EXPECT_EQ(L"", identities.At(2));
-}
-
-TEST(Identities, DifferWhereOnlyTheirBytesAreTheSame)
-{
-    run::Identities identities;
-    EXPECT_TRUE(identities.Add(1, L"AB"));
-    EXPECT_TRUE(identities.Add(2, L"\x4241"));
-    EXPECT_FALSE(identities.Add(3, L"\x4241"));
-    EXPECT_EQ(L"AB", identities.At(1));
-    EXPECT_EQ(L"\x4241", identities.At(2));
+    EXPECT_TRUE(identities.At(2).IsEmpty());
 }
 
 } // namespace

@@ -12,7 +12,10 @@ namespace
 class PlainKeys : public run::RecordKeys
 {
   public:
-    explicit PlainKeys(std::vector<std::wstring> keys) : RecordKeys(false), mKeys(std::move(keys)) {}
+    PlainKeys(std::vector<std::wstring> keys, data::TextStore& texts)
+        : RecordKeys(false, texts), mKeys(std::move(keys))
+    {
+    }
 
     bool Exists(long position) override { return position <= static_cast<long>(mKeys.size()); }
     void Reach(long position) override { mCurrent = static_cast<size_t>(position) - 1; }
@@ -26,7 +29,7 @@ class PlainKeys : public run::RecordKeys
 };
 
 // Of those up to a position; 0 for none.
-long SearchFrom(run::RecordKeys& records, long from, long count, const std::wstring& key)
+long SearchFrom(run::RecordKeys& records, long from, long count, data::StoredText key)
 {
     for (long position = from; position <= count; ++position)
     {
@@ -40,10 +43,11 @@ long SearchFrom(run::RecordKeys& records, long from, long count, const std::wstr
 
 TEST(KeyTable, AnEmptyOneKnowsNoKey)
 {
-    PlainKeys records({L"A"});
+    data::TextStore texts;
+    PlainKeys records({L"A"}, texts);
     const run::KeyTable table(records);
     EXPECT_EQ(0, table.Count());
-    EXPECT_EQ(0, table.First(L"A"));
+    EXPECT_EQ(0, table.First(texts.Keep(L"A")));
 }
 
 TEST(KeyTable, LeadsThroughTheRecordsOfAKeyInAscendingOrderHoweverManyThereAre)
@@ -58,12 +62,13 @@ TEST(KeyTable, LeadsThroughTheRecordsOfAKeyInAscendingOrderHoweverManyThereAre)
             keys.push_back(L"Key " + std::to_wstring(random() % different));
         }
         keys[3].clear(); // the key of a record without names
-        PlainKeys records(keys);
+        data::TextStore texts;
+        PlainKeys records(keys, texts);
         run::KeyTable table(records);
         for (long count = 1; records.Exists(count); ++count)
         {
             table.Add();
-            const std::wstring key = records.First(count);
+            const data::StoredText key = records.First(count);
             EXPECT_EQ(SearchFrom(records, 1, count, key), table.First(key));
         }
         for (long position = 1; records.Exists(position); ++position)
@@ -71,7 +76,7 @@ TEST(KeyTable, LeadsThroughTheRecordsOfAKeyInAscendingOrderHoweverManyThereAre)
             EXPECT_EQ(SearchFrom(records, position + 1, table.Count(), records.First(position)),
                       table.Next(position));
         }
-        EXPECT_EQ(0, table.First(L"Key"));
+        EXPECT_EQ(0, table.First(texts.Keep(L"Key")));
     }
 }
 
