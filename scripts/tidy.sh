@@ -40,18 +40,26 @@ write_checks() {
     cat <<NINJA
 builddir = build/tidy/passed
 rule tidy
-  command = clang-tidy ${options[*]} --extra-arg=-Wp,-MD,\$\$PWD/\$out.d -p \$build \$options \$in && touch \$out
+  command = clang-tidy ${options[*]} --extra-arg=-Wp,-MD,\$\$PWD/\$out.d -p \$build \$options \$in && touch \$out # \$flags
   depfile = \$out.d
   deps = gcc
 NINJA
-    local source file
+    local source line
+    # A comment of the command has the compilation's, so that a source is checked again when that changes.
+    local -A flags
+    while read -r line; do
+        case $line in
+            '"command"'*) flags[command]=${line//\$/\$\$} ;;
+            '"file": "'*) line=${line#*: \"} flags[${line%%\"*}]=${flags[command]} ;;
+        esac
+    done < <(grep -hE -A 1 '"command": .*(/Unity/|/(src|sandbox|tools|tests|benchmarks)/[^ ]*\.cpp",?$)' {build/tidy,$groups}/compile_commands.json)
     # check SOURCE BUILD OPTION...
     check() {
         local source=$1 build=$2
         shift 2
-        printf 'build build/tidy/passed/%s: tidy %s | .clang-tidy tests/.clang-tidy %s/compile_commands.json\n' \
-            "${build##*/}/${source//\//_}" "$source" "$build"
-        printf '  build = %s\n  options = %s\n' "$build" "$*"
+        printf 'build build/tidy/passed/%s: tidy %s | .clang-tidy tests/.clang-tidy\n' \
+            "${build##*/}/${source//\//_}" "$source"
+        printf '  build = %s\n  options = %s\n  flags = %s\n' "$build" "$*" "${flags[$PWD/$source]}"
     }
     grouped | while read -r source; do
         case $source in
