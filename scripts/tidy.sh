@@ -1,43 +1,79 @@
 #!/usr/bin/env bash
 # Compiles each header alone, without precompiled headers, and holds the sources against .clang-tidy, with mingw-w64's
 # headers. Most of the time goes to those headers, so the checks look at the groups of sources that the build compiles
-# as one. The static analyzer and the checks for unused names look only at the file that they are given: for those, and
-# so that no source needs what another one includes, the sources of the component, fakes and tools follow each alone.
+# as one. The checks for unused names of other namespaces look only at the file that they are given: for those, and so
+# that no source needs what another one includes, the sources of the component, fakes and tools follow each alone.
 # tidy.sh [SOURCE...]: looks at these sources only, each alone, by all checks.
 set -u
-cd "$(dirname "$0")/.." || exit 1
-groups=build/tidy/groups
-{
-    cmake --preset debug -B build/tidy -DTELVIX_UNITY=OFF &&
-        cmake --preset debug -B $groups -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON &&
-        ninja -C build/tidy telvix_idl members_in_sources && ninja -C $groups telvix_idl members_in_sources
-} >build/tidy.log 2>&1 && ninja -C build/tidy check_headers >>build/tidy.log 2>&1 ||
-    { tail -n 30 build/tidy.log >&2; echo "a header does not compile alone (see build/tidy.log)" >&2; exit 1; }
+# shellcheck source=scripts/checks.sh
+. "$(dirname "$0")/checks.sh"
 
-gcc=/usr/lib/gcc/x86_64-w64-mingw32/12-posix/include/c++
-# tidy OPTION...: looks at the sources that it reads, a line each.
-tidy() {
-    xargs -P "$(nproc)" -n 1 clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option \
-        --extra-arg-before=--target=x86_64-w64-mingw32 --extra-arg-before=-nostdinc++ \
-        --extra-arg-before=-isystem --extra-arg-before="$gcc" \
-        --extra-arg-before=-isystem --extra-arg-before="$gcc/x86_64-w64-mingw32" \
-        --extra-arg-before=-isystem --extra-arg-before="$gcc/backward" "$@"
+# The static analyzer looks at functions of the given file and, if its path has this name, of sources that it includes.
+groups=build/tidy/UnifiedSource
+# configure FOLDER OPTION...: makes the build there, and the headers that it generates.
+configure() {
+    { [ -f "$1/build.ninja" ] || cmake --preset debug -B "$@"; } && ninja -C "$1" telvix_idl members_in_sources
+}
+mkdir -p build
+{ configure build/tidy -DTELVIX_UNITY=OFF && configure $groups -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON; } \
+    >build/tidy.log 2>&1 || { tail -n 30 build/tidy.log >&2; exit 1; }
+
+options=(--quiet --extra-arg=-Wno-unknown-warning-option --extra-arg-before=--target=x86_64-w64-mingw32)
+options+=("${library[@]/#/--extra-arg-before=}")
+if [ $# -gt 0 ]; then
+    printf '%s\n' "$@" | xargs -P "$(nproc)" -n 1 clang-tidy "${options[@]}" -p build/tidy
+    exit
+fi
+
+# grouped: the groups, and the sources that belong to none. The longest are first, so that no core waits at the end.
+grouped() {
+    sed -n 's|^ *"file": "'"$PWD"'/\(.*\)",\?$|\1|p' $groups/compile_commands.json |
+        grep -E '/Unity/|^(src|sandbox|tools|tests|benchmarks)/.*\.cpp$' |
+        while read -r file; do
+            sed -n 's|^#include "\(.*\.cpp\)"$|\1|p' "$file" | tr '\n' '\0' | { echo "$file"; xargs -0r cat; } | wc -c |
+                sed "s|\$| $file|"
+        done | sort -rn | cut -d ' ' -f 2
 }
 
-# grouped: the groups, and the sources that belong to none.
-grouped() {
-    sed -n 's|^ *"file": "\(.*\)",\?$|\1|p' $groups/compile_commands.json |
-        grep -E "/Unity/|^$PWD/(src|sandbox|tools|tests|benchmarks)/.*\.cpp$"
+# write_checks: a rule, and the sources that it is for.
+write_checks() {
+    cat <<NINJA
+builddir = build/tidy/passed
+rule tidy
+  command = clang-tidy ${options[*]} --extra-arg=-Wp,-MD,\$\$PWD/\$out.d -p \$build \$options \$in && touch \$out # \$flags
+  depfile = \$out.d
+  deps = gcc
+NINJA
+    local source line
+    # A comment of the command has the compilation's, so that a source is checked again when that changes.
+    local -A flags
+    while read -r line; do
+        case $line in
+            '"command"'*) flags[command]=${line//\$/\$\$} ;;
+            '"file": "'*) line=${line#*: \"} flags[${line%%\"*}]=${flags[command]} ;;
+        esac
+    done < <(grep -hE -A 1 '"command": .*(/Unity/|/(src|sandbox|tools|tests|benchmarks)/[^ ]*\.cpp",?$)' {build/tidy,$groups}/compile_commands.json)
+    # check SOURCE BUILD OPTION...
+    check() {
+        local source=$1 build=$2
+        shift 2
+        printf 'build build/tidy/passed/%s: tidy %s | .clang-tidy tests/.clang-tidy\n' \
+            "${build##*/}/${source//\//_}" "$source"
+        printf '  build = %s\n  options = %s\n  flags = %s\n' "$build" "$*" "${flags[$PWD/$source]}"
+    }
+    grouped | while read -r source; do
+        case $source in
+            */tests/* | tests/*) check "$source" $groups --checks=-bugprone-suspicious-include --config-file=tests/.clang-tidy ;;
+            *) check "$source" $groups --checks=-bugprone-suspicious-include ;;
+        esac
+    done
+    git ls-files 'src/*.cpp' 'sandbox/*.cpp' 'tools/*.cpp' 'benchmarks/*.cpp' | while read -r source; do
+        check "$source" build/tidy "'--checks=-*,misc-unused-using-decls,misc-unused-alias-decls,bugprone-suspicious-include'"
+    done
 }
 
 status=0
-if [ $# -gt 0 ]; then
-    printf '%s\n' "$@" | tidy -p build/tidy || status=1
-else
-    of_groups=(-p "$groups" "--checks=-clang-analyzer-*,-bugprone-suspicious-include")
-    grouped | grep -v /tests/ | tidy "${of_groups[@]}" || status=1
-    grouped | grep /tests/ | tidy "${of_groups[@]}" --config-file=tests/.clang-tidy || status=1
-    git ls-files 'src/*.cpp' 'sandbox/*.cpp' 'tools/*.cpp' 'benchmarks/*.cpp' |
-        tidy -p build/tidy "--checks=-*,clang-analyzer-*,misc-unused-*" || status=1
-fi
+write_checks >build/tidy/checks.ninja
+run_checks headers -C build/tidy check_headers || { echo "a header does not compile alone" >&2; status=1; }
+run_checks clang-tidy -f build/tidy/checks.ninja || { echo "clang-tidy has findings" >&2; status=1; }
 exit $status

@@ -22,16 +22,16 @@ constexpr const wchar_t* kForeign = L"Not of the folder's kind";
 
 struct ForeignItem
 {
-    ItemKind kind;
     const wchar_t* messageClass;
+    ItemKind kind;
     PropertyId title;
 };
 
 constexpr ForeignItem kForeignItems[] = {
-    {ItemKind::DistributionList, L"IPM.DistList", DLName},
-    {ItemKind::Post, L"IPM.Post", Subject},
-    {ItemKind::Note, L"IPM.StickyNote", Body},
-    {ItemKind::Mail, L"IPM.Acme", Subject},
+    {L"IPM.DistList", ItemKind::DistributionList, DLName},
+    {L"IPM.Post", ItemKind::Post, Subject},
+    {L"IPM.StickyNote", ItemKind::Note, Body},
+    {L"IPM.Acme", ItemKind::Mail, Subject},
 };
 
 bool HoldsRecords(const MailFolder& folder)

@@ -28,7 +28,6 @@ using automation::OutlookDate;
 using automation::ReadableDate;
 using automation::Recordset;
 using automation::Value;
-using data::ThrowUnless;
 using exchange::PutAsIs;
 using exchange::TargetProperty;
 

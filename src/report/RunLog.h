@@ -15,7 +15,7 @@ inline constexpr wchar_t kLogsRuns[] = L"RunLog";         // DWORD; other than 0
 inline constexpr wchar_t kLogsValues[] = L"RunLogValues"; // DWORD; other than 0: with names and messages
 
 inline constexpr size_t kMostLogs = 5;
-inline constexpr size_t kMostLogBytes = 1024 * 1024; // of one file; the rest of a longer one is left out
+inline constexpr size_t kMostLogBytes = size_t{1024} * 1024; // of a file; the rest is left out
 
 // Writes the run's file if the registry asks for it, and deletes the oldest ones. Never throws: a log that
 // cannot be written is left out.

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <oaidl.h>
+
 namespace sandbox
 {
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "config/dialogs/FrmConfigure.h"
+#include "config/dialogs/Pictures.h"
 #include "tests/ui_config/Ground.h"
 #include "tests/ui_config/Look.h"
 
