@@ -188,5 +188,5 @@ function(telvix_check_headers name)
     list(APPEND sources ${source})
   endforeach()
   add_library(${name} OBJECT EXCLUDE_FROM_ALL ${sources})
-  target_compile_options(${name} PRIVATE $<$<NOT:$<BOOL:${MSVC}>>:-O0>)
+  set_target_properties(${name} PROPERTIES TELVIX_IS_TEST ON) # no optimisation
 endfunction()
