@@ -30,13 +30,11 @@ const char* NameOf(Place place)
     return place == Place::OutOfProcess ? "out of process" : "in process";
 }
 
-// The texts of all match keys, as the collection keeps them: of both sides, the second ones where there is a
-// partner.
+// The texts of all match keys, as the collection keeps them: of one byte a character, behind a header of
+// four; of both sides, the second ones where there is a partner.
 double KeyBytes(const Kind& kind, const exchange::Run& run, size_t count)
 {
-    const auto bytes = [](const std::wstring& key) {
-        return static_cast<double>((key.size() + 1) * sizeof(wchar_t));
-    };
+    const auto bytes = [](const std::wstring& key) { return static_cast<double>(key.size() + 4); };
     const exchange::MatchRule& rule = kind.Category.Match;
     const automation::Object item = run.Items.GetObject(L"Item", 1L);
     run.HostRows.MoveFirst();
