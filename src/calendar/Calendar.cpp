@@ -64,12 +64,10 @@ Value StartOfRow(const Recordset& rows)
     {
         return Value::Null();
     }
-    automation::Moment start = automation::MomentOf(*day);
+    const automation::Moment date = automation::MomentOf(*day);
     const automation::Moment timeOfDay = automation::MomentOf(time.value_or(Date{}));
-    start.hour = timeOfDay.hour;
-    start.minute = timeOfDay.minute;
-    start.second = 0;
-    return automation::DateOf(start);
+    return automation::DateOf(
+        automation::Moment{date.year, date.month, date.day, timeOfDay.hour, timeOfDay.minute});
 }
 
 std::wstring KeyOfCalendarRow(const Recordset& rows)

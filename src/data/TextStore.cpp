@@ -60,7 +60,7 @@ StoredText TextStore::Keep(std::wstring_view text)
 char* TextStore::Room(size_t bytes)
 {
     constexpr size_t kUsualSize = 0x4000;
-    if (mBlocks.empty() || mSize - mUsed < bytes)
+    if (mSize - mUsed < bytes)
     {
         mSize = std::max(kUsualSize, bytes);
         mUsed = 0;

@@ -116,6 +116,21 @@ TEST_F(CalendarCollection, APartnerOutsideTheRangeStillMatchesSoThatNoDuplicateI
     EXPECT_EQ("", Collect(3, 1));
 }
 
+// A day in another time zone.
+TEST_F(CalendarCollection, AnAllDayAppointmentThatDoesNotBeginAtMidnightMatchesByItsOwnStart)
+{
+    state::Shared().gCalendarStartTime = {6.0 / 24};
+    const Date halfPastMidnight{kToday.days + 0.5 / 24};
+    Record item = Appointment(L"board", halfPastMidnight);
+    item[L"AllDayEvent"] = true;
+    *Items = {item};
+    *Rows = {Entry(L"board", halfPastMidnight)};
+    EXPECT_EQ("changedRow1/1 changedItem1/1 ", Collect(3, 2));
+    *Rows = {Entry(L"board", {kToday.days + 6.5 / 24})};
+    EXPECT_EQ("newRow1/0 ", Collect(3, 2));
+    state::Shared().gCalendarStartTime = {};
+}
+
 TEST_F(CalendarCollection, TheHostsClockIsAskedOncePerRunAndOnlyForARange)
 {
     const auto timesAsked = [&] {
